@@ -1,0 +1,30 @@
+#pragma once
+
+#include "toolkit/PegMessage.h"
+
+#include <optional>
+#include <string_view>
+
+namespace host {
+
+/// The telephone's keys: turns presses from a front end into messages for the thing that has the focus.
+/// Safe from any thread.
+class Keyboard {
+public:
+    static Keyboard& instance();
+
+    /// "up", "down", "left", "right", "ok", "0" to "9", "star", "hash", "volume-up", "volume-down", "hook".
+    static std::optional<PegKey> keyFromName(std::string_view name);
+
+    /// Queues the message. Returns false, and drops the key, while MAX_PENDING keys wait to be handled or the toolkit
+    /// is not running: a flood of keys costs the application nothing.
+    bool press(PegKey key);
+    bool release(PegKey key);
+
+    /// Called by the loop when it has taken a key message off the queue.
+    void handled();
+
+    static constexpr int MAX_PENDING = 64;
+};
+
+} // namespace host

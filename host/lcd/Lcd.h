@@ -1,0 +1,78 @@
+#pragma once
+
+#include "toolkit/PegRect.h"
+#include "toolkit/PegScreen.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+class PegPainter;
+
+namespace host {
+
+/// What stands where on the panel, as text. `text` is UTF-8 and whole, also where only a part of it fits (`cut`).
+struct TextRun {
+    PegRect area;
+    std::string text;
+    bool inverted = false;
+    bool cut = false;
+
+    friend bool operator==(const TextRun&, const TextRun&) = default;
+};
+
+/// A copy of the panel. One byte per pixel, row by row: 0 is the bare panel, 3 the darkest grey level.
+struct Picture {
+    int width = 0;
+    int height = 0;
+    std::vector<std::uint8_t> pixels;
+    std::vector<TextRun> texts; ///< top to bottom, left to right
+    std::uint64_t frame = 0;    ///< counts finished frames
+};
+
+/// The panel: a buffer of four grey levels, the area that has to be painted again, and the texts that stand on it.
+///
+/// Invalidating and painting are the GUI thread's; picture() and the frame listener are for any thread.
+/// Lock: one mutex guards pixels, texts and the listener; it is held while a frame is painted and while it is copied,
+/// and is a leaf: the frame listener is called without it.
+class Lcd final : public PegScreen {
+public:
+    Lcd(int width, int height);
+    ~Lcd() override;
+
+    int width() const { return mWidth; }
+    int height() const { return mHeight; }
+
+    void Invalidate(PegThing* thing) override;
+    void Update() override;
+
+    /// Adds to what has to be painted again, cut to the panel.
+    void invalidate(const PegRect& area);
+
+    bool isDirty() const;
+
+    /// Milliseconds (of real time) until the next frame is due; 0 when it is. Only of interest while dirty.
+    int untilFrameDue() const;
+
+    /// Paints what is dirty: from the presentation manager's bottom child to its top one, clipped to the dirty
+    /// rectangles. Then tells the frame listener. Nothing is done where nothing is dirty.
+    void paint();
+
+    Picture picture() const;
+
+    /// Called on the GUI thread after each frame; must not block. An empty function removes it.
+    void setFrameListener(std::function<void()> listener);
+
+    /// The panel of the running toolkit; null when it is not running. GUI thread, or while the toolkit is known to run.
+    static Lcd* current();
+
+private:
+    struct Impl;
+    std::unique_ptr<Impl> mImpl;
+    int mWidth;
+    int mHeight;
+};
+
+} // namespace host

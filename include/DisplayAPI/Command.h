@@ -1,0 +1,64 @@
+#pragma once
+
+#include "DisplayAPI/Export.h"
+
+#include <set>
+#include <string>
+
+class Semaphore;
+class TranslationInfo;
+
+namespace DisplayAPI {
+
+/// An action that the user can choose on a screen: a label and a type. Plain data, not marshalled: safe to read from
+/// any thread.
+///
+/// Ownership: the application owns commands; a command owns its translation. Copies share the translation and both
+/// delete it: do not copy commands that have one.
+class DISPLAYAPI_EXPORT Command {
+public:
+    /// What the command is for; any value travels through. Not all values have names.
+    enum Type : int { BACK = 1, OK = 6, ITEM = 7, RIGHT = 9, SAVE = 11 };
+
+    Command(TranslationInfo* label, Type type);
+    Command(const std::string& text, Type type);
+    Command(const Command& other);
+    Command& operator=(const Command& other);
+
+    /// Recalls every queued notification of this command. One that is being delivered meanwhile still arrives.
+    virtual ~Command();
+
+    Type getType() const { return mType; }
+    TranslationInfo* getTranslationInfo() const { return mTranslation; }
+
+    /// The label: with a translation its complete string, on variant 1 its string; else the plain text.
+    std::string getText() const;
+
+    /// The label without the list lock and the same on every variant.
+    std::string getBasicText() const;
+
+    void setUseAlternativeDisplay(bool on) { mUseAlternativeDisplay = on; }
+    bool useAlternativeDisplay() const { return mUseAlternativeDisplay; }
+
+    /// The lock of the set of live commands and of label reads; made on first use. Its holder may take it again.
+    static Semaphore* commandListMutex();
+
+    /// Adds to and takes out of the set of live commands. The lock itself goes when the set becomes empty.
+    static void addCommand(Command* command);
+    static void removeCommand(Command* command);
+
+    /// Whether the pointer still designates a live command; it is not read.
+    static bool exists(Command* command);
+
+private:
+    std::string mText;
+    Type mType;
+    bool mUseAlternativeDisplay = false;
+    TranslationInfo* mTranslation = nullptr;
+    unsigned int mWord = 0;
+
+    static std::set<Command*>& gAllCommands;
+    static Semaphore* gCommandListMutex;
+};
+
+} // namespace DisplayAPI

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "DisplayAPI/Export.h"
+
+#include <string>
+
+namespace DisplayAPI {
+
+/// Implemented by the application that wants to know when what is shown changes.
+class DISPLAYAPI_EXPORT DisplayEventIfc {
+public:
+    virtual ~DisplayEventIfc() = default;
+
+    /// Something on screen has changed. Called on the GUI thread with an empty string, under the lock that subscribing
+    /// and unsubscribing take; it may ask the display for its text.
+    virtual void displayChanged(std::string text) = 0;
+};
+
+} // namespace DisplayAPI

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "DisplayAPI/Export.h"
+
+#include <string>
+#include <vector>
+
+class TranslatorIfc;
+
+namespace DisplayAPIUtils {
+class Rect;
+}
+
+namespace DisplayAPI {
+
+class Display;
+class DisplayEventIfc;
+class DisplayRequestEvent;
+class Displayable;
+class DisplayablePrivateIfc;
+
+/// The GUI-thread side of a Display. GUI thread only, but for posting, purging, subscribing and getDisplayArea().
+class DISPLAYAPI_EXPORT DisplayPrivateIfc {
+public:
+    virtual ~DisplayPrivateIfc() = default;
+
+    virtual void setCurrent(Displayable* displayable) = 0;
+    virtual Displayable* getCurrent() = 0;
+    virtual void exec() = 0;
+    virtual void shutdown() = 0;
+    virtual void show() = 0;
+    virtual void hide() = 0;
+    virtual std::string serialise() = 0;
+    virtual std::string serialiseByRect(const std::vector<DisplayAPIUtils::Rect>& rects, bool withSystemWindow) = 0;
+    virtual void subscribe(DisplayEventIfc* observer) = 0;
+    virtual void unSubscribe() = 0;
+    virtual void displayChanged() = 0;
+    virtual void widgetDismissed(DisplayablePrivateIfc* dismissed) = 0;
+    virtual void localeChanged(std::string locale) = 0;
+    virtual void skinChanged(std::string skin) = 0;
+    virtual void dateFormatChanged(std::string format) = 0;
+    virtual void timeFormatChanged(std::string format) = 0;
+    virtual DisplayAPIUtils::Rect* getDisplayArea() = 0;
+    virtual void setMaximised(bool on) = 0;
+    virtual void createServerDisplay(Displayable* displayable) = 0;
+    virtual void setTranslator(TranslatorIfc* translator) = 0;
+
+    /// Queues a request and waits for its semaphore. From any thread.
+    virtual void postEvent(DisplayRequestEvent* request) = 0;
+
+    /// Queues a request and returns at once. From any thread.
+    virtual void postEventAsync(DisplayRequestEvent* request) = 0;
+
+    /// Removes and completes the queued requests of `display` whose code is one of the two and whose displayable is the
+    /// given one; null matches any.
+    virtual void purgeOwnMessage(Display* display, int code, int otherCode, Displayable* displayable) = 0;
+
+    virtual std::vector<DisplayAPIUtils::Rect>* getDisplayedRects() = 0;
+    virtual void setSystemWindowSize(int lines) = 0;
+    virtual void setSystemWindowText(int line, std::string text) = 0;
+    virtual void setSystemWindowTop(int top) = 0;
+    virtual void showTimeInSystemWindow(bool on) = 0;
+    virtual void setTimeInSystemWindow(int hours, int minutes, int seconds) = 0;
+    virtual void setTimer(std::string text) = 0;
+    virtual void stopTimer() = 0;
+    virtual void setSoftwareType(const std::string& type) = 0;
+    virtual void copy(const std::string& text) = 0;
+    virtual std::string paste() const = 0;
+    virtual void setStatusMessage(const std::string& text, unsigned int timeout) = 0;
+    virtual std::string dateFormat() const = 0;
+    virtual std::string timeFormat() const = 0;
+};
+
+} // namespace DisplayAPI

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "DisplayAPI/Export.h"
+
+#include <list>
+#include <memory>
+
+class Semaphore;
+class Threader;
+
+namespace DisplayAPI {
+
+class DisplayThread;
+
+/// The process's worker threads: up to a maximum are kept and used again, further ones run one request and end.
+/// Safe from any thread.
+class DISPLAYAPI_EXPORT DisplayThreadPool {
+public:
+    /// The pool, made on the first call with the given maximum; later calls ignore their argument.
+    static DisplayThreadPool* instance(int maxPoolSize);
+
+    DisplayThreadPool(const DisplayThreadPool&) = delete;
+    DisplayThreadPool& operator=(const DisplayThreadPool&) = delete;
+
+    /// Ends the pooled threads and waits until each has finished what it runs.
+    virtual ~DisplayThreadPool();
+
+    /// A running thread, marked busy, ready for one executeRequest(). Never null.
+    DisplayThread* getThread();
+
+    /// Pooled threads that wait for work.
+    int availableThreads();
+
+    /// Pooled threads made so far, and their maximum.
+    int poolSize() const;
+    int maxPoolSize() const;
+
+private:
+    explicit DisplayThreadPool(int maxPoolSize);
+
+    DisplayThread* takeIdleThread();
+
+    int mMaxPoolSize;
+    int mPoolSize = 0;
+    std::list<DisplayThread*> mThreads;
+    std::unique_ptr<Threader> mThreader;
+    std::unique_ptr<Semaphore> mListLock;
+
+    static DisplayThreadPool* theInstance;
+};
+
+} // namespace DisplayAPI

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "DisplayAPI/Widget.h"
+
+#include <vector>
+
+namespace DisplayAPI {
+
+class DisplayablePrivateIfc;
+class Item;
+class ItemStateListener;
+
+/// Anything that a Display can make current: a screen, a list, a form or a popup.
+///
+/// Ownership: created and deleted by the application; a display never deletes one. Its toolkit widget belongs to the
+/// presentation manager while it is on a display's stack. Delete a displayable after its display has let go of it.
+class DISPLAYAPI_EXPORT Displayable : public Widget {
+public:
+    Displayable();
+
+    /// Recalls what is queued for this displayable's command listeners: none of it is delivered afterwards.
+    ~Displayable() override;
+
+    void processGuiRequest(GuiRequestEvent& request) override;
+
+    /// The GUI-thread side; null while there is none. Owned by the displayable.
+    virtual DisplayablePrivateIfc* getPrivateImpl() = 0;
+
+    /// The class name; "Displayable with no name" until the class has set its own.
+    const std::string& getName() const { return name; }
+
+    /// Appends a listener; one that is added twice is called twice. Not owned. GUI thread only.
+    void addItemStateListener(ItemStateListener* listener);
+
+    /// Queues the change of `item` for every listener, in order of addition. GUI thread only.
+    void callListeners(Item* item);
+
+    /// Soft keys do not exist on this telephone: these do nothing.
+    void useSoftKeys();
+    void doNotUseSoftKeys();
+    void doNotUseSoftKeysForContent();
+    void useSoftKeysBasedOnCommands();
+
+private:
+    std::vector<ItemStateListener*> mItemStateListeners;
+};
+
+} // namespace DisplayAPI

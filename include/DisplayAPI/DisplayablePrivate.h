@@ -1,0 +1,72 @@
+#pragma once
+
+#include "DisplayAPI/DisplayablePrivateIfc.h"
+#include "toolkit/PString.h"
+#include "toolkit/PegRect.h"
+
+#include <vector>
+
+class TranslatorIfc;
+
+namespace DisplayAPI {
+
+class Command;
+class CommandListener;
+class Displayable;
+
+/// What the private sides of all displayables have in common: the display they are attached to and the listeners of
+/// their commands. GUI thread only.
+class DISPLAYAPI_EXPORT DisplayablePrivate : public virtual DisplayablePrivateIfc {
+public:
+    DisplayablePrivate();
+    DisplayablePrivate(const DisplayablePrivate&) = delete;
+    DisplayablePrivate& operator=(const DisplayablePrivate&) = delete;
+
+    bool hideOldWidgetOnFocusGained() override;
+    int widgetPosition() override;
+    void connectDisplayChangedSignal(DisplayPrivateIfc* display) override;
+    std::string serialise() override;
+    std::string serialise(const std::vector<DisplayAPIUtils::Rect>& visible) override;
+    void widgetDismissed(DisplayablePrivate* dismissed) override;
+    void enable(bool on) override;
+
+    virtual ~DisplayablePrivate();
+
+    /// Adds a listener once; a listener that is already there is not added again. Not owned.
+    virtual void addCommandListener(CommandListener* listener);
+    virtual void removeCommandListener(CommandListener* listener);
+
+    /// Takes over the display that `other` is attached to.
+    virtual void join(DisplayablePrivate* other);
+
+    /// Forgets the display.
+    virtual void disjoin();
+
+    virtual bool hasCaption();
+    virtual void setSysWindowSize(int lines);
+    virtual void setSysWindowText(std::string text, int line);
+
+    /// Whether the displayable draws the system-window lines itself.
+    virtual bool hasSystemWindow();
+
+    /// Queues a notification of `command` for every listener, in order.
+    void postCommand(Command* command, Displayable* displayable);
+
+    /// Tells the attached display that what is shown has changed.
+    void generateDisplayChangedEvent();
+
+    /// Translates the texts that belong to no displayable in particular. Not owned; null until a display is given one.
+    static TranslatorIfc* commonTranslator;
+
+protected:
+    DisplayPrivateIfc* display() const { return mDisplay; }
+
+private:
+    DisplayPrivateIfc* mDisplay = nullptr;
+    std::vector<CommandListener*> mCommandListeners;
+    PegRect mRect{-1, -1, -1, -1};
+    unsigned int mWord = 0;
+    PegString mText;
+};
+
+} // namespace DisplayAPI

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "DisplayAPI/Widget.h"
+
+#include <string>
+
+namespace DisplayAPI {
+
+class Displayable;
+class ItemPrivateIfc;
+
+/// Base of the entries of forms: knows the displayable that it stands on, a type name and a read-only flag.
+class DISPLAYAPI_EXPORT Item : public Widget {
+public:
+    Item() = default;
+
+    /// Recalls every queued change notification of this item.
+    ~Item() override;
+
+    void processGuiRequest(GuiRequestEvent& request) override = 0;
+
+    /// Not owned.
+    virtual void setParent(Displayable* parent);
+
+    /// "baseItem" unless the class has a name of its own.
+    virtual std::string getType();
+    virtual int getID();
+    virtual void setReadOnly(bool readOnly);
+    virtual bool isReadOnly();
+
+    /// The GUI-thread side; null while there is none. Owned by the item.
+    virtual ItemPrivateIfc* getPrivateImpl() = 0;
+    virtual void localeChanged(std::string locale) = 0;
+
+    Displayable* getParent() const { return mParent; }
+
+private:
+    Displayable* mParent = nullptr;
+};
+
+} // namespace DisplayAPI

@@ -1,0 +1,155 @@
+#pragma once
+
+#include "DisplayAPI/Displayable.h"
+
+#include <string>
+#include <vector>
+
+class TranslationInfo;
+
+namespace DisplayAPI {
+
+class Command;
+class CommandListener;
+class ListBoxPrivateIfc;
+class ListItem;
+class PopupDialer;
+class Ticker;
+
+/// A screen of rows of which the user selects one.
+///
+/// Threads: safe from any thread. Off the GUI thread size(), getSelected(), getSelectedIndex(), removeAt(), getItems(),
+/// getTicker() and getDialer() wait, as does the destructor; everything else posts and returns at once. Calls from one
+/// thread keep their order.
+/// Ownership: the list owns the rows in it; clear() and the destructor delete them. removeAt(), remove(), removeAll()
+/// and replace() give rows back to the caller. The row pointers that getItems() and getSelected() return stay the list's.
+/// Listeners, tickers, dialers and translations are not owned.
+class DISPLAYAPI_EXPORT List : public Displayable {
+public:
+    /// A list with a way back: on the 240 x 128 panel list types 2 and 3, on the 208 x 42 panel 1 and 3.
+    explicit List(int listType);
+
+    /// Adopts an implementation made elsewhere.
+    explicit List(ListBoxPrivateIfc* implementation);
+
+    List(const List&) = delete;
+    List& operator=(const List&) = delete;
+    ~List() override;
+
+    void processGuiRequest(GuiRequestEvent& request) override;
+    DisplayablePrivateIfc* getPrivateImpl() override;
+
+    /// Deletes the implementation and the rows. GUI thread only; the destructor sees to it.
+    virtual void cleanup();
+
+    /// A list fills the screen: these do nothing.
+    virtual void align();
+    virtual void align(Displayable& other);
+    virtual void unalign();
+
+    /// Appends a row with the text, or the row itself, which the list then owns.
+    virtual void append(const std::string& text);
+    virtual void append(TranslationInfo* text);
+    virtual void append(ListItem* item);
+
+    /// These do nothing.
+    virtual void appendItems(const std::string& text);
+    virtual void appendItems(TranslationInfo* text);
+
+    /// Deletes all rows. Changes of rows and selection that are still queued when it is called off the GUI thread are
+    /// dropped.
+    virtual void clear();
+
+    /// The rows in order. Copied on the calling thread after all earlier changes of the caller have been carried out.
+    virtual std::vector<ListItem*> getItems() const;
+
+    /// The selected row; null where there is none.
+    virtual ListItem* getSelected();
+    virtual void setSelected(ListItem* item);
+
+    /// Rows outside the list are ignored.
+    virtual void setSelectedIndex(int index);
+
+    /// -1 where no row is selected.
+    virtual int getSelectedIndex();
+
+    /// A negative index inserts at the front, one past the end appends.
+    virtual void insertAt(ListItem* item, int index);
+
+    /// Takes a row out and returns it; a negative index takes the first one. Null, with a log line, past the end.
+    virtual ListItem* removeAt(int index);
+    virtual void remove(ListItem* item);
+    virtual void removeAll();
+
+    /// Puts `newItem` in the place of `oldItem`; appends it where `oldItem` is null or not in the list. A null
+    /// `newItem` does nothing.
+    virtual void replace(ListItem* oldItem, ListItem* newItem);
+
+    /// The number of rows; -1 when the question could not be put.
+    virtual int size();
+
+    virtual void setTitle(const std::string& title);
+    virtual void setTitle(TranslationInfo* title);
+    virtual void setSystemWindowSize(int lines);
+    virtual void setSystemWindowText(int line, const std::string& text);
+
+    /// Adds a listener once. It hears SELECT_COMMAND(), RIGHT_COMMAND() and, on lists with a way back, BACK_COMMAND().
+    virtual void addCommandListener(CommandListener* listener);
+    virtual void removeCommandListener(CommandListener* listener);
+    virtual void hide();
+
+    /// Hands the locale to every row. Call it on the GUI thread.
+    virtual void localeChanged(std::string locale);
+
+    void setTicker(Ticker* ticker);
+    Ticker* getTicker();
+    void showDiallerOnInitialKeyEvent(bool on);
+    void setSelectionHighlight(bool on);
+    void addDialer(PopupDialer* dialer);
+    PopupDialer* getDialer();
+
+    /// Whether the list carries a row that goes back; false on the 240 x 128 panel.
+    bool hasBackItem() const { return mHasBackItem; }
+
+    /// These do nothing.
+    void setUsedWithTab(bool used, Displayable* tab);
+    void setWrapAround(bool on);
+    void setEnabled(bool on);
+    void suppressAutoRightArrowForSoftKeys();
+
+    /// The commands that lists raise: one object each per process, recognised by its address.
+    static Command* SELECT_COMMAND();
+    static Command* RIGHT_COMMAND();
+    static Command* BACK_COMMAND();
+    static Command* DISPLAY_CHANGED_COMMAND();
+    static Command* TABBAR_ACTIVE_COMMAND();
+    static Command* TABBAR_INACTIVE_COMMAND();
+
+protected:
+    /// For derived lists that put an implementation of their own in the place of the one made here.
+    ListBoxPrivateIfc* implementation() const { return mImplementation; }
+    void setImplementation(ListBoxPrivateIfc* implementation) { mImplementation = implementation; }
+
+private:
+    void create(bool backFlag);
+    void createAndAppendItem(const std::string& text);
+    void createAndAppendItem(TranslationInfo* text);
+    void privateAppend(ListItem* item);
+    void privateInsertAt(ListItem* item, int index);
+    ListItem* privateRemoveAt(int index);
+    void privateRemove(ListItem* item);
+    void privateRemoveAll();
+    void privateReplace(ListItem* oldItem, ListItem* newItem);
+    void privateClear();
+    void privateSetTicker(Ticker* ticker);
+    ListItem* findSelectedItem();
+    void deleteItems();
+
+    ListBoxPrivateIfc* mImplementation = nullptr;
+    std::vector<ListItem*> mItems;
+    PopupDialer* mDialer = nullptr;
+    Ticker* mTicker = nullptr;
+    bool mHasBackItem = false;
+};
+
+} // namespace DisplayAPI

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "DisplayAPI/DisplayablePrivateIfc.h"
+
+#include <string>
+
+class TranslationInfo;
+
+namespace DisplayAPI {
+
+class CommandListener;
+class Displayable;
+class ListItemPrivateIfc;
+class PopupDialer;
+class TickerPrivateIfc;
+
+/// The GUI-thread side of a list. GUI thread only.
+class DISPLAYAPI_EXPORT ListBoxPrivateIfc : public virtual DisplayablePrivateIfc {
+public:
+    virtual ~ListBoxPrivateIfc() = default;
+
+    virtual void addCommandListener(CommandListener* listener) = 0;
+    virtual void removeCommandListener(CommandListener* listener) = 0;
+    virtual void join(DisplayablePrivate* other) = 0;
+    virtual void disjoin() = 0;
+    virtual bool hasCaption() = 0;
+    virtual void setSysWindowSize(int lines) = 0;
+    virtual void setSysWindowText(std::string text, int line) = 0;
+    virtual bool hasSystemWindow() = 0;
+
+    virtual int size() = 0;
+    virtual void append(ListItemPrivateIfc* row) = 0;
+    virtual void clear() = 0;
+
+    /// -1 where no row is selected.
+    virtual int getSelectedIndex() = 0;
+    virtual void setSelectedIndex(int index) = 0;
+    virtual void setSelected(ListItemPrivateIfc* row);
+
+    /// A negative index inserts at the front, one past the end appends.
+    virtual void insertAt(ListItemPrivateIfc* row, int index) = 0;
+
+    /// Takes `row` out; `index` is the caller's and may not be where the row is.
+    virtual void removeAt(int index, ListItemPrivateIfc* row) = 0;
+
+    /// Takes `row` out; ignored where it is not in the list.
+    virtual void remove(ListItemPrivateIfc* row) = 0;
+
+    virtual void setTicker(TickerPrivateIfc* ticker) = 0;
+    virtual void setTitle(const std::string& title) = 0;
+
+    /// The translation is not owned and has to live as long as the list shows it.
+    virtual void setTitle(TranslationInfo* title) = 0;
+
+    virtual void setSystemWindowSize(int lines) = 0;
+    virtual void setSystemWindowText(int line, const std::string& text) = 0;
+
+    /// The facade.
+    virtual Displayable* getParent() const = 0;
+
+    virtual void hide() = 0;
+    virtual void showDiallerOnInitialKeyEvent(bool on) = 0;
+    virtual void setDialler(PopupDialer* dialler) = 0;
+    virtual void dismissDialler() = 0;
+
+    /// Whether the selected row is shown inverted.
+    virtual void setSelectionHighlight(bool on) = 0;
+};
+
+} // namespace DisplayAPI

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "DisplayAPI/Widget.h"
+
+#include <string>
+
+class TranslationInfo;
+
+namespace DisplayAPI {
+
+class ListItemPrivateIfc;
+
+/// A row of a List: a text that is fixed when the row is made.
+///
+/// Threads: constructors off the GUI thread post and return at once; the destructor and getText() wait.
+/// Ownership: a row owns its GUI-thread side; rows that a list still holds when it is cleared or deleted go with it.
+class DISPLAYAPI_EXPORT ListItem : public Widget {
+public:
+    /// A row with an empty text. The flag is true on the GUI thread and false from any other.
+    ListItem();
+
+    /// `flag` is handed to the row as it is.
+    ListItem(std::string text, bool flag);
+    ListItem(TranslationInfo* text, bool flag);
+
+    /// Adopts a GUI-thread side; null leaves the row without one. Posts nothing.
+    explicit ListItem(ListItemPrivateIfc* implementation);
+
+    ListItem(const ListItem&) = delete;
+    ListItem& operator=(const ListItem&) = delete;
+    ~ListItem() override;
+
+    void processGuiRequest(GuiRequestEvent& request) override;
+
+    /// The GUI-thread side; null until it has been made. GUI thread only.
+    virtual ListItemPrivateIfc* getPrivateImplemetation();
+
+    /// The row's text in UTF-8; empty where the row has no GUI-thread side. Waits.
+    std::string getText();
+
+    /// A row's text is fixed: these leave it as it is. They post and return at once.
+    void setText(std::string text);
+    void setText(TranslationInfo* text);
+
+    /// Rows have no such arrow: does nothing.
+    void enableContextMenuArrow(bool on);
+
+private:
+    ListItemPrivateIfc* mImplementation = nullptr;
+};
+
+} // namespace DisplayAPI

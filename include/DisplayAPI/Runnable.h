@@ -1,0 +1,14 @@
+#pragma once
+
+#include "DisplayAPI/Export.h"
+
+namespace DisplayAPI {
+
+/// A piece of work for a DisplayThread, which owns it and deletes it after running it.
+class DISPLAYAPI_EXPORT Runnable {
+public:
+    virtual void run() = 0;
+    virtual ~Runnable() = default;
+};
+
+} // namespace DisplayAPI

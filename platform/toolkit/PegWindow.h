@@ -1,0 +1,11 @@
+#pragma once
+
+#include "toolkit/PegThing.h"
+
+/// A thing that fills its area with the background before its children are painted.
+class PegWindow : public PegThing {
+public:
+    explicit PegWindow(std::uint16_t style = 0);
+
+    void Draw(PegPainter& painter) override;
+};

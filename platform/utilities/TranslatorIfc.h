@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+
+/// Looks up texts in the language that is chosen now. Implemented by the application or the platform.
+class TranslatorIfc {
+public:
+    virtual ~TranslatorIfc() = default;
+
+    /// The text for `key` in UTF-8. From any thread.
+    virtual std::string translate(const std::string& key) = 0;
+};

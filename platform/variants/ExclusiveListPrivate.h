@@ -1,0 +1,16 @@
+#pragma once
+
+#include "variants/ListBoxPrivate.h"
+
+namespace DisplayAPI {
+
+/// The exclusive list of the 240 x 128 panel and its narrow form. Its current row is the chosen one and carries the mark.
+class DISPLAYAPI_EXPORT ExclusiveListPrivate : public ListBoxPrivate {
+public:
+    /// `owner` is the facade, not owned.
+    explicit ExclusiveListPrivate(List* owner);
+
+    bool isSelected(int index);
+};
+
+} // namespace DisplayAPI

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "toolkit/PString.h"
+#include "toolkit/PegThing.h"
+
+#include <cstddef>
+#include <memory>
+
+class KestrelListBoxItem;
+
+/// A column of rows of which one is current, with the keys to move through it. GUI thread only.
+///
+/// The message target is told what the user does: PM_CURRENT_CHANGED, PM_CLICKED (OK), PM_LEFT, PM_RIGHT.
+/// Up and down stop at the ends. Ownership: rows belong to whoever appended them.
+/// Cost: append, row access and painting do not depend on the number of rows.
+class KestrelListBox : public PegThing {
+public:
+    ~KestrelListBox() override;
+
+    int Message(const PegMessage& message) override;
+    void Draw(PegPainter& painter) override;
+    void Resize(const PegRect& area) override;
+
+    /// Not owned; null tells nobody.
+    void setMessageTarget(PegThing* target);
+
+    int numItems() const;
+    KestrelListBoxItem* itemAt(int row) const; ///< null outside 0 to numItems() - 1
+    int rowOf(const KestrelListBoxItem* item) const; ///< -1 where it is not in the list
+
+    /// Null is ignored; a row below 0 inserts at the front, one past the end appends.
+    void append(KestrelListBoxItem* item);
+    void insert(KestrelListBoxItem* item, int row);
+
+    /// Takes the row out without deleting it; ignored where it is not in the list.
+    void remove(const KestrelListBoxItem* item);
+    void clear();
+
+    /// Repaints the row if it is visible.
+    void itemChanged(const KestrelListBoxItem* item);
+
+    /// The current row; -1 where the list is empty. A change of rows keeps the current item where it can.
+    int currentRow() const;
+
+    /// Makes a row current and scrolls it into view; rows outside the list are ignored. The target is not told.
+    void setCurrentRow(int row);
+
+    void setTitle(PegString title);
+    const PegString& title() const;
+
+    /// Whether the current row is shown inverted.
+    void setSelectionHighlight(bool on);
+
+    /// Whether left goes back: shown by an arrow.
+    void setBackArrow(bool on);
+
+    /// Whether the rows carry the mark of an exclusive list.
+    void setExclusive(bool on);
+
+    struct Layout;
+
+protected:
+    KestrelListBox(std::uint8_t type, const Layout& layout);
+
+private:
+    struct Impl;
+    std::unique_ptr<Impl> mImpl;
+};
