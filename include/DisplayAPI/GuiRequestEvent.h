@@ -37,7 +37,7 @@ public:
 
     /// Records travel from the poster's thread to the GUI thread by the million: they are kept and used again.
     static void* operator new(std::size_t size);
-    static void operator delete(void* record) noexcept;
+    static void operator delete(void* record, std::size_t size) noexcept;
 
     std::string stringParam1;
     std::string stringParam2;

@@ -1,0 +1,20 @@
+#pragma once
+
+namespace DisplayAPI {
+
+/// How the toolkit is started and stopped.
+class PegInitAndCleanUpIfc {
+public:
+    virtual ~PegInitAndCleanUpIfc() = default;
+    virtual void init() = 0;
+    virtual void cleanUp() = 0;
+};
+
+/// Starts and stops the real toolkit.
+class PegInitAndCleanUp : public PegInitAndCleanUpIfc {
+public:
+    void init() override;
+    void cleanUp() override;
+};
+
+} // namespace DisplayAPI

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "widgets/KestrelApplication.h"
+
+namespace DisplayAPI {
+
+/// The current application's hardware variant; 1 where there is none.
+inline int hardwareVariant()
+{
+    return KestrelApplication::getHardwareVariant(KestrelApplication::getCurrentApplication());
+}
+
+constexpr int FULL_PANEL = 1; ///< 240 x 128 and its narrow form
+constexpr int SMALL_PANEL = 0; ///< 208 x 42
+
+inline bool isFullPanel()
+{
+    return hardwareVariant() == FULL_PANEL;
+}
+
+} // namespace DisplayAPI
