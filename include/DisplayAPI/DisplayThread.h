@@ -39,7 +39,7 @@ private:
     std::atomic<bool> mBusy{false};
     bool mPooled;
     std::atomic<bool> mDestroyed{false};
-    std::unique_ptr<Wait> mWait;
+    std::shared_ptr<Wait> mWait;
     Runnable* mRequest = nullptr;
 };
 

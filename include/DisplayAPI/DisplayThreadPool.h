@@ -2,6 +2,7 @@
 
 #include "DisplayAPI/Export.h"
 
+#include <atomic>
 #include <list>
 #include <memory>
 
@@ -25,7 +26,7 @@ public:
     /// Ends the pooled threads and waits until each has finished what it runs.
     virtual ~DisplayThreadPool();
 
-    /// A running thread, marked busy, ready for one executeRequest(). Never null.
+    /// A running thread, marked busy, ready for one executeRequest(). Null where none can be started.
     DisplayThread* getThread();
 
     /// Pooled threads that wait for work.
@@ -39,9 +40,11 @@ private:
     explicit DisplayThreadPool(int maxPoolSize);
 
     DisplayThread* takeIdleThread();
+    DisplayThread* addThread();
+    void removeThread(DisplayThread* thread);
 
     int mMaxPoolSize;
-    int mPoolSize = 0;
+    std::atomic<int> mPoolSize{0};
     std::list<DisplayThread*> mThreads;
     std::unique_ptr<Threader> mThreader;
     std::unique_ptr<Semaphore> mListLock;

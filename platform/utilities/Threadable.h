@@ -19,15 +19,18 @@ public:
     /// The calling thread's id: never 0, not used again while the thread lives.
     static unsigned int currentThreadId();
 
-    /// Returns when the body has ended, at once when it was never started or the thread detached itself.
-    /// The object may be gone by then: the wait stands on state that outlives it.
+    /// Returns when the body has ended, at once when it was never started.
     void waitForThreadCompletion();
+
+    /// The same for a body that deletes its object: take the state while the object certainly lives, and wait on that.
+    struct State;
+    std::shared_ptr<State> state() const { return mState; }
+    static void waitForThreadCompletion(State& state);
 
     /// Whether the calling thread is the one that runs this body.
     bool isCurrentThread() const;
 
 private:
     friend class Threader;
-    struct State;
     std::shared_ptr<State> mState;
 };
