@@ -122,6 +122,8 @@ public:
 
 private:
     void init(DisplayPrivateIfc* implementation);
+    void processSystemWindowRequest(DisplayRequestEvent& request);
+    std::string takeResult();
 
     DisplayPrivateIfc* mImplementation = nullptr;
     std::string mResult;

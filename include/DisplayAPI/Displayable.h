@@ -41,6 +41,11 @@ public:
     void doNotUseSoftKeysForContent();
     void useSoftKeysBasedOnCommands();
 
+protected:
+    /// Takes this off every display that still shows it, as if it had been dismissed. GUI thread only; for the request
+    /// that deletes the private side, before it does so.
+    void leaveDisplay();
+
 private:
     std::vector<ItemStateListener*> mItemStateListeners;
 };

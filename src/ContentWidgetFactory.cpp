@@ -1,0 +1,12 @@
+#include "ContentWidgetFactory.h"
+
+#include "ContentWidget.h"
+
+namespace DisplayAPI {
+
+ContentWidget* ContentWidgetFactory::createContentWidget()
+{
+    return new ContentWidget;
+}
+
+} // namespace DisplayAPI

@@ -1,0 +1,776 @@
+#include "DisplayPrivate.h"
+
+#include "ContentWidget.h"
+#include "ContentWidgetFactory.h"
+#include "DisplayAPI/DisplayEventIfc.h"
+#include "DisplayAPI/DisplayRequestEvent.h"
+#include "DisplayAPI/Displayable.h"
+#include "DisplayAPI/DisplayablePrivate.h"
+#include "DisplayAPI/GuiRequestEvent.h"
+#include "DisplayEventFilter.h"
+#include "Log.h"
+#include "MainQueue.h"
+#include "PegInitAndCleanUp.h"
+#include "Variant.h"
+#include "presentation/PRESCPresentationManager.h"
+#include "utilities/ICC.h"
+#include "utilities/Rect.h"
+#include "utilities/Semaphore.h"
+
+#include <algorithm>
+
+namespace DisplayAPI {
+
+namespace {
+
+constexpr Log gLog{"DisplayAPI::DisplayPrivate", "./src/DisplayPrivate"};
+constexpr const char* SOURCE_FILE = "./src/DisplayPrivate";
+
+enum SoftwareType : int { SIP = 0, KVX = 1, UNKNOWN = 2 };
+
+/// The displays that live now. GUI thread only.
+std::vector<DisplayPrivate*>& displays()
+{
+    static std::vector<DisplayPrivate*> live;
+    return live;
+}
+
+// The log takes plain pointers.
+
+const void* address(const void* object)
+{
+    return object;
+}
+
+const char* nameOf(Displayable* displayable)
+{
+    return displayable->getName().c_str();
+}
+
+PegThing* widgetOf(DisplayablePrivateIfc* side)
+{
+    return side != nullptr ? side->getWidget() : nullptr;
+}
+
+PegThing* widgetOf(Displayable* displayable)
+{
+    return widgetOf(displayable->getPrivateImpl());
+}
+
+bool isOnScreen(const PegThing* widget)
+{
+    return widget != nullptr && widget->Parent() != nullptr && widget->Parent() == gpPresent;
+}
+
+void addToScreen(PegThing* widget)
+{
+    if (gpPresent != nullptr)
+        gpPresent->Add(widget, true);
+}
+
+/// Moves the focus to `widget` unless it has it; the log line comes from where it is moved.
+void moveFocus(const DisplayPrivate* display, PegThing* widget, int line, const char* text)
+{
+    if (gpPresent == nullptr || widget->StatusIs(PSF_CURRENT))
+        return;
+    gLog(TRACE, line, text, address(display), address(widget));
+    gpPresent->MoveFocusTree(widget);
+}
+
+void lostFocus(Displayable* displayable)
+{
+    if (DisplayablePrivateIfc* side = displayable->getPrivateImpl())
+        side->lostFocus();
+}
+
+DisplayablePrivate* withSystemWindow(Displayable* displayable)
+{
+    return dynamic_cast<DisplayablePrivate*>(displayable->getPrivateImpl());
+}
+
+} // namespace
+
+void postEventHelper(DisplayRequestEvent* request, DisplayEventFilter* filter, bool wait)
+{
+    if (loggingOnUni()) {
+        if (request == nullptr) {
+            gLog(TRACE, 1236, "postEventHelper(DisplayRequestEvent *, bool)____________postEvent: NULL\n");
+        } else {
+            gLog(TRACE, 1240,
+                 "postHelperEvent(DisplayRequestEvent *, bool)___________display postEvent: %d, wait = %d\n",
+                 static_cast<int>(request->getType()), static_cast<int>(wait));
+            gLog(TRACE, 1244, "postEventHelper(DisplayRequestEvent *, bool)__________________ %s \n",
+                 request->getStringParam().c_str());
+        }
+    }
+    PegMessage* const message = takeMessage();
+    if (message == nullptr) {
+        gLog(LOST, 1270, "postEvent() no more PegMessage objects in the pool, this one will be lost!");
+        delete request;
+        return;
+    }
+    message->wType = PM_DISPLAY_REQUEST;
+    message->pTarget = filter;
+    message->pSource = filter;
+    message->pData = request;
+
+    // Once the mutex is released the GUI thread may have deleted the request: read what to wait for before.
+    Semaphore* semaphore = nullptr;
+    enqueue(message, Place::TAIL, [&] { semaphore = request != nullptr ? request->getSemaphore() : nullptr; });
+    if (wait && semaphore != nullptr)
+        semaphore->take(-1);
+}
+
+DisplayPrivate::DisplayPrivate(bool narrow, std::string hardware, std::string softwareType, std::string locale,
+                               std::string dateFormat, std::string timeFormat, DisplayAPIUtils::Rect*,
+                               ContentWidgetFactoryIfc* factory, PegInitAndCleanUpIfc* startUp, bool installFilter)
+    : mServerDisplay(!narrow), mLocale(std::move(locale)), mDateFormat(std::move(dateFormat)),
+      mTimeFormat(std::move(timeFormat)), mFactory(factory), mStartUp(startUp)
+{
+    initialiseApplication(hardware, softwareType);
+    if (mFactory == nullptr)
+        mFactory = std::make_unique<ContentWidgetFactory>();
+    if (mStartUp == nullptr)
+        mStartUp = std::make_unique<PegInitAndCleanUp>();
+    mStartUp->init();
+    if (isFullPanel())
+        mDisplayArea = std::make_unique<DisplayAPIUtils::Rect>(0, 0, narrow ? 168 : 240, 128);
+    else
+        mDisplayArea = std::make_unique<DisplayAPIUtils::Rect>(0, 0, 208, 42);
+    if (installFilter)
+        mFilter = std::make_unique<DisplayEventFilter>(true);
+    mContentWidget.reset(mFactory->createContentWidget());
+    mContentWidget->setParent(this);
+    displays().push_back(this);
+}
+
+DisplayPrivate::~DisplayPrivate()
+{
+    std::erase(displays(), this);
+    cleanup();
+}
+
+void DisplayPrivate::initialiseApplication(const std::string& hardware, const std::string& softwareType)
+{
+    KestrelApplication* const application = KestrelApplication::getCurrentApplication();
+    if (application == nullptr)
+        return;
+    application->setHardwareVariant(hardware == "WP1" ? SMALL_PANEL : FULL_PANEL);
+    setSoftwareType(softwareType);
+    application->setLocale(ICC::fromUTF8toUNICODE(mLocale));
+    application->setDateFormat(ICC::fromUTF8toUNICODE(mDateFormat));
+    application->setTimeFormat(ICC::fromUTF8toUNICODE(mTimeFormat));
+}
+
+void DisplayPrivate::cleanup()
+{
+    handBackWidgets();
+    completeQueuedRequests();
+    mStartUp->cleanUp();
+    mContentWidget.reset();
+    mFilter.reset();
+    mDisplayArea.reset();
+}
+
+/// The application's displayables outlive the presentation manager: it must not take their widgets with it.
+void DisplayPrivate::handBackWidgets()
+{
+    for (Displayable* displayable : mItemList) {
+        DisplayablePrivateIfc* const side = displayable->getPrivateImpl();
+        if (side == nullptr)
+            continue;
+        side->connectDisplayChangedSignal(nullptr);
+        side->gainOwnership();
+        if (PegThing* widget = side->getWidget(); isOnScreen(widget))
+            gpPresent->Remove(widget, false);
+    }
+}
+
+/// Nobody will carry out what is still queued for this display's filter: let those who wait go on.
+void DisplayPrivate::completeQueuedRequests()
+{
+    if (mFilter == nullptr)
+        return;
+    mFilter->uninstall();
+    removeMessages([this](const PegMessage& message) { return message.pTarget == mFilter.get(); },
+                   [](PegMessage* message) {
+                       if (message->wType == PM_DISPLAY_REQUEST && message->pData != nullptr) {
+                           auto* request = static_cast<DisplayRequestEvent*>(message->pData);
+                           request->requestCompleted();
+                           delete request;
+                       } else if (message->wType == PM_WIDGET_REQUEST) {
+                           auto* request = static_cast<GuiRequestEvent*>(message->pData);
+                           request->signalComplete();
+                           delete request;
+                       }
+                       giveBackMessage(message);
+                   });
+}
+
+void DisplayPrivate::setCurrent(Displayable* displayable)
+{
+    if (displayable == nullptr)
+        gLog(TRACE, 301, "setCurrent() this=[%p] called on disp NULL", address(this));
+    else
+        gLog(TRACE, 304, "setCurrent() this=[%p] called on disp [%s] [%p] priv [%p] [Pegwidget %p]", address(this),
+             nameOf(displayable), address(displayable), address(displayable->getPrivateImpl()),
+             address(widgetOf(displayable)));
+    setCurrentImpl(displayable);
+}
+
+void DisplayPrivate::clearScreen()
+{
+    hideContentWidget();
+    const std::vector<Displayable*> entries = mItemList;
+    for (Displayable* entry : entries) {
+        gLog(TRACE, 322, "setCurrentImpl() calling lostFocus on [%s] [0x%p]\n", nameOf(entry), address(entry));
+        lostFocus(entry);
+    }
+    mItemList.clear();
+    addNewCurrent(nullptr);
+    clearSWfromDisplayable();
+    displayChanged();
+}
+
+void DisplayPrivate::setCurrentImpl(Displayable* displayable)
+{
+    if (displayable == nullptr)
+        return clearScreen();
+    DisplayablePrivateIfc* const side = displayable->getPrivateImpl();
+    if (side == nullptr) {
+        gLog(REFUSED, 338, "setCurrentImpl() this=[%p] disp [%s] [%p] has no private side", address(this),
+             nameOf(displayable), address(displayable));
+        return;
+    }
+    gLog(TRACE, 342, "setCurrentImpl() this=[%p] called on disp [%s] [%p] priv [%p] widget [%p]", address(this),
+         nameOf(displayable), address(displayable), address(side), address(side->getWidget()));
+    const bool alreadyShown = replaceStack(displayable);
+    side->connectDisplayChangedSignal(this);
+
+    const bool currentChanged = mCurrent != nullptr && mCurrent != displayable;
+    if (currentChanged)
+        removeOldCurrent();
+    if (alreadyShown)
+        showAgain(displayable);
+    else
+        addNewCurrent(displayable);
+    displayChanged();
+    gLog(TRACE, 360, "**current, which is: [%s] [0x%p]\n", nameOf(mCurrent), address(widgetOf(mCurrent)));
+    clearSWfromDisplayable();
+    displayChanged();
+}
+
+void DisplayPrivate::logItemList()
+{
+    gLog(TRACE, 368, "setCurrentImpl() this=[%p] mItemList:", address(this));
+    for (std::size_t i = 0; i < mItemList.size(); ++i)
+        gLog(TRACE, 371, "  mItemList[%d] displayable [%s] [%p]", static_cast<int>(i), nameOf(mItemList[i]),
+             address(mItemList[i]));
+}
+
+/// Makes room for `displayable` on the stack and puts it there. Returns whether its widget is on screen already.
+bool DisplayPrivate::replaceStack(Displayable* displayable)
+{
+    bool alreadyShown = false;
+    if (!mItemList.empty()) {
+        logItemList();
+        if (displayable->getPrivateImpl()->hideOldWidgetOnFocusGained()) {
+            alreadyShown = takeStackOffScreen(displayable->getPrivateImpl());
+            mItemList.clear();
+        }
+    }
+    if (std::find(mItemList.begin(), mItemList.end(), displayable) == mItemList.end())
+        mItemList.push_back(displayable);
+    return alreadyShown;
+}
+
+/// Takes every widget off the screen but that of `kept`. Returns whether that one is there.
+bool DisplayPrivate::takeStackOffScreen(DisplayablePrivateIfc* kept)
+{
+    bool keptIsShown = false;
+    for (Displayable* entry : mItemList) {
+        DisplayablePrivateIfc* const side = entry->getPrivateImpl();
+        if (side == nullptr)
+            continue;
+        PegThing* const widget = side->getWidget();
+        if (side == kept && isOnScreen(widget)) {
+            keptIsShown = true;
+            continue;
+        }
+        side->connectDisplayChangedSignal(nullptr);
+        side->gainOwnership();
+        if (gpPresent != nullptr)
+            gpPresent->Remove(widget, true);
+    }
+    return keptIsShown;
+}
+
+void DisplayPrivate::showAgain(Displayable* displayable)
+{
+    DisplayablePrivateIfc* const side = displayable->getPrivateImpl();
+    PegThing* const widget = side->getWidget();
+    side->show();
+    moveFocus(this, widget, 425, "_ setCurrentImpl this=[%p] calling MoveFocusTree on widget [%p]");
+    focusChanged(widget);
+    mCurrent = displayable;
+}
+
+void DisplayPrivate::addNewCurrent(Displayable* displayable)
+{
+    if (displayable != nullptr) {
+        DisplayablePrivateIfc* const side = displayable->getPrivateImpl();
+        PegThing* const widget = side->getWidget();
+        if (widget != nullptr && widget->Parent() != nullptr) {
+            gLog(TRACE, 440, "addNewCurrent() this=[%p] removing widget [%p] from parent [%p]", address(this),
+                 address(widget), address(widget->Parent()));
+            widget->Parent()->Remove(widget, true);
+        }
+        showWidget(side);
+        side->releaseOwnership();
+    }
+    mCurrent = displayable;
+}
+
+void DisplayPrivate::removeOldCurrent()
+{
+    DisplayablePrivateIfc* const side = mCurrent != nullptr ? mCurrent->getPrivateImpl() : nullptr;
+    if (side == nullptr)
+        return;
+    side->lostFocus();
+    side->gainOwnership();
+}
+
+void DisplayPrivate::cutToDisplayArea(PegThing& widget)
+{
+    PegRect area = widget.Area();
+    if (area.right - area.left + 1 <= mDisplayArea->width())
+        return;
+    area.right = static_cast<std::int16_t>(area.left + mDisplayArea->width() - 1);
+    widget.Resize(area);
+}
+
+void DisplayPrivate::showWidget(DisplayablePrivateIfc* shown)
+{
+    if (shown == nullptr)
+        return;
+    gLog(TRACE, 472, "showWidget() this=[%p] called on priv [%p]", address(this), address(shown));
+    if (!mVisible) {
+        gLog(TRACE, 475, "showWidget() this=[%p] called on priv [%p], mVisible == false", address(this),
+             address(shown));
+        return;
+    }
+    PegThing* const widget = shown->getWidget();
+    if (widget == nullptr)
+        return shown->show();
+    cutToDisplayArea(*widget);
+    if (isOnScreen(widget)) {
+        gLog(TRACE, 486, "showWidget() this=[%p] adding widget [%p] to PM _SKIPPED_ [%p]\n", address(this),
+             address(widget), address(gpPresent));
+    } else {
+        if (widget->Parent() != nullptr) {
+            gLog(TRACE, 490, "showWidget() this=[%p] removing widget [%p] from parent widget [%p]", address(this),
+                 address(widget), address(widget->Parent()));
+            widget->Parent()->Remove(widget, false);
+        }
+        gLog(TRACE, 494, "showWidget() this=[%p] adding widget [%p] to PM [%p]", address(this), address(widget),
+             address(gpPresent));
+        addToScreen(widget);
+        shown->releaseOwnership();
+        focusChanged(widget);
+    }
+    shown->show();
+    moveFocus(this, widget, 502, "showWidget() this=[%p] calling MoveFocusTree on widget [%p]\n");
+    focusChanged(widget);
+}
+
+void DisplayPrivate::eraseDismissed(DisplayablePrivateIfc* dismissed)
+{
+    const auto entry = std::find_if(mItemList.begin(), mItemList.end(),
+                                    [=](Displayable* d) { return d->getPrivateImpl() == dismissed; });
+    PegThing* const widget = dismissed->getWidget();
+    if (entry != mItemList.end()) {
+        gLog(TRACE, 514, "widgetDismissed() this=[%p] removing from list disp [%s] [%p] priv [%p] widget [%p]",
+             address(this), nameOf(*entry), address(*entry), address(dismissed), address(widget));
+        dismissed->gainOwnership();
+        mItemList.erase(entry);
+    }
+    if (widget != nullptr && widget->Parent() != nullptr) {
+        dismissed->gainOwnership();
+        widget->Parent()->Remove(widget, true);
+    }
+}
+
+void DisplayPrivate::widgetDismissed(DisplayablePrivateIfc* dismissed)
+{
+    if (dismissed == nullptr)
+        return;
+    eraseDismissed(dismissed);
+    if (mCurrent == nullptr || mCurrent->getPrivateImpl() != dismissed)
+        return;
+    if (mItemList.empty())
+        return setCurrent(nullptr);
+    mPreviousCurrent = nullptr;
+    mCurrent = mItemList.back();
+    if (mVisible)
+        restoreTopmost();
+}
+
+/// Shows the displayable that lay under the dismissed one.
+void DisplayPrivate::restoreTopmost()
+{
+    DisplayablePrivateIfc* const side = mCurrent->getPrivateImpl();
+    PegThing* const widget = widgetOf(side);
+    if (widget == nullptr)
+        return;
+    gLog(TRACE, 552, "widgetDismissed() this=[%p] showing the previous current disp [%s] [%p] priv [%p] widget [%p]",
+         address(this), nameOf(mCurrent), address(mCurrent), address(side), address(widget));
+    widget->Layer(LAYER_RESTORED);
+    if (widget->Parent() != nullptr) {
+        gLog(TRACE, 557, "widgetDismissed() this=[%p] removing widget [%p] from parent [%p]", address(this),
+             address(widget), address(widget->Parent()));
+        widget->Parent()->Remove(widget, false);
+        gLog(TRACE, 560, "widgetDismissed() this=[%p] adding widget [%p] to PM [%p]", address(this), address(widget),
+             address(gpPresent));
+        side->releaseOwnership();
+        addToScreen(widget);
+        focusChanged(widget);
+        moveFocus(this, widget, 565, "widgetDismissed() this=[%p] calling MoveFocusTree on widget [%p]");
+        focusChanged(widget);
+    } else {
+        side->releaseOwnership();
+        addToScreen(widget);
+        focusChanged(widget);
+        gLog(TRACE, 571, "widgetDismissed() this=[%p] NOT calling MoveFocusTree on widget [%p]", address(this),
+             address(widget));
+    }
+    side->show();
+}
+
+void DisplayPrivate::show()
+{
+    mVisible = true;
+    gLog(TRACE, 580, "show() this=[%p] calling showContentWidget()", address(this));
+    showContentWidget();
+    if (!mItemList.empty()) {
+        Displayable* const topmost = mItemList.back();
+        gLog(TRACE, 584, "show() this=[%p] calling showWidget on disp [%s] [%p] priv [%p] widget [%p]", address(this),
+             nameOf(topmost), address(topmost), address(topmost->getPrivateImpl()), address(widgetOf(topmost)));
+        showWidget(topmost->getPrivateImpl());
+    }
+    if (hardwareVariant() == SMALL_PANEL)
+        displayChanged();
+}
+
+void DisplayPrivate::showContentWidget()
+{
+    gLog(TRACE, 595, "showContentWidget() this=[%p] called", address(this));
+    for (Displayable* entry : mItemList) {
+        PegThing* const widget = widgetOf(entry);
+        if (widget == nullptr)
+            continue;
+        if (isOnScreen(widget)) {
+            gLog(TRACE, 602, "showContentWidget() this=[%p]  widget [%p] already in PM [%p]", address(this),
+                 address(widget), address(gpPresent));
+            continue;
+        }
+        if (widget->Parent() != nullptr) {
+            gLog(TRACE, 607, "showContentWidget() this=[%p] removing widget [%p] from parent [%p]", address(this),
+                 address(widget), address(widget->Parent()));
+            widget->Parent()->Remove(widget, true);
+        }
+        gLog(TRACE, 611, "showContentWidget() this=[%p] adding widget [%p] to PM [%p]", address(this), address(widget),
+             address(gpPresent));
+        addToScreen(widget);
+        entry->getPrivateImpl()->releaseOwnership();
+    }
+    gLog(TRACE, 616, "showContentWidget end\n");
+}
+
+void DisplayPrivate::hide()
+{
+    mVisible = false;
+    if (mCurrent != nullptr) {
+        lostFocus(mCurrent);
+        gLog(TRACE, 624, "hide() this=[%p] calling hideContentWidget()", address(this));
+        hideContentWidget();
+    }
+    if (hardwareVariant() == SMALL_PANEL)
+        displayChanged();
+}
+
+void DisplayPrivate::hideContentWidget()
+{
+    gLog(TRACE, 633, "hideContentWidget() this=[%p] called", address(this));
+    for (Displayable* entry : mItemList) {
+        PegThing* const widget = widgetOf(entry);
+        gLog(TRACE, 636, "hideContentWidget() calling remove on [%s] [0x%p]", nameOf(entry), address(widget));
+        if (DisplayablePrivateIfc* side = entry->getPrivateImpl())
+            side->gainOwnership();
+        if (gpPresent != nullptr)
+            gpPresent->Remove(widget, true);
+    }
+    mContentWidget->setSystemWindowSize(0);
+}
+
+void DisplayPrivate::createServerDisplay(Displayable* displayable)
+{
+    DisplayablePrivateIfc* const side = displayable != nullptr ? displayable->getPrivateImpl() : nullptr;
+    if (side == nullptr)
+        return;
+    mCurrent = displayable;
+    side->connectDisplayChangedSignal(this);
+    PegThing* const widget = side->getWidget();
+    if (mServerDisplay && widget != nullptr) {
+        mItemList.push_back(displayable);
+        gLog(TRACE, 655, "1. DisplayPrivate::createServerDisplay mItemList size is: %d [%s] [%p]\n",
+             static_cast<int>(mItemList.size()), nameOf(displayable), address(displayable));
+        if (widget->Parent() != nullptr)
+            widget->Parent()->Remove(widget, true);
+        addToScreen(widget);
+        side->releaseOwnership();
+        focusChanged(widget);
+    }
+    side->show();
+}
+
+/// Takes the system window's lines from the displayable that was current before, and notes that the one that is current
+/// now has none of them yet.
+void DisplayPrivate::clearSWfromDisplayable()
+{
+    if (mPreviousCurrent == nullptr) {
+        mPreviousCurrent = mCurrent;
+        return;
+    }
+    if (mCurrent == mPreviousCurrent)
+        return;
+    if (DisplayablePrivate* previous = withSystemWindow(mPreviousCurrent))
+        previous->setSysWindowSize(0);
+    if (mCurrent != nullptr && mPreviousCurrent->getName() == "IdleDisplay" && mCurrent->getName() == "PopupDialer") {
+        gLog(TRACE, 680,
+             "clearSWfromDisplayable()  **  previousName == IdleDisplay && currentName == PopupDialer");
+    } else {
+        const auto lines = std::clamp(mContentWidget->getSWCurrentNumLines(), 0,
+                                      static_cast<int>(mInvalidSystemWindowLines.size()));
+        std::fill_n(mInvalidSystemWindowLines.begin(), lines, true);
+    }
+    mPreviousCurrent = mCurrent;
+}
+
+void DisplayPrivate::dismissEverywhere(Displayable* displayable)
+{
+    for (DisplayPrivate* display : displays()) {
+        const auto& entries = display->mItemList;
+        if (display->mCurrent == displayable || std::find(entries.begin(), entries.end(), displayable) != entries.end())
+            display->widgetDismissed(displayable->getPrivateImpl());
+        display->forget(displayable);
+    }
+}
+
+void DisplayPrivate::forgetEverywhere(Displayable* displayable)
+{
+    if (!Widget::isGuiThread())
+        return;
+    for (DisplayPrivate* display : displays())
+        display->forget(displayable);
+}
+
+void DisplayPrivate::forget(Displayable* displayable)
+{
+    std::erase(mItemList, displayable);
+    if (mPreviousCurrent == displayable)
+        mPreviousCurrent = nullptr;
+    if (mCurrent == displayable)
+        mCurrent = mItemList.empty() ? nullptr : mItemList.back();
+}
+
+Displayable* DisplayPrivate::getCurrent()
+{
+    return mCurrent;
+}
+
+void DisplayPrivate::exec()
+{
+    if (gpPresent != nullptr)
+        gpPresent->Execute(SOURCE_FILE);
+    else
+        gLog(LOST, 728, "qtPresent is NULL");
+    mExecFinished = true;
+}
+
+void DisplayPrivate::shutdown()
+{
+    if (PegThing::mpMessageQueue == nullptr)
+        return;
+    PegMessage message;
+    message.wType = PM_EXIT;
+    message.pTarget = gpPresent;
+    PegThing::mpMessageQueue->Push(message);
+}
+
+void DisplayPrivate::subscribe(DisplayEventIfc* observer)
+{
+    mListenerSection.enter();
+    mDisplayChangeListener = observer;
+    mListenerSection.leave();
+}
+
+void DisplayPrivate::unSubscribe()
+{
+    subscribe(nullptr);
+}
+
+void DisplayPrivate::displayChanged()
+{
+    mListenerSection.enter();
+    if (mDisplayChangeListener != nullptr)
+        mDisplayChangeListener->displayChanged(std::string());
+    mListenerSection.leave();
+}
+
+void DisplayPrivate::localeChanged(std::string locale)
+{
+    mLocale = std::move(locale);
+    if (KestrelApplication* application = KestrelApplication::getCurrentApplication())
+        application->setLocale(ICC::fromUTF8toUNICODE(mLocale));
+}
+
+void DisplayPrivate::skinChanged(std::string) {}
+
+void DisplayPrivate::dateFormatChanged(std::string format)
+{
+    mDateFormat = std::move(format);
+    if (KestrelApplication* application = KestrelApplication::getCurrentApplication())
+        application->setDateFormat(ICC::fromUTF8toUNICODE(mDateFormat));
+}
+
+void DisplayPrivate::timeFormatChanged(std::string format)
+{
+    mTimeFormat = std::move(format);
+    if (KestrelApplication* application = KestrelApplication::getCurrentApplication())
+        application->setTimeFormat(ICC::fromUTF8toUNICODE(mTimeFormat));
+}
+
+DisplayAPIUtils::Rect* DisplayPrivate::getDisplayArea()
+{
+    return mDisplayArea.get();
+}
+
+void DisplayPrivate::setMaximised(bool on)
+{
+    mMaximised = on;
+}
+
+void DisplayPrivate::setTranslator(TranslatorIfc* translator)
+{
+    DisplayablePrivate::commonTranslator = translator;
+}
+
+void DisplayPrivate::postEvent(DisplayRequestEvent* request)
+{
+    postEventHelper(request, mFilter.get(), true);
+}
+
+void DisplayPrivate::postEventAsync(DisplayRequestEvent* request)
+{
+    postEventHelper(request, mFilter.get(), false);
+}
+
+void DisplayPrivate::purgeOwnMessage(Display* display, int code, int otherCode, Displayable* displayable)
+{
+    const auto matches = [=](const PegMessage& message) {
+        auto* request = static_cast<DisplayRequestEvent*>(message.pData);
+        if (message.wType != PM_DISPLAY_REQUEST || request == nullptr || request->requesterDisplay() != display)
+            return false;
+        return (request->getType() == code || request->getType() == otherCode) &&
+               (displayable == nullptr || request->getDisplayable() == displayable);
+    };
+    removeMessages(matches, [](PegMessage* message) {
+        auto* request = static_cast<DisplayRequestEvent*>(message->pData);
+        message->pData = nullptr;
+        request->requestCompleted();
+        delete request;
+        giveBackMessage(message);
+    });
+}
+
+void DisplayPrivate::setSoftwareType(const std::string& type)
+{
+    KestrelApplication* const application = KestrelApplication::getCurrentApplication();
+    if (application == nullptr)
+        return;
+    if (type == "Corvane SIP")
+        application->setSoftwareType(SIP);
+    else
+        application->setSoftwareType(type == "Corvane KVX" ? KVX : UNKNOWN);
+}
+
+void DisplayPrivate::copy(const std::string& text)
+{
+    mClipboard = text;
+}
+
+std::string DisplayPrivate::paste() const
+{
+    return mClipboard;
+}
+
+void DisplayPrivate::showTimeInSystemWindow(bool on)
+{
+    mContentWidget->showTimeInSystemWindow(on);
+    displayChanged();
+}
+
+void DisplayPrivate::setTimeInSystemWindow(int hours, int minutes, int seconds)
+{
+    mContentWidget->setTimeInSystemWindow(hours, minutes, seconds);
+    displayChanged();
+}
+
+void DisplayPrivate::setTimer(std::string text)
+{
+    mContentWidget->setTimer(std::move(text));
+    displayChanged();
+}
+
+void DisplayPrivate::stopTimer()
+{
+    mContentWidget->stopTimer();
+    displayChanged();
+}
+
+std::string DisplayPrivate::dateFormat() const
+{
+    return mDateFormat;
+}
+
+std::string DisplayPrivate::timeFormat() const
+{
+    return mTimeFormat;
+}
+
+// The system window is not on screen yet, and the screen is not read as text yet: these give neutral answers.
+
+std::string DisplayPrivate::serialise()
+{
+    return {};
+}
+
+std::string DisplayPrivate::serialiseByRect(const std::vector<DisplayAPIUtils::Rect>&, bool)
+{
+    return {};
+}
+
+std::vector<DisplayAPIUtils::Rect>* DisplayPrivate::getDisplayedRects()
+{
+    return &mDisplayedRects;
+}
+
+void DisplayPrivate::setSystemWindowSize(int) {}
+
+void DisplayPrivate::setSystemWindowText(int, std::string) {}
+
+void DisplayPrivate::setSystemWindowTop(int) {}
+
+void DisplayPrivate::setStatusMessage(const std::string&, unsigned int) {}
+
+} // namespace DisplayAPI

@@ -1,0 +1,46 @@
+#include "DisplayAPI/Displayable.h"
+
+#include "CommandExecutor.h"
+#include "DisplayAPI/ItemStateListener.h"
+#include "DisplayPrivate.h"
+
+namespace DisplayAPI {
+
+Displayable::Displayable()
+{
+    name = "Displayable with no name";
+}
+
+Displayable::~Displayable()
+{
+    CommandExecutor::retrieveCommand(nullptr, nullptr, this);
+    DisplayPrivate::forgetEverywhere(this);
+}
+
+void Displayable::processGuiRequest(GuiRequestEvent&) {}
+
+void Displayable::addItemStateListener(ItemStateListener* listener)
+{
+    mItemStateListeners.push_back(listener);
+}
+
+void Displayable::callListeners(Item* item)
+{
+    for (std::size_t i = 0; i < mItemStateListeners.size(); ++i)
+        mItemStateListeners[i]->postItemStateChange(item);
+}
+
+void Displayable::leaveDisplay()
+{
+    DisplayPrivate::dismissEverywhere(this);
+}
+
+void Displayable::useSoftKeys() {}
+
+void Displayable::doNotUseSoftKeys() {}
+
+void Displayable::doNotUseSoftKeysForContent() {}
+
+void Displayable::useSoftKeysBasedOnCommands() {}
+
+} // namespace DisplayAPI

@@ -1,0 +1,96 @@
+#include "DisplayAPI/DisplayablePrivate.h"
+
+#include "DisplayAPI/CommandListener.h"
+#include "DisplayAPI/DisplayPrivateIfc.h"
+
+#include <algorithm>
+
+namespace DisplayAPI {
+
+TranslatorIfc* DisplayablePrivate::commonTranslator = nullptr;
+
+DisplayablePrivate::DisplayablePrivate() = default;
+
+DisplayablePrivate::~DisplayablePrivate() = default;
+
+bool DisplayablePrivate::hideOldWidgetOnFocusGained()
+{
+    return true;
+}
+
+int DisplayablePrivate::widgetPosition()
+{
+    return 0;
+}
+
+void DisplayablePrivate::connectDisplayChangedSignal(DisplayPrivateIfc* display)
+{
+    mDisplay = display;
+}
+
+std::string DisplayablePrivate::serialise()
+{
+    return "object:\nname:Not Implemented\nend:\n";
+}
+
+std::string DisplayablePrivate::serialise(const std::vector<DisplayAPIUtils::Rect>&)
+{
+    return serialise();
+}
+
+void DisplayablePrivate::widgetDismissed(DisplayablePrivate* dismissed)
+{
+    if (mDisplay != nullptr)
+        mDisplay->widgetDismissed(dismissed);
+}
+
+void DisplayablePrivate::enable(bool) {}
+
+void DisplayablePrivate::addCommandListener(CommandListener* listener)
+{
+    if (std::find(mCommandListeners.begin(), mCommandListeners.end(), listener) == mCommandListeners.end())
+        mCommandListeners.push_back(listener);
+}
+
+void DisplayablePrivate::removeCommandListener(CommandListener* listener)
+{
+    std::erase(mCommandListeners, listener);
+}
+
+void DisplayablePrivate::join(DisplayablePrivate* other)
+{
+    mDisplay = other->mDisplay;
+}
+
+void DisplayablePrivate::disjoin()
+{
+    mDisplay = nullptr;
+}
+
+bool DisplayablePrivate::hasCaption()
+{
+    return false;
+}
+
+void DisplayablePrivate::setSysWindowSize(int) {}
+
+void DisplayablePrivate::setSysWindowText(std::string, int) {}
+
+bool DisplayablePrivate::hasSystemWindow()
+{
+    return false;
+}
+
+void DisplayablePrivate::postCommand(Command* command, Displayable* displayable)
+{
+    for (CommandListener* listener : mCommandListeners)
+        listener->postCommandAction(command, displayable);
+}
+
+void DisplayablePrivate::generateDisplayChangedEvent()
+{
+    if (mDisplay != nullptr)
+        mDisplay->displayChanged();
+}
+
+} // namespace DisplayAPI
