@@ -28,7 +28,11 @@ public:
     void setWaitAnimation(bool on);
 
 private:
-    void create();
+    void createBase(bool backFlag);
+    void createExclusive();
+    void choose(int index);
+    int chosenIndex();
+    bool isChosen(int index);
 };
 
 } // namespace DisplayAPI

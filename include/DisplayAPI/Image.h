@@ -40,6 +40,7 @@ public:
 
 private:
     void createBlank(unsigned int width, unsigned int height);
+    void destroy();
 
     ImagePrivate* mImplementation = nullptr;
 };

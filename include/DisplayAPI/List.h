@@ -2,6 +2,7 @@
 
 #include "DisplayAPI/Displayable.h"
 
+#include <atomic>
 #include <string>
 #include <vector>
 
@@ -29,7 +30,7 @@ public:
     /// A list with a way back: on the 240 x 128 panel list types 2 and 3, on the 208 x 42 panel 1 and 3.
     explicit List(int listType);
 
-    /// Adopts an implementation made elsewhere.
+    /// Adopts an implementation made elsewhere, or starts without one.
     explicit List(ListBoxPrivateIfc* implementation);
 
     List(const List&) = delete;
@@ -126,12 +127,18 @@ public:
     static Command* TABBAR_INACTIVE_COMMAND();
 
 protected:
-    /// For derived lists that put an implementation of their own in the place of the one made here.
+    /// Whether a list of this type has a way back on this hardware.
+    static bool backFlagFor(int listType);
+
+    /// Makes this class's implementation. GUI thread only.
+    void create(bool backFlag);
+
+    /// For derived lists with an implementation of their own. GUI thread only.
     ListBoxPrivateIfc* implementation() const { return mImplementation; }
     void setImplementation(ListBoxPrivateIfc* implementation) { mImplementation = implementation; }
 
 private:
-    void create(bool backFlag);
+    ListItem* find(int index) const;
     void createAndAppendItem(const std::string& text);
     void createAndAppendItem(TranslationInfo* text);
     void privateAppend(ListItem* item);
@@ -142,6 +149,9 @@ private:
     void privateReplace(ListItem* oldItem, ListItem* newItem);
     void privateClear();
     void privateSetTicker(Ticker* ticker);
+    void privateAddDialer(PopupDialer* dialer);
+    void processImplementationRequest(GuiRequestEvent& request);
+    void waitForEarlierRequests(int code) const;
     ListItem* findSelectedItem();
     void deleteItems();
 
@@ -149,7 +159,7 @@ private:
     std::vector<ListItem*> mItems;
     PopupDialer* mDialer = nullptr;
     Ticker* mTicker = nullptr;
-    bool mHasBackItem = false;
+    std::atomic<bool> mHasBackItem{false};
 };
 
 } // namespace DisplayAPI

@@ -46,6 +46,11 @@ public:
     void enableContextMenuArrow(bool on);
 
 private:
+    template <typename Text>
+    void create(const Text& text, bool flag);
+    void destroy();
+    std::string currentText();
+
     ListItemPrivateIfc* mImplementation = nullptr;
 };
 

@@ -1,0 +1,7 @@
+#include "DisplayAPI/ListBoxPrivateIfc.h"
+
+namespace DisplayAPI {
+
+void ListBoxPrivateIfc::setSelected(ListItemPrivateIfc*) {}
+
+} // namespace DisplayAPI
