@@ -1,0 +1,11 @@
+#include "utilities/CriticalSection.h"
+
+void CriticalSection::enter()
+{
+    mMutex.lock();
+}
+
+void CriticalSection::leave()
+{
+    mMutex.unlock();
+}

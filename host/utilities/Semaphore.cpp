@@ -1,0 +1,156 @@
+#include "utilities/Semaphore.h"
+
+#include "host/clock/Deadline.h"
+#include "host/utilities/Futex.h"
+#include "host/utilities/FutexLock.h"
+#include "host/utilities/Spin.h"
+#include "utilities/Threadable.h"
+
+#include <atomic>
+#include <bit>
+#include <cstdint>
+#include <map>
+#include <mutex>
+
+namespace {
+
+static_assert(std::endian::native == std::endian::little, "the permits are the low half and the futex word");
+
+/// Permits in the low half, sleeping threads in the high half: one store both gives a permit and tells whether
+/// somebody has to be woken, so that give() need not look at the object again. The taker may have destroyed it by then.
+class Permits {
+public:
+    explicit Permits(std::uint32_t permits) : mState(permits) {}
+
+    bool tryTake()
+    {
+        std::uint64_t state = mState.load(std::memory_order_relaxed);
+        while (low(state) > 0)
+            if (mState.compare_exchange_weak(state, state - 1, std::memory_order_acquire, std::memory_order_relaxed))
+                return true;
+        return false;
+    }
+
+    bool take(const host::Deadline& deadline)
+    {
+        if (tryTake())
+            return true;
+        if (deadline.isNow())
+            return false;
+        host::Spin::until([this] { return low(mState.load(std::memory_order_relaxed)) > 0; });
+        return tryTake() || sleepAndTake(deadline);
+    }
+
+    void give(std::uint32_t maximum)
+    {
+        std::uint64_t state = mState.load(std::memory_order_relaxed);
+        do {
+            if (low(state) >= maximum)
+                return;
+        } while (!mState.compare_exchange_weak(state, state + 1, std::memory_order_release, std::memory_order_relaxed));
+        if (state >= ONE_SLEEPER)
+            host::futexWake(&mState, 1);
+    }
+
+private:
+    static constexpr std::uint64_t ONE_SLEEPER = std::uint64_t{1} << 32;
+
+    static std::uint32_t low(std::uint64_t state) { return static_cast<std::uint32_t>(state); }
+
+    bool sleepAndTake(const host::Deadline& deadline)
+    {
+        mState.fetch_add(ONE_SLEEPER, std::memory_order_relaxed);
+        bool taken = tryTake();
+        for (bool inTime = true; !taken && inTime; taken = tryTake())
+            inTime = deadline.sleep(&mState, 0);
+        mState.fetch_sub(ONE_SLEEPER, std::memory_order_relaxed);
+        return taken;
+    }
+
+    std::atomic<std::uint64_t> mState;
+};
+
+/// What each thread holds of a semaphore that may be taken again.
+class Holders {
+public:
+    /// Whether the calling thread held a permit, and now holds it once more.
+    bool takeAgain()
+    {
+        std::lock_guard lock(mLock);
+        const auto holder = mDepths.find(Threadable::currentThreadId());
+        if (holder != mDepths.end())
+            ++holder->second;
+        return holder != mDepths.end();
+    }
+
+    void taken()
+    {
+        std::lock_guard lock(mLock);
+        mDepths.emplace(Threadable::currentThreadId(), 1);
+    }
+
+    /// Whether the calling thread goes on holding its permit.
+    bool keeps()
+    {
+        std::lock_guard lock(mLock);
+        const auto holder = mDepths.find(Threadable::currentThreadId());
+        if (holder == mDepths.end())
+            return false;
+        if (--holder->second > 0)
+            return true;
+        mDepths.erase(holder);
+        return false;
+    }
+
+private:
+    host::FutexLock mLock;
+    std::map<unsigned int, int> mDepths;
+};
+
+} // namespace
+
+struct Semaphore::Impl {
+    Impl(int permits, int maximum, bool holderMayTakeAgain)
+        : mPermits(static_cast<std::uint32_t>(permits)), mMaximum(static_cast<std::uint32_t>(maximum)),
+          mHolders(holderMayTakeAgain ? std::make_unique<Holders>() : nullptr)
+    {
+    }
+
+    bool take(int milliseconds)
+    {
+        if (mHolders && mHolders->takeAgain())
+            return true;
+        const bool taken = mPermits.tryTake() || mPermits.take(host::Deadline(milliseconds));
+        if (taken && mHolders)
+            mHolders->taken();
+        return taken;
+    }
+
+    void give()
+    {
+        if (!mHolders || !mHolders->keeps())
+            mPermits.give(mMaximum);
+    }
+
+private:
+    Permits mPermits;
+    const std::uint32_t mMaximum;
+    const std::unique_ptr<Holders> mHolders;
+};
+
+Semaphore::Semaphore(State state, int maximum, bool holderMayTakeAgain)
+    : mImpl(std::make_unique<Impl>(state == AVAILABLE ? maximum : 0, maximum, holderMayTakeAgain))
+{
+}
+
+Semaphore::~Semaphore() = default;
+
+bool Semaphore::take(int milliseconds)
+{
+    return mImpl->take(milliseconds);
+}
+
+void Semaphore::give()
+{
+    mImpl->give();
+}
