@@ -1,8 +1,11 @@
 #pragma once
 
+#include <atomic>
 #include <condition_variable>
 #include <cstdint>
+#include <limits>
 #include <mutex>
+#include <set>
 
 namespace host {
 
@@ -12,6 +15,8 @@ namespace host {
 /// Lock: a leaf, but that advancing broadcasts the main queue's condition (the queue's mutex is taken alone).
 class Clock {
 public:
+    static constexpr std::int64_t NEVER = std::numeric_limits<std::int64_t>::max();
+
     static Clock& instance();
 
     /// Milliseconds since some moment in the past; never goes back.
@@ -24,7 +29,9 @@ public:
     bool isVirtual() const;
 
     /// Moves the virtual clock, from one due time to the next so that sleepers and timers run in order, and wakes the
-    /// GUI loop. Negative values are ignored, and so is the call while the clock is real.
+    /// GUI loop. At each stop the loop becomes idle and the sleepers that were woken go back to sleep, end or have used
+    /// up some real time, before the clock moves on.
+    /// Negative values are ignored, and so is the call while the clock is real.
     void advance(std::int64_t ms);
 
     /// Sleeps on this clock. Returns early with false when `stop` (may be null) becomes true; look at wakeSleepers().
@@ -39,11 +46,33 @@ public:
         mMoved.notify_all();
     }
 
+    /// Threads that sleep on this clock now.
+    int sleepers() const;
+
+    /// When the toolkit's next timer is due; the toolkit says so each time that it changes.
+    void setTimerDue(std::int64_t due);
+    std::int64_t timerDue() const;
+
 private:
+    class Wakefulness;
+
+    Clock();
+
+    bool sleepVirtual(std::unique_lock<std::mutex>& lock, std::int64_t ms, const bool* stop);
+    std::int64_t nextStop(std::int64_t end) const;
+    void moveTo(std::int64_t moment);
+    void letOthersRun();
+    void fellAsleep(std::uint64_t stopNumber);
+
     mutable std::mutex mMutex;
     std::condition_variable mMoved;
-    bool mVirtual = false;
-    std::int64_t mVirtualNow = 0;
+    std::condition_variable mSettled;
+    std::atomic<bool> mVirtual{false};
+    std::atomic<std::int64_t> mVirtualNow{0};
+    std::atomic<std::int64_t> mTimerDue{NEVER};
+    std::multiset<std::int64_t> mSleeperDues;
+    std::uint64_t mStopNumber = 0; ///< counts the stops of the virtual clock
+    int mAwake = 0;                ///< sleepers woken at this stop that still run
 };
 
 } // namespace host

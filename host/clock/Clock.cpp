@@ -1,0 +1,184 @@
+#include "host/clock/Clock.h"
+
+#include "host/toolkit/Loop.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstdlib>
+#include <string_view>
+#include <time.h>
+
+namespace host {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+/// How long the virtual clock waits for a woken sleeper, or a busy loop, before it moves on without it.
+constexpr std::chrono::milliseconds PATIENCE = 500ms;
+
+std::int64_t realNow()
+{
+    timespec now;
+    clock_gettime(CLOCK_MONOTONIC, &now);
+    return now.tv_sec * 1000LL + now.tv_nsec / 1'000'000;
+}
+
+} // namespace
+
+/// Knows of the calling thread whether the virtual clock has woken it and it has not gone back to sleep. A thread that
+/// ends counts as asleep.
+class Clock::Wakefulness {
+public:
+    ~Wakefulness() { sleepAgain(); }
+
+    void wokenAt(std::uint64_t stopNumber) { mStopNumber = stopNumber; }
+
+    void sleepAgain()
+    {
+        if (mStopNumber == 0)
+            return;
+        std::lock_guard lock(instance().mMutex);
+        instance().fellAsleep(mStopNumber);
+        mStopNumber = 0;
+    }
+
+    static Wakefulness& ofThisThread()
+    {
+        thread_local Wakefulness wakefulness;
+        return wakefulness;
+    }
+
+private:
+    std::uint64_t mStopNumber = 0;
+};
+
+Clock& Clock::instance()
+{
+    static Clock* const clock = new Clock;
+    return *clock;
+}
+
+Clock::Clock()
+{
+    const char* wanted = std::getenv("DISPLAYAPI_CLOCK");
+    mVirtual = wanted && std::string_view(wanted) == "virtual";
+}
+
+std::int64_t Clock::now() const
+{
+    return mVirtual ? mVirtualNow.load() : realNow();
+}
+
+void Clock::makeVirtual()
+{
+    std::lock_guard lock(mMutex);
+    if (!mVirtual)
+        mVirtualNow = realNow();
+    mVirtual = true;
+}
+
+void Clock::makeReal()
+{
+    wakeSleepers([this] { mVirtual = false; });
+}
+
+bool Clock::isVirtual() const
+{
+    return mVirtual;
+}
+
+int Clock::sleepers() const
+{
+    std::lock_guard lock(mMutex);
+    return static_cast<int>(mSleeperDues.size());
+}
+
+void Clock::setTimerDue(std::int64_t due)
+{
+    mTimerDue = due;
+}
+
+std::int64_t Clock::timerDue() const
+{
+    return mTimerDue;
+}
+
+void Clock::advance(std::int64_t ms)
+{
+    if (!mVirtual || ms < 0)
+        return;
+    Wakefulness::ofThisThread().sleepAgain();
+    letOthersRun();
+    const std::int64_t end = now() + ms;
+    while (now() < end) {
+        moveTo(nextStop(end));
+        letOthersRun();
+    }
+}
+
+/// Due times that have passed already belong to a loop that does not run: they do not hold the clock up.
+std::int64_t Clock::nextStop(std::int64_t end) const
+{
+    std::lock_guard lock(mMutex);
+    std::int64_t stop = end;
+    if (mTimerDue > mVirtualNow)
+        stop = std::min<std::int64_t>(stop, mTimerDue);
+    if (const auto due = mSleeperDues.upper_bound(mVirtualNow); due != mSleeperDues.end())
+        stop = std::min(stop, *due);
+    return stop;
+}
+
+void Clock::moveTo(std::int64_t moment)
+{
+    std::lock_guard lock(mMutex);
+    mVirtualNow = moment;
+    ++mStopNumber;
+    const auto firstStillAsleep = mSleeperDues.upper_bound(moment);
+    mAwake = static_cast<int>(std::distance(mSleeperDues.begin(), firstStillAsleep));
+    mSleeperDues.erase(mSleeperDues.begin(), firstStillAsleep);
+    mMoved.notify_all();
+}
+
+void Clock::letOthersRun()
+{
+    Loop::waitUntilIdle(PATIENCE);
+    std::unique_lock lock(mMutex);
+    if (mAwake == 0)
+        return;
+    mSettled.wait_for(lock, PATIENCE, [this] { return mAwake == 0; });
+    lock.unlock();
+    Loop::waitUntilIdle(PATIENCE);
+}
+
+void Clock::fellAsleep(std::uint64_t stopNumber)
+{
+    if (stopNumber == mStopNumber && --mAwake == 0)
+        mSettled.notify_all();
+}
+
+bool Clock::sleepFor(std::int64_t ms, const bool* stop)
+{
+    Wakefulness::ofThisThread().sleepAgain();
+    std::unique_lock lock(mMutex);
+    if (mVirtual)
+        return sleepVirtual(lock, ms, stop);
+    return !mMoved.wait_for(lock, std::chrono::milliseconds(ms), [stop] { return stop && *stop; });
+}
+
+bool Clock::sleepVirtual(std::unique_lock<std::mutex>& lock, std::int64_t ms, const bool* stop)
+{
+    const std::int64_t due = mVirtualNow + ms;
+    if (ms <= 0)
+        return !(stop && *stop);
+    mSleeperDues.insert(due);
+    mMoved.wait(lock, [&] { return mVirtualNow >= due || !mVirtual || (stop && *stop); });
+    if (mVirtualNow < due) {
+        mSleeperDues.erase(mSleeperDues.find(due));
+        return !(stop && *stop);
+    }
+    Wakefulness::ofThisThread().wokenAt(mStopNumber);
+    return true;
+}
+
+} // namespace host
