@@ -1,0 +1,39 @@
+#include "host/toolkit/Loop.h"
+
+#include "host/clock/Deadline.h"
+#include "host/toolkit/LoopStatus.h"
+#include "host/toolkit/MainQueue.h"
+#include "presentation/PRESCPresentationManager.h"
+#include "utilities/Threadable.h"
+
+namespace host {
+
+bool Loop::waitUntilIdle(std::chrono::milliseconds limit)
+{
+    LoopStatus& status = LoopStatus::instance();
+    if (!isRunning() || status.threadId == Threadable::currentThreadId())
+        return false;
+    const timespec deadline = realTimeAhead(limit.count());
+    QueueMutex mutex;
+    std::lock_guard lock(mutex);
+    ++status.watchers;
+    pthread_cond_broadcast(&gtPegMainQueue->condition);
+    int result = 0;
+    while (isRunning() && !status.isIdle() && result == 0)
+        result = pthread_cond_timedwait(&status.becameIdle, &gtPegMainQueue->mutex, &deadline);
+    --status.watchers;
+    return isRunning() && status.isIdle();
+}
+
+bool Loop::isRunning()
+{
+    return LoopStatus::instance().threadId != 0;
+}
+
+void Loop::quit()
+{
+    if (gpPresent)
+        MainQueue::push({PM_EXIT, 0, gpPresent});
+}
+
+} // namespace host

@@ -1,0 +1,29 @@
+#include "host/toolkit/LoopStatus.h"
+
+#include "host/clock/Clock.h"
+#include "host/toolkit/MainQueue.h"
+
+namespace host {
+
+LoopStatus& LoopStatus::instance()
+{
+    static LoopStatus* const status = new LoopStatus;
+    return *status;
+}
+
+LoopStatus::LoopStatus()
+{
+    pthread_condattr_t attributes;
+    pthread_condattr_init(&attributes);
+    pthread_condattr_setclock(&attributes, CLOCK_MONOTONIC);
+    pthread_cond_init(&becameIdle, &attributes);
+    pthread_condattr_destroy(&attributes);
+}
+
+bool LoopStatus::isIdle() const
+{
+    const Clock& clock = Clock::instance();
+    return restsWithoutWork && MainQueue::isEmpty() && clock.timerDue() > clock.now();
+}
+
+} // namespace host

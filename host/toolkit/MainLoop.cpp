@@ -1,0 +1,110 @@
+#include "host/toolkit/MainLoop.h"
+
+#include "host/clock/Clock.h"
+#include "host/clock/Deadline.h"
+#include "host/lcd/Lcd.h"
+#include "host/toolkit/LoopStatus.h"
+#include "host/toolkit/MainQueue.h"
+#include "host/utilities/Spin.h"
+#include "utilities/Threadable.h"
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+/// Milliseconds of real time until something is due that no message announces; NEVER where nothing is.
+std::int64_t untilDue()
+{
+    const Clock& clock = Clock::instance();
+    const std::int64_t timerDue = clock.timerDue();
+    std::int64_t wait = Clock::NEVER;
+    if (timerDue != Clock::NEVER)
+        wait = std::max<std::int64_t>(timerDue - clock.now(), 0);
+    if (clock.isVirtual() && wait > 0)
+        wait = Clock::NEVER;
+    return MainLoop::isPainted() ? wait : std::min<std::int64_t>(wait, Lcd::current()->untilFrameDue());
+}
+
+void publish(unsigned int threadId)
+{
+    LoopStatus& status = LoopStatus::instance();
+    QueueMutex mutex;
+    std::lock_guard lock(mutex);
+    status.threadId = threadId;
+    pthread_cond_broadcast(&status.becameIdle);
+}
+
+} // namespace
+
+MainLoop* MainLoop::gRun = nullptr;
+
+MainLoop::MainLoop()
+{
+    gRun = this;
+    publish(Threadable::currentThreadId());
+}
+
+MainLoop::~MainLoop()
+{
+    gRun = nullptr;
+    publish(0);
+}
+
+void MainLoop::end()
+{
+    if (gRun)
+        gRun->mEnded = true;
+}
+
+PegMessage* MainLoop::take()
+{
+    PegMessage* const message = MainQueue::take();
+    mMessagesInARow = message ? mMessagesInARow + 1 : 0;
+    return message;
+}
+
+bool MainLoop::isPainted()
+{
+    return !Lcd::current() || !Lcd::current()->isDirty();
+}
+
+void MainLoop::paintIfDue()
+{
+    if (isPainted())
+        return;
+    const bool somebodyWaits = LoopStatus::instance().watchers > 0 && MainQueue::isEmpty();
+    if (somebodyWaits || Lcd::current()->untilFrameDue() == 0)
+        Lcd::current()->paint();
+}
+
+void MainLoop::waitForWork()
+{
+    if (mEnded || Spin::until([] { return !MainQueue::isEmpty(); }))
+        return;
+    mDone.giveBack();
+    sleep();
+}
+
+void MainLoop::sleep()
+{
+    LoopStatus& status = LoopStatus::instance();
+    QueueMutex mutex;
+    std::lock_guard lock(mutex);
+    const std::int64_t wait = untilDue();
+    if (!MainQueue::isEmpty() || wait == 0 || (status.watchers > 0 && !isPainted()))
+        return;
+    status.restsWithoutWork = isPainted();
+    if (status.watchers > 0)
+        pthread_cond_broadcast(&status.becameIdle);
+    if (wait == Clock::NEVER) {
+        pthread_cond_wait(&gtPegMainQueue->condition, &gtPegMainQueue->mutex);
+    } else {
+        const timespec deadline = realTimeAhead(wait);
+        pthread_cond_timedwait(&gtPegMainQueue->condition, &gtPegMainQueue->mutex, &deadline);
+    }
+    status.restsWithoutWork = false;
+}
+
+} // namespace host

@@ -1,0 +1,131 @@
+#include "host/toolkit/MainQueue.h"
+
+#include "host/toolkit/MessagePool.h"
+
+PegMainQueue* gtPegMainQueue = nullptr;
+
+namespace host {
+
+namespace {
+
+void initialise(pthread_mutex_t& mutex)
+{
+    pthread_mutexattr_t attributes;
+    pthread_mutexattr_init(&attributes);
+    pthread_mutexattr_settype(&attributes, PTHREAD_MUTEX_ADAPTIVE_NP);
+    pthread_mutex_init(&mutex, &attributes);
+    pthread_mutexattr_destroy(&attributes);
+}
+
+void initialise(pthread_cond_t& condition)
+{
+    pthread_condattr_t attributes;
+    pthread_condattr_init(&attributes);
+    pthread_condattr_setclock(&attributes, CLOCK_MONOTONIC);
+    pthread_cond_init(&condition, &attributes);
+    pthread_condattr_destroy(&attributes);
+}
+
+void addToCount(int change)
+{
+    std::atomic<int>& count = gtPegMainQueue->count;
+    count.store(count.load(std::memory_order_relaxed) + change, std::memory_order_relaxed);
+}
+
+void append(PegMessage* message)
+{
+    PegMainQueue& queue = *gtPegMainQueue;
+    (queue.tail ? queue.tail->Next : queue.head) = message;
+    queue.tail = message;
+    addToCount(1);
+    pthread_cond_broadcast(&queue.condition);
+}
+
+bool isRequest(const PegMessage& message)
+{
+    return message.wType == PM_DISPLAY_REQUEST || message.wType == PM_WIDGET_REQUEST;
+}
+
+/// Takes out the messages that `unwanted` names.
+template <typename Unwanted>
+void removeIf(Unwanted unwanted)
+{
+    DoneMessages removed;
+    QueueMutex mutex;
+    std::lock_guard lock(mutex);
+    PegMainQueue& queue = *gtPegMainQueue;
+    PegMessage* previous = nullptr;
+    for (PegMessage* message = queue.head; message;) {
+        PegMessage* const next = message->Next;
+        if (unwanted(*message)) {
+            (previous ? previous->Next : queue.head) = next;
+            addToCount(-1);
+            removed.add(message);
+        } else {
+            previous = message;
+        }
+        message = next;
+    }
+    queue.tail = previous;
+}
+
+} // namespace
+
+void MainQueue::create()
+{
+    if (gtPegMainQueue)
+        return;
+    auto* const queue = new PegMainQueue;
+    initialise(queue->mutex);
+    initialise(queue->condition);
+    gtPegMainQueue = queue;
+}
+
+bool MainQueue::push(const PegMessage& message)
+{
+    PegMessage* const record = gtPegMainQueue ? MessagePool::take() : nullptr;
+    if (!record)
+        return false;
+    *record = message;
+    record->Next = nullptr;
+    QueueMutex mutex;
+    std::lock_guard lock(mutex);
+    append(record);
+    return true;
+}
+
+PegMessage* MainQueue::take()
+{
+    if (isEmpty())
+        return nullptr;
+    QueueMutex mutex;
+    std::lock_guard lock(mutex);
+    PegMainQueue& queue = *gtPegMainQueue;
+    PegMessage* const message = queue.head;
+    if (!message)
+        return nullptr;
+    queue.head = message->Next;
+    if (!queue.head)
+        queue.tail = nullptr;
+    addToCount(-1);
+    return message;
+}
+
+void MainQueue::dropMessagesTo(const PegThing* thing)
+{
+    if (!gtPegMainQueue || isEmpty())
+        return;
+    removeIf([thing](PegMessage& message) {
+        if (message.pTarget != thing)
+            return false;
+        message.pTarget = nullptr;
+        return !isRequest(message);
+    });
+}
+
+void MainQueue::dropMessages()
+{
+    removeIf([](const PegMessage& message) { return !isRequest(message); });
+}
+
+} // namespace host
