@@ -37,6 +37,7 @@ private:
     void childAdded(PegThing* child, bool redraw);
     void childRemoved(PegThing* child, bool redraw);
     void forget(PegThing* thing);
+    static void markBranch(PegThing* thing, bool current);
 
     PegThing* mFocus = nullptr;
     PegThing* mPending = nullptr;
