@@ -2,6 +2,7 @@
 
 #include "toolkit/PegMessage.h"
 
+#include <atomic>
 #include <optional>
 #include <string_view>
 
@@ -21,10 +22,20 @@ public:
     bool press(PegKey key);
     bool release(PegKey key);
 
-    /// Called by the loop when it has taken a key message off the queue.
+    /// Called by the loop when it has handled a key message.
     void handled();
 
+    /// Called by the toolkit when it has started, and before it stops.
+    void connect();
+    void disconnect();
+
     static constexpr int MAX_PENDING = 64;
+
+private:
+    bool send(std::uint16_t type, PegKey key);
+
+    static constexpr int DISCONNECTED = MAX_PENDING;
+    std::atomic<int> mPending{DISCONNECTED}; ///< full while the toolkit does not run
 };
 
 } // namespace host

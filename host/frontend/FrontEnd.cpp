@@ -1,0 +1,85 @@
+#include "host/frontend/FrontEnd.h"
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <dlfcn.h>
+#include <filesystem>
+#include <memory>
+#include <string_view>
+
+namespace host {
+
+namespace {
+
+struct Kind {
+    std::string_view name;
+    const char* file;
+};
+
+constexpr std::array<Kind, 2> KINDS{{
+    {"web", "libdisplayapi_web.so"},
+    {"script", "libdisplayapi_script.so"},
+}};
+
+std::unique_ptr<FrontEnd> gFrontEnd;
+
+[[noreturn]] void giveUp(const std::string& reason)
+{
+    std::fprintf(stderr, "%s\n", reason.c_str());
+    std::fflush(stderr);
+    std::_Exit(EXIT_FAILURE);
+}
+
+/// The path of a file that lies beside this shared object.
+std::string besideTheHost(const char* file)
+{
+    Dl_info info;
+    if (dladdr(reinterpret_cast<void*>(&besideTheHost), &info) == 0)
+        return file;
+    return std::filesystem::path(info.dli_fname).replace_filename(file).string();
+}
+
+/// The shared object stays loaded: its threads may still be on their way out.
+std::unique_ptr<FrontEnd> load(const std::string& path)
+{
+    void* const object = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
+    if (!object)
+        giveUp(std::string("The front end cannot be loaded: ") + dlerror());
+    const auto create = reinterpret_cast<CreateFrontEnd>(dlsym(object, "displayapiCreateFrontEnd"));
+    if (!create)
+        giveUp(path + " is not a front end");
+    return std::unique_ptr<FrontEnd>(create());
+}
+
+void start(const Kind& kind, const std::string& options)
+{
+    gFrontEnd = load(besideTheHost(kind.file));
+    const std::string error = gFrontEnd->start(options);
+    if (!error.empty())
+        giveUp(error);
+}
+
+} // namespace
+
+void startFrontEnd()
+{
+    const char* const variable = std::getenv("DISPLAYAPI_HOST");
+    const std::string wanted = variable ? variable : "";
+    if (wanted.empty() || wanted == "headless")
+        return;
+    const std::size_t colon = wanted.find(':');
+    for (const Kind& kind : KINDS)
+        if (colon != std::string::npos && kind.name == std::string_view(wanted).substr(0, colon))
+            return start(kind, wanted.substr(colon + 1));
+    giveUp("DISPLAYAPI_HOST is '" + wanted + "'; it may be headless, web:PORT or script:FILE");
+}
+
+void stopFrontEnd()
+{
+    if (gFrontEnd)
+        gFrontEnd->stop();
+    gFrontEnd.reset();
+}
+
+} // namespace host

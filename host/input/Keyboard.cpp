@@ -1,0 +1,76 @@
+#include "host/input/Keyboard.h"
+
+#include "host/toolkit/MainQueue.h"
+
+#include <array>
+#include <utility>
+
+namespace host {
+
+namespace {
+
+constexpr std::array<std::pair<std::string_view, PegKey>, 10> NAMED_KEYS{{
+    {"up", PK_UP},
+    {"down", PK_DOWN},
+    {"left", PK_LEFT},
+    {"right", PK_RIGHT},
+    {"ok", PK_OK},
+    {"star", PK_STAR},
+    {"hash", PK_HASH},
+    {"volume-up", PK_VOLUME_UP},
+    {"volume-down", PK_VOLUME_DOWN},
+    {"hook", PK_HOOK},
+}};
+
+} // namespace
+
+Keyboard& Keyboard::instance()
+{
+    static Keyboard keyboard;
+    return keyboard;
+}
+
+std::optional<PegKey> Keyboard::keyFromName(std::string_view name)
+{
+    if (name.size() == 1 && name[0] >= '0' && name[0] <= '9')
+        return static_cast<PegKey>(name[0]);
+    for (const auto& [known, key] : NAMED_KEYS)
+        if (known == name)
+            return key;
+    return std::nullopt;
+}
+
+bool Keyboard::press(PegKey key)
+{
+    return send(PM_KEY, key);
+}
+
+bool Keyboard::release(PegKey key)
+{
+    return send(PM_KEYRELEASE, key);
+}
+
+bool Keyboard::send(std::uint16_t type, PegKey key)
+{
+    if (mPending.fetch_add(1) < MAX_PENDING && MainQueue::push({type, key}))
+        return true;
+    --mPending;
+    return false;
+}
+
+void Keyboard::handled()
+{
+    --mPending;
+}
+
+void Keyboard::connect()
+{
+    mPending = 0;
+}
+
+void Keyboard::disconnect()
+{
+    mPending = DISCONNECTED;
+}
+
+} // namespace host
