@@ -13,8 +13,11 @@ class PegPainter;
 
 namespace host {
 
-/// What stands where on the panel, as text. `text` is UTF-8 and whole, also where only a part of it fits (`cut`).
+/// What stands where on the panel, as text. `text` is UTF-8 and whole, also where only a part of it fits (`cut`); of
+/// a text longer than MAX_LENGTH characters it is the beginning.
 struct TextRun {
+    static constexpr std::size_t MAX_LENGTH = 4096;
+
     PegRect area;
     std::string text;
     bool inverted = false;

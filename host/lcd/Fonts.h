@@ -1,0 +1,45 @@
+#pragma once
+
+#include <array>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+struct _PangoLayout;
+
+namespace host {
+
+/// The looks of texts: DejaVu Sans Condensed for the graphic panels, Terminus 8 x 16 for the panel of 24 characters a
+/// line.
+enum class Font : unsigned char { TEXT, TEXT_BOLD, FIXED, FIXED_BOLD };
+
+/// The fonts of the panel: only the project's own, whatever else the machine has, so that pictures are the same
+/// everywhere. Nothing is loaded before the first text; Unifont not before a text needs it.
+///
+/// A missing font is reported once on stderr and replaced by what there is.
+class Fonts {
+public:
+    /// Where Debian's packages put them.
+    static const std::vector<std::string>& debianFolders();
+
+    explicit Fonts(std::vector<std::string> folders = debianFolders());
+    ~Fonts();
+
+    /// A layout set up for `text`, without antialiasing, on one line. The caller sets text and width and does not keep
+    /// it. Null where there is no font at all.
+    _PangoLayout* layoutFor(Font font, std::u16string_view text);
+
+private:
+    struct Set;
+
+    Set& load(std::unique_ptr<Set>& set, bool complete);
+    void reportMissing(std::size_t face);
+
+    std::vector<std::string> mFolders;
+    std::unique_ptr<Set> mLook;
+    std::unique_ptr<Set> mComplete;
+    std::array<bool, 5> mReported{};
+};
+
+} // namespace host

@@ -1,0 +1,46 @@
+#include "host/lcd/Icons.h"
+
+namespace host::icons {
+
+// clang-format off
+const Icon ARROW_UP{{
+    "...#...",
+    "..###..",
+    ".#####.",
+    "#######"}};
+
+const Icon ARROW_DOWN{{
+    "#######",
+    ".#####.",
+    "..###..",
+    "...#..."}};
+
+const Icon BACK{{
+    "...#",
+    "..##",
+    ".###",
+    "####",
+    ".###",
+    "..##",
+    "...#"}};
+
+const Icon RADIO{{
+    "..###..",
+    ".#...#.",
+    "#.....#",
+    "#.....#",
+    "#.....#",
+    ".#...#.",
+    "..###.."}};
+
+const Icon RADIO_CHOSEN{{
+    "..###..",
+    ".#...#.",
+    "#.###.#",
+    "#.###.#",
+    "#.###.#",
+    ".#...#.",
+    "..###.."}};
+// clang-format on
+
+} // namespace host::icons

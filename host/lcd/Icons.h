@@ -1,0 +1,34 @@
+#pragma once
+
+#include <array>
+#include <string_view>
+
+namespace host {
+
+/// A small picture as text: '#' is ink, rows are equally long.
+struct Icon {
+    static constexpr int MAX_HEIGHT = 9;
+
+    std::array<std::string_view, MAX_HEIGHT> rows{};
+
+    constexpr int width() const { return static_cast<int>(rows[0].size()); }
+    constexpr int height() const
+    {
+        int count = 0;
+        while (count < MAX_HEIGHT && !rows[static_cast<std::size_t>(count)].empty())
+            ++count;
+        return count;
+    }
+};
+
+namespace icons {
+
+extern const Icon ARROW_UP;
+extern const Icon ARROW_DOWN;
+extern const Icon BACK;
+extern const Icon RADIO;
+extern const Icon RADIO_CHOSEN;
+
+} // namespace icons
+
+} // namespace host

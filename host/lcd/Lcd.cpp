@@ -1,0 +1,139 @@
+#include "host/lcd/Lcd.h"
+
+#include "host/lcd/DirtyArea.h"
+#include "host/lcd/FrameBuffer.h"
+#include "host/lcd/Geometry.h"
+#include "host/lcd/Painter.h"
+#include "host/lcd/TextMap.h"
+#include "host/lcd/TextRenderer.h"
+#include "presentation/PRESCPresentationManager.h"
+
+#include <atomic>
+#include <chrono>
+#include <mutex>
+#include <utility>
+
+namespace host {
+
+namespace {
+
+using Time = std::chrono::steady_clock;
+
+constexpr std::chrono::milliseconds FRAME_INTERVAL{16};
+
+std::atomic<Lcd*> gCurrent{nullptr};
+
+void drawTree(PegThing& thing, const PegPainter& painter)
+{
+    PegPainter own = painter.clippedTo(thing.Area());
+    if (isEmpty(own.clip()))
+        return;
+    thing.Draw(own);
+    for (PegThing* child = thing.First(); child != nullptr; child = child->NextSibling())
+        drawTree(*child, own);
+}
+
+} // namespace
+
+struct Lcd::Impl {
+    Impl(int width, int height) : buffer(width, height) {}
+
+    void paintArea(const PegRect& area);
+
+    DirtyArea dirty;
+    Time::time_point lastFrame;
+
+    mutable std::mutex mutex; ///< guards what follows
+    FrameBuffer buffer;
+    TextMap texts;
+    std::uint64_t frame = 0;
+    std::shared_ptr<const std::function<void()>> listener;
+};
+
+void Lcd::Impl::paintArea(const PegRect& area)
+{
+    PegPainter painter(buffer, texts, TextRenderer::shared(), area);
+    texts.forget(area);
+    painter.fill(area, Level::BARE);
+    if (gpPresent == nullptr)
+        return;
+    gpPresent->Draw(painter);
+    for (PegThing* child = gpPresent->First(); child != nullptr; child = child->NextSibling())
+        drawTree(*child, painter);
+}
+
+Lcd::Lcd(int width, int height) : mImpl(std::make_unique<Impl>(width, height)), mWidth(width), mHeight(height)
+{
+    gCurrent = this;
+}
+
+Lcd::~Lcd()
+{
+    Lcd* self = this;
+    gCurrent.compare_exchange_strong(self, nullptr);
+}
+
+Lcd* Lcd::current()
+{
+    return gCurrent;
+}
+
+void Lcd::Invalidate(PegThing* thing)
+{
+    if (thing != nullptr && thing->StatusIs(PSF_VISIBLE))
+        invalidate(thing->Area());
+}
+
+void Lcd::Update()
+{
+    if (untilFrameDue() == 0)
+        paint();
+}
+
+void Lcd::invalidate(const PegRect& area)
+{
+    mImpl->dirty.add(intersection(area, rectAt(0, 0, mWidth, mHeight)));
+}
+
+bool Lcd::isDirty() const
+{
+    return !mImpl->dirty.isEmpty();
+}
+
+int Lcd::untilFrameDue() const
+{
+    const auto left = std::chrono::ceil<std::chrono::milliseconds>(mImpl->lastFrame + FRAME_INTERVAL - Time::now());
+    return std::max(0, static_cast<int>(left.count()));
+}
+
+void Lcd::paint()
+{
+    if (!isDirty())
+        return;
+    std::shared_ptr<const std::function<void()>> listener;
+    {
+        std::lock_guard lock(mImpl->mutex);
+        for (const PegRect& area : mImpl->dirty.take())
+            mImpl->paintArea(area);
+        ++mImpl->frame;
+        listener = mImpl->listener;
+    }
+    mImpl->lastFrame = Time::now();
+    if (listener)
+        (*listener)();
+}
+
+Picture Lcd::picture() const
+{
+    std::lock_guard lock(mImpl->mutex);
+    return {mWidth, mHeight, mImpl->buffer.pixels(), mImpl->texts.sorted(), mImpl->frame};
+}
+
+void Lcd::setFrameListener(std::function<void()> listener)
+{
+    auto held = listener ? std::make_shared<const std::function<void()>>(std::move(listener)) : nullptr;
+    std::lock_guard lock(mImpl->mutex);
+    mImpl->listener.swap(held);
+}
+
+} // namespace host

@@ -1,0 +1,131 @@
+#include "host/lcd/Painter.h"
+
+#include "host/lcd/Geometry.h"
+#include "host/lcd/TextMap.h"
+#include "host/lcd/TextRenderer.h"
+#include "utilities/ICC.h"
+
+#include <cstring>
+
+using namespace host;
+
+namespace {
+
+/// How far the base line lies above the bottom of a line of text, and how high such a line is.
+struct LineBox {
+    int height;
+    int descent;
+};
+
+LineBox lineBox(Font font)
+{
+    const bool fixed = font == Font::FIXED || font == Font::FIXED_BOLD;
+    return fixed ? LineBox{16, 4} : LineBox{14, 2};
+}
+
+int baseLine(Font font, const PegRect& cell)
+{
+    const LineBox box = lineBox(font);
+    return cell.top + (heightOf(cell) - box.height) / 2 + box.height - box.descent;
+}
+
+int startOf(Align align, const PegRect& cell, int width)
+{
+    const int spare = widthOf(cell) - width;
+    switch (align) {
+    case Align::LEFT:
+        return cell.left;
+    case Align::CENTRE:
+        return cell.left + spare / 2;
+    case Align::RIGHT:
+        return cell.left + spare;
+    }
+    return cell.left;
+}
+
+std::string wholeText(const PegString& text)
+{
+    if (text.length() <= TextRun::MAX_LENGTH)
+        return ICC::fromUNICODEtoUTF8(text);
+    return ICC::fromUNICODEtoUTF8(PegString(text.data(), TextRun::MAX_LENGTH));
+}
+
+} // namespace
+
+PegPainter::PegPainter(FrameBuffer& buffer, TextMap& texts, TextRenderer& renderer, const PegRect& clip)
+    : mBuffer(buffer), mTexts(texts), mRenderer(renderer),
+      mClip(intersection(clip, rectAt(0, 0, buffer.width(), buffer.height())))
+{
+}
+
+PegPainter PegPainter::clippedTo(const PegRect& area) const
+{
+    return {mBuffer, mTexts, mRenderer, intersection(mClip, area)};
+}
+
+bool PegPainter::isClippedOut(const PegRect& area) const
+{
+    return !overlap(mClip, area);
+}
+
+void PegPainter::fill(const PegRect& area, Level level)
+{
+    mTexts.cover(area, mClip);
+    fillClipped(area, level);
+}
+
+void PegPainter::frame(const PegRect& area, Level level)
+{
+    fillClipped({area.left, area.top, area.right, area.top}, level);
+    fillClipped({area.left, area.bottom, area.right, area.bottom}, level);
+    fillClipped({area.left, area.top, area.left, area.bottom}, level);
+    fillClipped({area.right, area.top, area.right, area.bottom}, level);
+}
+
+void PegPainter::fillClipped(const PegRect& area, Level level)
+{
+    const PegRect part = intersection(area, mClip);
+    if (isEmpty(part))
+        return;
+    for (int y = part.top; y <= part.bottom; ++y)
+        std::memset(mBuffer.at(part.left, y), static_cast<int>(level), static_cast<std::size_t>(widthOf(part)));
+}
+
+void PegPainter::icon(const Icon& icon, const PegRect& cell, Level level)
+{
+    const int left = cell.left + (widthOf(cell) - icon.width()) / 2;
+    const int top = cell.top + (heightOf(cell) - icon.height()) / 2;
+    for (int y = 0; y < icon.height(); ++y) {
+        for (int x = 0; x < icon.width(); ++x) {
+            if (icon.rows[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)] == '#')
+                fillClipped(rectAt(left + x, top + y, 1, 1), level);
+        }
+    }
+}
+
+void PegPainter::text(const PegRect& cell, const PegString& text, const TextLook& look)
+{
+    if (text.empty() || isClippedOut(cell))
+        return;
+    const TextMask& mask = mRenderer.mask(look.font, text, widthOf(cell));
+    const PegRect box = rectAt(startOf(look.align, cell, mask.width), baseLine(look.font, cell) - TextMask::ASCENT,
+                               mask.width, TextMask::HEIGHT);
+    const PegRect visible = intersection(box, cell);
+    if (isClippedOut(visible))
+        return;
+    stencil(mask.ink.data(), box, look.inverted ? Level::BARE : Level::DARK, cell);
+    mTexts.add({visible, wholeText(text), look.inverted, mask.cut || text.length() > TextRun::MAX_LENGTH});
+}
+
+void PegPainter::stencil(const unsigned char* ink, const PegRect& box, Level level, const PegRect& limits)
+{
+    const PegRect part = intersection(intersection(box, limits), mClip);
+    for (int y = part.top; y <= part.bottom; ++y) {
+        const unsigned char* from = ink + (y - box.top) * widthOf(box) + (part.left - box.left);
+        std::uint8_t* to = mBuffer.at(part.left, y);
+        for (int x = part.left; x <= part.right; ++x, ++from, ++to) {
+            if (*from != 0)
+                *to = static_cast<std::uint8_t>(level);
+        }
+    }
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "host/lcd/Fonts.h"
+#include "host/lcd/FrameBuffer.h"
+#include "host/lcd/Icons.h"
+#include "toolkit/PString.h"
+#include "toolkit/PegRect.h"
+
+namespace host {
+class TextMap;
+class TextRenderer;
+
+enum class Align { LEFT, CENTRE, RIGHT };
+
+struct TextLook {
+    Font font = Font::TEXT;
+    Align align = Align::LEFT;
+    bool inverted = false; ///< bare on dark; whoever paints the text has filled the area dark
+};
+} // namespace host
+
+/// Paints on the panel, inside its clip only. Made by the panel for the time of a frame.
+class PegPainter {
+public:
+    PegPainter(host::FrameBuffer& buffer, host::TextMap& texts, host::TextRenderer& renderer, const PegRect& clip);
+
+    /// The same, further clipped.
+    PegPainter clippedTo(const PegRect& area) const;
+
+    const PegRect& clip() const { return mClip; }
+    bool isClippedOut(const PegRect& area) const;
+
+    /// Covers what is below, texts included.
+    void fill(const PegRect& area, host::Level level);
+
+    /// A line one pixel wide just inside the edges of `area`.
+    void frame(const PegRect& area, host::Level level);
+
+    /// In the middle of `cell`.
+    void icon(const host::Icon& icon, const PegRect& cell, host::Level level);
+
+    /// On one line, in the vertical middle of `cell`; ends in an ellipsis where it is too long for it.
+    void text(const PegRect& cell, const PegString& text, const host::TextLook& look);
+
+private:
+    void fillClipped(const PegRect& area, host::Level level);
+    void stencil(const unsigned char* ink, const PegRect& box, host::Level level, const PegRect& limits);
+
+    host::FrameBuffer& mBuffer;
+    host::TextMap& mTexts;
+    host::TextRenderer& mRenderer;
+    PegRect mClip;
+};
