@@ -28,7 +28,8 @@ public:
     KestrelListBoxItem* itemAt(int row) const; ///< null outside 0 to numItems() - 1
     int rowOf(const KestrelListBoxItem* item) const; ///< -1 where it is not in the list
 
-    /// Null is ignored; a row below 0 inserts at the front, one past the end appends.
+    /// Null is ignored; a row below 0 inserts at the front, one past the end appends. An item that already stands in a
+    /// list is taken out of that first.
     void append(KestrelListBoxItem* item);
     void insert(KestrelListBoxItem* item, int row);
 
@@ -44,6 +45,12 @@ public:
 
     /// Makes a row current and scrolls it into view; rows outside the list are ignored. The target is not told.
     void setCurrentRow(int row);
+
+    /// The first row in view.
+    int topRow() const;
+
+    /// Where the row stands on the screen; empty where it is not in view.
+    PegRect rowArea(int row) const;
 
     void setTitle(PegString title);
     const PegString& title() const;

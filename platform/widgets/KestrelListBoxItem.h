@@ -2,7 +2,10 @@
 
 #include "toolkit/PString.h"
 
-/// One row of a list box: a text. GUI thread only.
+class KestrelListBox;
+
+/// One row of a list box: a text. It stands in one list at most, and knows it: a row that is destroyed while it stands
+/// in a list takes itself out. GUI thread only.
 class KestrelListBoxItem {
 public:
     explicit KestrelListBoxItem(PegString text);
@@ -12,7 +15,7 @@ public:
 
     const PegString& DataGet() const { return mText; }
 
-    /// Changes the text; the list that shows the row has to be told with KestrelListBox::itemChanged().
+    /// Changes the text. The list that the row stands in paints it again.
     void DataSet(PegString text);
 
     /// Whether the row carries the mark of the chosen one in an exclusive list.
@@ -20,6 +23,9 @@ public:
     void setMarked(bool marked) { mMarked = marked; }
 
 private:
+    friend class KestrelListBox;
+
     PegString mText;
+    KestrelListBox* mList = nullptr;
     bool mMarked = false;
 };

@@ -15,6 +15,8 @@ public:
     SystemWindow();
     ~SystemWindow() override;
 
+    void Draw(PegPainter& painter) override;
+
     /// Not owned; null reports to nobody.
     void setEventHandler(GUIEventIfc* handler);
 
@@ -37,6 +39,8 @@ public:
     void stopTimer();
 
 private:
+    void place();
+
     GUIEventIfc* mHandler = nullptr;
     std::array<std::string, MAX_LINES> mLines;
     int mSize = 0;

@@ -1,0 +1,118 @@
+#include "widgets/KestrelApplication.h"
+
+#include "toolkit/PegThing.h"
+
+#include <algorithm>
+
+namespace {
+
+constinit std::atomic<KestrelApplication*> gCurrent{nullptr};
+
+/// Made when the host is loaded, before main(). Never destroyed: threads may still ask it while the process ends.
+[[maybe_unused]] const KestrelApplication* const gPlatformApplication = [] {
+    auto* application = new KestrelApplication;
+    KestrelApplication::setCurrentApplication(application);
+    return application;
+}();
+
+} // namespace
+
+KestrelApplication::KestrelApplication() = default;
+
+KestrelApplication::~KestrelApplication()
+{
+    KestrelApplication* self = this;
+    gCurrent.compare_exchange_strong(self, nullptr);
+}
+
+KestrelApplication* KestrelApplication::getCurrentApplication()
+{
+    return gCurrent;
+}
+
+void KestrelApplication::setCurrentApplication(KestrelApplication* application)
+{
+    gCurrent = application;
+}
+
+int KestrelApplication::getHardwareVariant(const KestrelApplication* application)
+{
+    return application == nullptr ? 1 : application->getHardwareVariant();
+}
+
+int KestrelApplication::getHardwareVariant() const
+{
+    return mHardwareVariant;
+}
+
+void KestrelApplication::setHardwareVariant(int variant)
+{
+    mHardwareVariant = variant;
+}
+
+int KestrelApplication::getSoftwareType() const
+{
+    return mSoftwareType;
+}
+
+void KestrelApplication::setSoftwareType(int type)
+{
+    mSoftwareType = type;
+}
+
+void KestrelApplication::setLocale(const PegString& locale)
+{
+    mLocale = locale;
+    notifyObservers();
+}
+
+void KestrelApplication::setDateFormat(const PegString& format)
+{
+    mDateFormat = format;
+    notifyObservers();
+}
+
+void KestrelApplication::setTimeFormat(const PegString& format)
+{
+    mTimeFormat = format;
+    notifyObservers();
+}
+
+const PegString& KestrelApplication::getLocale() const
+{
+    return mLocale;
+}
+
+const PegString& KestrelApplication::getDateFormat() const
+{
+    return mDateFormat;
+}
+
+const PegString& KestrelApplication::getTimeFormat() const
+{
+    return mTimeFormat;
+}
+
+void KestrelApplication::addObserver(PegThing* observer)
+{
+    if (observer != nullptr && std::find(mObservers.begin(), mObservers.end(), observer) == mObservers.end())
+        mObservers.push_back(observer);
+}
+
+void KestrelApplication::removeObserver(PegThing* observer)
+{
+    std::erase(mObservers, observer);
+}
+
+void KestrelApplication::notifyObservers()
+{
+    PegMessage message;
+    message.wType = PM_APPLICATION_CHANGED;
+    message.pData = &mLocale;
+    for (PegThing* observer : std::vector<PegThing*>(mObservers)) {
+        if (std::find(mObservers.begin(), mObservers.end(), observer) == mObservers.end())
+            continue;
+        message.pTarget = observer;
+        observer->Message(message);
+    }
+}

@@ -1,0 +1,20 @@
+#include "widgets/KestrelListBoxItem.h"
+
+#include "widgets/KestrelListBox.h"
+
+#include <utility>
+
+KestrelListBoxItem::KestrelListBoxItem(PegString text) : mText(std::move(text)) {}
+
+KestrelListBoxItem::~KestrelListBoxItem()
+{
+    if (mList != nullptr)
+        mList->remove(this);
+}
+
+void KestrelListBoxItem::DataSet(PegString text)
+{
+    mText = std::move(text);
+    if (mList != nullptr)
+        mList->itemChanged(this);
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "host/widgets/ListGeometry.h"
+#include "host/widgets/ListRows.h"
+
+/// The state of a list box, and what each change of it means for the screen.
+struct KestrelListBox::Impl {
+    Impl(KestrelListBox& self, const Layout& look) : box(self), layout(look) {}
+
+    host::ListGeometry geometry() const;
+    int lastTop() const;
+
+    void insert(KestrelListBoxItem* item, int row);
+    void removeAt(int row);
+    void makeCurrent(int row);
+    void scrollToCurrent();
+    void moveMark(KestrelListBoxItem* from);
+
+    bool key(int key);
+    void step(int by);
+    void tell(std::uint16_t type, int data);
+    void tellIfRow(std::uint16_t type);
+
+    void repaintRow(int row);
+    void repaintRows(int first, int last);
+    void repaintAfter(const host::ListGeometry& before, int topBefore);
+
+    void drawTitle(PegPainter& painter, const host::ListGeometry& parts) const;
+    void drawRow(PegPainter& painter, const host::ListGeometry& parts, int slot) const;
+    void drawScroll(PegPainter& painter, const host::ListGeometry& parts) const;
+
+    KestrelListBox& box;
+    const Layout& layout;
+    host::ListRows rows;
+    PegString title;
+    PegThing* target = nullptr;
+    int current = -1;
+    int top = 0;
+    bool highlight = true;
+    bool back = false;
+    bool exclusive = false;
+};
