@@ -1,0 +1,44 @@
+#pragma once
+
+#include "Measure.h"
+
+namespace bench {
+
+constexpr int ROUND_TRIPS = 20'000;
+constexpr int POSTS = 400'000;
+
+constexpr const char* PINNED = "Synchronous call with a result, both threads on one CPU";
+constexpr const char* UNPINNED = "Synchronous call with a result, two CPUs";
+constexpr const char* ONE_PRODUCER = "Asynchronous posts until carried out, one producer";
+constexpr const char* TWO_PRODUCERS = "Asynchronous posts until carried out, two producers";
+constexpr const char* NOTIFICATIONS = "Notifications in order through the executor";
+constexpr const char* SCREEN = "Screen";
+
+// Each gives its cases; `directory` is where the benchmark's programs are.
+std::vector<Case> libraryCases();
+std::vector<Case> listCases();
+std::vector<Case> firstFrameCases(const std::string& directory);
+std::vector<Case> futexCases();
+std::vector<Case> mutexLoopCases();
+std::vector<Case> libuvCases();
+std::vector<Case> glibCases();
+std::vector<Case> asioCases();
+std::vector<Case> qtCases();
+
+/// Nanoseconds per round of `count` rounds of `body`, on the calling thread.
+template <typename Body>
+double nanosecondsEach(int count, Body body)
+{
+    const auto start = Clock::now();
+    for (int i = 0; i < count; ++i)
+        body();
+    return secondsSince(start) * 1e9 / count;
+}
+
+/// Millions per second.
+inline double millionsPerSecond(double count, Clock::time_point start)
+{
+    return count / secondsSince(start) / 1e6;
+}
+
+} // namespace bench

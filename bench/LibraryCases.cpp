@@ -1,0 +1,122 @@
+#include "Cases.h"
+#include "Phone.h"
+
+#include "DisplayAPI/Command.h"
+#include "DisplayAPI/CommandListener.h"
+#include "DisplayAPI/GuiRequestEvent.h"
+
+#include <atomic>
+#include <cstdlib>
+#include <cstdio>
+
+namespace bench {
+
+namespace {
+
+/// The smallest facade: a value to ask for and an event to post.
+class Counter : public DisplayAPI::Widget {
+public:
+    int value()
+    {
+        int result = -1;
+        auto* request = new DisplayAPI::GuiRequestEvent(this, VALUE);
+        request->returnValue3 = &result;
+        postEvent(request);
+        return result;
+    }
+
+    void count() { postEventAsync(COUNT); }
+
+    void processGuiRequest(DisplayAPI::GuiRequestEvent& request) override
+    {
+        if (request.getType() == VALUE)
+            *static_cast<int*>(request.returnValue3) = mCount;
+        else
+            ++mCount;
+        signalComplete(request);
+    }
+
+private:
+    enum { VALUE = 1, COUNT = 2 };
+    int mCount = 0;
+};
+
+void require(bool fact, const char* what)
+{
+    if (fact)
+        return;
+    std::fprintf(stderr, "benchmark broken: %s\n", what);
+    std::exit(1);
+}
+
+double roundTrip(bool pinned)
+{
+    if (pinned)
+        pinTo(0);
+    double each = 0;
+    {
+        Phone phone(pinned);
+        Counter counter;
+        each = nanosecondsEach(ROUND_TRIPS, [&] { require(counter.value() == 0, "wrong result"); });
+    }
+    unpin();
+    return each;
+}
+
+double posts(int producers)
+{
+    Phone phone;
+    std::vector<Counter> counters(static_cast<std::size_t>(producers));
+    const auto start = Clock::now();
+    runProducers(producers, [&](int i) {
+        for (int n = 0; n < POSTS / producers; ++n)
+            counters[static_cast<std::size_t>(i)].count();
+    });
+    int sum = 0;
+    for (Counter& counter : counters)
+        sum += counter.value();
+    const double figure = millionsPerSecond(sum, start);
+    require(sum == POSTS, "lost posts");
+    return figure;
+}
+
+class Receiver : public DisplayAPI::CommandListener {
+public:
+    void commandAction(DisplayAPI::Command*, DisplayAPI::Displayable*) override
+    {
+        mReceived.fetch_add(1, std::memory_order_relaxed);
+    }
+
+    void waitForAll()
+    {
+        while (mReceived != POSTS)
+            std::this_thread::yield();
+    }
+
+private:
+    std::atomic<int> mReceived{0};
+};
+
+double notifications()
+{
+    Receiver receiver;
+    DisplayAPI::Command command("", DisplayAPI::Command::OK);
+    const auto start = Clock::now();
+    for (int i = 0; i < POSTS; ++i)
+        receiver.postCommandAction(&command, nullptr);
+    receiver.waitForAll();
+    return millionsPerSecond(POSTS, start);
+}
+
+} // namespace
+
+std::vector<Case> libraryCases()
+{
+    return {{PINNED, "DisplayAPI", "ns", [] { return roundTrip(true); }},
+            {UNPINNED, "DisplayAPI", "ns", [] { return roundTrip(false); }},
+            {ONE_PRODUCER, "DisplayAPI", "M/s", [] { return posts(1); }},
+            {TWO_PRODUCERS, "DisplayAPI", "M/s", [] { return posts(2); }},
+            {NOTIFICATIONS, "DisplayAPI", "M/s", [] { return notifications(); }}};
+}
+
+} // namespace bench

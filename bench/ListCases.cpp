@@ -1,0 +1,90 @@
+#include "Cases.h"
+#include "Phone.h"
+
+#include "DisplayAPI/List.h"
+#include "host/input/Keyboard.h"
+#include "host/lcd/Lcd.h"
+#include "host/toolkit/Loop.h"
+
+#include <cstdio>
+#include <ctime>
+#include <pthread.h>
+
+namespace bench {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr int ROWS = 10'000;
+constexpr int MOVES = 500;
+
+std::string entry(int number)
+{
+    char text[32];
+    std::snprintf(text, sizeof text, "Entry %05d", number);
+    return text;
+}
+
+void waitUntilShown()
+{
+    if (!host::Loop::waitUntilIdle(10s))
+        std::fprintf(stderr, "benchmark broken: the screen is not finished\n");
+}
+
+double appendRows()
+{
+    Phone phone;
+    DisplayAPI::List list(0);
+    phone.display().setCurrent(&list);
+    waitUntilShown();
+    const auto start = Clock::now();
+    for (int i = 0; i < ROWS; ++i)
+        list.append(entry(i));
+    const int rows = list.size();
+    waitUntilShown();
+    const double milliseconds = secondsSince(start) * 1e3;
+    if (rows != ROWS)
+        std::fprintf(stderr, "benchmark broken: %d rows\n", rows);
+    phone.display().setCurrent(nullptr);
+    return milliseconds;
+}
+
+double processCpuSeconds()
+{
+    timespec time{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+}
+
+/// The CPU time that the whole process spends on one key, from the press to the finished frame. The loop is given the
+/// time to go to sleep before each measurement; a frame's due time is waited for without using the CPU.
+double moveSelection()
+{
+    Phone phone;
+    DisplayAPI::List list(0);
+    for (int i = 0; i < 50; ++i)
+        list.append(entry(i));
+    phone.display().setCurrent(&list);
+    waitUntilShown();
+    double spent = 0;
+    for (int i = 0; i < MOVES; ++i) {
+        std::this_thread::sleep_for(1ms);
+        const double before = processCpuSeconds();
+        host::Keyboard::instance().press(i / 40 % 2 == 0 ? PK_DOWN : PK_UP);
+        std::this_thread::sleep_for(20ms);
+        spent += processCpuSeconds() - before;
+    }
+    phone.display().setCurrent(nullptr);
+    return spent / MOVES * 1e6;
+}
+
+} // namespace
+
+std::vector<Case> listCases()
+{
+    return {{SCREEN, "List of 10,000 rows appended by a worker, until shown", "ms", appendRows},
+            {SCREEN, "Moving the selection by one row, key to finished frame", "us CPU", moveSelection}};
+}
+
+} // namespace bench

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "Measure.h"
+
+#include "DisplayAPI/Display.h"
+#include "DisplayAPI/Widget.h"
+
+#include <future>
+#include <memory>
+#include <thread>
+
+namespace bench {
+
+/// A telephone whose GUI thread runs beside the measuring thread, on one CPU or on all.
+class Phone {
+public:
+    explicit Phone(bool pinned = false)
+    {
+        std::promise<void> ready;
+        mGui = std::thread([&, pinned] {
+            if (pinned)
+                pinTo(0);
+            run(ready);
+        });
+        ready.get_future().wait();
+    }
+
+    ~Phone()
+    {
+        mDisplay->shutdown();
+        mGui.join();
+    }
+
+    DisplayAPI::Display& display() { return *mDisplay; }
+
+private:
+    void run(std::promise<void>& ready)
+    {
+        DisplayAPI::Widget::setGuiThreadId();
+        mDisplay = std::make_unique<DisplayAPI::Display>("plain", "en", "dd.mm.yyyy", "24", false, nullptr);
+        mDisplay->show();
+        ready.set_value();
+        mDisplay->exec();
+        mDisplay.reset();
+        DisplayAPI::Widget::setGuiThreadId(0);
+    }
+
+    std::unique_ptr<DisplayAPI::Display> mDisplay;
+    std::thread mGui;
+};
+
+} // namespace bench

@@ -1,0 +1,62 @@
+#include "Cases.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+
+namespace {
+
+std::vector<bench::Case> allCases(const std::string& directory)
+{
+    std::vector<std::vector<bench::Case>> sources{bench::libraryCases(), bench::listCases(),
+                                                  bench::firstFrameCases(directory), bench::futexCases(),
+                                                  bench::mutexLoopCases()};
+#ifdef BENCH_LIBUV
+    sources.push_back(bench::libuvCases());
+#endif
+#ifdef BENCH_ASIO
+    sources.push_back(bench::asioCases());
+#endif
+#ifdef BENCH_GLIB
+    sources.push_back(bench::glibCases());
+#endif
+#ifdef BENCH_QT
+    sources.push_back(bench::qtCases());
+#endif
+    std::vector<bench::Case> cases;
+    for (const auto& source : sources)
+        cases.insert(cases.end(), source.begin(), source.end());
+    return cases;
+}
+
+/// Groups in the order in which the library gives them.
+void sortByGroup(std::vector<bench::Case>& cases)
+{
+    std::vector<std::string> groups;
+    for (const bench::Case& c : cases)
+        if (std::find(groups.begin(), groups.end(), c.group) == groups.end())
+            groups.push_back(c.group);
+    const auto rank = [&](const bench::Case& c) { return std::find(groups.begin(), groups.end(), c.group); };
+    std::stable_sort(cases.begin(), cases.end(), [&](const auto& a, const auto& b) { return rank(a) < rank(b); });
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const int rounds = argc > 1 ? std::atoi(argv[1]) : 11;
+    const std::string filter = argc > 2 ? argv[2] : "";
+    if (rounds < 1) {
+        std::fprintf(stderr, "usage: displayapi_bench [ROUNDS [PART-OF-A-GROUP'S-OR-CASE'S-NAME]]\n");
+        return 2;
+    }
+    const auto directory = std::filesystem::canonical("/proc/self/exe").parent_path();
+    auto cases = allCases(directory.string());
+    std::erase_if(cases, [&](const bench::Case& c) {
+        return c.group.find(filter) == std::string::npos && c.name.find(filter) == std::string::npos;
+    });
+    sortByGroup(cases);
+    bench::measure(cases, rounds);
+    return 0;
+}
