@@ -1,0 +1,37 @@
+#pragma once
+
+#include "simulator/launcher/Child.h"
+#include "simulator/launcher/Signals.h"
+
+#include <chrono>
+
+namespace simulator {
+
+/// The application while it runs: hands on to it what asks the launcher to end, and kills it when it takes too long.
+class ApplicationRun {
+public:
+    ApplicationRun(const std::vector<std::string>& command, const Child::Environment& added, int kept = -1);
+
+    const std::string& error() const { return mChild.error(); }
+
+    /// Waits until the application has ended, `descriptor` is readable (-1 for none) or `limit` is over. Returns how
+    /// the application ended, or nothing while it runs.
+    std::optional<Ending> wait(std::chrono::milliseconds limit, int descriptor = -1);
+
+    /// Gives it that long to end. The first call counts.
+    void limitTo(std::chrono::milliseconds limit);
+
+    /// Whether it has been killed because it took too long.
+    bool wasKilled() const { return mWasKilled; }
+
+private:
+    void handleSignals();
+    void killWhenOverdue();
+
+    Signals mSignals;
+    Child mChild;
+    std::optional<std::chrono::steady_clock::time_point> mDeadline;
+    bool mWasKilled = false;
+};
+
+} // namespace simulator

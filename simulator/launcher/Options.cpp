@@ -1,0 +1,102 @@
+#include "simulator/launcher/Options.h"
+
+#include "host/Phone.h"
+#include "simulator/web/Endpoint.h"
+
+#include <map>
+#include <stdexcept>
+
+namespace simulator {
+
+const char* const USAGE = R"(Usage: phone [--variant plain|narrow|wp1] [--port 8080] APP [ARGS]
+       phone [--variant ...] [--port 8080] --listen ADDRESS --token TOKEN APP [ARGS]
+       phone [--variant ...] --script FILE [--out DIR] APP [ARGS]
+
+Runs APP as a telephone. Its panel and keys are a page for the browser, or a script presses the keys and looks at the
+panel. The page is for this machine only unless --listen and --token say otherwise.
+)";
+
+namespace {
+
+struct Mistake : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+using Setter = void (*)(Options&, const std::string&);
+
+const std::map<std::string, Setter>& setters()
+{
+    static const std::map<std::string, Setter> all = {
+        {"--variant", [](Options& options, const std::string& value) { options.variant = value; }},
+        {"--port", [](Options& options, const std::string& value) { options.port = value; }},
+        {"--listen", [](Options& options, const std::string& value) { options.listen = value; }},
+        {"--token", [](Options& options, const std::string& value) { options.token = value; }},
+        {"--script", [](Options& options, const std::string& value) { options.script = value; }},
+        {"--out", [](Options& options, const std::string& value) { options.out = value; }},
+    };
+    return all;
+}
+
+using Position = std::vector<std::string>::const_iterator;
+
+/// Reads one option with its value, `--name value` or `--name=value`, and returns where the next word is.
+Position readOption(Options& options, Position word, Position end)
+{
+    const std::string name = word->substr(0, word->find('='));
+    const auto setter = setters().find(name);
+    if (setter == setters().end())
+        throw Mistake("There is no option " + name + ".");
+    if (name != *word) {
+        setter->second(options, word->substr(name.size() + 1));
+        return word + 1;
+    }
+    if (word + 1 == end)
+        throw Mistake(name + " needs a value.");
+    setter->second(options, *(word + 1));
+    return word + 2;
+}
+
+void readAll(Options& options, const std::vector<std::string>& arguments)
+{
+    Position word = arguments.begin();
+    while (word != arguments.end() && word->starts_with('-') && *word != "--") {
+        if (*word == "--help" || *word == "-h") {
+            options.wantsHelp = true;
+            return;
+        }
+        word = readOption(options, word, arguments.end());
+    }
+    if (word != arguments.end() && *word == "--")
+        ++word;
+    options.application.assign(word, arguments.end());
+}
+
+void check(const Options& options)
+{
+    if (!host::variantFromName(options.variant))
+        throw Mistake("There is no variant '" + options.variant + "'; there are plain, narrow and wp1.");
+    if (options.application.empty())
+        throw Mistake("Which application shall run? Its name is missing.");
+    if (options.script)
+        return;
+    const std::string error = endpointError(options.port, options.listen, options.token);
+    if (!error.empty())
+        throw Mistake(error);
+}
+
+} // namespace
+
+Options parseOptions(const std::vector<std::string>& arguments)
+{
+    Options options;
+    try {
+        readAll(options, arguments);
+        if (!options.wantsHelp)
+            check(options);
+    } catch (const Mistake& mistake) {
+        options.error = mistake.what();
+    }
+    return options;
+}
+
+} // namespace simulator

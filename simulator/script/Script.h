@@ -1,0 +1,27 @@
+#pragma once
+
+#include "toolkit/PegMessage.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace simulator {
+
+/// One line of a script.
+struct Step {
+    enum class Action { PRESS, HOLD, WAIT, EXPECT, EXPECT_NOT, SCREENSHOT, DUMP };
+
+    Action action;
+    int line = 0;
+    std::vector<PegKey> keys;      ///< PRESS: one after the other; HOLD: exactly one
+    std::int64_t milliseconds = 0; ///< HOLD, WAIT
+    std::string text;              ///< the expected text, or the file's name
+};
+
+struct Script {
+    std::vector<Step> steps;
+    std::vector<std::string> errors; ///< one sentence each, with file and line
+};
+
+} // namespace simulator

@@ -1,0 +1,179 @@
+#include "simulator/script/ScriptParser.h"
+
+#include "host/input/Keyboard.h"
+
+#include <charconv>
+#include <fstream>
+#include <map>
+#include <sstream>
+#include <stdexcept>
+
+namespace simulator {
+
+namespace {
+
+constexpr std::int64_t LONGEST_WAIT = 24 * 60 * 60 * 1000;
+
+struct Mistake : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+std::string quoted(std::string_view text)
+{
+    return "'" + std::string(text) + "'";
+}
+
+std::string_view trimmed(std::string_view text)
+{
+    const auto first = text.find_first_not_of(" \t\r");
+    if (first == std::string_view::npos)
+        return {};
+    return text.substr(first, text.find_last_not_of(" \t\r") - first + 1);
+}
+
+/// Takes the first word off `text`.
+std::string_view takeWord(std::string_view& text)
+{
+    const auto end = std::min(text.find_first_of(" \t"), text.size());
+    const std::string_view word = text.substr(0, end);
+    text = trimmed(text.substr(end));
+    return word;
+}
+
+PegKey toKey(std::string_view name)
+{
+    if (name.empty())
+        throw Mistake("the name of a key is missing");
+    if (const auto key = host::Keyboard::keyFromName(name))
+        return *key;
+    throw Mistake("there is no key " + quoted(name) +
+                  "; keys are up, down, left, right, ok, 0 to 9, star, hash, volume-up, volume-down and hook");
+}
+
+PegKey toDigit(char character)
+{
+    if ((character >= '0' && character <= '9') || character == '*' || character == '#')
+        return static_cast<PegKey>(character);
+    throw Mistake("only 0 to 9, * and # can be typed, not " + quoted(std::string(1, character)));
+}
+
+std::int64_t toMilliseconds(std::string_view text)
+{
+    std::int64_t value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (error != std::errc() || end != text.data() + text.size() || value < 0 || value > LONGEST_WAIT)
+        throw Mistake(quoted(text) + " is no number of milliseconds from 0 to " + std::to_string(LONGEST_WAIT));
+    return value;
+}
+
+/// Output stays inside the folder that the user has named.
+std::string toFileName(std::string_view text, std::string_view ending)
+{
+    const bool staysInside = text.find('/') == std::string_view::npos && text.front() != '.';
+    if (!staysInside || !text.ends_with(ending))
+        throw Mistake(quoted(text) + " is no plain file name that ends in " + std::string(ending));
+    return std::string(text);
+}
+
+void parseKey(Step& step, std::string_view rest)
+{
+    step.keys = {toKey(rest)};
+}
+
+void parseHold(Step& step, std::string_view rest)
+{
+    step.keys = {toKey(takeWord(rest))};
+    step.milliseconds = toMilliseconds(rest);
+}
+
+void parseType(Step& step, std::string_view rest)
+{
+    for (const char character : rest)
+        step.keys.push_back(toDigit(character));
+}
+
+void parseWait(Step& step, std::string_view rest)
+{
+    step.milliseconds = toMilliseconds(rest);
+}
+
+void parseText(Step& step, std::string_view rest)
+{
+    step.text = rest;
+}
+
+void parsePictureName(Step& step, std::string_view rest)
+{
+    step.text = toFileName(rest, ".png");
+}
+
+void parseTextName(Step& step, std::string_view rest)
+{
+    step.text = toFileName(rest, ".txt");
+}
+
+struct Command {
+    Step::Action action;
+    void (*parse)(Step&, std::string_view);
+};
+
+const std::map<std::string_view, Command>& commands()
+{
+    using enum Step::Action;
+    static const std::map<std::string_view, Command> all = {
+        {"key", {PRESS, parseKey}},
+        {"hold", {HOLD, parseHold}},
+        {"type", {PRESS, parseType}},
+        {"wait", {WAIT, parseWait}},
+        {"expect", {EXPECT, parseText}},
+        {"expect-not", {EXPECT_NOT, parseText}},
+        {"screenshot", {SCREENSHOT, parsePictureName}},
+        {"dump", {DUMP, parseTextName}},
+    };
+    return all;
+}
+
+Step parseLine(std::string_view text, int line)
+{
+    const std::string_view name = takeWord(text);
+    const auto command = commands().find(name);
+    if (command == commands().end())
+        throw Mistake("there is no command " + quoted(name) +
+                      "; commands are key, hold, type, wait, expect, expect-not, screenshot and dump");
+    if (text.empty())
+        throw Mistake(quoted(name) + " needs something behind it");
+    Step step{command->second.action, line, {}, 0, {}};
+    command->second.parse(step, text);
+    return step;
+}
+
+} // namespace
+
+Script parseScript(const std::string& fileName, std::string_view text)
+{
+    Script script;
+    for (int line = 1; !text.empty(); ++line) {
+        const auto end = std::min(text.find('\n'), text.size());
+        const std::string_view content = trimmed(text.substr(0, end));
+        text.remove_prefix(std::min(end + 1, text.size()));
+        if (content.empty() || content.front() == '#')
+            continue;
+        try {
+            script.steps.push_back(parseLine(content, line));
+        } catch (const Mistake& mistake) {
+            script.errors.push_back(fileName + ":" + std::to_string(line) + ": " + mistake.what());
+        }
+    }
+    return script;
+}
+
+Script readScript(const std::string& fileName)
+{
+    std::ifstream file(fileName);
+    std::stringstream text;
+    if (!(text << file.rdbuf()))
+        return {{}, {fileName + ": the script cannot be read, or is empty"}};
+    return parseScript(fileName, text.str());
+}
+
+} // namespace simulator

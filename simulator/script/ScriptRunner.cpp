@@ -1,0 +1,140 @@
+#include "simulator/script/ScriptRunner.h"
+
+#include "host/lcd/Png.h"
+#include "simulator/screen/KeyRepeatRule.h"
+#include "simulator/screen/ScreenRows.h"
+
+#include <fstream>
+#include <stdexcept>
+
+namespace simulator {
+
+namespace {
+
+using std::chrono::milliseconds;
+using std::chrono::steady_clock;
+
+struct StepFailed : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+} // namespace
+
+ScriptRunner::ScriptRunner(ScriptedPhone& phone, ScriptReport& report, std::filesystem::path folder,
+                           milliseconds patience)
+    : mPhone(phone), mReport(report), mFolder(std::move(folder)), mPatience(patience)
+{
+}
+
+void ScriptRunner::run(const Script& script)
+{
+    for (const Step& step : script.steps) {
+        mReport.at(step.line);
+        try {
+            settle();
+            perform(step);
+        } catch (const StepFailed& failure) {
+            mReport.failed(step.line, failure.what());
+            return;
+        }
+    }
+    mReport.passed();
+}
+
+void ScriptRunner::perform(const Step& step)
+{
+    using enum Step::Action;
+    switch (step.action) {
+    case PRESS:
+        return pressAll(step);
+    case HOLD:
+        return hold(step);
+    case WAIT:
+        return mPhone.pass(step.milliseconds);
+    case EXPECT:
+        return expect(step, true);
+    case EXPECT_NOT:
+        return expect(step, false);
+    case SCREENSHOT:
+        return writePicture(step);
+    case DUMP:
+        return writeRows(step);
+    }
+}
+
+void ScriptRunner::pressAll(const Step& step)
+{
+    for (const PegKey key : step.keys) {
+        down(key);
+        up(key);
+        settle();
+    }
+}
+
+void ScriptRunner::hold(const Step& step)
+{
+    const PegKey key = step.keys.front();
+    std::int64_t left = step.milliseconds;
+    down(key);
+    if (KeyRepeatRule::repeats(key)) {
+        for (auto pause = KeyRepeatRule::DELAY; left >= pause.count(); pause = KeyRepeatRule::INTERVAL) {
+            mPhone.pass(pause.count());
+            left -= pause.count();
+            down(key);
+        }
+    }
+    mPhone.pass(left);
+    up(key);
+    settle();
+}
+
+void ScriptRunner::expect(const Step& step, bool wanted)
+{
+    const auto deadline = steady_clock::now() + mPatience;
+    while (shows(rowsOf(mPhone.picture().texts), step.text) != wanted) {
+        if (!mPhone.isThere() || steady_clock::now() >= deadline)
+            fail((wanted ? "expected '" : "expected no '") + step.text + "'");
+        mPhone.waitForFrame(milliseconds(20));
+    }
+}
+
+void ScriptRunner::writePicture(const Step& step)
+{
+    const std::string error = host::writePng(mPhone.picture(), mFolder / step.text);
+    if (!error.empty())
+        fail(error);
+}
+
+void ScriptRunner::writeRows(const Step& step)
+{
+    std::ofstream file(mFolder / step.text);
+    file << describe(rowsOf(mPhone.picture().texts)) << std::flush;
+    if (!file)
+        fail("cannot write " + (mFolder / step.text).string());
+}
+
+void ScriptRunner::down(PegKey key)
+{
+    if (!mPhone.press(key))
+        fail("the telephone does not take the key");
+}
+
+void ScriptRunner::up(PegKey key)
+{
+    if (!mPhone.release(key))
+        fail("the telephone does not take the key");
+}
+
+void ScriptRunner::settle()
+{
+    if (!mPhone.settle())
+        fail(mPhone.isThere() ? "the application does not come to rest" : "the application has ended");
+}
+
+void ScriptRunner::fail(const std::string& reason)
+{
+    const std::string rows = describe(rowsOf(mPhone.picture().texts));
+    throw StepFailed(reason + (rows.empty() ? "\nthe screen shows no text" : "\nthe screen shows:\n" + rows));
+}
+
+} // namespace simulator

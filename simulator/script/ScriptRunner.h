@@ -1,0 +1,41 @@
+#pragma once
+
+#include "simulator/script/Script.h"
+#include "simulator/script/ScriptReport.h"
+#include "simulator/script/ScriptedPhone.h"
+
+#include <chrono>
+#include <filesystem>
+#include <string>
+
+namespace simulator {
+
+/// Carries out a script step by step on a telephone, and reports how far it got.
+class ScriptRunner {
+public:
+    /// Pictures and dumps go into `folder`. An expectation is given `patience` of real time to come true.
+    ScriptRunner(ScriptedPhone& phone, ScriptReport& report, std::filesystem::path folder,
+                 std::chrono::milliseconds patience);
+
+    /// Stops at the first step that fails.
+    void run(const Script& script);
+
+private:
+    void perform(const Step& step);
+    void pressAll(const Step& step);
+    void hold(const Step& step);
+    void expect(const Step& step, bool wanted);
+    void writePicture(const Step& step);
+    void writeRows(const Step& step);
+    void down(PegKey key);
+    void up(PegKey key);
+    void settle();
+    [[noreturn]] void fail(const std::string& reason);
+
+    ScriptedPhone& mPhone;
+    ScriptReport& mReport;
+    std::filesystem::path mFolder;
+    std::chrono::milliseconds mPatience;
+};
+
+} // namespace simulator

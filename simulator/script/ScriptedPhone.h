@@ -1,0 +1,36 @@
+#pragma once
+
+#include "host/lcd/Lcd.h"
+#include "toolkit/PegMessage.h"
+
+#include <chrono>
+#include <cstdint>
+#include <string>
+
+namespace simulator {
+
+/// What a script does to a telephone. Each call is bounded in real time.
+class ScriptedPhone {
+public:
+    virtual ~ScriptedPhone() = default;
+
+    /// False when the telephone does not take the key.
+    virtual bool press(PegKey key) = 0;
+    virtual bool release(PegKey key) = 0;
+
+    /// Lets the telephone's clock go on.
+    virtual void pass(std::int64_t milliseconds) = 0;
+
+    /// False when the telephone does not come to rest.
+    virtual bool settle() = 0;
+
+    virtual host::Picture picture() = 0;
+
+    /// Returns at the next frame, or after `limit`.
+    virtual void waitForFrame(std::chrono::milliseconds limit) = 0;
+
+    /// False once the telephone is going down.
+    virtual bool isThere() = 0;
+};
+
+} // namespace simulator

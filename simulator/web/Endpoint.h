@@ -1,0 +1,33 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace simulator {
+
+/// Where the page is served, and to whom. Without a token only to this machine.
+struct Endpoint {
+    std::string address = "127.0.0.1";
+    int port = 8080;
+    std::string token;
+
+    /// "127.0.0.1:8080", "[::]:8080"
+    std::string addressAndPort() const;
+
+    /// What the user opens.
+    std::string url() const;
+};
+
+/// A sentence when these make no endpoint; empty when they do.
+std::string endpointError(const std::string& port, const std::optional<std::string>& listen,
+                          const std::optional<std::string>& token);
+
+/// REQUIRES: endpointError() of the same arguments is empty.
+Endpoint makeEndpoint(const std::string& port, const std::optional<std::string>& listen,
+                      const std::optional<std::string>& token);
+
+/// The environment variables that carry address and token to the front end.
+inline constexpr char LISTEN_VARIABLE[] = "DISPLAYAPI_LISTEN";
+inline constexpr char TOKEN_VARIABLE[] = "DISPLAYAPI_TOKEN";
+
+} // namespace simulator

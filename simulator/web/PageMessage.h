@@ -1,0 +1,23 @@
+#pragma once
+
+#include "toolkit/PegMessage.h"
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace simulator {
+
+/// What a page says: `down KEY`, `up KEY`, or `seen N` when it has drawn frame N.
+struct PageMessage {
+    enum class Kind { DOWN, UP, SEEN };
+
+    Kind kind;
+    PegKey key{};
+    std::uint32_t frame = 0;
+};
+
+/// Nothing where the text is none of these.
+std::optional<PageMessage> parsePageMessage(std::string_view text);
+
+} // namespace simulator

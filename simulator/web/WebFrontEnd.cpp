@@ -1,0 +1,70 @@
+#include "simulator/web/WebFrontEnd.h"
+
+#include "host/lcd/Lcd.h"
+#include "simulator/web/QuitOnSignal.h"
+#include "simulator/web/WebServer.h"
+
+#include <cstdlib>
+
+namespace simulator {
+
+namespace {
+
+std::optional<std::string> fromEnvironment(const char* name)
+{
+    const char* value = std::getenv(name);
+    if (value == nullptr || *value == '\0')
+        return {};
+    return value;
+}
+
+} // namespace
+
+/// In the order in which the parts stand on each other.
+struct WebFrontEnd::Session {
+    Session(host::Lcd& panel, const Endpoint& endpoint)
+        : lcd(panel), broadcaster([&panel] { return panel.picture(); }), server(endpoint, broadcaster, keys)
+    {
+        lcd.setFrameListener([this] { broadcaster.frameReady(); });
+    }
+
+    ~Session()
+    {
+        lcd.setFrameListener({});
+        broadcaster.end();
+    }
+
+    host::Lcd& lcd;
+    KeyPad keys;
+    Broadcaster broadcaster;
+    WebServer server;
+    QuitOnSignal quitOnSignal;
+};
+
+WebFrontEnd::WebFrontEnd() = default;
+WebFrontEnd::~WebFrontEnd() = default;
+
+std::string WebFrontEnd::start(const std::string& port)
+{
+    const auto listen = fromEnvironment(LISTEN_VARIABLE);
+    const auto token = fromEnvironment(TOKEN_VARIABLE);
+    if (const std::string error = endpointError(port, listen, token); !error.empty())
+        return error;
+    mSession = std::make_unique<Session>(*host::Lcd::current(), makeEndpoint(port, listen, token));
+    const std::string error = mSession->server.error();
+    if (!error.empty())
+        mSession.reset();
+    return error;
+}
+
+void WebFrontEnd::stop()
+{
+    mSession.reset();
+}
+
+} // namespace simulator
+
+extern "C" __attribute__((visibility("default"))) host::FrontEnd* displayapiCreateFrontEnd()
+{
+    return new simulator::WebFrontEnd;
+}

@@ -1,0 +1,163 @@
+#include "simulator/web/WebServer.h"
+
+#include "simulator/web/Page.h"
+#include "simulator/web/PageMessage.h"
+
+#include <civetweb.h>
+#include <cstring>
+
+namespace simulator {
+
+namespace {
+
+constexpr std::size_t MOST_PAGES = 16;
+constexpr std::size_t LONGEST_MESSAGE = 64;
+constexpr int KIND_OF_MESSAGE = 0x0F;
+constexpr int LAST_PIECE = 0x80;
+
+constexpr char PAGE_HEADERS[] =
+    "HTTP/1.1 200 OK\r\n"
+    "Content-Type: text/html; charset=utf-8\r\n"
+    "Content-Security-Policy: default-src 'none'; style-src 'unsafe-inline'; script-src 'unsafe-inline'; "
+    "img-src data:; connect-src 'self'; base-uri 'none'; form-action 'none'; frame-ancestors 'none'\r\n"
+    "Cache-Control: no-store\r\n"
+    "Referrer-Policy: no-referrer\r\n"
+    "X-Content-Type-Options: nosniff\r\n"
+    "Connection: close\r\n";
+
+std::string_view orEmpty(const char* text)
+{
+    return text != nullptr ? text : std::string_view();
+}
+
+Caller callerOf(const mg_connection* connection)
+{
+    return {orEmpty(mg_get_header(connection, "Host")), orEmpty(mg_get_header(connection, "Origin")),
+            orEmpty(mg_get_request_info(connection)->query_string)};
+}
+
+/// A page is served by a thread of its own while it is open; some more serve the document itself.
+std::vector<const char*> optionsFor(const std::string& addressAndPort)
+{
+    return {"listening_ports",
+            addressAndPort.c_str(),
+            "num_threads",
+            "24",
+            "request_timeout_ms",
+            "2000",
+            "websocket_timeout_ms",
+            "5000",
+            "enable_websocket_ping_pong",
+            "yes",
+            "tcp_nodelay",
+            "1",
+            nullptr};
+}
+
+/// What the server has to say of single connections is of no interest to the application's user.
+int ignoreLog(const mg_connection*, const char*)
+{
+    return 1;
+}
+
+} // namespace
+
+WebServer::WebServer(const Endpoint& endpoint, Broadcaster& broadcaster, KeyPad& keys)
+    : mAdmission(endpoint), mBroadcaster(broadcaster), mKeys(keys)
+{
+    const std::string addressAndPort = endpoint.addressAndPort();
+    const auto options = optionsFor(addressAndPort);
+    mg_callbacks callbacks{};
+    callbacks.log_message = ignoreLog;
+    mg_init_data start{&callbacks, this, const_cast<const char**>(options.data())};
+    char reason[200] = "";
+    mg_error_data error{nullptr, reason, sizeof reason};
+    mg_init_library(0);
+    mContext = mg_start2(&start, &error);
+    if (mContext == nullptr) {
+        mError = "Cannot serve the page on " + addressAndPort + ": " + reason + ".";
+        return;
+    }
+    mg_set_request_handler(mContext, "/", servePage, this);
+    mg_set_websocket_handler(mContext, "/socket", connecting, connected, received, closed, this);
+}
+
+WebServer::~WebServer()
+{
+    if (mContext != nullptr)
+        mg_stop(mContext);
+    mg_exit_library();
+}
+
+int WebServer::servePage(mg_connection* connection, void* self)
+{
+    const mg_request_info* request = mg_get_request_info(connection);
+    if (orEmpty(request->local_uri) != "/")
+        return mg_send_http_error(connection, 404, "There is only the page."), 404;
+    if (orEmpty(request->request_method) != "GET")
+        return mg_send_http_error(connection, 405, "The page can only be read."), 405;
+    if (!static_cast<WebServer*>(self)->mAdmission.allowsPage(callerOf(connection)))
+        return mg_send_http_error(connection, 403, "This telephone is not for you: open the address it printed."), 403;
+    const std::string_view document = page();
+    mg_printf(connection, "%sContent-Length: %zu\r\n\r\n", PAGE_HEADERS, document.size());
+    mg_write(connection, document.data(), document.size());
+    return 200;
+}
+
+int WebServer::connecting(const mg_connection* connection, void* self)
+{
+    const auto* server = static_cast<const WebServer*>(self);
+    const bool isFull = server->mBroadcaster.pageCount() >= MOST_PAGES;
+    return isFull || !server->mAdmission.allowsSocket(callerOf(connection)) ? 1 : 0;
+}
+
+void WebServer::connected(mg_connection* connection, void* self)
+{
+    auto page = std::make_shared<PageConnection>(connection);
+    mg_set_user_connection_data(connection, page.get());
+    static_cast<WebServer*>(self)->mBroadcaster.add(std::move(page));
+}
+
+int WebServer::received(mg_connection* connection, int bits, char* data, std::size_t size, void* self)
+{
+    const int kind = bits & KIND_OF_MESSAGE;
+    if (kind == MG_WEBSOCKET_OPCODE_PING || kind == MG_WEBSOCKET_OPCODE_PONG)
+        return 1;
+    auto* page = static_cast<PageConnection*>(mg_get_user_connection_data(connection));
+    const bool isWhole = kind == MG_WEBSOCKET_OPCODE_TEXT && (bits & LAST_PIECE) != 0;
+    const bool isGood = page != nullptr && !page->isBroken() && isWhole && size <= LONGEST_MESSAGE;
+    return isGood && static_cast<WebServer*>(self)->handle(*page, {data, size}) ? 1 : 0;
+}
+
+bool WebServer::handle(PageConnection& page, std::string_view text)
+{
+    const auto message = parsePageMessage(text);
+    if (!message)
+        return false;
+    switch (message->kind) {
+    case PageMessage::Kind::DOWN:
+        mKeys.down(&page, message->key);
+        break;
+    case PageMessage::Kind::UP:
+        mKeys.up(&page, message->key);
+        break;
+    case PageMessage::Kind::SEEN:
+        page.seen(message->frame);
+        mBroadcaster.pageChanged();
+        break;
+    }
+    return true;
+}
+
+void WebServer::closed(const mg_connection* connection, void* self)
+{
+    auto* server = static_cast<WebServer*>(self);
+    auto* page = static_cast<PageConnection*>(mg_get_user_connection_data(connection));
+    if (page == nullptr)
+        return;
+    page->detach();
+    server->mKeys.leave(page);
+    server->mBroadcaster.remove(page);
+}
+
+} // namespace simulator

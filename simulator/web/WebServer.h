@@ -1,0 +1,44 @@
+#pragma once
+
+#include "simulator/web/Admission.h"
+#include "simulator/web/Broadcaster.h"
+#include "simulator/web/Endpoint.h"
+#include "simulator/web/KeyPad.h"
+
+#include <string>
+
+struct mg_connection;
+struct mg_context;
+
+namespace simulator {
+
+/// Serves the page and its socket. The broadcaster and the key pad have to outlive it.
+class WebServer {
+public:
+    WebServer(const Endpoint& endpoint, Broadcaster& broadcaster, KeyPad& keys);
+    WebServer(const WebServer&) = delete;
+    WebServer& operator=(const WebServer&) = delete;
+
+    /// Closes all connections. Takes some seconds where a page does not answer.
+    ~WebServer();
+
+    /// Why it does not serve; empty when it does.
+    const std::string& error() const { return mError; }
+
+private:
+    static int servePage(mg_connection* connection, void* self);
+    static int connecting(const mg_connection* connection, void* self);
+    static void connected(mg_connection* connection, void* self);
+    static int received(mg_connection* connection, int bits, char* data, std::size_t size, void* self);
+    static void closed(const mg_connection* connection, void* self);
+
+    bool handle(PageConnection& page, std::string_view text);
+
+    Admission mAdmission;
+    Broadcaster& mBroadcaster;
+    KeyPad& mKeys;
+    mg_context* mContext = nullptr;
+    std::string mError;
+};
+
+} // namespace simulator
