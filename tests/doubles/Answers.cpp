@@ -1,0 +1,18 @@
+#include "doubles/Answers.h"
+
+namespace doubles {
+
+Answers& Answers::instance()
+{
+    static auto* const answers = new Answers;
+    return *answers;
+}
+
+void Answers::reset()
+{
+    size = 0;
+    selectedIndex = -1;
+    isSelected = false;
+}
+
+} // namespace doubles

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <atomic>
+
+namespace doubles {
+
+/// What the recording lists answer when they are asked. Safe from any thread.
+struct Answers {
+    std::atomic<int> size{0};
+    std::atomic<int> selectedIndex{-1};
+    std::atomic<bool> isSelected{false};
+
+    static Answers& instance();
+
+    /// The answers that a process starts with.
+    void reset();
+};
+
+} // namespace doubles

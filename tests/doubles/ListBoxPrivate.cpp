@@ -1,0 +1,5 @@
+#include "variants/ListBoxPrivate.h"
+
+#define LIST_BOX ListBoxPrivate
+#define LIST_BOX_NAME "ListBoxPrivate"
+#include "doubles/ListBoxMembers.inc"

@@ -1,0 +1,5 @@
+#include "variants/ListBoxPrivateWP1.h"
+
+#define LIST_BOX ListBoxPrivateWP1
+#define LIST_BOX_NAME "ListBoxPrivateWP1"
+#include "doubles/ListBoxMembers.inc"

@@ -1,0 +1,5 @@
+#include "variants/ListItemPrivate.h"
+
+#define ROW ListItemPrivate
+#define ROW_NAME "ListItemPrivate"
+#include "doubles/ListItemMembers.inc"

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "DisplayAPI/Displayable.h"
+#include "DisplayAPI/GuiRequestEvent.h"
+#include "doubles/ScreenPrivate.h"
+
+#include <memory>
+#include <string>
+
+namespace doubles {
+
+/// A displayable as an application's would be. Made on the GUI thread; deleted there, or on another one after its
+/// display has let go of it.
+class Screen : public DisplayAPI::Displayable {
+public:
+    explicit Screen(std::string screenName, ScreenPrivate::Kind kind = ScreenPrivate::SCREEN)
+        : mPrivate(new ScreenPrivate(screenName, kind))
+    {
+        name = std::move(screenName);
+    }
+
+    ~Screen() override
+    {
+        if (isGuiThread())
+            destroy();
+        else
+            postEvent(DESTROY);
+    }
+
+    void processGuiRequest(DisplayAPI::GuiRequestEvent& request) override
+    {
+        if (request.getType() == DESTROY)
+            destroy();
+        signalComplete(request);
+    }
+
+    ScreenPrivate* getPrivateImpl() override { return mPrivate.get(); }
+    PegThing* widget() const { return mPrivate->getWidget(); }
+
+    /// From here on the screen has no private side.
+    void dropPrivate() { mPrivate.reset(); }
+
+private:
+    static constexpr int DESTROY = 1;
+
+    void destroy()
+    {
+        if (mPrivate != nullptr)
+            leaveDisplay();
+        mPrivate.reset();
+    }
+
+    std::unique_ptr<ScreenPrivate> mPrivate;
+};
+
+} // namespace doubles

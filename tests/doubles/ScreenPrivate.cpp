@@ -1,0 +1,60 @@
+#include "doubles/ScreenPrivate.h"
+
+#include "doubles/Recorder.h"
+
+#include <utility>
+
+namespace doubles {
+
+ScreenPrivate::ScreenPrivate(std::string name, Kind kind) : mName(std::move(name)), mKind(kind) {}
+
+ScreenPrivate::~ScreenPrivate()
+{
+    note("die");
+}
+
+template <typename... Args>
+void ScreenPrivate::note(const char* call, const Args&... args)
+{
+    Recorder::instance().note(this, mName + ": " + call, args...);
+}
+
+void ScreenPrivate::releaseOwnership()
+{
+    note("releaseOwnership");
+    mOwnership.releaseOwnership();
+}
+
+void ScreenPrivate::gainOwnership()
+{
+    note("gainOwnership");
+    mOwnership.gainOwnership();
+}
+
+void ScreenPrivate::show()
+{
+    note("show");
+}
+
+void ScreenPrivate::lostFocus()
+{
+    note("lostFocus");
+}
+
+void ScreenPrivate::connectDisplayChangedSignal(DisplayAPI::DisplayPrivateIfc* display)
+{
+    note(display != nullptr ? "connect" : "disconnect");
+    DisplayablePrivate::connectDisplayChangedSignal(display);
+}
+
+void ScreenPrivate::setSysWindowSize(int lines)
+{
+    note("setSysWindowSize", lines);
+}
+
+void ScreenPrivate::dropWidget()
+{
+    delete std::exchange(mWidget, nullptr);
+}
+
+} // namespace doubles

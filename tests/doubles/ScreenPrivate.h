@@ -1,0 +1,45 @@
+#pragma once
+
+#include "DisplayAPI/DisplayablePrivate.h"
+#include "DisplayAPI/OwnershipDelegate.h"
+#include "toolkit/PegWindow.h"
+
+#include <string>
+
+namespace doubles {
+
+/// The private side of a screen or popup: a real widget, and a recorder's line for whatever the display does to it
+/// ("menu: gainOwnership()").
+class ScreenPrivate : public DisplayAPI::DisplayablePrivate {
+public:
+    enum Kind { SCREEN, POPUP };
+
+    ScreenPrivate(std::string name, Kind kind);
+    ~ScreenPrivate() override;
+
+    PegThing* getWidget() override { return mWidget; }
+    void releaseOwnership() override;
+    void gainOwnership() override;
+    void show() override;
+    void lostFocus() override;
+    bool hideOldWidgetOnFocusGained() override { return mKind == SCREEN; }
+    void connectDisplayChangedSignal(DisplayAPI::DisplayPrivateIfc* display) override;
+    void setSysWindowSize(int lines) override;
+
+    bool ownsWidget() const { return mOwnership.hasOwnership(); }
+    DisplayAPI::DisplayPrivateIfc* attachedTo() const { return display(); }
+
+    /// From here on the side has no widget.
+    void dropWidget();
+
+private:
+    template <typename... Args>
+    void note(const char* call, const Args&... args);
+
+    std::string mName;
+    Kind mKind;
+    PegThing* mWidget = new PegWindow;
+    DisplayAPI::OwnershipDelegate<PegThing> mOwnership{&mWidget, true};
+};
+
+} // namespace doubles
