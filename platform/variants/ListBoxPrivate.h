@@ -21,6 +21,8 @@ public:
     void gainOwnership() override;
     void show() override;
     void lostFocus() override;
+    std::string serialise() override;
+    std::string serialise(const std::vector<DisplayAPIUtils::Rect>& visible) override;
 
     void addCommandListener(CommandListener* listener) override;
     void removeCommandListener(CommandListener* listener) override;

@@ -1,0 +1,193 @@
+#include "host/variants/ListBoxCore.h"
+
+#include "DisplayAPI/List.h"
+#include "DisplayAPI/ListItemPrivateIfc.h"
+#include "utilities/ICC.h"
+#include "utilities/TranslationInfo.h"
+#include "widgets/KestrelApplication.h"
+#include "widgets/KestrelListBoxItem.h"
+
+#include <algorithm>
+
+namespace DisplayAPI {
+
+namespace {
+
+/// An arrow is understood in every language.
+constexpr const char* BACK_ROW_TEXT = "\u2190";
+
+KestrelListBoxItem* itemOf(ListItemPrivateIfc* row)
+{
+    return row == nullptr ? nullptr : row->getKestrelListItem();
+}
+
+} // namespace
+
+ListBoxCore::ListBoxCore(DisplayablePrivate& self, List* owner, std::shared_ptr<KestrelListBox*> slot, Back back)
+    : mSelf(self), mOwner(owner), mGoesBack(back != Back::NONE), mSlot(std::move(slot)), mOwnership(mSlot.get(), true)
+{
+    box()->setMessageTarget(this);
+    box()->setBackArrow(back == Back::KEY);
+    if (back == Back::KEY_AND_ROW) {
+        mBackRow = std::make_unique<KestrelListBoxItem>(ICC::fromUTF8toUNICODE(BACK_ROW_TEXT));
+        box()->append(mBackRow.get());
+    }
+    if (auto* application = KestrelApplication::getCurrentApplication())
+        application->addObserver(this);
+}
+
+ListBoxCore::~ListBoxCore()
+{
+    if (auto* application = KestrelApplication::getCurrentApplication())
+        application->removeObserver(this);
+    if (box() != nullptr)
+        box()->setMessageTarget(nullptr);
+}
+
+int ListBoxCore::Message(const PegMessage& message)
+{
+    switch (message.wType) {
+    case PM_CURRENT_CHANGED:
+        changed();
+        break;
+    case PM_CLICKED:
+        mSelf.postCommand(isOnBackRow() ? List::BACK_COMMAND() : List::SELECT_COMMAND(), mOwner);
+        break;
+    case PM_RIGHT:
+        if (!isOnBackRow())
+            mSelf.postCommand(List::RIGHT_COMMAND(), mOwner);
+        break;
+    case PM_LEFT:
+        if (mGoesBack)
+            mSelf.postCommand(List::BACK_COMMAND(), mOwner);
+        break;
+    case PM_APPLICATION_CHANGED:
+        showTitle();
+        break;
+    default:
+        return PegThing::Message(message);
+    }
+    return 0;
+}
+
+Displayable* ListBoxCore::owner() const
+{
+    return mOwner;
+}
+
+bool ListBoxCore::hasTitle() const
+{
+    return box() != nullptr && !box()->title().empty();
+}
+
+template <typename Change>
+void ListBoxCore::change(Change apply)
+{
+    if (box() == nullptr)
+        return;
+    apply(*box());
+    changed();
+}
+
+/// A change of rows does not bring the user to the row that goes back; he goes there himself.
+template <typename Change>
+void ListBoxCore::changeRows(Change apply)
+{
+    change([&](KestrelListBox& list) {
+        const bool wentThere = size() > 0 && isOnBackRow();
+        apply(list);
+        if (isOnBackRow() && !wentThere)
+            list.setCurrentRow(size() - 1);
+    });
+}
+
+void ListBoxCore::changed()
+{
+    if (box() != nullptr && box()->StatusIs(PSF_VISIBLE))
+        mSelf.generateDisplayChangedEvent();
+}
+
+bool ListBoxCore::isOnBackRow() const
+{
+    return mBackRow != nullptr && box() != nullptr && box()->currentRow() == size();
+}
+
+int ListBoxCore::size() const
+{
+    return box() == nullptr ? 0 : box()->numItems() - (mBackRow != nullptr ? 1 : 0);
+}
+
+int ListBoxCore::selectedIndex() const
+{
+    return box() == nullptr || isOnBackRow() ? -1 : box()->currentRow();
+}
+
+void ListBoxCore::select(int index)
+{
+    if (index < size())
+        change([&](KestrelListBox& list) { list.setCurrentRow(index); });
+}
+
+void ListBoxCore::select(ListItemPrivateIfc* row)
+{
+    change([&](KestrelListBox& list) { list.setCurrentRow(list.rowOf(itemOf(row))); });
+}
+
+void ListBoxCore::insert(ListItemPrivateIfc* row, int index)
+{
+    changeRows([&](KestrelListBox& list) { list.insert(itemOf(row), std::min(index, size())); });
+}
+
+void ListBoxCore::remove(ListItemPrivateIfc* row)
+{
+    changeRows([&](KestrelListBox& list) { list.remove(itemOf(row)); });
+}
+
+void ListBoxCore::clear()
+{
+    change([&](KestrelListBox& list) {
+        list.clear();
+        list.append(mBackRow.get());
+    });
+}
+
+void ListBoxCore::setTitle(const std::string& title)
+{
+    mTitle = title;
+    mTranslatedTitle = nullptr;
+    showTitle();
+}
+
+void ListBoxCore::setTitle(TranslationInfo* title)
+{
+    mTitle.clear();
+    mTranslatedTitle = title;
+    showTitle();
+}
+
+void ListBoxCore::showTitle()
+{
+    const std::string text = mTranslatedTitle != nullptr ? mTranslatedTitle->getCompleteString() : mTitle;
+    change([&](KestrelListBox& list) { list.setTitle(ICC::fromUTF8toUNICODE(text)); });
+}
+
+void ListBoxCore::setHighlight(bool on)
+{
+    change([&](KestrelListBox& list) { list.setSelectionHighlight(on); });
+}
+
+void ListBoxCore::hide()
+{
+    if (box() == nullptr || box()->Parent() == nullptr)
+        return;
+    mOwnership.gainOwnership();
+    box()->Parent()->Remove(box());
+}
+
+void ListBoxCore::setSystemText(int line, const std::string& text)
+{
+    if (line >= 0 && line < static_cast<int>(mSystemTexts.size()))
+        mSystemTexts[static_cast<std::size_t>(line)] = text;
+}
+
+} // namespace DisplayAPI

@@ -1,0 +1,106 @@
+#pragma once
+
+#include "DisplayAPI/DisplayablePrivate.h"
+#include "DisplayAPI/OwnershipDelegate.h"
+#include "toolkit/PegThing.h"
+#include "widgets/KestrelListBox.h"
+
+#include <array>
+#include <memory>
+#include <string>
+
+class KestrelListBoxItem;
+class TranslationInfo;
+
+namespace DisplayAPI {
+
+class List;
+class ListItemPrivateIfc;
+class PopupDialer;
+class TickerPrivateIfc;
+
+/// A list box that empties `slot`, the one pointer to it, when it dies: while it is on screen the presentation manager
+/// owns it and may be gone before the list is.
+template <typename Box>
+class WatchedBox final : public Box {
+public:
+    explicit WatchedBox(std::shared_ptr<KestrelListBox*> slot) : mSlot(std::move(slot)) {}
+    ~WatchedBox() override { *mSlot = nullptr; }
+
+private:
+    std::shared_ptr<KestrelListBox*> mSlot;
+};
+
+template <typename Box>
+std::shared_ptr<KestrelListBox*> makeWatched()
+{
+    auto slot = std::make_shared<KestrelListBox*>(nullptr);
+    *slot = new WatchedBox<Box>(slot);
+    return slot;
+}
+
+/// What the lists of all panels do: rows and title go to the widget, what the user does there becomes commands. It is
+/// the widget's message target.
+class ListBoxCore : public PegThing {
+public:
+    /// How the user gets back from a list.
+    enum class Back { NONE, KEY, KEY_AND_ROW };
+
+    /// `self` and `owner` outlive the core.
+    ListBoxCore(DisplayablePrivate& self, List* owner, std::shared_ptr<KestrelListBox*> slot, Back back);
+    ~ListBoxCore() override;
+
+    int Message(const PegMessage& message) override;
+
+    KestrelListBox* box() const { return *mSlot; }
+    Displayable* owner() const;
+    OwnershipIfc& ownership() { return mOwnership; }
+    bool hasTitle() const;
+
+    /// Rows, without the one that goes back.
+    int size() const;
+    int selectedIndex() const;
+    void select(int index);
+    void select(ListItemPrivateIfc* row);
+    void insert(ListItemPrivateIfc* row, int index);
+    void remove(ListItemPrivateIfc* row);
+    void clear();
+
+    void setTitle(const std::string& title);
+    void setTitle(TranslationInfo* title);
+    void setHighlight(bool on);
+    void hide();
+
+    void setSystemLines(int lines) { mSystemLines = lines; }
+    void setSystemText(int line, const std::string& text);
+    void setTicker(TickerPrivateIfc* ticker) { mTicker = ticker; }
+    void setDialler(PopupDialer* dialler) { mDialler = dialler; }
+    void showDialler(bool onInitialKey) { mDiallerOnInitialKey = onInitialKey; }
+
+private:
+    template <typename Change>
+    void change(Change apply);
+    template <typename Change>
+    void changeRows(Change apply);
+    void changed();
+    bool isOnBackRow() const;
+    void showTitle();
+
+    DisplayablePrivate& mSelf;
+    List* mOwner;
+    bool mGoesBack;
+    std::shared_ptr<KestrelListBox*> mSlot;
+    OwnershipDelegate<KestrelListBox> mOwnership;
+    std::unique_ptr<KestrelListBoxItem> mBackRow; ///< null where there is none
+    std::string mTitle;
+    TranslationInfo* mTranslatedTitle = nullptr;
+
+    // Kept for the parts of a list that are still to be shown.
+    int mSystemLines = 0;
+    std::array<std::string, 6> mSystemTexts;
+    TickerPrivateIfc* mTicker = nullptr;
+    PopupDialer* mDialler = nullptr;
+    bool mDiallerOnInitialKey = false;
+};
+
+} // namespace DisplayAPI

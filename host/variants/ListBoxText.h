@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+class KestrelListBox;
+
+namespace DisplayAPIUtils {
+class Rect;
+}
+
+namespace DisplayAPI {
+
+/// The list as text: its title and the rows in view.
+std::string listAsText(const KestrelListBox& list);
+
+/// The same, with the rows that share a pixel with one of `visible`; empty where nothing of the list does.
+std::string listAsText(const KestrelListBox& list, const std::vector<DisplayAPIUtils::Rect>& visible);
+
+} // namespace DisplayAPI
