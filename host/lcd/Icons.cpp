@@ -15,6 +15,16 @@ const Icon ARROW_DOWN{{
     "..###..",
     "...#..."}};
 
+const Icon SMALL_ARROW_UP{{
+    "..#..",
+    ".###.",
+    "#####"}};
+
+const Icon SMALL_ARROW_DOWN{{
+    "#####",
+    ".###.",
+    "..#.."}};
+
 const Icon BACK{{
     "...#",
     "..##",

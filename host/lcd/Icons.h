@@ -25,6 +25,8 @@ namespace icons {
 
 extern const Icon ARROW_UP;
 extern const Icon ARROW_DOWN;
+extern const Icon SMALL_ARROW_UP;
+extern const Icon SMALL_ARROW_DOWN;
 extern const Icon BACK;
 extern const Icon RADIO;
 extern const Icon RADIO_CHOSEN;

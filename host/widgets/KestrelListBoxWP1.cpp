@@ -12,8 +12,8 @@ constexpr KestrelListBox::Layout LAYOUT{
     .titleHeight = 21,
     .rowHeight = 21,
     .gutter = 8,
-    .leftInset = 0,
-    .rightInset = 1,
+    .leftInset = 1,
+    .rightInset = 0,
     .scrollWidth = 7,
     .scrollBar = false,
 };

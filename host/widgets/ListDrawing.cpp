@@ -71,9 +71,11 @@ void KestrelListBox::Impl::drawScroll(PegPainter& painter, const ListGeometry& p
     if (isEmpty(parts.scroll) || painter.isClippedOut(parts.scroll))
         return;
     if (top > 0)
-        painter.icon(icons::ARROW_UP, arrowCell(parts.scroll, true), Level::DARK);
+        painter.icon(layout.scrollBar ? icons::ARROW_UP : icons::SMALL_ARROW_UP, arrowCell(parts.scroll, true),
+                     Level::DARK);
     if (top < lastTop())
-        painter.icon(icons::ARROW_DOWN, arrowCell(parts.scroll, false), Level::DARK);
+        painter.icon(layout.scrollBar ? icons::ARROW_DOWN : icons::SMALL_ARROW_DOWN, arrowCell(parts.scroll, false),
+                     Level::DARK);
     if (isEmpty(parts.track))
         return;
     painter.fill(parts.track, Level::LIGHT);
