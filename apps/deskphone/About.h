@@ -1,0 +1,28 @@
+#pragma once
+
+#include "apps/deskphone/Screen.h"
+
+#include <cstdint>
+
+namespace deskphone {
+
+/// What this telephone is and how long it has been running; that row renews itself every second.
+class About : public Screen {
+public:
+    About(DisplayAPI::Display& display, Screen* parent);
+
+    void stopWorking() override;
+
+private:
+    void build() override;
+    void chosen(int) override {}
+
+    std::string uptime() const;
+    std::int64_t untilNextSecond() const;
+
+    std::int64_t mStart;
+    bool mStop = false; ///< guarded by the clock's lock
+    DisplayAPI::ListItem* mUptimeRow = nullptr;
+};
+
+} // namespace deskphone

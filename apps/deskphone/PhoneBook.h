@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+
+namespace deskphone {
+
+/// A large phone book with names in several scripts. Entries are put together when they are asked for.
+class PhoneBook {
+public:
+    static int size();
+
+    /// REQUIRES: 0 <= index < size()
+    static std::string name(int index);
+    static std::string kind(int index);
+    static std::string number(int index);
+};
+
+} // namespace deskphone
