@@ -1,7 +1,7 @@
 #include "simulator/launcher/PageSession.h"
 
 #include "simulator/launcher/ApplicationRun.h"
-#include "simulator/launcher/PortCheck.h"
+#include "simulator/web/PortCheck.h"
 
 #include <iostream>
 

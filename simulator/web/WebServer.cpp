@@ -2,9 +2,10 @@
 
 #include "simulator/web/Page.h"
 #include "simulator/web/PageMessage.h"
+#include "simulator/web/PortCheck.h"
 
 #include <civetweb.h>
-#include <cstring>
+#include <thread>
 
 namespace simulator {
 
@@ -60,10 +61,19 @@ int ignoreLog(const mg_connection*, const char*)
     return 1;
 }
 
+/// The server notices that it shall stop when somebody comes; else it takes its time.
+void visitUntil(const std::stop_token& stop, const Endpoint& endpoint)
+{
+    while (!stop.stop_requested()) {
+        isServed(endpoint);
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    }
+}
+
 } // namespace
 
 WebServer::WebServer(const Endpoint& endpoint, Broadcaster& broadcaster, KeyPad& keys)
-    : mAdmission(endpoint), mBroadcaster(broadcaster), mKeys(keys)
+    : mEndpoint(endpoint), mAdmission(endpoint), mBroadcaster(broadcaster), mKeys(keys)
 {
     const std::string addressAndPort = endpoint.addressAndPort();
     const auto options = optionsFor(addressAndPort);
@@ -84,8 +94,10 @@ WebServer::WebServer(const Endpoint& endpoint, Broadcaster& broadcaster, KeyPad&
 
 WebServer::~WebServer()
 {
-    if (mContext != nullptr)
+    if (mContext != nullptr) {
+        const std::jthread visitor([this](std::stop_token stop) { visitUntil(stop, mEndpoint); });
         mg_stop(mContext);
+    }
     mg_exit_library();
 }
 

@@ -34,6 +34,7 @@ private:
 
     bool handle(PageConnection& page, std::string_view text);
 
+    Endpoint mEndpoint;
     Admission mAdmission;
     Broadcaster& mBroadcaster;
     KeyPad& mKeys;

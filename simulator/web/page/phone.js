@@ -131,7 +131,9 @@ function fit() {
   const isPortrait = window.innerWidth < 700 && window.innerWidth < 1.2 * window.innerHeight;
   phone.classList.toggle("compact", isPortrait);
   document.documentElement.style.setProperty("--u", "1px");
-  const room = Math.min((window.innerWidth - 16) / phone.offsetWidth, (window.innerHeight - 56) / phone.offsetHeight);
+  const below = document.querySelector(".hint").offsetHeight;
+  const room = Math.min((window.innerWidth - 16) / phone.offsetWidth,
+                        (window.innerHeight - (below ? below + 34 : 16)) / phone.offsetHeight);
   const pixel = Math.max(1, Math.floor(2 * room * ratio)) / ratio;
   document.documentElement.style.setProperty("--u", `${pixel / 2}px`);
 }

@@ -1,4 +1,4 @@
-#include "simulator/launcher/PortCheck.h"
+#include "simulator/web/PortCheck.h"
 
 #include <cerrno>
 #include <cstring>
