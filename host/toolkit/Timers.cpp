@@ -44,8 +44,10 @@ void Timers::fireDue()
     while (!mByDue.empty() && mByDue.begin()->first <= now) {
         const auto [due, timer] = *mByDue.begin();
         mByDue.erase(mByDue.begin());
-        if (timer.period > 0) // a loop that was late does not catch up
-            mByDue.emplace(std::max(due, now - timer.period + 1) + timer.period, timer);
+        if (timer.period > 0) { // a loop that was late does not catch up
+            const std::int64_t next = due + timer.period;
+            mByDue.emplace(next > now ? next : now + timer.period, timer);
+        }
         publishNextDue();
         timer.thing->Message({PM_TIMER, timer.id, timer.thing});
     }
