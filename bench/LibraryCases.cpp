@@ -6,8 +6,8 @@
 #include "DisplayAPI/GuiRequestEvent.h"
 
 #include <atomic>
-#include <cstdlib>
 #include <cstdio>
+#include <cstdlib>
 
 namespace bench {
 

@@ -38,7 +38,8 @@ public:
     int call()
     {
         int result = 0;
-        QMetaObject::invokeMethod(&mObject, [] { return 1; }, Qt::BlockingQueuedConnection, &result);
+        QMetaObject::invokeMethod(
+            &mObject, [] { return 1; }, Qt::BlockingQueuedConnection, &result);
         return result;
     }
 

@@ -30,7 +30,8 @@ void callPrepared(DisplayPrivateIfc& implementation, Display* display, Request::
 template <typename... Args>
 void call(DisplayPrivateIfc& implementation, Display* display, Request::DisplayRequests code, Args&&... args)
 {
-    callPrepared(implementation, display, code, [](Request&) {}, std::forward<Args>(args)...);
+    callPrepared(
+        implementation, display, code, [](Request&) {}, std::forward<Args>(args)...);
 }
 
 constexpr bool NO_FLAG = false;
@@ -304,8 +305,7 @@ void Display::setSystemWindowText(int line, std::string text)
 {
     if (Widget::isGuiThread())
         return mImplementation->setSystemWindowText(line, std::move(text));
-    mImplementation->postEventAsync(
-        new Request(this, Request::SET_SYSTEM_WINDOW_TEXT, nullptr, line, std::move(text)));
+    mImplementation->postEventAsync(new Request(this, Request::SET_SYSTEM_WINDOW_TEXT, nullptr, line, std::move(text)));
 }
 
 void Display::setSystemWindowTop(int top)

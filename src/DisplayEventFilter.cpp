@@ -57,14 +57,9 @@ void DisplayEventFilter::uninstall()
 int DisplayEventFilter::Message(const PegMessage& message)
 {
     switch (message.wType) {
-    case PM_DISPLAY_REQUEST:
-        carryOut(static_cast<DisplayRequestEvent*>(message.pData));
-        return 0;
-    case PM_WIDGET_REQUEST:
-        carryOut(static_cast<GuiRequestEvent*>(message.pData));
-        return 0;
-    default:
-        return PegThing::Message(message);
+    case PM_DISPLAY_REQUEST: carryOut(static_cast<DisplayRequestEvent*>(message.pData)); return 0;
+    case PM_WIDGET_REQUEST: carryOut(static_cast<GuiRequestEvent*>(message.pData)); return 0;
+    default: return PegThing::Message(message);
     }
 }
 

@@ -546,11 +546,10 @@ void DisplayPrivate::clearSWfromDisplayable()
     if (DisplayablePrivate* previous = withSystemWindow(mPreviousCurrent))
         previous->setSysWindowSize(0);
     if (mCurrent != nullptr && mPreviousCurrent->getName() == "IdleDisplay" && mCurrent->getName() == "PopupDialer") {
-        gLog(TRACE, 680,
-             "clearSWfromDisplayable()  **  previousName == IdleDisplay && currentName == PopupDialer");
+        gLog(TRACE, 680, "clearSWfromDisplayable()  **  previousName == IdleDisplay && currentName == PopupDialer");
     } else {
-        const auto lines = std::clamp(mContentWidget->getSWCurrentNumLines(), 0,
-                                      static_cast<int>(mInvalidSystemWindowLines.size()));
+        const auto lines =
+            std::clamp(mContentWidget->getSWCurrentNumLines(), 0, static_cast<int>(mInvalidSystemWindowLines.size()));
         std::fill_n(mInvalidSystemWindowLines.begin(), lines, true);
     }
     mPreviousCurrent = mCurrent;

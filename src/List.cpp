@@ -59,8 +59,8 @@ constexpr bool WAIT = false;
 /// What a clear makes pointless.
 std::set<int>* supersededByClear()
 {
-    static std::set<int> codes{APPEND_TEXT, APPEND_TRANSLATED, APPEND_ITEM, CLEAR,  SET_SELECTED,
-                               INSERT_AT,   REMOVE,            REMOVE_ALL,  REPLACE};
+    static std::set<int> codes{APPEND_TEXT, APPEND_TRANSLATED, APPEND_ITEM, CLEAR, SET_SELECTED, INSERT_AT,
+                               REMOVE,      REMOVE_ALL,        REPLACE};
     return &codes;
 }
 
@@ -113,9 +113,7 @@ void List::processGuiRequest(GuiRequestEvent& request)
     case REMOVE_AT: answer(request, privateRemoveAt(request.intParam1)); break;
     case REMOVE: privateRemove(pointer<ListItem>(request.ptrParam1)); break;
     case REMOVE_ALL: privateRemoveAll(); break;
-    case REPLACE:
-        privateReplace(pointer<ListItem>(request.ptrParam1), pointer<ListItem>(request.ptrParam2));
-        break;
+    case REPLACE: privateReplace(pointer<ListItem>(request.ptrParam1), pointer<ListItem>(request.ptrParam2)); break;
     case SET_TICKER: privateSetTicker(pointer<Ticker>(request.ptrParam1)); break;
     case ADD_DIALER: privateAddDialer(pointer<PopupDialer>(request.ptrParam1)); break;
     default:
@@ -126,8 +124,8 @@ void List::processGuiRequest(GuiRequestEvent& request)
     signalComplete(request);
 }
 
-/// The requests that only the implementation has a part in. GET_TICKER, GET_DIALER and GET_ITEMS have none at all: their
-/// round trip puts the call behind the caller's earlier requests.
+/// The requests that only the implementation has a part in. GET_TICKER, GET_DIALER and GET_ITEMS have none at all:
+/// their round trip puts the call behind the caller's earlier requests.
 void List::processImplementationRequest(GuiRequestEvent& request)
 {
     ListBoxPrivateIfc& list = *mImplementation;

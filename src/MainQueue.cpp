@@ -12,6 +12,7 @@ PegMessage* takePooledMessage()
         gpFreePool->head = message->Next;
         if (message->Next == nullptr)
             gpFreePool->tail = nullptr;
+        __builtin_prefetch(message->Next, 1);
     }
     UnlockMessageQueue();
     return message;

@@ -22,6 +22,7 @@ public:
         Block* block = cache.head;
         cache.head = block->next;
         --cache.size;
+        fetchForWriting(block->next);
         return block;
     }
 
@@ -46,7 +47,15 @@ private:
         Block* nextBatch;
     };
 
-    static constexpr std::size_t BLOCK_SIZE = sizeof(Record) > sizeof(Block) ? sizeof(Record) : sizeof(Block);
+    static constexpr std::size_t LINE = 64;
+    static constexpr std::size_t BLOCK_SIZE = (sizeof(Record) + LINE - 1) / LINE * LINE;
+
+    /// The block that comes next was last written by another CPU: ask for its lines before they are needed.
+    static void fetchForWriting(Block* block)
+    {
+        for (std::size_t line = 0; line < BLOCK_SIZE; line += LINE)
+            __builtin_prefetch(reinterpret_cast<char*>(block) + line, 1);
+    }
 
     /// Trivial, so that it can still be looked at when the thread's other variables are gone.
     struct Cache {

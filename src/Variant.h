@@ -10,7 +10,7 @@ inline int hardwareVariant()
     return KestrelApplication::getHardwareVariant(KestrelApplication::getCurrentApplication());
 }
 
-constexpr int FULL_PANEL = 1; ///< 240 x 128 and its narrow form
+constexpr int FULL_PANEL = 1;  ///< 240 x 128 and its narrow form
 constexpr int SMALL_PANEL = 0; ///< 208 x 42
 
 inline bool isFullPanel()

@@ -130,10 +130,7 @@ GuiRequestEvent* unwrap(PegMessage& message)
 
 } // namespace
 
-Widget::Widget()
-    : name("Widget"), mSync(new Sync{new Semaphore(Semaphore::AVAILABLE, 1, false), new Wait})
-{
-}
+Widget::Widget() : name("Widget"), mSync(new Sync{new Semaphore(Semaphore::AVAILABLE, 1, false), new Wait}) {}
 
 Widget::Widget(const Widget& other) : name("Widget"), mSync(new Sync(*other.mSync)) {}
 

@@ -96,10 +96,10 @@ private:
     DisplayRequests mType;
     Semaphore* mSemaphore;
     Displayable** mCurrentDisplayable;
-    Rects** mDisplayedRects;          ///< not set by the constructors with an int
+    Rects** mDisplayedRects; ///< not set by the constructors with an int
     std::string* mStringReturn;
-    const Rects* mSerialisableRects;  ///< not set by the constructors with an int
-    std::int32_t mInt;                ///< not set by the constructor with a string alone
+    const Rects* mSerialisableRects; ///< not set by the constructors with an int
+    std::int32_t mInt;               ///< not set by the constructor with a string alone
 };
 
 } // namespace DisplayAPI

@@ -23,8 +23,8 @@ class Ticker;
 /// getTicker() and getDialer() wait, as does the destructor; everything else posts and returns at once. Calls from one
 /// thread keep their order.
 /// Ownership: the list owns the rows in it; clear() and the destructor delete them. removeAt(), remove(), removeAll()
-/// and replace() give rows back to the caller. The row pointers that getItems() and getSelected() return stay the list's.
-/// Listeners, tickers, dialers and translations are not owned.
+/// and replace() give rows back to the caller. The row pointers that getItems() and getSelected() return stay the
+/// list's. Listeners, tickers, dialers and translations are not owned.
 class DISPLAYAPI_EXPORT List : public Displayable {
 public:
     /// A list with a way back: on the 240 x 128 panel list types 2 and 3, on the 208 x 42 panel 1 and 3.

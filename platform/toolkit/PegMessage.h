@@ -36,7 +36,8 @@ enum PegKey : std::int32_t {
     PK_HOOK
 };
 
-/// One message of the toolkit. A record is in exactly one place: the free pool, the main queue, or a dispatcher's hands.
+/// One message of the toolkit. A record is in exactly one place: the free pool, the main queue, or a dispatcher's
+/// hands.
 struct PegMessage {
     std::uint16_t wType = 0;
     std::int32_t iData = 0;

@@ -27,7 +27,7 @@ enum PegStatus : std::uint16_t {
 };
 
 enum PegStyle : std::uint16_t {
-    FF_NONE = 1,      ///< no frame
+    FF_NONE = 1,       ///< no frame
     FF_BEHIND = 0x4000 ///< a background: never takes the focus
 };
 
@@ -62,8 +62,8 @@ public:
     void Remove(PegThing* child, bool redraw = true);
 
     PegThing* Parent() const { return mParent; }
-    PegThing* First() const { return mFirst; }       ///< the bottom child
-    PegThing* NextSibling() const { return mNext; }  ///< the one above, towards the top
+    PegThing* First() const { return mFirst; }      ///< the bottom child
+    PegThing* NextSibling() const { return mNext; } ///< the one above, towards the top
 
     std::uint16_t Id() const { return mId; }
     std::uint8_t Type() const { return mType; }

@@ -13,7 +13,8 @@ public:
 
     /// Returns when wakeUp() has been called since the last return. No time limit.
     ///
-    /// The woken thread may destroy the object as soon as this returns: wakeUp() does not touch it after its last store.
+    /// The woken thread may destroy the object as soon as this returns: wakeUp() does not touch it after its last
+    /// store.
     void wait();
 
     /// Wakes the waiting thread, or lets the next wait() return at once. From any thread.

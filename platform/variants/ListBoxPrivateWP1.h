@@ -12,7 +12,8 @@ class List;
 /// The list of the 208 x 42 panel.
 class DISPLAYAPI_EXPORT ListBoxPrivateWP1 : public DisplayablePrivate, public ListBoxPrivateIfc {
 public:
-    /// `owner` is the facade, not owned. `backItem`: the list ends with a row that goes back. It counts as no row: selected, the index is -1.
+    /// `owner` is the facade, not owned. `backItem`: the list ends with a row that goes back. It counts as no row:
+    /// selected, the index is -1.
     ListBoxPrivateWP1(List* owner, bool backItem);
     ~ListBoxPrivateWP1() override;
 

@@ -43,7 +43,8 @@ public:
     const PegString& getDateFormat() const;
     const PegString& getTimeFormat() const;
 
-    /// Observers are told in the order in which they were added, and may add and remove themselves meanwhile. Not owned.
+    /// Observers are told in the order in which they were added, and may add and remove themselves meanwhile. Not
+    /// owned.
     void addObserver(PegThing* observer);
     void removeObserver(PegThing* observer);
 

@@ -25,7 +25,7 @@ public:
     void setMessageTarget(PegThing* target);
 
     int numItems() const;
-    KestrelListBoxItem* itemAt(int row) const; ///< null outside 0 to numItems() - 1
+    KestrelListBoxItem* itemAt(int row) const;       ///< null outside 0 to numItems() - 1
     int rowOf(const KestrelListBoxItem* item) const; ///< -1 where it is not in the list
 
     /// Null is ignored; a row below 0 inserts at the front, one past the end appends. An item that already stands in a
