@@ -29,10 +29,8 @@ int KestrelListBox::Message(const PegMessage& message)
 
 void KestrelListBox::Resize(const PegRect& area)
 {
-    Invalidate();
     PegThing::Resize(area);
     mImpl->scrollToCurrent();
-    Invalidate();
 }
 
 void KestrelListBox::setMessageTarget(PegThing* target)

@@ -75,9 +75,7 @@ void SystemWindow::Draw(PegPainter& painter)
 void SystemWindow::place()
 {
     const int width = Lcd::current() != nullptr ? Lcd::current()->width() : 240;
-    Invalidate();
     Resize(rectAt(0, mTop, width, mSize * look().lineHeight));
-    Invalidate();
 }
 
 void SystemWindow::setEventHandler(GUIEventIfc* handler)

@@ -1,0 +1,138 @@
+#include "widgets/KestrelApplication.h"
+
+#include "toolkit/PegThing.h"
+#include "utilities/ICC.h"
+
+#include <functional>
+#include <gmock/gmock.h>
+#include <thread>
+
+using testing::ElementsAre;
+
+namespace {
+
+/// Puts the application back that was current before the test.
+class KestrelApplicationTest : public testing::Test {
+protected:
+    ~KestrelApplicationTest() override { KestrelApplication::setCurrentApplication(mBefore); }
+
+private:
+    KestrelApplication* const mBefore = KestrelApplication::getCurrentApplication();
+};
+
+class Observer : public PegThing {
+public:
+    Observer(std::string name, std::vector<std::string>& log) : mName(std::move(name)), mLog(log) {}
+
+    int Message(const PegMessage& message) override
+    {
+        EXPECT_EQ(message.wType, PM_APPLICATION_CHANGED);
+        EXPECT_EQ(message.pTarget, this);
+        mLog.push_back(mName + ":" + ICC::fromUNICODEtoUTF8(*static_cast<const PegString*>(message.pData)));
+        if (whenTold)
+            whenTold();
+        return 0;
+    }
+
+    std::function<void()> whenTold;
+
+private:
+    std::string mName;
+    std::vector<std::string>& mLog;
+};
+
+PegString text(const char* utf8)
+{
+    return ICC::fromUTF8toUNICODE(utf8);
+}
+
+TEST_F(KestrelApplicationTest, platformHasMadeOne)
+{
+    ASSERT_NE(KestrelApplication::getCurrentApplication(), nullptr);
+    EXPECT_EQ(KestrelApplication().getHardwareVariant(), 1);
+    EXPECT_EQ(KestrelApplication().getSoftwareType(), 2);
+}
+
+TEST_F(KestrelApplicationTest, currentOneThatDiesLeavesNone)
+{
+    {
+        KestrelApplication application;
+        KestrelApplication::setCurrentApplication(&application);
+    }
+    EXPECT_EQ(KestrelApplication::getCurrentApplication(), nullptr);
+}
+
+TEST_F(KestrelApplicationTest, anotherOneThatDiesChangesNothing)
+{
+    auto* current = KestrelApplication::getCurrentApplication();
+    {
+        KestrelApplication other;
+    }
+    EXPECT_EQ(KestrelApplication::getCurrentApplication(), current);
+}
+
+TEST_F(KestrelApplicationTest, noApplicationIsVariantOne)
+{
+    KestrelApplication application;
+    application.setHardwareVariant(0);
+    EXPECT_EQ(KestrelApplication::getHardwareVariant(nullptr), 1);
+    EXPECT_EQ(KestrelApplication::getHardwareVariant(&application), 0);
+}
+
+TEST_F(KestrelApplicationTest, variantAndTypeCanBeReadFromAnyThread)
+{
+    KestrelApplication application;
+    application.setHardwareVariant(0);
+    application.setSoftwareType(1);
+    std::thread([&] {
+        EXPECT_EQ(application.getHardwareVariant(), 0);
+        EXPECT_EQ(application.getSoftwareType(), 1);
+    }).join();
+}
+
+TEST_F(KestrelApplicationTest, eachSetterKeepsItsTextAndSendsTheLocale)
+{
+    KestrelApplication application;
+    std::vector<std::string> log;
+    Observer observer("a", log);
+    application.addObserver(&observer);
+    application.setLocale(text("de"));
+    application.setDateFormat(text("DD.MM."));
+    application.setTimeFormat(text("24h"));
+    EXPECT_THAT(log, ElementsAre("a:de", "a:de", "a:de"));
+    EXPECT_EQ(application.getLocale(), text("de"));
+    EXPECT_EQ(application.getDateFormat(), text("DD.MM."));
+    EXPECT_EQ(application.getTimeFormat(), text("24h"));
+}
+
+TEST_F(KestrelApplicationTest, tellsObserversInOrderAndOnce)
+{
+    KestrelApplication application;
+    std::vector<std::string> log;
+    Observer first("a", log), second("b", log);
+    for (PegThing* observer : {&first, &second, &first})
+        application.addObserver(observer);
+    application.addObserver(nullptr);
+    application.setLocale(text("x"));
+    EXPECT_THAT(log, ElementsAre("a:x", "b:x"));
+}
+
+TEST_F(KestrelApplicationTest, observersMayComeAndGoWhileTheyAreTold)
+{
+    KestrelApplication application;
+    std::vector<std::string> log;
+    Observer first("a", log), second("b", log), third("c", log);
+    first.whenTold = [&] {
+        application.removeObserver(&first);
+        application.removeObserver(&second);
+        application.addObserver(&third);
+    };
+    application.addObserver(&first);
+    application.addObserver(&second);
+    application.setLocale(text("x"));
+    EXPECT_THAT(log, ElementsAre("a:x"));
+    application.setLocale(text("y"));
+    EXPECT_THAT(log, ElementsAre("a:x", "c:y"));
+}
+
+} // namespace
