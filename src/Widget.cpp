@@ -128,6 +128,20 @@ GuiRequestEvent* unwrap(PegMessage& message)
     return request;
 }
 
+/// Removes the matching requests; returns whether somebody has waited for one of them.
+bool purge(const OwnRequest& matches)
+{
+    bool hasWoken = false;
+    removeMessages(matches, [&](PegMessage* message) {
+        GuiRequestEvent* request = unwrap(*message);
+        hasWoken = hasWoken || request->waitCondition() != nullptr;
+        request->signalComplete();
+        delete request;
+        giveBackMessage(message);
+    });
+    return hasWoken;
+}
+
 } // namespace
 
 Widget::Widget() : name("Widget"), mSync(new Sync{new Semaphore(Semaphore::AVAILABLE, 1, false), new Wait}) {}
@@ -147,7 +161,9 @@ Widget& Widget::operator=(const Widget& other)
 
 Widget::~Widget()
 {
-    purgeOwnMessage(nullptr);
+    // Whoever has been woken still has to give the request lock back.
+    if (purge({this, nullptr}))
+        mSync->requestLock->take(-1);
     delete mSync->wait;
     delete mSync->requestLock;
     delete mSync;
@@ -244,12 +260,7 @@ void Widget::purgeOwnMessage(int code)
 
 void Widget::purgeOwnMessage(std::set<int>* codes)
 {
-    removeMessages(OwnRequest{this, codes}, [](PegMessage* message) {
-        GuiRequestEvent* request = unwrap(*message);
-        request->signalComplete();
-        delete request;
-        giveBackMessage(message);
-    });
+    purge({this, codes});
 }
 
 void focusChanged(PegThing* thing)
