@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <string_view>
 #include <time.h>
+#include <utility>
 
 namespace host {
 
@@ -30,18 +31,16 @@ std::int64_t realNow()
 /// ends counts as asleep.
 class Clock::Wakefulness {
 public:
-    ~Wakefulness() { sleepAgain(); }
-
-    void wokenAt(std::uint64_t stopNumber) { mStopNumber = stopNumber; }
-
-    void sleepAgain()
+    ~Wakefulness()
     {
-        if (mStopNumber == 0)
-            return;
         std::lock_guard lock(instance().mMutex);
-        instance().fellAsleep(mStopNumber);
-        mStopNumber = 0;
+        end();
     }
+
+    /// REQUIRES, as end() does: the clock's lock is held.
+    void beginAt(std::uint64_t stopNumber) { mStopNumber = stopNumber; }
+
+    void end() { instance().fellAsleep(std::exchange(mStopNumber, 0)); }
 
     static Wakefulness& ofThisThread()
     {
@@ -108,7 +107,7 @@ void Clock::advance(std::int64_t ms)
 {
     if (!mVirtual || ms < 0)
         return;
-    Wakefulness::ofThisThread().sleepAgain();
+    wakeSleepers([] { Wakefulness::ofThisThread().end(); });
     letOthersRun();
     const std::int64_t end = now() + ms;
     while (now() < end) {
@@ -144,22 +143,27 @@ void Clock::letOthersRun()
 {
     Loop::waitUntilIdle(PATIENCE);
     std::unique_lock lock(mMutex);
-    if (mAwake == 0)
-        return;
-    mSettled.wait_for(lock, PATIENCE, [this] { return mAwake == 0; });
+    if (!mSettled.wait_for(lock, PATIENCE, [this] { return mAwake == 0; }))
+        forgetAwake();
     lock.unlock();
     Loop::waitUntilIdle(PATIENCE);
 }
 
+/// Those who are awake at a past stop are not counted.
+void Clock::forgetAwake()
+{
+    mAwake = 0;
+    ++mStopNumber;
+}
+
 void Clock::fellAsleep(std::uint64_t stopNumber)
 {
-    if (stopNumber == mStopNumber && --mAwake == 0)
+    if (stopNumber != 0 && stopNumber == mStopNumber && --mAwake == 0)
         mSettled.notify_all();
 }
 
 bool Clock::sleepFor(std::int64_t ms, const bool* stop)
 {
-    Wakefulness::ofThisThread().sleepAgain();
     std::unique_lock lock(mMutex);
     if (mVirtual)
         return sleepVirtual(lock, ms, stop);
@@ -172,12 +176,13 @@ bool Clock::sleepVirtual(std::unique_lock<std::mutex>& lock, std::int64_t ms, co
     if (ms <= 0)
         return !(stop && *stop);
     mSleeperDues.insert(due);
+    Wakefulness::ofThisThread().end();
     mMoved.wait(lock, [&] { return mVirtualNow >= due || !mVirtual || (stop && *stop); });
     if (mVirtualNow < due) {
         mSleeperDues.erase(mSleeperDues.find(due));
         return !(stop && *stop);
     }
-    Wakefulness::ofThisThread().wokenAt(mStopNumber);
+    Wakefulness::ofThisThread().beginAt(mStopNumber);
     return true;
 }
 

@@ -63,6 +63,7 @@ private:
     void moveTo(std::int64_t moment);
     void letOthersRun();
     void fellAsleep(std::uint64_t stopNumber);
+    void forgetAwake();
 
     mutable std::mutex mMutex;
     std::condition_variable mMoved;

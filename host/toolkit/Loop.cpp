@@ -16,6 +16,8 @@ bool Loop::waitUntilIdle(std::chrono::milliseconds limit)
     const timespec deadline = realTimeAhead(limit.count());
     QueueMutex mutex;
     std::lock_guard lock(mutex);
+    if (status.isIdle())
+        return true;
     ++status.watchers;
     pthread_cond_broadcast(&gtPegMainQueue->condition);
     int result = 0;
