@@ -1,0 +1,34 @@
+#include "simulator/web/PageMessage.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using simulator::PageMessage;
+using simulator::parsePageMessage;
+
+TEST(PageMessage, KeysGoDownAndUp)
+{
+    const auto down = parsePageMessage("down volume-up");
+    ASSERT_TRUE(down.has_value());
+    EXPECT_EQ(down->kind, PageMessage::Kind::DOWN);
+    EXPECT_EQ(down->key, PK_VOLUME_UP);
+    EXPECT_EQ(parsePageMessage("up 7")->kind, PageMessage::Kind::UP);
+}
+
+TEST(PageMessage, FrameWasSeen)
+{
+    const auto seen = parsePageMessage("seen 4294967295");
+    ASSERT_TRUE(seen.has_value());
+    EXPECT_EQ(seen->kind, PageMessage::Kind::SEEN);
+    EXPECT_EQ(seen->frame, 4294967295U);
+}
+
+TEST(PageMessage, AnythingElseIsNone)
+{
+    for (const char* text : {"", "down", "down ", "down middle", "Down ok", "down ok ", "up", "seen", "seen ",
+                             "seen -1", "seen 4294967296", "seen 1x", "{}", "\xff\xfe"})
+        EXPECT_FALSE(parsePageMessage(text).has_value()) << text;
+}
+
+} // namespace

@@ -1,0 +1,124 @@
+#include "simulator/script/ScriptParser.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using simulator::parseScript;
+using simulator::Script;
+using simulator::Step;
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::SizeIs;
+using testing::StartsWith;
+
+Step onlyStep(const std::string& text)
+{
+    const Script script = parseScript("s", text);
+    EXPECT_THAT(script.errors, IsEmpty()) << text;
+    EXPECT_THAT(script.steps, SizeIs(1)) << text;
+    return script.steps.empty() ? Step{} : script.steps.front();
+}
+
+void expectMistake(const std::string& text, const std::string& reason)
+{
+    const Script script = parseScript("s", text);
+    EXPECT_THAT(script.errors, ElementsAre(AllOf(StartsWith("s:1: "), HasSubstr(reason)))) << text;
+    EXPECT_THAT(script.steps, IsEmpty()) << text;
+}
+
+TEST(ScriptParser, KeyIsPressedOnce)
+{
+    const Step step = onlyStep("key volume-up");
+    EXPECT_EQ(step.action, Step::Action::PRESS);
+    EXPECT_THAT(step.keys, ElementsAre(PK_VOLUME_UP));
+}
+
+TEST(ScriptParser, HoldHasAKeyAndATime)
+{
+    const Step step = onlyStep("hold 5 800");
+    EXPECT_EQ(step.action, Step::Action::HOLD);
+    EXPECT_THAT(step.keys, ElementsAre(static_cast<PegKey>('5')));
+    EXPECT_EQ(step.milliseconds, 800);
+}
+
+TEST(ScriptParser, TypePressesOneKeyAfterTheOther)
+{
+    const Step step = onlyStep("type 0*#9");
+    EXPECT_EQ(step.action, Step::Action::PRESS);
+    EXPECT_THAT(step.keys, ElementsAre(PK_0, PK_STAR, PK_HASH, PK_9));
+}
+
+TEST(ScriptParser, WaitHasATime)
+{
+    EXPECT_EQ(onlyStep("wait 0").milliseconds, 0);
+    EXPECT_EQ(onlyStep("wait 86400000").milliseconds, 86'400'000);
+}
+
+TEST(ScriptParser, ExpectationsTakeTheRestOfTheLine)
+{
+    EXPECT_EQ(onlyStep("expect  Ring tone: Классика  ").text, "Ring tone: Классика");
+    EXPECT_EQ(onlyStep("expect-not key down").text, "key down");
+    EXPECT_EQ(onlyStep("expect-not a").action, Step::Action::EXPECT_NOT);
+}
+
+TEST(ScriptParser, OutputHasAPlainName)
+{
+    EXPECT_EQ(onlyStep("screenshot menu.png").text, "menu.png");
+    EXPECT_EQ(onlyStep("dump menu 2.txt").text, "menu 2.txt");
+}
+
+TEST(ScriptParser, CommentsEmptyLinesAndCarriageReturnsAreNothing)
+{
+    const Script script = parseScript("s", "# key nobody\r\n\r\n  \t\n   # no\n\tkey ok\r\n\nkey hook");
+    EXPECT_THAT(script.errors, IsEmpty());
+    ASSERT_THAT(script.steps, SizeIs(2));
+    EXPECT_EQ(script.steps[0].line, 5);
+    EXPECT_EQ(script.steps[1].line, 7);
+}
+
+TEST(ScriptParser, AllMistakesAreReportedWithTheirLines)
+{
+    const Script script = parseScript("walk.script", "key ok\nkey no\n\njump 3\n");
+    EXPECT_THAT(script.errors, ElementsAre(StartsWith("walk.script:2: there is no key 'no'"),
+                                           StartsWith("walk.script:4: there is no command 'jump'")));
+}
+
+TEST(ScriptParser, UnknownKeys)
+{
+    expectMistake("key OK", "there is no key 'OK'");
+    expectMistake("key down up", "there is no key 'down up'");
+    expectMistake("hold middle 5", "there is no key 'middle'");
+    expectMistake("type 12x", "not 'x'");
+}
+
+TEST(ScriptParser, BadNumbers)
+{
+    for (const char* number : {"-1", "1.5", "ten", "5s", "86400001", "99999999999999999999", "0x10", "1 2"})
+        expectMistake(std::string("wait ") + number, "is no number of milliseconds");
+    expectMistake("hold 5", "'' is no number of milliseconds");
+}
+
+TEST(ScriptParser, NothingBehindACommand)
+{
+    for (const char* command : {"key", "hold", "type", "wait", "expect", "expect-not", "screenshot", "dump"})
+        expectMistake(command, "needs something behind it");
+}
+
+TEST(ScriptParser, OutputStaysInItsFolder)
+{
+    for (const char* name : {"../a.png", "/tmp/a.png", "b/a.png", "..", ".a.png", "a.txt"})
+        expectMistake(std::string("screenshot ") + name, "is no plain file name that ends in .png");
+    expectMistake("dump a.png", "is no plain file name that ends in .txt");
+}
+
+TEST(ScriptParser, FileThatCannotBeReadIsAMistake)
+{
+    EXPECT_THAT(simulator::readScript("/nowhere/s").errors, ElementsAre(StartsWith("/nowhere/s: ")));
+    EXPECT_THAT(simulator::readScript("/").errors, SizeIs(1));
+}
+
+} // namespace

@@ -1,0 +1,207 @@
+#include "simulator/script/ScriptRunner.h"
+
+#include "simulator/script/ScriptParser.h"
+
+#include <fstream>
+#include <functional>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace simulator;
+using std::chrono::milliseconds;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// Notes what is done to it; shows the text that the test gives it.
+class FakePhone : public ScriptedPhone {
+public:
+    bool press(PegKey key) override { return note("down " + std::to_string(key)), takesKeys; }
+    bool release(PegKey key) override { return note("up " + std::to_string(key)), takesKeys; }
+    void pass(std::int64_t time) override { note("pass " + std::to_string(time)); }
+    bool settle() override { return comesToRest; }
+    bool isThere() override { return comesToRest; }
+
+    host::Picture picture() override
+    {
+        host::Picture picture{8, 8, std::vector<std::uint8_t>(64), {}, 1};
+        if (!text.empty())
+            picture.texts.push_back({{0, 0, 7, 7}, text, true, false});
+        return picture;
+    }
+
+    void waitForFrame(milliseconds) override
+    {
+        if (nextFrame)
+            nextFrame();
+    }
+
+    void note(const std::string& line) { notes.push_back(line); }
+
+    std::vector<std::string> notes;
+    std::string text;
+    bool takesKeys = true;
+    bool comesToRest = true;
+    std::function<void()> nextFrame;
+};
+
+class FakeReport : public ScriptReport {
+public:
+    void at(int line) override { lines.push_back(line); }
+    void passed() override { hasPassed = true; }
+
+    void failed(int line, const std::string& reason) override
+    {
+        failedLine = line;
+        failure = reason;
+    }
+
+    std::vector<int> lines;
+    bool hasPassed = false;
+    int failedLine = 0;
+    std::string failure;
+};
+
+class ScriptRunnerTest : public testing::Test {
+protected:
+    void run(const std::string& text, milliseconds patience = milliseconds(0))
+    {
+        const Script script = parseScript("s", text);
+        ASSERT_THAT(script.errors, IsEmpty());
+        ScriptRunner(phone, report, testing::TempDir(), patience).run(script);
+        EXPECT_NE(report.hasPassed, report.failedLine != 0);
+    }
+
+    FakePhone phone;
+    FakeReport report;
+};
+
+TEST_F(ScriptRunnerTest, EmptyScriptPasses)
+{
+    run("");
+    EXPECT_TRUE(report.hasPassed);
+}
+
+TEST_F(ScriptRunnerTest, TellsEachLineBeforeItsStep)
+{
+    run("key ok\n\nwait 5\n");
+    EXPECT_THAT(report.lines, ElementsAre(1, 3));
+}
+
+TEST_F(ScriptRunnerTest, KeysGoDownAndUpOneAfterTheOther)
+{
+    run("type 1*");
+    EXPECT_THAT(phone.notes, ElementsAre("down 49", "up 49", "down 42", "up 42"));
+}
+
+TEST_F(ScriptRunnerTest, HeldKeyIsDownForThatLong)
+{
+    run("hold 5 1800");
+    EXPECT_THAT(phone.notes, ElementsAre("down 53", "pass 1800", "up 53"));
+}
+
+TEST_F(ScriptRunnerTest, HeldKeyThatMovesThroughAListRepeats)
+{
+    run("hold down 750");
+    const std::string down = "down " + std::to_string(PK_DOWN);
+    EXPECT_THAT(phone.notes, ElementsAre(down, "pass 500", down, "pass 100", down, "pass 100", down, "pass 50",
+                                         "up " + std::to_string(PK_DOWN)));
+}
+
+TEST_F(ScriptRunnerTest, WaitLetsTimePass)
+{
+    run("wait 250");
+    EXPECT_THAT(phone.notes, ElementsAre("pass 250"));
+}
+
+TEST_F(ScriptRunnerTest, ExpectedTextMayBeAPartOfARow)
+{
+    phone.text = "Ring tone: Classic";
+    run("expect tone: Cl");
+    EXPECT_TRUE(report.hasPassed);
+}
+
+TEST_F(ScriptRunnerTest, ExpectationWaitsForALaterFrame)
+{
+    phone.nextFrame = [this] { phone.text = "Ready"; };
+    run("expect Ready", std::chrono::minutes(1));
+    EXPECT_TRUE(report.hasPassed);
+}
+
+TEST_F(ScriptRunnerTest, FailureTellsWhatIsShown)
+{
+    phone.text = "Busy";
+    run("key ok\nexpect Ready\nkey ok\n");
+    EXPECT_EQ(report.failedLine, 2);
+    EXPECT_EQ(report.failure, "expected 'Ready'\nthe screen shows:\n> Busy\n");
+    EXPECT_THAT(report.lines, ElementsAre(1, 2));
+}
+
+TEST_F(ScriptRunnerTest, FailureTellsOfAnEmptyScreen)
+{
+    run("expect Ready");
+    EXPECT_EQ(report.failure, "expected 'Ready'\nthe screen shows no text");
+}
+
+TEST_F(ScriptRunnerTest, UnwantedTextFails)
+{
+    phone.text = "Busy";
+    run("expect-not Busy");
+    EXPECT_EQ(report.failure, "expected no 'Busy'\nthe screen shows:\n> Busy\n");
+}
+
+TEST_F(ScriptRunnerTest, UnwantedTextMayStillGo)
+{
+    phone.text = "Busy";
+    phone.nextFrame = [this] { phone.text.clear(); };
+    run("expect-not Busy", std::chrono::minutes(1));
+    EXPECT_TRUE(report.hasPassed);
+}
+
+TEST_F(ScriptRunnerTest, RefusedKeyFails)
+{
+    phone.takesKeys = false;
+    run("key ok");
+    EXPECT_EQ(report.failedLine, 1);
+    EXPECT_THAT(report.failure, testing::StartsWith("the telephone does not take the key"));
+}
+
+TEST_F(ScriptRunnerTest, EndOfTheApplicationFails)
+{
+    phone.comesToRest = false;
+    run("wait 5");
+    EXPECT_THAT(report.failure, testing::StartsWith("the application has ended"));
+    EXPECT_THAT(phone.notes, IsEmpty());
+}
+
+TEST_F(ScriptRunnerTest, DumpWritesTheRows)
+{
+    phone.text = "Ångström";
+    run("dump ScriptRunnerTest.txt");
+    std::ifstream file(testing::TempDir() + "/ScriptRunnerTest.txt");
+    std::string line;
+    EXPECT_TRUE(std::getline(file, line));
+    EXPECT_EQ(line, "> Ångström");
+}
+
+TEST_F(ScriptRunnerTest, ScreenshotWritesAPicture)
+{
+    run("screenshot ScriptRunnerTest.png");
+    EXPECT_TRUE(report.hasPassed);
+    std::ifstream file(testing::TempDir() + "/ScriptRunnerTest.png");
+    std::string start(4, ' ');
+    EXPECT_TRUE(file.read(start.data(), 4));
+    EXPECT_EQ(start, "\x89PNG");
+}
+
+TEST_F(ScriptRunnerTest, OutputThatCannotBeWrittenFails)
+{
+    for (const char* step : {"dump a.txt", "screenshot a.png"}) {
+        report = {};
+        ScriptRunner(phone, report, "/nowhere", milliseconds(0)).run(parseScript("s", step));
+        EXPECT_EQ(report.failedLine, 1) << step;
+    }
+}
+
+} // namespace
