@@ -1,0 +1,44 @@
+#pragma once
+
+#include "DisplayAPI/List.h"
+#include "DisplayAPI/ListItem.h"
+
+#include <algorithm>
+#include <mutex>
+#include <set>
+
+namespace test {
+
+/// A row of which one can ask whether it has been deleted.
+class LiveRow : public DisplayAPI::ListItem {
+public:
+    explicit LiveRow(const std::string& text = "row") : ListItem(text, false) { note(true); }
+    explicit LiveRow(DisplayAPI::ListItemPrivateIfc* implementation) : ListItem(implementation) { note(true); }
+    ~LiveRow() override { note(false); }
+
+    static bool isAlive(const ListItem* row)
+    {
+        std::lock_guard lock(gMutex);
+        return gLive.count(row) != 0;
+    }
+
+    /// Deletes the row if it lives and does not stand in the list.
+    static void deleteUnlessIn(DisplayAPI::List& list, const ListItem* row)
+    {
+        const auto rows = list.getItems();
+        if (isAlive(row) && std::find(rows.begin(), rows.end(), row) == rows.end())
+            delete row;
+    }
+
+private:
+    void note(bool alive)
+    {
+        std::lock_guard lock(gMutex);
+        alive ? static_cast<void>(gLive.insert(this)) : static_cast<void>(gLive.erase(this));
+    }
+
+    inline static std::mutex gMutex;
+    inline static std::set<const ListItem*> gLive;
+};
+
+} // namespace test
