@@ -86,7 +86,7 @@ private:
         }
     };
 
-    static bool keeps(Cache& cache)
+    static bool keeps([[maybe_unused]] Cache& cache)
     {
 #ifdef __SANITIZE_ADDRESS__
         return false;

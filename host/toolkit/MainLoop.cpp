@@ -9,6 +9,7 @@
 #include "utilities/Threadable.h"
 
 #include <algorithm>
+#include <sched.h>
 
 namespace host {
 
@@ -36,6 +37,15 @@ void publish(unsigned int threadId)
     pthread_cond_broadcast(&status.becameIdle);
 }
 
+/// Where posters and the loop share one CPU, a loop that takes over as soon as it is woken meets a poster that still
+/// holds the queue's mutex, and has to hand back: two more switches of threads for each call. A batch thread waits.
+void yieldToPosters()
+{
+    const sched_param none{};
+    if (!Spin::hasCompany())
+        sched_setscheduler(0, SCHED_BATCH, &none);
+}
+
 } // namespace
 
 MainLoop* MainLoop::gRun = nullptr;
@@ -43,6 +53,7 @@ MainLoop* MainLoop::gRun = nullptr;
 MainLoop::MainLoop()
 {
     gRun = this;
+    yieldToPosters();
     publish(Threadable::currentThreadId());
 }
 
@@ -60,7 +71,8 @@ void MainLoop::end()
 
 PegMessage* MainLoop::take()
 {
-    PegMessage* const message = MainQueue::take();
+    PegMessage* const message =
+        MainQueue::take(mMessagesInARow > 0 ? MainQueue::Haste::NONE : MainQueue::Haste::FIRST_OF_A_ROW);
     mMessagesInARow = message ? mMessagesInARow + 1 : 0;
     return message;
 }
@@ -95,6 +107,7 @@ void MainLoop::sleep()
     const std::int64_t wait = untilDue();
     if (!MainQueue::isEmpty() || wait == 0 || (status.watchers > 0 && !isPainted()))
         return;
+    const Spin::Sleep measured;
     status.restsWithoutWork = isPainted();
     if (status.watchers > 0)
         pthread_cond_broadcast(&status.becameIdle);

@@ -10,6 +10,7 @@ namespace host {
 class QueueMutex {
 public:
     void lock() { pthread_mutex_lock(&gtPegMainQueue->mutex); }
+    bool try_lock() { return pthread_mutex_trylock(&gtPegMainQueue->mutex) == 0; }
     void unlock() { pthread_mutex_unlock(&gtPegMainQueue->mutex); }
 };
 
@@ -22,8 +23,11 @@ public:
     /// Appends a copy. Returns false where there is no record for it, or no queue.
     static bool push(const PegMessage& message);
 
+    /// Whether somebody may be waiting for the message.
+    enum class Haste { NONE, FIRST_OF_A_ROW };
+
     /// The first message, which is the caller's from now on; null where there is none.
-    static PegMessage* take();
+    static PegMessage* take(Haste haste);
 
     /// Takes out what waits for `thing`, which is about to be gone. Requests stay, without a target: their records are
     /// the library's to complete and delete.

@@ -40,6 +40,8 @@ void Timers::killAll(const PegThing* thing)
 
 void Timers::fireDue()
 {
+    if (mByDue.empty())
+        return;
     const std::int64_t now = Clock::instance().now();
     while (!mByDue.empty() && mByDue.begin()->first <= now) {
         const auto [due, timer] = *mByDue.begin();

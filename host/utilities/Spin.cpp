@@ -9,12 +9,14 @@ namespace {
 
 constexpr int WAITS_BETWEEN_LOOKS = 256;
 
-struct Affinity {
+/// What a thread knows of its own waits.
+struct Habits {
     bool company = false;
     int waitsLeft = 0;
+    bool sleepsLong = false;
 };
 
-[[gnu::tls_model("initial-exec")]] thread_local constinit Affinity gAffinity;
+[[gnu::tls_model("initial-exec")]] thread_local constinit Habits gHabits;
 
 bool mayUseSeveralCpus()
 {
@@ -26,14 +28,30 @@ bool mayUseSeveralCpus()
 
 bool Spin::hasCompany()
 {
-    if (gAffinity.waitsLeft-- <= 0)
+    if (gHabits.waitsLeft-- <= 0)
         lookAgain();
-    return gAffinity.company;
+    return gHabits.company;
 }
 
 void Spin::lookAgain()
 {
-    gAffinity = {mayUseSeveralCpus(), WAITS_BETWEEN_LOOKS};
+    gHabits.company = mayUseSeveralCpus();
+    gHabits.waitsLeft = WAITS_BETWEEN_LOOKS;
+}
+
+bool Spin::isWorthwhile()
+{
+    return !gHabits.sleepsLong;
+}
+
+void Spin::yieldProcessor()
+{
+    sched_yield();
+}
+
+Spin::Sleep::~Sleep()
+{
+    gHabits.sleepsLong = nanoseconds() - mStart > SHORT_SLEEP_NS;
 }
 
 std::int64_t Spin::nanoseconds()

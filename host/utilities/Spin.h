@@ -15,11 +15,13 @@ inline void relaxProcessor()
 }
 
 /// Waiting for a short while without sleeping: two threads on two CPUs answer each other faster than the kernel can
-/// wake either. On a single CPU the other thread cannot run meanwhile, so there nothing is waited at all.
+/// wake either. On a single CPU the other thread cannot run meanwhile: there it is given way to, once. Where the
+/// thread's last sleep was a long one nothing of this is done, because the next one most likely is long too.
 class Spin {
 public:
-    /// The longest that a spin lasts.
+    /// The longest that a spin lasts, and the longest sleep after which spinning is tried again.
     static constexpr std::int64_t LIMIT_NS = 50'000;
+    static constexpr std::int64_t SHORT_SLEEP_NS = 200'000;
 
     /// Spins until `ready()`; returns false when it has not come true in time.
     template <typename Ready>
@@ -27,10 +29,16 @@ public:
     {
         if (ready())
             return true;
-        if (!hasCompany())
+        if (!isWorthwhile())
             return false;
+        if (!hasCompany()) {
+            yieldProcessor();
+            return ready();
+        }
+        if (someRounds(ready, [] {}))
+            return true;
         for (const std::int64_t end = nanoseconds() + LIMIT_NS; nanoseconds() < end;)
-            if (someRounds(ready))
+            if (someRounds(ready, relaxProcessor))
                 return true;
         lookAgain();
         return ready();
@@ -39,20 +47,35 @@ public:
     /// Whether the calling thread may run on more than one CPU. Remembered per thread, looked up again now and then.
     static bool hasCompany();
 
+    /// Stands around a sleep: how long it lasts decides whether the thread's next wait spins.
+    class Sleep {
+    public:
+        Sleep() : mStart(nanoseconds()) {}
+        ~Sleep();
+        Sleep(const Sleep&) = delete;
+        Sleep& operator=(const Sleep&) = delete;
+
+    private:
+        std::int64_t mStart;
+    };
+
 private:
     static constexpr int ROUNDS_PER_LOOK_AT_THE_CLOCK = 32;
 
-    template <typename Ready>
-    static bool someRounds(Ready ready)
+    /// Resting between looks saves power, but it makes the answer late: the first rounds do without.
+    template <typename Ready, typename Rest>
+    static bool someRounds(Ready ready, Rest rest)
     {
         for (int round = 0; round < ROUNDS_PER_LOOK_AT_THE_CLOCK; ++round) {
             if (ready())
                 return true;
-            relaxProcessor();
+            rest();
         }
         return false;
     }
 
+    static bool isWorthwhile();
+    static void yieldProcessor();
     static void lookAgain();
     static std::int64_t nanoseconds();
 };

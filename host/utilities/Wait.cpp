@@ -15,9 +15,11 @@ void Wait::wait()
 {
     host::Spin::until([this] { return mState.load(std::memory_order_relaxed) == WOKEN; });
     std::uint32_t expected = NOTHING;
-    if (mState.compare_exchange_strong(expected, SLEEPING, std::memory_order_acquire))
+    if (mState.compare_exchange_strong(expected, SLEEPING, std::memory_order_acquire)) {
+        const host::Spin::Sleep sleep;
         while (mState.load(std::memory_order_acquire) == SLEEPING)
             host::futexWait(&mState, SLEEPING);
+    }
     mState.exchange(NOTHING, std::memory_order_acquire);
 }
 
