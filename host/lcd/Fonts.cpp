@@ -102,6 +102,7 @@ struct Fonts::Set {
     Set& operator=(const Set&) = delete;
 
     void startPango();
+    void stopPango();
     void noteFace(FcPattern* pattern);
     bool covers(const Style& style, std::u16string_view text) const;
     bool has(std::size_t face, char16_t character) const;
@@ -127,10 +128,8 @@ Fonts::Set::Set(const std::vector<std::string>& folders, std::size_t faces) : co
 
 Fonts::Set::~Set()
 {
-    for (PangoLayout* layout : layouts)
-        g_clear_object(&layout);
-    g_clear_object(&context);
-    g_clear_object(&map);
+    if (map != nullptr)
+        stopPango();
     FcConfigDestroy(config);
 }
 
@@ -145,6 +144,17 @@ void Fonts::Set::startPango()
     context = createContext(map);
     for (std::size_t i = 0; i < layouts.size(); ++i)
         layouts[i] = createLayout(context, STYLES[i].description);
+}
+
+void Fonts::Set::stopPango()
+{
+    for (PangoLayout* layout : layouts)
+        g_object_unref(layout);
+    g_object_unref(context);
+    // A font map that goes keeps its configuration; one that is shut down lets go of it without loading another.
+    pango_fc_font_map_shutdown(PANGO_FC_FONT_MAP(map));
+    pango_fc_font_map_set_config(PANGO_FC_FONT_MAP(map), nullptr);
+    g_object_unref(map);
 }
 
 void Fonts::Set::noteFace(FcPattern* pattern)

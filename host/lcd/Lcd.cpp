@@ -42,6 +42,7 @@ struct Lcd::Impl {
 
     DirtyArea dirty;
     Time::time_point lastFrame;
+    TextRenderer renderer;
 
     mutable std::mutex mutex; ///< guards what follows
     FrameBuffer buffer;
@@ -52,7 +53,7 @@ struct Lcd::Impl {
 
 void Lcd::Impl::paintArea(const PegRect& area)
 {
-    PegPainter painter(buffer, texts, TextRenderer::shared(), area);
+    PegPainter painter(buffer, texts, renderer, area);
     texts.forget(area);
     painter.fill(area, Level::BARE);
     if (gpPresent == nullptr)

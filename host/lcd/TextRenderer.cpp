@@ -137,13 +137,6 @@ TextRenderer::TextRenderer(std::vector<std::string> fontFolders) : mFonts(std::m
 
 TextRenderer::~TextRenderer() = default;
 
-TextRenderer& TextRenderer::shared()
-{
-    // Never destroyed: panels may paint until the process ends.
-    static auto& renderer = *new TextRenderer;
-    return renderer;
-}
-
 std::size_t TextRenderer::KeyHash::operator()(const Key& key) const noexcept
 {
     const auto seed = static_cast<std::size_t>(key.width) * 2 + static_cast<std::size_t>(key.font);

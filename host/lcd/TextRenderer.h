@@ -33,9 +33,6 @@ public:
     /// text that can never be visible.
     const TextMask& mask(Font font, const PegString& text, int width);
 
-    /// The one that all panels share.
-    static TextRenderer& shared();
-
 private:
     struct Key {
         Font font;

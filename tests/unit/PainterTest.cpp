@@ -32,12 +32,13 @@ class PainterTest : public testing::Test {
 protected:
     PegPainter painter(FrameBuffer& buffer, const PegRect& clip = WHOLE)
     {
-        return {buffer, texts, TextRenderer::shared(), clip};
+        return {buffer, texts, renderer, clip};
     }
 
     FrameBuffer small{7, 5};
     FrameBuffer panel{100, 20};
     TextMap texts;
+    TextRenderer renderer;
 };
 
 TEST_F(PainterTest, fills)
