@@ -171,6 +171,7 @@ TEST_F(ListLifeTest, WithoutAPrivateSideRowsAreStillKept)
     list.removeAll();
     EXPECT_THAT(list.getItems(), IsEmpty());
     list.append(row);
+    gui.settle();
     list.clear();
     EXPECT_THAT(list.getItems(), IsEmpty());
     EXPECT_FALSE(LiveRow::isAlive(row));

@@ -80,7 +80,7 @@ TEST_P(ListTest, AppendOfATranslationMakesARowWithItemFlagTrue)
 
 TEST_P(ListTest, AppendOfARowWithoutPrivateSideLeavesTheListUnchanged)
 {
-    LiveRow bare(nullptr);
+    LiveRow bare(static_cast<ListItemPrivateIfc*>(nullptr));
     run([&] { list.append(&bare); });
     EXPECT_EQ(list.getItems().size(), 3u);
     EXPECT_THAT(reached(), IsEmpty());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "DisplayAPI/GuiRequestEvent.h"
 #include "DisplayAPI/List.h"
 #include "DisplayAPI/ListItem.h"
 
@@ -12,8 +13,21 @@ namespace test {
 /// A row of which one can ask whether it has been deleted.
 class LiveRow : public DisplayAPI::ListItem {
 public:
-    explicit LiveRow(const std::string& text = "row") : ListItem(text, false) { note(true); }
     explicit LiveRow(DisplayAPI::ListItemPrivateIfc* implementation) : ListItem(implementation) { note(true); }
+
+    // The base's constructor would post: the GUI thread must not meet the object before it is complete.
+    explicit LiveRow(const std::string& text = "row") : LiveRow(static_cast<DisplayAPI::ListItemPrivateIfc*>(nullptr))
+    {
+        auto* const create = new DisplayAPI::GuiRequestEvent(this, 0);
+        create->stringParam1 = text;
+        if (!isGuiThread()) {
+            postEventAsync(create);
+        } else {
+            processGuiRequest(*create);
+            delete create;
+        }
+    }
+
     ~LiveRow() override { note(false); }
 
     static bool isAlive(const ListItem* row)
