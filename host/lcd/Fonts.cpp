@@ -87,6 +87,11 @@ PangoLayout* createLayout(PangoContext* context, const char* description)
     PangoFontDescription* font = pango_font_description_from_string(description);
     pango_layout_set_font_description(layout, font);
     pango_font_description_free(font);
+    // Letters that lean on each other blur on a panel of so few pixels.
+    PangoAttrList* attributes = pango_attr_list_new();
+    pango_attr_list_insert(attributes, pango_attr_font_features_new("liga=0,clig=0"));
+    pango_layout_set_attributes(layout, attributes);
+    pango_attr_list_unref(attributes);
     pango_layout_set_single_paragraph_mode(layout, TRUE);
     pango_layout_set_ellipsize(layout, PANGO_ELLIPSIZE_END);
     return layout;

@@ -110,6 +110,11 @@ TEST_F(FontsTest, accentsStandOverTheirLetters)
     EXPECT_EQ(mask("e\u0301").ink, mask("\u00E9").ink);
 }
 
+TEST_F(FontsTest, latinLettersStandApart)
+{
+    EXPECT_EQ(mask("fl").width, mask("f").width + mask("l").width);
+}
+
 TEST_F(FontsTest, longTextKeepsItsWidth)
 {
     const TextMask cut = mask(std::string(100, 'm'), Font::TEXT, 50);
