@@ -3,7 +3,6 @@
 #include "host/clock/Deadline.h"
 #include "host/toolkit/LoopStatus.h"
 #include "host/toolkit/MainQueue.h"
-#include "presentation/PRESCPresentationManager.h"
 #include "utilities/Threadable.h"
 
 namespace host {
@@ -34,8 +33,7 @@ bool Loop::isRunning()
 
 void Loop::quit()
 {
-    if (gpPresent)
-        MainQueue::push({PM_EXIT, 0, gpPresent});
+    LoopStatus::instance().askForExit();
 }
 
 } // namespace host

@@ -26,4 +26,17 @@ bool LoopStatus::isIdle() const
     return restsWithoutWork && MainQueue::isEmpty() && clock.timerDue() > clock.now();
 }
 
+void LoopStatus::setRoot(PegThing* root)
+{
+    std::lock_guard lock(mRootMutex);
+    mRoot = root;
+}
+
+void LoopStatus::askForExit()
+{
+    std::lock_guard lock(mRootMutex);
+    if (mRoot)
+        MainQueue::push({PM_EXIT, 0, mRoot});
+}
+
 } // namespace host

@@ -1,7 +1,10 @@
 #pragma once
 
 #include <atomic>
+#include <mutex>
 #include <pthread.h>
+
+class PegThing;
 
 namespace host {
 
@@ -17,8 +20,17 @@ struct LoopStatus {
     std::atomic<int> watchers{0};          ///< threads that wait for becameIdle
     bool restsWithoutWork = false;
 
+    /// Who ends the loop; null while the toolkit does not run.
+    void setRoot(PegThing* root);
+
+    /// Sends PM_EXIT to the root, if there is one.
+    void askForExit();
+
 private:
     LoopStatus();
+
+    std::mutex mRootMutex; ///< held while the message is pushed, so that the root cannot die meanwhile
+    PegThing* mRoot = nullptr;
 };
 
 } // namespace host

@@ -4,6 +4,7 @@
 #include "host/frontend/FrontEnd.h"
 #include "host/input/Keyboard.h"
 #include "host/lcd/Lcd.h"
+#include "host/toolkit/LoopStatus.h"
 #include "host/toolkit/MainQueue.h"
 #include "host/toolkit/MessagePool.h"
 #include "presentation/PRESCPresentationManager.h"
@@ -31,6 +32,7 @@ void pegInit()
     PegThing::mpScreen = new host::Lcd(width, height);
     PegThing::mpMessageQueue = new PegMessageQueue;
     gpPresent = new PRESCPresentationManager;
+    host::LoopStatus::instance().setRoot(gpPresent);
     host::Keyboard::instance().connect();
     host::startFrontEnd();
 }
@@ -41,6 +43,7 @@ void pegCleanUp()
         return;
     host::stopFrontEnd();
     host::Keyboard::instance().disconnect();
+    host::LoopStatus::instance().setRoot(nullptr);
     delete gpPresent;
     delete std::exchange(PegThing::mpMessageQueue, nullptr);
     delete std::exchange(PegThing::mpScreen, nullptr);

@@ -42,7 +42,7 @@ public:
     {
         if (!mThread.joinable())
             return;
-        PegMessageQueue().Push({PM_EXIT, 0, gpPresent});
+        host::Loop::quit();
         mThread.join();
     }
 
