@@ -60,6 +60,7 @@ private:
     bool sleepAndTake(const host::Deadline& deadline)
     {
         mState.fetch_add(ONE_SLEEPER, std::memory_order_relaxed);
+        const host::Spin::Sleep sleep;
         bool taken = tryTake();
         for (bool inTime = true; !taken && inTime; taken = tryTake())
             inTime = deadline.sleep(&mState, 0);

@@ -1,6 +1,8 @@
 #include "host/utilities/Spin.h"
 
-#include <atomic>
+#include "unit/Gate.h"
+
+#include <chrono>
 #include <gtest/gtest.h>
 #include <sched.h>
 #include <thread>
@@ -8,6 +10,17 @@
 namespace {
 
 using host::Spin;
+using testing_support::becomesTrue;
+
+int looksInVain()
+{
+    int looks = 0;
+    EXPECT_FALSE(Spin::until([&] {
+        ++looks;
+        return false;
+    }));
+    return looks;
+}
 
 void runPinned(void (*work)())
 {
@@ -35,17 +48,33 @@ TEST(Spin, EndsWhenNothingHappens)
     EXPECT_FALSE(Spin::until([] { return false; }));
 }
 
-TEST(Spin, LooksOnceOnASingleCpu)
+TEST(Spin, GivesWayOnceOnASingleCpu)
 {
     runPinned([] {
         EXPECT_FALSE(Spin::hasCompany());
-        int looks = 0;
-        EXPECT_FALSE(Spin::until([&] {
-            ++looks;
-            return false;
-        }));
-        EXPECT_EQ(looks, 1);
+        EXPECT_EQ(looksInVain(), 2);
     });
+}
+
+TEST(Spin, IsLeftOutAfterALongSleep)
+{
+    {
+        const Spin::Sleep sleep;
+        const auto end = std::chrono::steady_clock::now() + std::chrono::nanoseconds(Spin::SHORT_SLEEP_NS + 1);
+        while (std::chrono::steady_clock::now() <= end) {
+        }
+    }
+    EXPECT_EQ(looksInVain(), 1);
+}
+
+TEST(Spin, IsTriedAgainAfterAShortSleep)
+{
+    EXPECT_TRUE(becomesTrue([] {
+        {
+            const Spin::Sleep sleep;
+        }
+        return looksInVain() > 1;
+    }));
 }
 
 TEST(Spin, NoticesThatTheThreadHasBeenPutOnOneCpu)
