@@ -42,7 +42,7 @@ public:
     PegThing& operator=(const PegThing&) = delete;
 
     /// Leaves nothing behind: takes the thing out of its parent, the focus, its timers, and drops queued messages that
-    /// are addressed to it.
+    /// are addressed to it. Requests lose their target and stay: the library completes them.
     virtual ~PegThing();
 
     /// Handles one message. The default hands keys to the parent and ignores everything else. Returns 0.
