@@ -16,6 +16,25 @@ using DisplayAPI::DisplayEventFilter;
 using DisplayAPI::GuiRequestEvent;
 using DisplayAPI::Widget;
 
+namespace {
+
+/// The first message, or null.
+PegMessage* takeHead()
+{
+    host::QueueMutex mutex;
+    std::lock_guard lock(mutex);
+    PegMessage* const message = gtPegMainQueue->head;
+    if (message == nullptr)
+        return nullptr;
+    gtPegMainQueue->head = message->Next;
+    if (message->Next == nullptr)
+        gtPegMainQueue->tail = nullptr;
+    --gtPegMainQueue->count;
+    return message;
+}
+
+} // namespace
+
 SteppedLoop::SteppedLoop()
 {
     pegInit();
@@ -38,7 +57,7 @@ void SteppedLoop::removeFilter()
 
 bool SteppedLoop::step()
 {
-    PegMessage* const message = host::MainQueue::take();
+    PegMessage* const message = takeHead();
     if (message == nullptr)
         return false;
     if (message->pTarget != nullptr)
@@ -87,7 +106,7 @@ std::vector<int> SteppedLoop::queuedCodes() const
 
 PegMessage SteppedLoop::takeMessage()
 {
-    PegMessage* const message = host::MainQueue::take();
+    PegMessage* const message = takeHead();
     const PegMessage copy = *message;
     host::MessagePool::giveBack(message, message);
     return copy;

@@ -25,23 +25,29 @@ private:
     std::function<void()> mDeleted;
 };
 
-/// Work that begins and then waits until the test lets it end.
+/// Work that begins and then waits until the test lets it end. One runnable per gate.
 class Gate {
 public:
     DisplayAPI::Runnable* newRunnable()
     {
-        return new TestRunnable([this] {
-            mEntered.count_down();
-            mOpened.wait();
-        });
+        return new TestRunnable(
+            [this] {
+                mEntered.count_down();
+                mOpened.wait();
+            },
+            [this] { mGone.count_down(); });
     }
 
     void waitUntilEntered() const { mEntered.wait(); }
     void open() { mOpened.count_down(); }
 
+    /// Waits until the runnable has been deleted.
+    void waitUntilGone() const { mGone.wait(); }
+
 private:
     std::latch mEntered{1};
     std::latch mOpened{1};
+    std::latch mGone{1};
 };
 
 } // namespace test

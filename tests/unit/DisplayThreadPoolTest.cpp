@@ -38,6 +38,8 @@ protected:
     {
         for (Gate& gate : gates)
             gate.open();
+        for (const Gate& gate : gates)
+            gate.waitUntilGone();
     }
 
     static void waitUntilAvailable(DisplayThreadPool& pool, int count)
@@ -189,7 +191,7 @@ TEST_F(DisplayThreadPoolTest, DestroyingThePoolWaitsForWhatIsRunning)
     Worker destroyer([&] { delete pool; });
     EXPECT_TRUE(destroyer.isBlocked());
 
-    gates.front().open();
+    openGates();
     destroyer.join();
 }
 
@@ -209,7 +211,7 @@ TEST_F(DisplayThreadPoolTest, AOneShotThreadOutlivesThePool)
     occupy(*pool, 1);
     delete pool;
 
-    gates.front().open();
+    openGates();
 }
 
 TEST_F(DisplayThreadPoolTest, ManyThreadsMayAskAtTheSameTime)

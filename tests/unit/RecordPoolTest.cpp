@@ -70,7 +70,7 @@ TEST(RecordPoolTest, RecordsMayBeReleasedOnAnyThread)
 
 TEST(RecordPoolTest, AReleasedRecordIsWatchedByTheAddressSanitizer)
 {
-    void* const record = RecordPool<Record<3>>::allocate();
+    void* const volatile record = RecordPool<Record<3>>::allocate();
     EXPECT_FALSE(__asan_address_is_poisoned(record));
     RecordPool<Record<3>>::release(record);
     EXPECT_TRUE(__asan_address_is_poisoned(record));

@@ -25,7 +25,7 @@ public:
 template <typename T>
 T& neverDestroyed(T* widget)
 {
-    static std::vector<T*> kept;
+    static auto& kept = *new std::vector<T*>;
     kept.push_back(widget);
     return *widget;
 }

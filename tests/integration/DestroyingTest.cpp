@@ -1,0 +1,131 @@
+// Widgets are destroyed while requests for them are queued and callers wait.
+
+#include "Request.h"
+#include "support/Application.h"
+#include "support/GuiLoop.h"
+#include "support/TestWidget.h"
+#include "utilities/Threadable.h"
+
+#include <latch>
+#include <memory>
+
+using DisplayAPI::GuiRequestEvent;
+using DisplayAPI::request;
+using DisplayAPI::Widget;
+using test::Chance;
+using test::CountedRequest;
+using test::GuiLoop;
+using test::TestWidget;
+using test::Worker;
+
+namespace {
+
+class DestroyingTest : public test::SeededTest {
+protected:
+    std::atomic<int> liveRequests{0};
+};
+
+INSTANTIATE_SEEDED(DestroyingTest);
+
+/// Written as facades are: off the GUI thread its destructor lets the GUI thread delete the private side.
+class Facade : public Widget {
+public:
+    Facade() { postEventAsync(request(this, CREATE)); }
+
+    ~Facade() override
+    {
+        purgeOwnMessage(SET);
+        postEvent(request(this, DESTROY));
+    }
+
+    void set(int value) { postEventAsync(request(this, SET, value)); }
+
+    int value()
+    {
+        int value = -1;
+        postEvent(request(this, GET, DisplayAPI::into(value)));
+        return value;
+    }
+
+    void processGuiRequest(GuiRequestEvent& request) override
+    {
+        switch (request.getType()) {
+        case CREATE: mPrivate = std::make_unique<int>(0); break;
+        case DESTROY: mPrivate.reset(); break;
+        case SET: *mPrivate = request.intParam1; break;
+        case GET: answer(request, *mPrivate); break;
+        }
+        signalComplete(request);
+    }
+
+private:
+    enum { CREATE, DESTROY, SET, GET };
+
+    std::unique_ptr<int> mPrivate; ///< GUI thread only
+};
+
+} // namespace
+
+TEST_P(DestroyingTest, NothingRunsOnAWidgetThatTheGuiThreadHasDeleted)
+{
+    Chance chance(seed(), 0);
+    GuiLoop gui;
+    TestWidget bystander;
+    int expected = 0;
+    for (int round = 0; round < 50; ++round) {
+        auto* const doomed = new TestWidget([](GuiRequestEvent&) { FAIL() << "carried out after its widget's end"; });
+        std::latch queued(1);
+        gui.post([&] {
+            queued.wait();
+            delete doomed;
+        });
+        for (int requests = chance.below(20); requests > 0; --requests) {
+            doomed->postEventAsync(new CountedRequest(doomed, 1, liveRequests));
+            bystander.postEventAsync(++expected);
+        }
+        queued.count_down();
+        gui.settle();
+        ASSERT_EQ(liveRequests, 0);
+    }
+    EXPECT_EQ(static_cast<int>(bystander.codes().size()), expected);
+}
+
+TEST_P(DestroyingTest, CallersOfADeletedWidgetReturn)
+{
+    Chance chance(seed(), 0);
+    GuiLoop gui;
+    for (int round = 0; round < 30; ++round) {
+        auto* const doomed = new TestWidget;
+        std::latch queued(1);
+        gui.post([&] {
+            queued.wait();
+            delete doomed;
+        });
+        for (int requests = chance.below(5); requests > 0; --requests)
+            doomed->postEventAsync(1);
+        Worker caller([&] { doomed->postEvent(new CountedRequest(doomed, 2, liveRequests)); });
+        test::waitUntil([&] { return liveRequests == 1 && caller.isBlocked(); });
+        queued.count_down();
+        caller.join();
+        gui.settle();
+        ASSERT_EQ(liveRequests, 0);
+    }
+}
+
+TEST_P(DestroyingTest, FacadesOfManyThreadsComeAndGo)
+{
+    GuiLoop gui;
+    test::onThreads(4, [&](int thread) {
+        Chance chance(seed(), thread);
+        for (int round = 0; round < 200; ++round) {
+            Facade facade;
+            int last = 0;
+            for (int calls = chance.below(10); calls > 0; --calls)
+                facade.set(last = chance.below(1000));
+            if (chance.oneIn(2)) {
+                ASSERT_EQ(facade.value(), last);
+                facade.set(-1);
+            }
+        }
+    });
+}
