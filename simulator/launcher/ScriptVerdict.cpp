@@ -15,6 +15,8 @@ ScriptVerdict judge(const std::string& fileName, const ScriptOutcome& outcome, c
 {
     if (outcome.failure)
         return {false, fileName + ":" + std::to_string(outcome.failure->line) + ": " + outcome.failure->reason};
+    if (outcome.lastLine == 0 && !outcome.passed)
+        return {false, fileName + ": " + endOf(ending, stuck) + " before the script could begin"};
     if (!outcome.passed)
         return {false, fileName + ":" + std::to_string(outcome.lastLine) + ": " + endOf(ending, stuck) +
                            " before the script was through"};

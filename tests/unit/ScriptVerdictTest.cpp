@@ -32,6 +32,12 @@ TEST(ScriptVerdict, CrashNamesTheLineAndTheSignal)
               "s:5: the application was stopped by SIGSEGV (Segmentation fault) before the script was through");
 }
 
+TEST(ScriptVerdict, EndBeforeTheFirstLineHasNone)
+{
+    EXPECT_EQ(judge("s", readOutcome(""), Ending{}, false).text,
+              "s: the application has ended before the script could begin");
+}
+
 TEST(ScriptVerdict, BadEndAfterAGoodScriptIsNoPass)
 {
     const ScriptVerdict verdict = judge("s", readOutcome("passed\n"), Ending{23, 0}, false);
