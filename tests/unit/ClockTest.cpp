@@ -3,6 +3,7 @@
 #include "unit/RunningToolkit.h"
 
 #include <atomic>
+#include <cstdlib>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <mutex>
@@ -16,6 +17,14 @@ using testing::ElementsAre;
 using testing_support::becomesTrue;
 using testing_support::Gate;
 using testing_support::RunningToolkit;
+
+TEST(Clock, EnvironmentMakesItVirtual)
+{
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    setenv("DISPLAYAPI_CLOCK", "virtual", 1);
+    EXPECT_EXIT(std::_Exit(Clock::instance().isVirtual() ? 0 : 1), testing::ExitedWithCode(0), "");
+    unsetenv("DISPLAYAPI_CLOCK");
+}
 
 class VirtualClockTest : public testing::Test {
 protected:

@@ -101,4 +101,20 @@ TEST(Logging, SettingWithoutALevelAsksForNothing)
     EXPECT_FALSE(Log::parse(nullptr, filter));
 }
 
+[[noreturn]] void writeAndExit()
+{
+    logAppUni("DisplayAPI::List", "./src/List", 5, 1, "too fine");
+    logAppUni("PegWidgets", "f", 2, 2, "another module");
+    logAppUni("DisplayAPI::List", "./src/List", 3, 247, "refused %d", 7);
+    std::_Exit(0);
+}
+
+TEST(Logging, EnvironmentSendsLinesToStderr)
+{
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    setenv("DISPLAYAPI_LOG", "3:DisplayAPI::", 1);
+    EXPECT_EXIT(writeAndExit(), testing::ExitedWithCode(0), "^\\[3\\] DisplayAPI::List ./src/List:247 refused 7\n$");
+    unsetenv("DISPLAYAPI_LOG");
+}
+
 } // namespace
