@@ -104,7 +104,7 @@ bool Lcd::isDirty() const
 int Lcd::untilFrameDue() const
 {
     const auto left = std::chrono::ceil<std::chrono::milliseconds>(mImpl->lastFrame + FRAME_INTERVAL - Time::now());
-    return std::max(0, static_cast<int>(left.count()));
+    return static_cast<int>(std::max<std::int64_t>(0, left.count()));
 }
 
 void Lcd::paint()
