@@ -13,8 +13,9 @@ namespace doubles {
 /// display has let go of it.
 class Screen : public DisplayAPI::Displayable {
 public:
-    explicit Screen(std::string screenName, ScreenPrivate::Kind kind = ScreenPrivate::SCREEN)
-        : mPrivate(new ScreenPrivate(screenName, kind))
+    explicit Screen(std::string screenName, ScreenPrivate::Kind kind = ScreenPrivate::SCREEN,
+                    PegThing* widget = new PegWindow)
+        : mPrivate(new ScreenPrivate(screenName, kind, widget))
     {
         name = std::move(screenName);
     }

@@ -6,7 +6,10 @@
 
 namespace doubles {
 
-ScreenPrivate::ScreenPrivate(std::string name, Kind kind) : mName(std::move(name)), mKind(kind) {}
+ScreenPrivate::ScreenPrivate(std::string name, Kind kind, PegThing* widget)
+    : mName(std::move(name)), mKind(kind), mWidget(widget)
+{
+}
 
 ScreenPrivate::~ScreenPrivate()
 {

@@ -14,7 +14,8 @@ class ScreenPrivate : public DisplayAPI::DisplayablePrivate {
 public:
     enum Kind { SCREEN, POPUP };
 
-    ScreenPrivate(std::string name, Kind kind);
+    /// Owns the widget.
+    ScreenPrivate(std::string name, Kind kind, PegThing* widget = new PegWindow);
     ~ScreenPrivate() override;
 
     PegThing* getWidget() override { return mWidget; }
@@ -38,7 +39,7 @@ private:
 
     std::string mName;
     Kind mKind;
-    PegThing* mWidget = new PegWindow;
+    PegThing* mWidget;
     DisplayAPI::OwnershipDelegate<PegThing> mOwnership{&mWidget, true};
 };
 
