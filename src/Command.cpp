@@ -5,20 +5,47 @@
 #include "utilities/Semaphore.h"
 #include "utilities/TranslationInfo.h"
 
+#include <memory>
 #include <mutex>
 
 namespace DisplayAPI {
 
 namespace {
 
-/// Guards the pointer to the list lock, which comes and goes. A leaf.
+/// Guards the pointer to the list lock, which comes and goes. A leaf. Never destroyed, as the set.
 std::mutex& listLockGuard()
 {
     static auto* const guard = new std::mutex;
     return *guard;
 }
 
+/// The object behind the pointer. Threads that wait for a lock that goes keep it until they have noticed.
+std::shared_ptr<Semaphore>& listLockOwner()
+{
+    static auto* const owner = new std::shared_ptr<Semaphore>;
+    return *owner;
+}
+
 } // namespace
+
+/// Holds the list lock, whichever it is at that moment.
+class Command::ListLock {
+public:
+    ListLock() : mLock(listLock())
+    {
+        for (mLock->take(-1); mLock != listLock(); mLock->take(-1)) {
+            mLock->give(); // it has gone while this thread waited for it
+            mLock = listLock();
+        }
+    }
+
+    ~ListLock() { mLock->give(); }
+    ListLock(const ListLock&) = delete;
+    ListLock& operator=(const ListLock&) = delete;
+
+private:
+    std::shared_ptr<Semaphore> mLock;
+};
 
 // Never destroyed: static commands leave the set as late as at process exit.
 std::set<Command*>& Command::gAllCommands = *new std::set<Command*>;
@@ -53,21 +80,21 @@ Command& Command::operator=(const Command& other)
 Command::~Command()
 {
     CommandExecutor::retrieveCommand(nullptr, this, nullptr);
-    commandListMutex()->take(-1);
-    removeCommand(this);
-    delete mTranslation;
-    // After the last command this is a new lock, whose permit is free already.
-    commandListMutex()->give();
+    {
+        ListLock lock;
+        removeCommand(this);
+        delete mTranslation;
+    }
+    // After the last command the list lock has gone: leave a new one, whose permit is free.
+    commandListMutex();
 }
 
 std::string Command::getText() const
 {
-    commandListMutex()->take(-1);
-    std::string text = mText;
-    if (mTranslation != nullptr)
-        text = isFullPanel() ? mTranslation->getString() : mTranslation->getCompleteString();
-    commandListMutex()->give();
-    return text;
+    ListLock lock;
+    if (mTranslation == nullptr)
+        return mText;
+    return isFullPanel() ? mTranslation->getString() : mTranslation->getCompleteString();
 }
 
 std::string Command::getBasicText() const
@@ -75,41 +102,42 @@ std::string Command::getBasicText() const
     return mTranslation != nullptr ? mTranslation->getString() : mText;
 }
 
-Semaphore* Command::commandListMutex()
+std::shared_ptr<Semaphore> Command::listLock()
 {
     std::lock_guard lock(listLockGuard());
-    if (gCommandListMutex == nullptr)
-        gCommandListMutex = new Semaphore(Semaphore::AVAILABLE, 1, true);
-    return gCommandListMutex;
+    if (gCommandListMutex == nullptr) {
+        listLockOwner() = std::make_shared<Semaphore>(Semaphore::AVAILABLE, 1, true);
+        gCommandListMutex = listLockOwner().get();
+    }
+    return listLockOwner();
+}
+
+Semaphore* Command::commandListMutex()
+{
+    return listLock().get();
 }
 
 void Command::addCommand(Command* command)
 {
-    commandListMutex()->take(-1);
+    ListLock lock;
     gAllCommands.insert(command);
-    commandListMutex()->give();
 }
 
 void Command::removeCommand(Command* command)
 {
-    Semaphore* const listLock = commandListMutex();
-    listLock->take(-1);
+    ListLock lock;
     gAllCommands.erase(command);
-    if (!gAllCommands.empty()) {
-        listLock->give();
+    if (!gAllCommands.empty())
         return;
-    }
-    std::lock_guard lock(listLockGuard());
-    delete gCommandListMutex;
+    std::lock_guard guard(listLockGuard());
     gCommandListMutex = nullptr;
+    listLockOwner().reset();
 }
 
 bool Command::exists(Command* command)
 {
-    commandListMutex()->take(-1);
-    const bool found = gAllCommands.count(command) != 0;
-    commandListMutex()->give();
-    return found;
+    ListLock lock;
+    return gAllCommands.count(command) != 0;
 }
 
 } // namespace DisplayAPI

@@ -22,7 +22,9 @@ constexpr int MAX_POOL_SIZE = 10;
 constexpr int COMMAND_LINE = 120;
 constexpr int ITEM_LINE = 145;
 
-enum ItemType : int { COMMAND_NOTIFICATION = 0, ITEM_NOTIFICATION = 1 };
+constexpr auto COMMAND_NOTIFICATION = CommandExecutor::COMMAND_NOTIFICATION;
+constexpr auto ITEM_NOTIFICATION = CommandExecutor::ITEM_NOTIFICATION;
+using ItemType = CommandExecutor::ItemType;
 
 /// Payloads are made by one thread and deleted by another, like request records.
 template <typename Payload>
@@ -100,8 +102,10 @@ void startExecutor()
     auto* executor = new CommandExecutor;
     if (DisplayThread* thread = DisplayThreadPool::instance(MAX_POOL_SIZE)->getThread())
         thread->executeRequest(executor);
-    else
-        delete executor; // the next post tries again
+    else {
+        gLog(LOST, 96, "CommandExecutor: no thread could be started, the next notification tries again");
+        delete executor;
+    }
 }
 
 void post(Shared& state, Entry entry, bool start)

@@ -16,6 +16,8 @@ class ItemStateListener;
 /// runs, so a listener may post, recall and call any facade.
 class CommandExecutor : public Runnable {
 public:
+    enum ItemType : int { COMMAND_NOTIFICATION = 0, ITEM_NOTIFICATION = 1 };
+
     /// Queues a notification, and starts delivery if `start` and nobody is delivering. A null listener is ignored.
     static void postCommand(CommandListener* listener, Command* command, Displayable* displayable, bool start);
 

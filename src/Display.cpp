@@ -35,6 +35,7 @@ void call(DisplayPrivateIfc& implementation, Display* display, Request::DisplayR
 }
 
 constexpr bool NO_FLAG = false;
+constexpr const char* SERVED = "served";
 
 std::string formatTime(int hours, int minutes, int seconds)
 {
@@ -104,16 +105,16 @@ void Display::processDisplayRequest(DisplayRequestEvent* request)
     case Request::LOCALE_CHANGED: mImplementation->localeChanged(request->getStringParam()); break;
     case Request::DATE_FORMAT_CHANGED: mImplementation->dateFormatChanged(request->getStringParam()); break;
     case Request::TIME_FORMAT_CHANGED: mImplementation->timeFormatChanged(request->getStringParam()); break;
-    case Request::SERIALISE:
-        mResultLock->take(-1);
-        mResult = mImplementation->serialise();
-        break;
+    case Request::SERIALISE: giveResult(*request, [this] { return mImplementation->serialise(); }); break;
     case Request::CREATE_SERVER_DISPLAY: mImplementation->createServerDisplay(request->getDisplayable()); break;
     case Request::SET_MAXIMISED: mImplementation->setMaximised(request->getBoolParam()); break;
     case Request::GET_DISPLAYED_RECTS: request->setDisplayedRects(mImplementation->getDisplayedRects()); break;
     case Request::SERIALISE_BY_RECT:
-        mResultLock->take(-1);
-        mResult = mImplementation->serialiseByRect(*request->getSerialisableRects(), request->getBoolParam());
+        giveResult(*request, [this, request] {
+            const Request::Rects* rects = request->getSerialisableRects();
+            return mImplementation->serialiseByRect(rects != nullptr ? *rects : Request::Rects(),
+                                                    request->getBoolParam());
+        });
         break;
     default: processSystemWindowRequest(*request); break;
     }
@@ -227,9 +228,26 @@ std::vector<DisplayAPIUtils::Rect>* Display::getDisplayedRects()
     return rects;
 }
 
-/// The GUI thread has taken the result's lock before it wrote the result: it is given when the result has been read.
-std::string Display::takeResult()
+/// Takes the result's lock before it writes the result, and marks in the caller's string that it has done so: the
+/// caller gives the lock when it has read the result. A request that was lost leaves no mark.
+template <typename Serialise>
+void Display::giveResult(DisplayRequestEvent& request, Serialise serialise)
 {
+    mResultLock->take(-1);
+    mResult = serialise();
+    if (std::string* mark = request.getStringReturnValue())
+        *mark = SERVED;
+}
+
+template <typename... Args>
+std::string Display::askForResult(int code, Args&&... args)
+{
+    std::string mark;
+    callPrepared(
+        *mImplementation, this, static_cast<Request::DisplayRequests>(code),
+        [&](Request& r) { r.setStringReturnValue(&mark); }, std::forward<Args>(args)...);
+    if (mark.empty())
+        return {};
     std::string result = std::move(mResult);
     mResultLock->give();
     return result;
@@ -239,16 +257,14 @@ std::string Display::serialise()
 {
     if (Widget::isGuiThread())
         return mImplementation->serialise();
-    call(*mImplementation, this, Request::SERIALISE, NO_FLAG);
-    return takeResult();
+    return askForResult(Request::SERIALISE, NO_FLAG);
 }
 
 std::string Display::serialiseByRect(const std::vector<DisplayAPIUtils::Rect>& rects, bool withSystemWindow)
 {
     if (Widget::isGuiThread())
         return mImplementation->serialiseByRect(rects, withSystemWindow);
-    call(*mImplementation, this, Request::SERIALISE_BY_RECT, &rects, withSystemWindow);
-    return takeResult();
+    return askForResult(Request::SERIALISE_BY_RECT, &rects, withSystemWindow);
 }
 
 void Display::localeChanged(std::string locale)

@@ -4,6 +4,7 @@
 #include "DisplayAPI/DisplayRequestEvent.h"
 #include "DisplayAPI/GuiRequestEvent.h"
 #include "DisplayAPI/Widget.h"
+#include "MainQueue.h"
 #include "presentation/PRESCPresentationManager.h"
 #include "toolkit/PegScreen.h"
 
@@ -51,6 +52,12 @@ DisplayEventFilter::~DisplayEventFilter()
 void DisplayEventFilter::uninstall()
 {
     DisplayEventFilter* self = this;
+    if (gtPegMainQueue == nullptr) {
+        mpFilter.compare_exchange_strong(self, nullptr);
+        return;
+    }
+    // Under the queue's mutex, so that no post for this filter comes later.
+    MainQueueLock lock(*gtPegMainQueue);
     mpFilter.compare_exchange_strong(self, nullptr);
 }
 

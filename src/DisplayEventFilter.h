@@ -11,7 +11,8 @@ namespace DisplayAPI {
 /// the request out and deletes the record.
 class DisplayEventFilter : public PegThing {
 public:
-    /// Where `install` is true, posts go through this filter from now on.
+    /// Where `install` is true, posts go through this filter from now on, in the place of one that is installed
+    /// already.
     explicit DisplayEventFilter(bool install);
 
     ~DisplayEventFilter() override;

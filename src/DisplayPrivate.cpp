@@ -31,8 +31,9 @@ enum SoftwareType : int { SIP = 0, KVX = 1, UNKNOWN = 2 };
 /// The displays that live now. GUI thread only.
 std::vector<DisplayPrivate*>& displays()
 {
-    static std::vector<DisplayPrivate*> live;
-    return live;
+    // Never destroyed: a static displayable asks as late as at process exit.
+    static auto* const live = new std::vector<DisplayPrivate*>;
+    return *live;
 }
 
 // The log takes plain pointers.
@@ -44,7 +45,7 @@ const void* address(const void* object)
 
 const char* nameOf(Displayable* displayable)
 {
-    return displayable->getName().c_str();
+    return displayable != nullptr ? displayable->getName().c_str() : "";
 }
 
 PegThing* widgetOf(DisplayablePrivateIfc* side)
@@ -54,7 +55,7 @@ PegThing* widgetOf(DisplayablePrivateIfc* side)
 
 PegThing* widgetOf(Displayable* displayable)
 {
-    return widgetOf(displayable->getPrivateImpl());
+    return displayable != nullptr ? widgetOf(displayable->getPrivateImpl()) : nullptr;
 }
 
 bool isOnScreen(const PegThing* widget)
@@ -110,13 +111,17 @@ void postEventHelper(DisplayRequestEvent* request, DisplayEventFilter* filter, b
         return;
     }
     message->wType = PM_DISPLAY_REQUEST;
+    message->iData = 0;
     message->pTarget = filter;
     message->pSource = filter;
     message->pData = request;
 
     // Once the mutex is released the GUI thread may have deleted the request: read what to wait for before.
     Semaphore* semaphore = nullptr;
-    enqueue(message, Place::TAIL, [&] { semaphore = request != nullptr ? request->getSemaphore() : nullptr; });
+    enqueue(message, Place::TAIL, [&] {
+        semaphore = request != nullptr ? request->getSemaphore() : nullptr;
+        return true;
+    });
     if (wait && semaphore != nullptr)
         semaphore->take(-1);
 }
@@ -175,6 +180,8 @@ void DisplayPrivate::cleanup()
 /// The application's displayables outlive the presentation manager: it must not take their widgets with it.
 void DisplayPrivate::handBackWidgets()
 {
+    if (mCurrent != nullptr && std::find(mItemList.begin(), mItemList.end(), mCurrent) == mItemList.end())
+        mItemList.push_back(mCurrent);
     for (Displayable* displayable : mItemList) {
         DisplayablePrivateIfc* const side = displayable->getPrivateImpl();
         if (side == nullptr)
@@ -419,9 +426,16 @@ void DisplayPrivate::widgetDismissed(DisplayablePrivateIfc* dismissed)
 void DisplayPrivate::restoreTopmost()
 {
     DisplayablePrivateIfc* const side = mCurrent->getPrivateImpl();
-    PegThing* const widget = widgetOf(side);
-    if (widget == nullptr)
+    if (side == nullptr)
         return;
+    if (side->getWidget() != nullptr)
+        restoreWidget(side);
+    side->show();
+}
+
+void DisplayPrivate::restoreWidget(DisplayablePrivateIfc* side)
+{
+    PegThing* const widget = side->getWidget();
     gLog(TRACE, 552, "widgetDismissed() this=[%p] showing the previous current disp [%s] [%p] priv [%p] widget [%p]",
          address(this), nameOf(mCurrent), address(mCurrent), address(side), address(widget));
     widget->Layer(LAYER_RESTORED);
@@ -443,7 +457,6 @@ void DisplayPrivate::restoreTopmost()
         gLog(TRACE, 571, "widgetDismissed() this=[%p] NOT calling MoveFocusTree on widget [%p]", address(this),
              address(widget));
     }
-    side->show();
 }
 
 void DisplayPrivate::show()
@@ -519,18 +532,24 @@ void DisplayPrivate::createServerDisplay(Displayable* displayable)
         return;
     mCurrent = displayable;
     side->connectDisplayChangedSignal(this);
-    PegThing* const widget = side->getWidget();
-    if (mServerDisplay && widget != nullptr) {
-        mItemList.push_back(displayable);
-        gLog(TRACE, 655, "1. DisplayPrivate::createServerDisplay mItemList size is: %d [%s] [%p]\n",
-             static_cast<int>(mItemList.size()), nameOf(displayable), address(displayable));
-        if (widget->Parent() != nullptr)
-            widget->Parent()->Remove(widget, true);
-        addToScreen(widget);
-        side->releaseOwnership();
-        focusChanged(widget);
-    }
+    if (mServerDisplay)
+        addServerDisplay(displayable);
     side->show();
+}
+
+void DisplayPrivate::addServerDisplay(Displayable* displayable)
+{
+    mItemList.push_back(displayable);
+    gLog(TRACE, 655, "1. DisplayPrivate::createServerDisplay mItemList size is: %d [%s] [%p]\n",
+         static_cast<int>(mItemList.size()), nameOf(displayable), address(displayable));
+    PegThing* const widget = widgetOf(displayable);
+    if (widget == nullptr)
+        return;
+    if (widget->Parent() != nullptr)
+        widget->Parent()->Remove(widget, true);
+    addToScreen(widget);
+    displayable->getPrivateImpl()->releaseOwnership();
+    focusChanged(widget);
 }
 
 /// Takes the system window's lines from the displayable that was current before, and notes that the one that is current
@@ -558,11 +577,22 @@ void DisplayPrivate::clearSWfromDisplayable()
 void DisplayPrivate::dismissEverywhere(Displayable* displayable)
 {
     for (DisplayPrivate* display : displays()) {
-        const auto& entries = display->mItemList;
-        if (display->mCurrent == displayable || std::find(entries.begin(), entries.end(), displayable) != entries.end())
+        const bool wasHeld = display->holdOnce(displayable);
+        if (wasHeld || display->mCurrent == displayable)
             display->widgetDismissed(displayable->getPrivateImpl());
         display->forget(displayable);
     }
+}
+
+/// A server display may hold a displayable more than once: dismissed, it must not come back from under itself. Returns
+/// whether it is held at all.
+bool DisplayPrivate::holdOnce(Displayable* displayable)
+{
+    const auto first = std::find(mItemList.begin(), mItemList.end(), displayable);
+    if (first == mItemList.end())
+        return false;
+    mItemList.erase(std::remove(first + 1, mItemList.end(), displayable), mItemList.end());
+    return true;
 }
 
 void DisplayPrivate::forgetEverywhere(Displayable* displayable)

@@ -4,6 +4,7 @@
 #include "utilities/CriticalSection.h"
 
 #include <array>
+#include <atomic>
 #include <memory>
 #include <string>
 #include <vector>
@@ -107,7 +108,10 @@ private:
     void hideContentWidget();
     void eraseDismissed(DisplayablePrivateIfc* dismissed);
     void restoreTopmost();
+    void restoreWidget(DisplayablePrivateIfc* side);
+    void addServerDisplay(Displayable* displayable);
     void clearSWfromDisplayable();
+    bool holdOnce(Displayable* displayable);
     void forget(Displayable* displayable);
 
     Displayable* mCurrent = nullptr;
@@ -116,7 +120,7 @@ private:
     std::unique_ptr<ContentWidget> mContentWidget;
     std::unique_ptr<DisplayEventFilter> mFilter;
     bool mVisible = false;
-    bool mExecFinished = false;
+    std::atomic<bool> mExecFinished{false};
     bool mServerDisplay;
     bool mMaximised = false;
     std::string mLocale;

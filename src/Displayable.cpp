@@ -21,7 +21,8 @@ void Displayable::processGuiRequest(GuiRequestEvent&) {}
 
 void Displayable::addItemStateListener(ItemStateListener* listener)
 {
-    mItemStateListeners.push_back(listener);
+    if (listener != nullptr)
+        mItemStateListeners.push_back(listener);
 }
 
 void Displayable::callListeners(Item* item)

@@ -7,7 +7,7 @@
 
 namespace DisplayAPI {
 
-TranslatorIfc* DisplayablePrivate::commonTranslator = nullptr;
+std::atomic<TranslatorIfc*> DisplayablePrivate::commonTranslator{nullptr};
 
 DisplayablePrivate::DisplayablePrivate() = default;
 
@@ -48,7 +48,8 @@ void DisplayablePrivate::enable(bool) {}
 
 void DisplayablePrivate::addCommandListener(CommandListener* listener)
 {
-    if (std::find(mCommandListeners.begin(), mCommandListeners.end(), listener) == mCommandListeners.end())
+    const auto known = std::find(mCommandListeners.begin(), mCommandListeners.end(), listener);
+    if (listener != nullptr && known == mCommandListeners.end())
         mCommandListeners.push_back(listener);
 }
 
@@ -59,7 +60,8 @@ void DisplayablePrivate::removeCommandListener(CommandListener* listener)
 
 void DisplayablePrivate::join(DisplayablePrivate* other)
 {
-    mDisplay = other->mDisplay;
+    if (other != nullptr)
+        mDisplay = other->mDisplay;
 }
 
 void DisplayablePrivate::disjoin()
@@ -83,7 +85,9 @@ bool DisplayablePrivate::hasSystemWindow()
 
 void DisplayablePrivate::postCommand(Command* command, Displayable* displayable)
 {
-    for (CommandListener* listener : mCommandListeners)
+    // A listener may change the list while it is told.
+    const std::vector<CommandListener*> listeners = mCommandListeners;
+    for (CommandListener* listener : listeners)
         listener->postCommandAction(command, displayable);
 }
 

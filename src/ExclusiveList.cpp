@@ -33,7 +33,7 @@ ExclusiveList::ExclusiveList() : List(nullptr)
 // What is queued runs while the object is still an ExclusiveList.
 ExclusiveList::~ExclusiveList()
 {
-    getItems();
+    waitForEarlierRequests();
 }
 
 /// The implementation made here is replaced by the exclusive one and not released.
@@ -56,7 +56,7 @@ void ExclusiveList::processGuiRequest(GuiRequestEvent& request)
     switch (request.getType()) {
     case CREATE_BASE: createBase(request.boolParam1); break;
     case CREATE: createExclusive(); break;
-    case GET_SELECTED_INDEX: answer(request, chosenIndex()); break;
+    case GET_SELECTED_INDEX: answer<int>(request, chosenIndex()); break;
     case IS_SELECTED: isChosen(request.intParam1); break;
     case SET_SELECTED_INDEX: choose(request.intParam1); break;
     default: return List::processGuiRequest(request);

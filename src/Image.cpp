@@ -53,8 +53,8 @@ void Image::processGuiRequest(GuiRequestEvent& request)
 {
     switch (request.getType()) {
     case DESTROY: destroy(); break;
-    case WIDTH: answer(request, mImplementation != nullptr ? mImplementation->width() : 0); break;
-    case HEIGHT: answer(request, mImplementation != nullptr ? mImplementation->height() : 0); break;
+    case WIDTH: answer<int>(request, mImplementation != nullptr ? mImplementation->width() : 0); break;
+    case HEIGHT: answer<int>(request, mImplementation != nullptr ? mImplementation->height() : 0); break;
     default: break;
     }
     signalComplete(request);

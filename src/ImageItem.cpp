@@ -39,8 +39,8 @@ void ImageItem::setImage(const Image*) {}
 
 Image* ImageItem::getImage() const
 {
-    // Never destroyed: its destructor would wait for a GUI thread that has ended.
-    static Image* const blank = new Image;
+    // Made without a request, so that no thread waits for it; never destroyed, because that would post one.
+    static Image* const blank = new Image(Image::NO_SKIN_ELEMENT);
     return blank;
 }
 

@@ -108,9 +108,9 @@ void List::processGuiRequest(GuiRequestEvent& request)
     case APPEND_TRANSLATED: createAndAppendItem(pointer<TranslationInfo>(request.ptrParam1)); break;
     case APPEND_ITEM: privateAppend(pointer<ListItem>(request.ptrParam1)); break;
     case CLEAR: privateClear(); break;
-    case GET_SELECTED: answer(request, findSelectedItem()); break;
+    case GET_SELECTED: answer<ListItem*>(request, findSelectedItem()); break;
     case INSERT_AT: privateInsertAt(pointer<ListItem>(request.ptrParam1), request.intParam1); break;
-    case REMOVE_AT: answer(request, privateRemoveAt(request.intParam1)); break;
+    case REMOVE_AT: answer<ListItem*>(request, privateRemoveAt(request.intParam1)); break;
     case REMOVE: privateRemove(pointer<ListItem>(request.ptrParam1)); break;
     case REMOVE_ALL: privateRemoveAll(); break;
     case REPLACE: privateReplace(pointer<ListItem>(request.ptrParam1), pointer<ListItem>(request.ptrParam2)); break;
@@ -134,9 +134,9 @@ void List::processImplementationRequest(GuiRequestEvent& request)
         if (auto* item = pointer<ListItem>(request.ptrParam1))
             list.setSelected(item->getPrivateImplemetation());
         break;
-    case GET_SELECTED_INDEX: answer(request, list.getSelectedIndex()); break;
+    case GET_SELECTED_INDEX: answer<int>(request, list.getSelectedIndex()); break;
     case SET_SELECTED_INDEX: list.setSelectedIndex(request.intParam1); break;
-    case SIZE: answer(request, list.size()); break;
+    case SIZE: answer<int>(request, list.size()); break;
     case HIDE: list.hide(); break;
     case SET_TITLE: list.setTitle(request.stringParam1); break;
     case SET_TITLE_TRANSLATED: list.setTitle(pointer<TranslationInfo>(request.ptrParam1)); break;
@@ -208,7 +208,7 @@ void List::clear()
 std::vector<ListItem*> List::getItems() const
 {
     gLog(TRACE, 240, "DAPI::List::getItems() this: %p\n", static_cast<const void*>(this));
-    waitForEarlierRequests(GET_ITEMS);
+    waitForEarlierRequests();
     return mItems;
 }
 
@@ -357,6 +357,11 @@ PopupDialer* List::getDialer()
     return mDialer;
 }
 
+void List::waitForEarlierRequests() const
+{
+    waitForEarlierRequests(GET_ITEMS);
+}
+
 void List::waitForEarlierRequests(int code) const
 {
     if (!isGuiThread())
@@ -374,13 +379,22 @@ void List::suppressAutoRightArrowForSoftKeys() {}
 void List::createAndAppendItem(const std::string& text)
 {
     gLog(TRACE, 478, "DAPI::List::createAndAppendItem() this: %p\n", static_cast<void*>(this));
-    append(new ListItem(text, true));
+    takeOver(new ListItem(text, true));
 }
 
 void List::createAndAppendItem(TranslationInfo* text)
 {
     gLog(TRACE, 486, "DAPI::List::createAndAppendItem() this: %p\n", static_cast<void*>(this));
-    append(new ListItem(text, true));
+    takeOver(new ListItem(text, true));
+}
+
+/// On a thread that carries a request out without being the GUI thread, append() would post under the request's lock.
+void List::takeOver(ListItem* item)
+{
+    if (isGuiThread())
+        append(item);
+    else
+        privateAppend(item);
 }
 
 void List::privateAppend(ListItem* item)

@@ -78,7 +78,7 @@ void ListItem::processGuiRequest(GuiRequestEvent& request)
     case SET_TEXT: break; // a row's text is fixed
     case GET_TEXT:
         if (mImplementation != nullptr)
-            answer(request, currentText());
+            answer<std::string>(request, currentText());
         break;
     default: break;
     }

@@ -13,7 +13,11 @@ struct Log {
     template <typename... Args>
     void operator()(int level, int line, const char* text, Args... args) const
     {
-        if (loggingOnUni())
+        if (!loggingOnUni())
+            return;
+        if constexpr (sizeof...(args) == 0)
+            logAppUni(module, file, level, line, "%s", text);
+        else
             logAppUni(module, file, level, line, text, args...);
     }
 };

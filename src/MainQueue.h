@@ -27,13 +27,15 @@ void giveBackMessage(PegMessage* message);
 
 enum class Place { HEAD, TAIL };
 
-/// Links `message` in and wakes the loop. `beforeHandOver` runs last under the mutex: afterwards the message and its
-/// record belong to the GUI thread.
-template <typename Function>
-void enqueue(PegMessage* message, Place place, Function beforeHandOver)
+/// Links `message` in and wakes the loop: from then on it and its record belong to the GUI thread. `admit` has the last
+/// word before that, under the mutex; where it says no, the message stays the caller's. Returns what it has said.
+template <typename Admit>
+bool enqueue(PegMessage* message, Place place, Admit admit)
 {
     PegMainQueue& queue = *gtPegMainQueue;
     MainQueueLock lock(queue);
+    if (!admit())
+        return false;
     if (place == Place::TAIL) {
         message->Next = nullptr;
         (queue.tail != nullptr ? queue.tail->Next : queue.head) = message;
@@ -45,13 +47,8 @@ void enqueue(PegMessage* message, Place place, Function beforeHandOver)
         queue.head = message;
     }
     queue.count.store(queue.count.load(std::memory_order_relaxed) + 1, std::memory_order_release);
-    beforeHandOver();
     pthread_cond_broadcast(&queue.condition);
-}
-
-inline void enqueue(PegMessage* message, Place place)
-{
-    enqueue(message, place, [] {});
+    return true;
 }
 
 /// Unlinks the message behind `previous` (the head where it is null) and returns it. The queue's mutex must be held.
@@ -61,7 +58,7 @@ PegMessage* unlinkAfter(PegMainQueue& queue, PegMessage* previous);
 template <typename Matches, typename Take>
 void removeMessages(Matches matches, Take take)
 {
-    if (gtPegMainQueue == nullptr || gtPegMainQueue->count.load(std::memory_order_acquire) == 0)
+    if (gtPegMainQueue == nullptr)
         return;
     MainQueueLock lock(*gtPegMainQueue);
     PegMessage* previous = nullptr;

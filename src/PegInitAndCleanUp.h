@@ -2,7 +2,8 @@
 
 namespace DisplayAPI {
 
-/// How the toolkit is started and stopped.
+/// How the toolkit is started and stopped: each once for a display, on the GUI thread. Afterwards the main queue and
+/// its free pool exist.
 class PegInitAndCleanUpIfc {
 public:
     virtual ~PegInitAndCleanUpIfc() = default;

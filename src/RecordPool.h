@@ -4,6 +4,14 @@
 #include <mutex>
 #include <new>
 
+#if defined(__SANITIZE_ADDRESS__)
+#define DISPLAYAPI_HEAP_IS_CHECKED
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define DISPLAYAPI_HEAP_IS_CHECKED
+#endif
+#endif
+
 namespace DisplayAPI {
 
 /// Memory for records of one size that one thread makes and another one deletes, over and over.
@@ -53,6 +61,8 @@ private:
     /// The block that comes next was last written by another CPU: ask for its lines before they are needed.
     static void fetchForWriting(Block* block)
     {
+        if (block == nullptr)
+            return;
         for (std::size_t line = 0; line < BLOCK_SIZE; line += LINE)
             __builtin_prefetch(reinterpret_cast<char*>(block) + line, 1);
     }
@@ -88,7 +98,7 @@ private:
 
     static bool keeps([[maybe_unused]] Cache& cache)
     {
-#ifdef __SANITIZE_ADDRESS__
+#ifdef DISPLAYAPI_HEAP_IS_CHECKED
         return false;
 #else
         if (!cache.open) {

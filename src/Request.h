@@ -21,7 +21,7 @@
 /// and in processGuiRequest, which works on the private side and never on the facade's own marshalled operations:
 ///
 ///         case START: mImplementation->start(request.intParam1); break;
-///         case VALUE: answer(request, mImplementation->value()); break;
+///         case VALUE: answer<int>(request, mImplementation->value()); break;
 namespace DisplayAPI {
 
 /// Names the caller's variable that a handler writes its answer to.
@@ -45,6 +45,7 @@ public:
     void put(bool value) { (mBools++ == 0 ? mRecord.boolParam1 : mRecord.boolParam2) = value; }
     void put(int value) { *next(mInts, mRecord.intParam1, mRecord.intParam2, mRecord.intParam3) = value; }
 
+    void put(const char* value) { put(std::string(value)); }
     void put(std::string value)
     {
         *next(mStrings, mRecord.stringParam1, mRecord.stringParam2, mRecord.stringParam3) = std::move(value);
@@ -78,13 +79,22 @@ private:
     int mPointers = 0;
 };
 
+/// Fills a record that has been made for the request, which it returns.
 template <typename... Args>
-GuiRequestEvent* request(Widget* requester, int code, Args&&... args)
+GuiRequestEvent* filled(GuiRequestEvent* record, Args&&... args)
 {
-    auto* record = new GuiRequestEvent(requester, code);
+    constexpr int BOOLS = (0 + ... + std::is_same_v<std::decay_t<Args>, bool>);
+    constexpr int INTS = (0 + ... + std::is_same_v<std::decay_t<Args>, int>);
+    static_assert(BOOLS <= 2 && INTS <= 3, "a record has two flags and three numbers");
     [[maybe_unused]] RequestFiller filler(*record);
     (filler.put(std::forward<Args>(args)), ...);
     return record;
+}
+
+template <typename... Args>
+GuiRequestEvent* request(Widget* requester, int code, Args&&... args)
+{
+    return filled(new GuiRequestEvent(requester, code), std::forward<Args>(args)...);
 }
 
 /// A record for Widget::postEventHelper(), which never frees it on the GUI thread. Made in a place of its own so that a
@@ -94,15 +104,13 @@ GuiRequestEvent* newHelperRecord(Widget* requester, int code);
 template <typename... Args>
 GuiRequestEvent* helperRequest(Widget* requester, int code, Args&&... args)
 {
-    auto* record = newHelperRecord(requester, code);
-    [[maybe_unused]] RequestFiller filler(*record);
-    (filler.put(std::forward<Args>(args)), ...);
-    return record;
+    return filled(newHelperRecord(requester, code), std::forward<Args>(args)...);
 }
 
-/// Writes a handler's answer to the variable that the caller has named, if it has named one.
+/// Writes a handler's answer to the variable that the caller has named, if it has named one. The type is the variable's
+/// and has to be written out.
 template <typename T>
-void answer(const GuiRequestEvent& request, T value)
+void answer(const GuiRequestEvent& request, std::type_identity_t<T> value)
 {
     if (request.returnValue3 != nullptr)
         *static_cast<T*>(request.returnValue3) = std::move(value);

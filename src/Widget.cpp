@@ -72,6 +72,7 @@ PegMessage* wrap(GuiRequestEvent* request, DisplayEventFilter* filter, const Ope
         return nullptr;
     }
     message->wType = PM_WIDGET_REQUEST;
+    message->iData = 0;
     message->pTarget = filter;
     message->pSource = filter;
     message->pData = request;
@@ -84,24 +85,45 @@ void carryOutHere(Widget& widget, GuiRequestEvent* request)
     delete request;
 }
 
+GuiRequestEvent* unwrap(PegMessage& message)
+{
+    auto* request = static_cast<GuiRequestEvent*>(message.pData);
+    message.pData = nullptr;
+    return request;
+}
+
+/// Queues the request for the installed filter, with `condition` as its wait condition unless that is null. Returns
+/// false when there is nothing to wait for: without a filter the request has been carried out here, without a message
+/// record it is lost.
+bool handOver(Widget& widget, GuiRequestEvent* request, const Operation& operation, Wait* condition)
+{
+    DisplayEventFilter* const filter = DisplayEventFilter::getFilterPointer();
+    if (filter == nullptr || gtPegMainQueue == nullptr) {
+        carryOutHere(widget, request);
+        return false;
+    }
+    PegMessage* const message = wrap(request, filter, operation);
+    if (message == nullptr)
+        return false;
+    if (condition != nullptr)
+        request->setWaitCondition(condition);
+    // A filter that has been taken out meanwhile carries nothing out any more.
+    if (enqueue(message, operation.place, [filter] { return filter == DisplayEventFilter::getFilterPointer(); }))
+        return true;
+    carryOutHere(widget, unwrap(*message));
+    giveBackMessage(message);
+    return false;
+}
+
 void postAndWait(Widget& widget, Semaphore& requestLock, GuiRequestEvent* request, const Operation& operation)
 {
     Permit permit(requestLock);
     request = orEmptyRequest(widget, request);
-    DisplayEventFilter* const filter = DisplayEventFilter::getFilterPointer();
-    if (filter == nullptr)
-        return carryOutHere(widget, request);
-    PegMessage* const message = wrap(request, filter, operation);
-    if (message == nullptr)
-        return;
-
     Wait* const callers = request->waitCondition();
     Wait own;
-    if (callers == nullptr)
-        request->setWaitCondition(&own);
-    enqueue(message, operation.place);
-
-    // A caller's own condition may be waited on by others too: let them post meanwhile.
+    if (!handOver(widget, request, operation, callers == nullptr ? &own : nullptr))
+        return;
+    // Whoever waits on a condition of his own does not keep others from posting meanwhile.
     if (callers != nullptr)
         permit.giveBack();
     (callers != nullptr ? *callers : own).wait();
@@ -120,13 +142,6 @@ struct OwnRequest {
         return request->requesterWidget() == widget && (codes == nullptr || codes->count(request->getType()) != 0);
     }
 };
-
-GuiRequestEvent* unwrap(PegMessage& message)
-{
-    auto* request = static_cast<GuiRequestEvent*>(message.pData);
-    message.pData = nullptr;
-    return request;
-}
 
 /// Removes the matching requests; returns whether somebody has waited for one of them.
 bool purge(const OwnRequest& matches)
@@ -161,8 +176,9 @@ Widget& Widget::operator=(const Widget& other)
 
 Widget::~Widget()
 {
-    // Whoever has been woken still has to give the request lock back.
-    if (purge({this, nullptr}))
+    // With an empty queue this costs nothing. Whoever has been woken still has to give the request lock back.
+    const bool mayBeQueued = gtPegMainQueue != nullptr && gtPegMainQueue->count != 0;
+    if (mayBeQueued && purge({this, nullptr}))
         mSync->requestLock->take(-1);
     delete mSync->wait;
     delete mSync->requestLock;
@@ -198,12 +214,7 @@ void Widget::postTopEvent(GuiRequestEvent* request)
 void Widget::postEventAsync(GuiRequestEvent* request)
 {
     Permit permit(*mSync->requestLock);
-    request = orEmptyRequest(*this, request);
-    DisplayEventFilter* const filter = DisplayEventFilter::getFilterPointer();
-    if (filter == nullptr)
-        return carryOutHere(*this, request);
-    if (PegMessage* message = wrap(request, filter, POST_ASYNC))
-        enqueue(message, POST_ASYNC.place);
+    handOver(*this, orEmptyRequest(*this, request), POST_ASYNC, nullptr);
 }
 
 void Widget::postEvent(int code)
@@ -265,7 +276,7 @@ void Widget::purgeOwnMessage(std::set<int>* codes)
 
 void focusChanged(PegThing* thing)
 {
-    if (thing->Type() != TYPE_LIST_WP1)
+    if (thing->Type() != TYPE_LIST_WP1 || PegThing::mpMessageQueue == nullptr)
         return;
     PegMessage message;
     message.wType = PM_FOCUS_CHANGED;

@@ -2,6 +2,7 @@
 
 #include "DisplayAPI/Export.h"
 
+#include <memory>
 #include <set>
 #include <string>
 
@@ -11,14 +12,14 @@ class TranslationInfo;
 namespace DisplayAPI {
 
 /// An action that the user can choose on a screen: a label and a type. Plain data, not marshalled: safe to read from
-/// any thread.
+/// any thread while no thread assigns to it.
 ///
 /// Ownership: the application owns commands; a command owns its translation. Copies share the translation and both
 /// delete it: do not copy commands that have one.
 class DISPLAYAPI_EXPORT Command {
 public:
     /// What the command is for; any value travels through. Not all values have names.
-    enum Type : int { BACK = 1, OK = 6, ITEM = 7, RIGHT = 9, SAVE = 11 };
+    enum Type : int { BACK = 1, OK = 6, ITEM = 7, RIGHT = 9 };
 
     Command(TranslationInfo* label, Type type);
     Command(const std::string& text, Type type);
@@ -31,7 +32,8 @@ public:
     Type getType() const { return mType; }
     TranslationInfo* getTranslationInfo() const { return mTranslation; }
 
-    /// The label: with a translation its complete string, on variant 1 its string; else the plain text.
+    /// The label: with a translation its complete string, on variant 1 its string; else the plain text. The translator
+    /// runs under the list lock and must not call the library.
     std::string getText() const;
 
     /// The label without the list lock and the same on every variant.
@@ -51,6 +53,10 @@ public:
     static bool exists(Command* command);
 
 private:
+    class ListLock;
+
+    static std::shared_ptr<Semaphore> listLock();
+
     std::string mText;
     Type mType;
     bool mUseAlternativeDisplay = false;

@@ -15,7 +15,8 @@ public:
     virtual ~CommandListener();
 
     /// The user has chosen `command` on `displayable` (null where there is none). Called on a pool thread, one
-    /// notification of the process at a time, in the order in which they were raised; it may call any facade.
+    /// notification of the process at a time, in the order in which they were raised; it may call any facade. It must
+    /// not throw.
     virtual void commandAction(Command* command, Displayable* displayable) = 0;
 
     /// Queues a notification and returns at once. From any thread. The same command twice is notified twice.

@@ -38,13 +38,14 @@ public:
     Display(std::string hardware, std::string locale, std::string dateFormat, std::string timeFormat, bool narrow,
             DisplayAPIUtils::Rect* area);
 
-    /// Adopts an implementation.
+    /// Adopts an implementation and deletes it in the end; it must not be null.
     explicit Display(DisplayPrivateIfc* implementation);
 
     Display(const Display&) = delete;
     Display& operator=(const Display&) = delete;
 
-    /// Stops the toolkit. GUI thread only, after exec() has returned.
+    /// Stops the toolkit and hands the widgets back to their displayables. GUI thread only, after exec() has returned.
+    /// Calls of other threads that still wait return with neutral values; no thread may begin one meanwhile.
     virtual ~Display();
 
     /// Carries out one request and completes it. GUI thread only.
@@ -71,13 +72,15 @@ public:
     /// Ends the loop.
     void shutdown();
 
+    /// Makes `displayable` current beside what is shown; null is ignored.
     void createServerDisplay(Displayable* displayable);
     void setMaximised(bool on);
 
     /// The rectangles of the displayables on the stack, owned by the display and valid until they are asked for again.
     std::vector<DisplayAPIUtils::Rect>* getDisplayedRects();
 
-    /// What is shown, as text in ASCII: all of it, or what lies in `rects`, with the system window if asked for.
+    /// What is shown, as text in ASCII: all of it, or what lies in `rects`, with the system window if asked for. Empty
+    /// as yet.
     std::string serialise();
     std::string serialiseByRect(const std::vector<DisplayAPIUtils::Rect>& rects, bool withSystemWindow);
 
@@ -98,6 +101,8 @@ public:
     /// The area that the display may use, owned by the display. Runs on the calling thread.
     DisplayAPIUtils::Rect* getDisplayArea();
 
+    // The status lines. Size, texts, top and status message have no effect yet. Hours, minutes and seconds are those of
+    // a clock: of larger numbers only the first two digits arrive from another thread.
     void setSystemWindowSize(int lines);
     void setSystemWindowText(int line, std::string text);
     void setSystemWindowTop(int top);
@@ -123,7 +128,10 @@ public:
 private:
     void init(DisplayPrivateIfc* implementation);
     void processSystemWindowRequest(DisplayRequestEvent& request);
-    std::string takeResult();
+    template <typename Serialise>
+    void giveResult(DisplayRequestEvent& request, Serialise serialise);
+    template <typename... Args>
+    std::string askForResult(int code, Args&&... args);
 
     DisplayPrivateIfc* mImplementation = nullptr;
     std::string mResult;

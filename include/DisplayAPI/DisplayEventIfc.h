@@ -12,7 +12,7 @@ public:
     virtual ~DisplayEventIfc() = default;
 
     /// Something on screen has changed. Called on the GUI thread with an empty string, under the lock that subscribing
-    /// and unsubscribing take; it may ask the display for its text.
+    /// and unsubscribing take: it may call the display, but it must not wait for a thread that unsubscribes.
     virtual void displayChanged(std::string text) = 0;
 };
 

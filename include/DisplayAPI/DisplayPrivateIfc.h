@@ -19,7 +19,8 @@ class DisplayRequestEvent;
 class Displayable;
 class DisplayablePrivateIfc;
 
-/// The GUI-thread side of a Display. GUI thread only, but for posting, purging, subscribing and getDisplayArea().
+/// The GUI-thread side of a Display. GUI thread only, but for posting, purging, subscribing, setTranslator() and
+/// getDisplayArea().
 class DISPLAYAPI_EXPORT DisplayPrivateIfc {
 public:
     virtual ~DisplayPrivateIfc() = default;

@@ -19,7 +19,8 @@ class Displayable;
 
 /// A call on a Display on its way to the GUI thread.
 ///
-/// Owns its string and nothing else. The caller's semaphore is null where nobody waits.
+/// Owns its string and nothing else: semaphore, rectangles and result slots are the caller's and outlive it. The
+/// semaphore is null where nobody waits. A text is a std::string: a literal would be taken for the flag.
 class DISPLAYAPI_EXPORT DisplayRequestEvent {
 public:
     enum DisplayRequests : std::int32_t {

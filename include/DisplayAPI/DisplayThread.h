@@ -25,13 +25,15 @@ public:
     virtual void executeRequest(Runnable* request);
 
     /// Ends the thread: from the thread itself it detaches, from another thread the caller waits until the body has
-    /// ended. The object is gone afterwards. A second call does nothing.
+    /// ended and the object is gone. A call while another one is under way does nothing.
+    /// REQUIRES: the thread has been started and not been destroyed.
     virtual void destroyThread();
 
+    /// Whether the thread has been handed out and has not finished its request. From any thread.
     virtual void setBusy();
     virtual bool busy();
 
-    /// Runs the request and deletes it.
+    /// Runs the request and deletes it. On the thread itself. REQUIRES: there is a request.
     virtual void execute();
     virtual void clearRequestData();
 

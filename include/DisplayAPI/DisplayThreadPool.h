@@ -23,8 +23,9 @@ public:
     DisplayThreadPool(const DisplayThreadPool&) = delete;
     DisplayThreadPool& operator=(const DisplayThreadPool&) = delete;
 
-    /// Ends the pooled threads and waits until each has finished what it runs.
-    virtual ~DisplayThreadPool();
+    /// Ends the pooled threads and waits, with the pool's lock held, until each has finished what it runs.
+    /// REQUIRES: nobody posts notifications or calls getThread() meanwhile; not from a Runnable.
+    ~DisplayThreadPool();
 
     /// A running thread, marked busy, ready for one executeRequest(). Null where none can be started.
     DisplayThread* getThread();

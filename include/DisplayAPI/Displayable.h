@@ -13,7 +13,9 @@ class ItemStateListener;
 /// Anything that a Display can make current: a screen, a list, a form or a popup.
 ///
 /// Ownership: created and deleted by the application; a display never deletes one. Its toolkit widget belongs to the
-/// presentation manager while it is on a display's stack. Delete a displayable after its display has let go of it.
+/// presentation manager while it is on a display's stack. A class of its own destroys its private side by a request
+/// that calls leaveDisplay() first; a displayable without such a request is deleted on the GUI thread, or when no
+/// display has shown it. A request that a class does not handle is not completed here: do not wait for one.
 class DISPLAYAPI_EXPORT Displayable : public Widget {
 public:
     Displayable();
@@ -29,7 +31,8 @@ public:
     /// The class name; "Displayable with no name" until the class has set its own.
     const std::string& getName() const { return name; }
 
-    /// Appends a listener; one that is added twice is called twice. Not owned. GUI thread only.
+    /// Appends a listener; one that is added twice is called twice, null is ignored. Not owned: it has to outlive the
+    /// displayable. Call it before the displayable is shown, or on the GUI thread.
     void addItemStateListener(ItemStateListener* listener);
 
     /// Queues the change of `item` for every listener, in order of addition. GUI thread only.

@@ -4,6 +4,7 @@
 #include "toolkit/PString.h"
 #include "toolkit/PegRect.h"
 
+#include <atomic>
 #include <vector>
 
 class TranslatorIfc;
@@ -32,11 +33,11 @@ public:
 
     virtual ~DisplayablePrivate();
 
-    /// Adds a listener once; a listener that is already there is not added again. Not owned.
+    /// Adds a listener once; null and a listener that is already there are ignored. Not owned.
     virtual void addCommandListener(CommandListener* listener);
     virtual void removeCommandListener(CommandListener* listener);
 
-    /// Takes over the display that `other` is attached to.
+    /// Takes over the display that `other` is attached to; null is ignored.
     virtual void join(DisplayablePrivate* other);
 
     /// Forgets the display.
@@ -56,7 +57,7 @@ public:
     void generateDisplayChangedEvent();
 
     /// Translates the texts that belong to no displayable in particular. Not owned; null until a display is given one.
-    static TranslatorIfc* commonTranslator;
+    static std::atomic<TranslatorIfc*> commonTranslator;
 
 protected:
     DisplayPrivateIfc* display() const { return mDisplay; }

@@ -40,6 +40,7 @@ public:
     /// True for a full screen, which replaces the whole stack; false for a popup, which stacks on top.
     virtual bool hideOldWidgetOnFocusGained() = 0;
 
+    /// Where the widget stands among others; 0 where that does not matter.
     virtual int widgetPosition() = 0;
 
     /// Attaches to a display; null detaches.
@@ -52,6 +53,7 @@ public:
     /// Tells the attached display that `dismissed` has closed itself.
     virtual void widgetDismissed(DisplayablePrivate* dismissed) = 0;
 
+    /// Whether the user can work with it.
     virtual void enable(bool on) = 0;
 
 protected:

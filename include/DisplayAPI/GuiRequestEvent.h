@@ -27,6 +27,8 @@ public:
     Widget* requesterWidget() { return mRequester; }
     int getType() const { return mType; }
     Wait* waitCondition() { return mWaitCondition; }
+
+    /// `condition` is for one waiting thread, has no wake-up left from before, and outlives the request.
     void setWaitCondition(Wait* condition) { mWaitCondition = condition; }
 
     /// Waits on the wait condition, without limit; returns at once where there is none.

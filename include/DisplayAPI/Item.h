@@ -9,7 +9,8 @@ namespace DisplayAPI {
 class Displayable;
 class ItemPrivateIfc;
 
-/// Base of the entries of forms: knows the displayable that it stands on, a type name and a read-only flag.
+/// Base of the entries of forms: knows the displayable that it stands on, a type name and a read-only flag. Its own
+/// operations run on the calling thread and are for one thread at a time.
 class DISPLAYAPI_EXPORT Item : public Widget {
 public:
     Item() = default;

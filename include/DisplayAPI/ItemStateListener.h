@@ -9,7 +9,8 @@ class Item;
 /// Implemented by the application to learn that the user has changed an item. Not deleted through this interface.
 class DISPLAYAPI_EXPORT ItemStateListener {
 public:
-    /// `item` has changed. Called on a pool thread, one notification of the process at a time, in order.
+    /// `item` has changed. Called on a pool thread, one notification of the process at a time, in order. It must not
+    /// throw.
     virtual void itemStateChanged(Item* item) = 0;
 
     /// Queues a notification and returns at once. From any thread. A change of the same item that is still queued for
@@ -20,7 +21,7 @@ public:
     void retrievePendingItemStateChange(Item* item);
 
 protected:
-    /// Recalls every queued notification for this listener.
+    /// Recalls every queued notification for this listener. One that is being delivered meanwhile is not waited for.
     ~ItemStateListener();
 };
 

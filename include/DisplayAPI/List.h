@@ -24,7 +24,10 @@ class Ticker;
 /// thread keep their order.
 /// Ownership: the list owns the rows in it; clear() and the destructor delete them. removeAt(), remove(), removeAll()
 /// and replace() give rows back to the caller. The row pointers that getItems() and getSelected() return stay the
-/// list's. Listeners, tickers, dialers and translations are not owned.
+/// list's. Put a row into one list, once. Listeners, tickers, dialers and translations are not owned and have to live
+/// until the list has let go of them: after removeCommandListener() until a waiting call such as size() has returned.
+/// A class derived from this one may meet its first request before its constructor has ended, and its last one after its
+/// destructor has begun: derive on the GUI thread, or from List(ListBoxPrivateIfc*) as ExclusiveList does.
 class DISPLAYAPI_EXPORT List : public Displayable {
 public:
     /// A list with a way back: on the 240 x 128 panel list types 2 and 3, on the 208 x 42 panel 1 and 3.
@@ -58,10 +61,11 @@ public:
     virtual void appendItems(TranslationInfo* text);
 
     /// Deletes all rows. Changes of rows and selection that are still queued when it is called off the GUI thread are
-    /// dropped.
+    /// dropped; a row whose append is dropped stays the caller's.
     virtual void clear();
 
-    /// The rows in order. Copied on the calling thread after all earlier changes of the caller have been carried out.
+    /// The rows in order. Copied on the calling thread after all earlier changes of the caller have been carried out:
+    /// no other thread may change the rows meanwhile.
     virtual std::vector<ListItem*> getItems() const;
 
     /// The selected row; null where there is none.
@@ -109,7 +113,8 @@ public:
     void addDialer(PopupDialer* dialer);
     PopupDialer* getDialer();
 
-    /// Whether the list carries a row that goes back; false on the 240 x 128 panel.
+    /// Whether the list carries a row that goes back: false on the 240 x 128 panel, and until the list has been made on
+    /// the GUI thread.
     bool hasBackItem() const { return mHasBackItem; }
 
     /// These do nothing.
@@ -133,6 +138,9 @@ protected:
     /// Makes this class's implementation. GUI thread only.
     void create(bool backFlag);
 
+    /// Returns when the GUI thread has carried out what the caller has posted so far; at once on the GUI thread.
+    void waitForEarlierRequests() const;
+
     /// For derived lists with an implementation of their own. GUI thread only.
     ListBoxPrivateIfc* implementation() const { return mImplementation; }
     void setImplementation(ListBoxPrivateIfc* implementation) { mImplementation = implementation; }
@@ -141,6 +149,7 @@ private:
     ListItem* find(int index) const;
     void createAndAppendItem(const std::string& text);
     void createAndAppendItem(TranslationInfo* text);
+    void takeOver(ListItem* item);
     void privateAppend(ListItem* item);
     void privateInsertAt(ListItem* item, int index);
     ListItem* privateRemoveAt(int index);

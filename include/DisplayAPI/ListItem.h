@@ -13,6 +13,7 @@ class ListItemPrivateIfc;
 /// A row of a List: a text that is fixed when the row is made.
 ///
 /// Threads: constructors off the GUI thread post and return at once; the destructor and getText() wait.
+/// A translation is not owned and has to outlive the row; null is an empty text.
 /// Ownership: a row owns its GUI-thread side; rows that a list still holds when it is cleared or deleted go with it.
 class DISPLAYAPI_EXPORT ListItem : public Widget {
 public:

@@ -9,7 +9,8 @@ namespace DisplayAPI {
 
 class Image;
 
-/// A command shown as an entry of a menu, with an id of the application's and an icon or a picture.
+/// A command shown as an entry of a menu, with an id of the application's, of which 32 bits are kept, and an icon, a
+/// picture, or the path of one.
 ///
 /// Ownership as for Command; the image is not owned.
 class DISPLAYAPI_EXPORT MenuCommand : public Command {

@@ -4,7 +4,8 @@
 
 namespace DisplayAPI {
 
-/// A piece of work for a DisplayThread, which owns it and deletes it after running it.
+/// A piece of work for a DisplayThread, which owns it and deletes it after running it, on that thread. It must not
+/// throw.
 class DISPLAYAPI_EXPORT Runnable {
 public:
     virtual void run() = 0;

@@ -15,8 +15,9 @@ class GuiRequestEvent;
 
 /// Base of every facade: carries a call from any thread to the GUI thread.
 ///
-/// Threads: safe from any thread unless an operation says otherwise. Calls from one thread on one widget keep their
-/// order. A waiting call has no time limit: it returns when the GUI thread has carried it out.
+/// Threads: safe from any thread unless an operation says otherwise. Posts from one thread on one widget keep their
+/// order, but for postTopEvent(). A waiting call has no time limit: it returns when the GUI thread has carried it out.
+/// Posting is for other threads than the GUI thread, which would wait for itself: there use postEventHelper().
 /// Locks: a waiting call holds the widget's request lock meanwhile, so further posts on the same widget wait as well.
 /// Never wait for another thread on the GUI thread while that thread makes a waiting call.
 /// Ownership: a posted record belongs to the library. Copies share the source's request lock and Wait object, and both
@@ -28,7 +29,8 @@ public:
     Widget(const Widget& other);
     Widget& operator=(const Widget& other);
 
-    /// Removes what is still queued for this widget and wakes those who wait for it.
+    /// Removes what is still queued for this widget and wakes those who wait for it. Posts must have returned or be
+    /// waiting; a class with a private side destroys it by a request that its destructor waits for.
     virtual ~Widget();
 
     /// Carries out one request and signals its completion. GUI thread only.
@@ -53,8 +55,8 @@ public:
     void postEventAsync(GuiRequestEvent* request);
     void postEventAsync(int code);
 
-    /// Carries the request out at once on the GUI thread, where the record stays the caller's; posts it elsewhere,
-    /// waiting unless `async`.
+    /// Carries the request out at once on the GUI thread, where the record stays the caller's and must not be null;
+    /// posts it elsewhere, waiting unless `async`.
     void postEventHelper(bool async, GuiRequestEvent* request);
 
     /// Wakes the caller that waits for the request, if one does.
@@ -82,7 +84,8 @@ private:
     Sync* mSync;
 };
 
-/// Tells `thing` through the toolkit's queue that the focus has moved, if its type wants to know.
+/// Tells `thing`, which must not be null, through the toolkit's queue that the focus has moved, if its type wants to
+/// know. GUI thread only; does nothing while the toolkit is not running.
 DISPLAYAPI_EXPORT void focusChanged(PegThing* thing);
 
 } // namespace DisplayAPI

@@ -7,6 +7,6 @@ class TranslatorIfc {
 public:
     virtual ~TranslatorIfc() = default;
 
-    /// The text for `key` in UTF-8. From any thread.
+    /// The text for `key` in UTF-8. From any thread, also under the library's locks: it calls nothing of the library.
     virtual std::string translate(const std::string& key) = 0;
 };
