@@ -115,7 +115,7 @@ protected:
         test::waitUntil([&] { return listener.delivered + recalls.count() == posted; });
     }
 
-    // The list lock goes with the last command: no thread may wait for it then.
+    // The list lock goes with the last command, but the listener holds it for longer than the library does.
     const Command anchor{"anchor", Command::OK};
     Commands commands;
     test::Recalls recalls;
@@ -147,4 +147,17 @@ TEST_P(CommandDeletionTest, ACommandDeletedElsewhereIsDeliveredAtMostOnceMore)
     });
 
     EXPECT_EQ(listener.delivered + recalls.count(), posted);
+}
+
+TEST(CommandLifeTest, CommandsOfManyThreadsComeAndGoTogetherWithTheirListLock)
+{
+    test::onThreads(POSTERS, [](int) {
+        for (int round = 0; round < 2000; ++round) {
+            Command command("Call", Command::OK);
+            ASSERT_TRUE(Command::exists(&command));
+            ASSERT_EQ(command.getText(), "Call");
+        }
+    });
+    EXPECT_TRUE(Command::commandListMutex()->take(0));
+    Command::commandListMutex()->give();
 }

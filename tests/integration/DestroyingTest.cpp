@@ -53,7 +53,7 @@ public:
         case CREATE: mPrivate = std::make_unique<int>(0); break;
         case DESTROY: mPrivate.reset(); break;
         case SET: *mPrivate = request.intParam1; break;
-        case GET: answer(request, *mPrivate); break;
+        case GET: answer<int>(request, *mPrivate); break;
         }
         signalComplete(request);
     }

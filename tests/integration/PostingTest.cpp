@@ -105,7 +105,7 @@ TEST_P(PostingTest, EveryRequestIsCarriedOutOnceOnTheGuiThread)
 TEST_P(PostingTest, QueriesFromManyThreadsGetTheirOwnAnswers)
 {
     GuiLoop gui;
-    TestWidget widget([](GuiRequestEvent& request) { answer(request, request.intParam1 * 2); });
+    TestWidget widget([](GuiRequestEvent& request) { answer<int>(request, request.intParam1 * 2); });
     test::onThreads(THREADS, [&](int thread) {
         for (int call = 0; call < CALLS; ++call) {
             const int question = thread * CALLS + call;

@@ -65,7 +65,7 @@ TEST(UserActionTest, AListenerMayWaitForAFacadeWhileTheGuiThreadRaisesTheNextCom
     Command command("Call", Command::OK);
     CommandListener* listener = nullptr;
     TestWidget widget([&](GuiRequestEvent& request) {
-        answer(request, request.intParam1 + 1);
+        answer<int>(request, request.intParam1 + 1);
         if (request.intParam1 + 1 < ACTIONS)
             listener->postCommandAction(&command, nullptr);
     });
@@ -79,7 +79,7 @@ TEST(UserActionTest, AListenerMayWaitForAFacadeWhileTheGuiThreadRaisesTheNextCom
 TEST(UserActionTest, ManyActionsAtOnceAreAnsweredOneAfterAnother)
 {
     GuiLoop gui;
-    TestWidget widget([&](GuiRequestEvent& request) { answer(request, request.intParam1 + 1); });
+    TestWidget widget([&](GuiRequestEvent& request) { answer<int>(request, request.intParam1 + 1); });
     Application application(widget);
     gui.call([&] {
         for (int action = 1; action <= ACTIONS; ++action)

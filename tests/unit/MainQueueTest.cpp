@@ -20,7 +20,7 @@ protected:
     {
         PegMessage* const message = DisplayAPI::takeMessage();
         *message = {PM_KEY, data};
-        enqueue(message, place);
+        EXPECT_TRUE(enqueue(message, place, [] { return true; }));
     }
 
     std::vector<int> queuedData() const
@@ -155,24 +155,38 @@ TEST_F(MainQueueTest, APooledLinkDoesNotLeakIntoTheQueue)
 {
     PegMessage* const message = DisplayAPI::takeMessage();
     ASSERT_NE(message->Next, nullptr) << "it still names its neighbour in the pool";
-    enqueue(message, Place::TAIL);
+    enqueue(message, Place::TAIL, [] { return true; });
 
     EXPECT_EQ(message->Next, nullptr);
     gui.takeMessage();
 }
 
-TEST_F(MainQueueTest, TheHandOverRunsUnderTheMutexWithTheMessageLinkedIn)
+TEST_F(MainQueueTest, TheLastWordIsSaidUnderTheMutex)
 {
-    int countAtHandOver = 0;
     bool mutexWasHeld = false;
-    enqueue(DisplayAPI::takeMessage(), Place::TAIL, [&] {
-        countAtHandOver = gtPegMainQueue->count;
+    const auto admit = [&] {
         test::onOtherThread([&] { mutexWasHeld = pthread_mutex_trylock(&gtPegMainQueue->mutex) != 0; });
-    });
+        return true;
+    };
 
-    EXPECT_EQ(countAtHandOver, 1);
+    EXPECT_TRUE(enqueue(DisplayAPI::takeMessage(), Place::TAIL, admit));
+
     EXPECT_TRUE(mutexWasHeld);
     gui.takeMessage();
+}
+
+TEST_F(MainQueueTest, AMessageThatIsRefusedStaysTheCallers)
+{
+    add(1);
+    PegMessage* const message = DisplayAPI::takeMessage();
+
+    EXPECT_FALSE(enqueue(message, Place::TAIL, [] { return false; }));
+    EXPECT_FALSE(enqueue(message, Place::HEAD, [] { return false; }));
+
+    EXPECT_THAT(queuedData(), ElementsAre(1));
+    EXPECT_EQ(gui.queued(), 1);
+    giveBackMessage(message);
+    gui.runAll();
 }
 
 // Taking out

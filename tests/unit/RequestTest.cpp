@@ -54,12 +54,8 @@ public:
     {
         handledOn = Threadable::currentThreadId();
         switch (request.getType()) {
-        case START:
-            mImplementation.start(request.intParam1);
-            break;
-        case VALUE:
-            answer(request, mImplementation.value());
-            break;
+        case START: mImplementation.start(request.intParam1); break;
+        case VALUE: answer<int>(request, mImplementation.value()); break;
         }
         signalComplete(request);
     }
@@ -116,6 +112,13 @@ TEST(RequestTest, StringsGoToTheStringFieldsInOrder)
     EXPECT_EQ(record->stringParam3, "three");
 }
 
+TEST(RequestTest, ALiteralIsAString)
+{
+    const Record record(request(nullptr, CODE, "one"));
+    EXPECT_EQ(record->stringParam1, "one");
+    EXPECT_EQ(record->ptrParam1, nullptr);
+}
+
 TEST(RequestTest, PointersGoToThePointerFieldsInOrder)
 {
     int first = 0;
@@ -159,14 +162,14 @@ TEST(RequestTest, AnAnswerIsWrittenToTheNamedVariable)
 {
     std::string result = "nothing yet";
     const Record record(request(nullptr, CODE, into(result)));
-    answer(*record, std::string("the answer"));
+    answer<std::string>(*record, "the answer");
     EXPECT_EQ(result, "the answer");
 }
 
 TEST(RequestTest, AnAnswerThatNobodyWantsIsDropped)
 {
     const Record record(request(nullptr, CODE));
-    answer(*record, 42);
+    answer<int>(*record, 42);
 }
 
 // A facade

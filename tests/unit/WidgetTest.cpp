@@ -4,6 +4,7 @@
 #include "DisplayEventFilter.h"
 #include "host/toolkit/MessagePool.h"
 #include "support/LogLines.h"
+#include "support/Replaced.h"
 #include "support/SteppedLoop.h"
 #include "support/TestWidget.h"
 #include "support/Worker.h"
@@ -108,6 +109,7 @@ TEST_P(WidgetPostTest, QueuesTheRecordForTheFilter)
     EXPECT_EQ(message.pSource, gui.filter());
     EXPECT_EQ(message.pData, request);
     EXPECT_EQ(message.Next, nullptr);
+    EXPECT_EQ(message.iData, 0);
 
     gui.runAll();
 }
@@ -207,6 +209,29 @@ TEST_P(WidgetPostTest, RunsOnTheCallingThreadWhereNoFilterIsInstalled)
     EXPECT_THAT(asked.threads(), ElementsAre(worker.threadId()));
     EXPECT_FALSE(hasCondition);
     EXPECT_EQ(liveRequests, 0) << "the record is deleted";
+    EXPECT_EQ(gui.queued(), 0);
+}
+
+TEST_P(WidgetPostTest, RunsOnTheCallingThreadWhereTheToolkitHasNeverBeenStarted)
+{
+    const test::Replaced<PegMainQueue*> noQueue(gtPegMainQueue, nullptr);
+    (widget.*GetParam().post)(new CountedRequest(&widget, 3, liveRequests));
+    EXPECT_THAT(widget.codes(), ElementsAre(3));
+    EXPECT_EQ(liveRequests, 0);
+}
+
+TEST_P(WidgetPostTest, RunsOnTheCallingThreadWhereTheFilterGoesBeforeTheMessageIsQueued)
+{
+    // Holds the poster up between its look at the filter and its message's way into the queue.
+    LockMessageQueue();
+    Worker worker([&] { (widget.*GetParam().post)(new CountedRequest(&widget, 3, liveRequests)); });
+    EXPECT_TRUE(worker.isBlocked());
+    gui.filter()->uninstall();
+    UnlockMessageQueue();
+    worker.join();
+
+    EXPECT_THAT(widget.threads(), ElementsAre(worker.threadId()));
+    EXPECT_EQ(liveRequests, 0);
     EXPECT_EQ(gui.queued(), 0);
 }
 
@@ -540,6 +565,14 @@ TEST_F(WidgetTest, FocusChangedTellsAThingOfType206)
     EXPECT_EQ(message.pSource, nullptr);
     EXPECT_EQ(message.Next, nullptr);
     EXPECT_EQ(message.pData, nullptr);
+}
+
+TEST_F(WidgetTest, FocusChangedDoesNothingWhileTheToolkitIsStopped)
+{
+    const test::Replaced<PegMessageQueue*> stopped(PegThing::mpMessageQueue, nullptr);
+    TypedThing list(206);
+    DisplayAPI::focusChanged(&list);
+    EXPECT_EQ(gui.queued(), 0);
 }
 
 TEST_F(WidgetTest, FocusChangedTellsNoOtherThing)
