@@ -61,7 +61,7 @@ private:
     Type mType;
     bool mUseAlternativeDisplay = false;
     TranslationInfo* mTranslation = nullptr;
-    unsigned int mWord = 0;
+    [[maybe_unused]] unsigned int mWord = 0;
 
     static std::set<Command*>& gAllCommands;
     static Semaphore* gCommandListMutex;

@@ -65,8 +65,8 @@ protected:
 private:
     DisplayPrivateIfc* mDisplay = nullptr;
     std::vector<CommandListener*> mCommandListeners;
-    PegRect mRect{-1, -1, -1, -1};
-    unsigned int mWord = 0;
+    [[maybe_unused]] PegRect mRect{-1, -1, -1, -1};
+    [[maybe_unused]] unsigned int mWord = 0;
     PegString mText;
 };
 

@@ -35,7 +35,7 @@ public:
 
 private:
     ItemPrivateIfc* mImplementation = nullptr;
-    void* mPointer = nullptr;
+    [[maybe_unused]] void* mPointer = nullptr;
 };
 
 } // namespace DisplayAPI

@@ -40,7 +40,7 @@ private:
     Image* mImage;
     std::uint32_t mId;
     std::string mImagePath;
-    bool mFlag = false;
+    [[maybe_unused]] bool mFlag = false;
 };
 
 } // namespace DisplayAPI
