@@ -4,7 +4,7 @@
 
 namespace DisplayAPI {
 
-ExclusiveListPrivate::ExclusiveListPrivate(List* owner) : ListBoxPrivate(owner, false)
+ExclusiveListPrivate::ExclusiveListPrivate(List* owner) : ListBoxPrivate(owner, true)
 {
     static_cast<KestrelListBox*>(getWidget())->setExclusive(true);
 }

@@ -4,7 +4,7 @@
 
 namespace DisplayAPI {
 
-ExclusiveListPrivateWP1::ExclusiveListPrivateWP1(List* owner) : ListBoxPrivateWP1(owner, false)
+ExclusiveListPrivateWP1::ExclusiveListPrivateWP1(List* owner) : ListBoxPrivateWP1(owner, true)
 {
     static_cast<KestrelListBox*>(getWidget())->setExclusive(true);
 }

@@ -8,7 +8,7 @@ namespace DisplayAPI {
 /// mark.
 class DISPLAYAPI_EXPORT ExclusiveListPrivate : public ListBoxPrivate {
 public:
-    /// `owner` is the facade, not owned.
+    /// `owner` is the facade, not owned. Like a list with a way back it goes back.
     explicit ExclusiveListPrivate(List* owner);
 
     bool isSelected(int index);

@@ -36,10 +36,10 @@ TYPED_TEST(ExclusiveListPrivateTest, chosenRowCarriesTheMark)
     EXPECT_TRUE(this->b.getKestrelListItem()->isMarked());
 }
 
-TYPED_TEST(ExclusiveListPrivateTest, leftDoesNotGoBack)
+TYPED_TEST(ExclusiveListPrivateTest, leftGoesBack)
 {
     this->attach(this->list);
-    EXPECT_CALL(this->listener, postCommandAction).Times(0);
+    EXPECT_CALL(this->listener, postCommandAction(DisplayAPI::List::BACK_COMMAND(), &this->owner));
     this->press(this->list, PK_LEFT);
 }
 
