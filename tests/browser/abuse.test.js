@@ -1,0 +1,167 @@
+// Whoever talks to the socket, the application and the pages go on.
+
+import assert from "node:assert/strict";
+import { randomBytes } from "node:crypto";
+import { once } from "node:events";
+import { readFileSync } from "node:fs";
+import net from "node:net";
+import { after, afterEach, before, beforeEach, describe, test } from "node:test";
+import WebSocket from "ws";
+import { openBrowser, Tab } from "./support/browser.js";
+import { LIMIT, Phone, until } from "./support/phone.js";
+
+describe("the socket", { timeout: 300_000 }, () => {
+  let browser, phone, tab, sockets;
+
+  before(async () => (browser = await openBrowser()));
+  after(() => browser.close());
+
+  beforeEach(async () => {
+    sockets = [];
+    phone = await Phone.start();
+    tab = await Tab.open(browser, phone.url);
+    await tab.shows("About");
+  });
+
+  afterEach(async () => {
+    for (const socket of sockets) (socket.terminate ?? socket.destroy).call(socket);
+    await tab.close();
+    assert.equal(await phone.stop(), 0, phone.output);
+  });
+
+  function socket({ origin = `http://127.0.0.1:${phone.port}`, headers = {}, query = "" } = {}) {
+    const client = new WebSocket(`ws://127.0.0.1:${phone.port}/socket${query}`, { origin, headers });
+    client.on("error", () => {});
+    sockets.push(client);
+    return client;
+  }
+
+  const outcome = (client) => Promise.race([once(client, "open").then(() => "open", () => "refused"),
+                                            once(client, "close").then(() => "refused")]);
+
+  async function opened(options) {
+    const client = socket(options);
+    assert.equal(await outcome(client), "open");
+    return client;
+  }
+
+  async function stillWorks() {
+    const before = await tab.selected();
+    await tab.button(before === "Call log" ? "down" : "up").click();
+    await until(async () => (await tab.selected()) !== before, "a key of the page moves the selection");
+    assert.equal(await tab.state(), "open");
+  }
+
+  const memory = () => Number(readFileSync(`/proc/${phone.applicationPid}/status`, "utf8").match(/VmRSS:\s+(\d+)/)[1]);
+
+  test("takes a page from here", LIMIT, async () => {
+    const client = socket();
+    const messages = [];
+    client.on("message", (data) => messages.push(data));
+    await until(() => messages.length === 2, "the rows and the frame arrive");
+    const [rows, frame] = messages;
+    assert.equal(JSON.parse(rows).rows[0].text, "Desk phone");
+    assert.equal(frame.length, 8 + 240 * 128 / 4);
+    assert.deepEqual([frame.readUInt16LE(0), frame.readUInt16LE(2)], [240, 128]);
+  });
+
+  test("refuses pages from elsewhere", LIMIT, async () => {
+    for (const origin of ["http://evil.example", "http://127.0.0.1:1", "null", `https://127.0.0.1:${phone.port}`])
+      assert.equal(await outcome(socket({ origin })), "refused", origin);
+    assert.equal(await outcome(socket({ origin: null })), "refused");
+    const headers = { Host: `evil.example:${phone.port}` };
+    assert.equal(await outcome(socket({ origin: `http://evil.example:${phone.port}`, headers })), "refused");
+    await stillWorks();
+  });
+
+  test("refuses the page under a foreign name", LIMIT, async () => {
+    const client = net.connect(phone.port, "127.0.0.1");
+    client.write(`GET / HTTP/1.1\r\nHost: evil.example:${phone.port}\r\n\r\n`);
+    const [answer] = await once(client, "data");
+    client.destroy();
+    assert.match(String(answer), /^HTTP\/1\.1 403 /);
+  });
+
+  test("has nothing but the page", LIMIT, async () => {
+    for (const address of ["/phone.js", "/../../etc/passwd", "/socket", "/%2e%2e%2fetc/passwd", "/index.html"])
+      assert.notEqual((await fetch(new URL(address, phone.url))).status, 200, address);
+    assert.equal((await fetch(phone.url, { method: "POST", body: "x" })).status, 405);
+  });
+
+  test("closes on whoever talks nonsense", LIMIT, async () => {
+    const nonsense = ["", "hello", "down", "down middle", "up \u0000", "seen x", '{"key":"ok"}', "x".repeat(1_000_000),
+                      randomBytes(64), randomBytes(1_000_000)];
+    for (const message of nonsense) {
+      const client = await opened();
+      client.send(message);
+      await Promise.race([once(client, "close"), new Promise((_, reject) => setTimeout(
+        () => reject(new Error(`not closed after ${String(message).slice(0, 20)}`)), 10_000).unref())]);
+    }
+    await stillWorks();
+  });
+
+  test("survives bytes that are no message at all", LIMIT, async () => {
+    for (let i = 0; i < 20; ++i) {
+      const client = await opened();
+      client._socket.write(randomBytes(2_000));
+      client._socket.end();
+    }
+    await stillWorks();
+  });
+
+  test("survives a flood of keys", LIMIT, async () => {
+    const client = await opened();
+    for (let i = 0; i < 20_000; ++i) {
+      const key = ["up", "down", "7", "hash"][i % 4];
+      client.send(`down ${key}`);
+      client.send(`up ${key}`);
+    }
+    await until(() => client.bufferedAmount === 0, "the flood is over");
+    client.terminate();
+    await tab.shows("Desk phone");
+    await stillWorks();
+    assert.ok(memory() < 200_000, `the application has grown to ${memory()} KB`);
+  });
+
+  test("keeps its pace beside readers that do not read", LIMIT, async () => {
+    for (let i = 0; i < 8; ++i) (await opened())._socket.pause();
+    const liar = await opened(); // says that it has seen what it has not read
+    liar._socket.pause();
+    let frame = 0;
+    const lying = setInterval(() => liar.send(`seen ${++frame}`), 1);
+    await tab.button("down").click();
+    await tab.button("ok").click();
+    await tab.shows("Zoë Ångström, home");
+    const before = memory();
+    await tab.button("down").hover();
+    await tab.page.mouse.down();
+    await tab.shows("Jürgen Ångström, home");
+    await new Promise((resolve) => setTimeout(resolve, 2_000));
+    await tab.page.mouse.up();
+    clearInterval(lying);
+    assert.ok(memory() < before + 20_000, `the application has grown from ${before} to ${memory()} KB`);
+    await stillWorks();
+  });
+
+  test("has room for sixteen pages, and again when they have gone", LIMIT, async () => {
+    const clients = [];
+    for (let i = 0; i < 15; ++i) clients.push(await opened());
+    assert.equal(await outcome(socket()), "refused");
+    clients.forEach((client) => client.terminate());
+    await until(async () => (await outcome(socket())) === "open", "there is room again");
+    await stillWorks();
+  });
+
+  test("serves the page beside callers that say nothing", LIMIT, async () => {
+    for (let i = 0; i < 30; ++i) {
+      const client = net.connect(phone.port, "127.0.0.1");
+      client.on("error", () => {});
+      sockets.push(client);
+      await once(client, "connect");
+    }
+    await stillWorks();
+    const another = await Tab.open(browser, phone.url);
+    await another.shows("About");
+    await another.close();
+  });
+});

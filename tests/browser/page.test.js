@@ -1,0 +1,119 @@
+// The page itself: what it shows, and that its keys press.
+
+import assert from "node:assert/strict";
+import { after, afterEach, before, beforeEach, describe, test } from "node:test";
+import { openBrowser, Tab } from "./support/browser.js";
+import { LIMIT, Phone, until } from "./support/phone.js";
+
+describe("the page", { timeout: 180_000 }, () => {
+  let browser, phone, tab;
+
+  before(async () => (browser = await openBrowser()));
+  after(() => browser.close());
+
+  beforeEach(async () => {
+    phone = await Phone.start();
+    tab = await Tab.open(browser, phone.url);
+    await tab.shows("About");
+  });
+
+  afterEach(async () => {
+    assert.deepEqual(tab.errors, []);
+    await tab.close();
+    assert.equal(await phone.stop(), 0, phone.output);
+  });
+
+  test("shows the panel, and its rows as text", LIMIT, async () => {
+    assert.deepEqual(await tab.rows(), ["Desk phone", "Call log", "Contacts", "Settings", "About"]);
+    assert.equal(await tab.selected(), "Call log");
+    const levels = await tab.levels();
+    assert.equal(levels.length, 240 * 128);
+    assert.match(levels, /^[0-3]+$/);
+    assert.match(levels, /3/);
+    assert.equal(await tab.notice(), "");
+  });
+
+  test("asks nobody else for anything", LIMIT, async () => {
+    assert.deepEqual(tab.requests.filter((url) => !url.startsWith("data:")), [phone.url]);
+  });
+
+  test("presses keys with the mouse", LIMIT, async () => {
+    const before = await tab.levels();
+    await tab.button("down").click();
+    await tab.selects("Contacts");
+    assert.notEqual(await tab.levels(), before);
+    await tab.button("ok").click();
+    await tab.shows("Zoë Ångström");
+    await tab.button("left").click();
+    await tab.shows("Desk phone");
+  });
+
+  test("presses keys with the keyboard", LIMIT, async () => {
+    const before = await tab.levels();
+    await tab.page.keyboard.press("ArrowDown");
+    await tab.selects("Contacts");
+    assert.notEqual(await tab.levels(), before);
+    await tab.page.keyboard.press("Enter");
+    await tab.shows("Zoë Ångström");
+    await tab.page.keyboard.press("ArrowLeft");
+    await tab.shows("Desk phone");
+  });
+
+  test("has a named button for each key, pressed by its key of the keyboard", LIMIT, async () => {
+    const keys = {
+      up: ["Up", "ArrowUp"], down: ["Down", "ArrowDown"], left: ["Left", "ArrowLeft"], right: ["Right", "ArrowRight"],
+      ok: ["OK", "Enter"], star: ["Star", "*"], hash: ["Hash", "#"], "volume-up": ["Volume up", "+"],
+      "volume-down": ["Volume down", "-"], hook: ["Hook", "Escape"],
+    };
+    for (const digit of "0123456789") keys[digit] = [digit, digit];
+    assert.equal(await tab.page.locator("button").count(), Object.keys(keys).length);
+    for (const [key, [name, keyboardKey]] of Object.entries(keys)) {
+      const button = tab.page.getByRole("button", { name, exact: true });
+      assert.equal(await button.getAttribute("data-key"), key);
+      await tab.page.keyboard.down(keyboardKey);
+      assert.match(await button.getAttribute("class") ?? "", /pressed/, key);
+      await tab.page.keyboard.up(keyboardKey);
+      assert.doesNotMatch(await button.getAttribute("class") ?? "", /pressed/, key);
+    }
+  });
+
+  test("lets Enter press the button that has the focus", LIMIT, async () => {
+    await tab.button("down").focus();
+    await tab.page.keyboard.press("Enter");
+    await tab.selects("Contacts");
+    await tab.page.keyboard.press("Space");
+    await tab.selects("Settings");
+  });
+
+  test("goes on through the list while a key is held, and no longer", LIMIT, async () => {
+    await tab.button("down").click();
+    await tab.button("ok").click();
+    await tab.selects("Zoë Ångström, home");
+    await tab.button("down").hover();
+    await tab.page.mouse.down();
+    await tab.shows("Jürgen Ångström, home"); // 16 rows further
+    await tab.page.mouse.up();
+    const settled = await until(async () => {
+      const row = await tab.selected();
+      await new Promise((resolve) => setTimeout(resolve, 400));
+      return (await tab.selected()) === row && row;
+    }, "the list stands still");
+    assert.notEqual(settled, "Zoë Ångström, home");
+  });
+
+  test("lets go of a key when the tab loses the keyboard", LIMIT, async () => {
+    await tab.page.keyboard.down("5");
+    await tab.page.evaluate(() => window.dispatchEvent(new Event("blur")));
+    assert.doesNotMatch(await tab.button("5").getAttribute("class") ?? "", /pressed/);
+  });
+
+  test("shows a row that an application thread renews", LIMIT, async () => {
+    for (let i = 0; i < 3; ++i) await tab.page.keyboard.press("ArrowDown");
+    await tab.selects("About");
+    await tab.page.keyboard.press("Enter");
+    await tab.shows("Up ");
+    const uptime = async () => (await tab.rows()).find((row) => row.startsWith("Up "));
+    const first = await uptime();
+    await until(async () => (await uptime()) !== first, "the row is renewed");
+  });
+});

@@ -1,0 +1,72 @@
+// Starts the launcher with an application behind the page, and stops it.
+
+import { spawn } from "node:child_process";
+import { once } from "node:events";
+import { readFileSync } from "node:fs";
+import net from "node:net";
+import path from "node:path";
+
+export const BUILD = path.resolve(process.env.BUILD_DIR ?? "../../build/release");
+export const program = (name) => path.join(BUILD, "bin", name);
+
+/** A test that takes longer hangs. */
+export const LIMIT = { timeout: 60_000 };
+
+export async function freePort() {
+  const server = net.createServer().listen(0, "127.0.0.1");
+  await once(server, "listening");
+  const { port } = server.address();
+  server.close();
+  await once(server, "close");
+  return port;
+}
+
+/** Looks until `condition` yields something true, and returns that. */
+export async function until(condition, what, patience = 20_000) {
+  const end = Date.now() + patience;
+  for (;;) {
+    const result = await condition();
+    if (result) return result;
+    if (Date.now() > end) throw new Error(`Waited ${patience} ms in vain: ${what}`);
+    await new Promise((resolve) => setTimeout(resolve, 25));
+  }
+}
+
+export class Phone {
+  static async start({ variant = "plain", port, options = [], app = [program("deskphone")] } = {}) {
+    const phone = new Phone();
+    phone.port = port ?? (await freePort());
+    const words = ["--variant", variant, "--port", phone.port, ...options, ...app].map(String);
+    phone.process = spawn(program("phone"), words, { stdio: ["ignore", "pipe", "pipe"] });
+    phone.output = "";
+    for (const stream of [phone.process.stdout, phone.process.stderr])
+      stream.on("data", (data) => (phone.output += data));
+    phone.ended = once(phone.process, "exit").then(([code]) => code);
+    phone.ended.then(() => (phone.hasEnded = true));
+    await until(() => phone.hasEnded || phone.output.includes("http://"), "the address of the telephone");
+    if (phone.hasEnded) throw new Error(`The telephone has not started: ${phone.output}`);
+    return phone;
+  }
+
+  get url() {
+    return this.output.match(/http:\S+/)[0];
+  }
+
+  /** The process of the application behind the launcher. */
+  get applicationPid() {
+    const { pid } = this.process;
+    return Number(readFileSync(`/proc/${pid}/task/${pid}/children`, "utf8"));
+  }
+
+  /** Ends it in order, as Ctrl-C does, and returns the launcher's exit code. */
+  async stop() {
+    if (!this.hasEnded) this.process.kill("SIGINT");
+    return this.ended;
+  }
+
+  /** Ends the application without a chance to say anything. */
+  async kill() {
+    process.kill(this.applicationPid, "SIGKILL");
+    return this.ended;
+  }
+}

@@ -1,0 +1,105 @@
+// The three panels: what the page draws is what the panel holds, at a whole number of device pixels, and the pictures
+// of the front page show the telephone as it is. UPDATE_PICTURES=1 renews those.
+
+import assert from "node:assert/strict";
+import { execFileSync } from "node:child_process";
+import { copyFileSync, existsSync, mkdirSync, mkdtempSync, readFileSync, rmSync, writeFileSync } from "node:fs";
+import os from "node:os";
+import path from "node:path";
+import { after, before, describe, test } from "node:test";
+import { openBrowser, Tab } from "./support/browser.js";
+import { BUILD, LIMIT, Phone, program, until } from "./support/phone.js";
+import { darkOrLight, levelsOf } from "./support/pictures.js";
+
+const PICTURES = path.resolve("../../docs/pictures");
+const OUTPUT = path.join(BUILD, "browser");
+
+const CONTACTS = { way: ["down", "ok"], expected: "Zoë Ångström, home" };
+const MENU = { way: [], expected: "Call log" };
+
+const SHOTS = [
+  { name: "phone", variant: "plain", size: [240, 128], viewport: { width: 1280, height: 720 }, ...CONTACTS },
+  { name: "plain", variant: "plain", size: [240, 128], viewport: { width: 480, height: 360 }, ...MENU },
+  { name: "narrow", variant: "narrow", size: [168, 128], viewport: { width: 480, height: 360 }, ...CONTACTS },
+  { name: "wp1", variant: "wp1", size: [208, 42], viewport: { width: 480, height: 300 }, ...CONTACTS },
+];
+
+/** The panel as the script runner sees it after the same keys. */
+async function panelByScript(browser, shot) {
+  const folder = mkdtempSync(path.join(os.tmpdir(), "displayapi-"));
+  const lines = ["expect Call log", ...shot.way.map((key) => `key ${key}`), `expect ${shot.expected}`, "wait 50",
+                 "screenshot panel.png"];
+  writeFileSync(path.join(folder, "it.script"), lines.join("\n"));
+  try {
+    execFileSync(program("phone"), ["--variant", shot.variant, "--script", "it.script", program("deskphone")],
+                 { cwd: folder, timeout: 60_000, stdio: "pipe" });
+    return await levelsOf(browser, readFileSync(path.join(folder, "panel.png")));
+  } finally {
+    rmSync(folder, { recursive: true });
+  }
+}
+
+describe("the panels", { timeout: 180_000 }, () => {
+  let browser;
+
+  before(async () => (browser = await openBrowser()));
+  after(() => browser.close());
+
+  for (const shot of SHOTS) {
+    test(`${shot.name} looks as it should`, LIMIT, async (t) => {
+      const phone = await Phone.start({ variant: shot.variant });
+      t.after(() => phone.stop());
+      const tab = await Tab.open(browser, phone.url, { viewport: shot.viewport });
+      t.after(() => tab.close());
+      await tab.shows("Call log");
+      for (const key of shot.way) await tab.button(key).click();
+      await tab.selects(shot.expected);
+
+      const expected = await panelByScript(browser, shot);
+      assert.deepEqual([expected.width, expected.height], shot.size);
+      await until(async () => (await tab.levels()) === expected.levels, "the canvas shows the panel's pixels", 10_000);
+
+      const canvas = await tab.page.locator("#panel").boundingBox();
+      const frame = await tab.page.locator(".phone").boundingBox();
+      const scale = canvas.width / expected.width;
+      assert.ok(Number.isInteger(scale) && scale >= 1, `a panel pixel is ${scale} device pixels wide`);
+      assert.equal(canvas.height / expected.height, scale);
+      assert.ok(frame.x >= 0 && frame.y >= 0, "the telephone fits the window");
+      assert.ok(frame.width <= shot.viewport.width && frame.height <= shot.viewport.height, "the telephone fits");
+
+      mkdirSync(OUTPUT, { recursive: true });
+      const file = path.join(OUTPUT, `${shot.name}.png`);
+      const margin = Math.floor(Math.min(24, frame.x, frame.y));
+      const clip = { x: Math.floor(frame.x) - margin, y: Math.floor(frame.y) - margin,
+                     width: Math.ceil(frame.width) + 2 * margin, height: Math.ceil(frame.height) + 2 * margin };
+      await tab.page.screenshot({ path: file, clip });
+
+      const reference = path.join(PICTURES, `${shot.name}.png`);
+      if (process.env.UPDATE_PICTURES) {
+        mkdirSync(PICTURES, { recursive: true });
+        copyFileSync(file, reference);
+      }
+      assert.ok(existsSync(reference), `${reference} is missing; UPDATE_PICTURES=1 makes it`);
+      const area = { x: canvas.x - clip.x, y: canvas.y - clip.y, scale, width: expected.width, height: expected.height };
+      const wanted = expected.levels.replace(/[12]/g, "?");
+      for (const picture of [file, reference]) {
+        const found = await darkOrLight(browser, readFileSync(picture), area);
+        const differing = [...wanted].filter((level, i) => level !== "?" && level !== found[i]).length;
+        assert.equal(differing, 0, `${differing} pixels of the panel differ in ${picture}`);
+      }
+    });
+  }
+
+  test("fits the screen of a mobile telephone with its fine pixels", LIMIT, async (t) => {
+    const phone = await Phone.start();
+    t.after(() => phone.stop());
+    const tab = await Tab.open(browser, phone.url, { viewport: { width: 390, height: 780 }, deviceScaleFactor: 3 });
+    t.after(() => tab.close());
+    await tab.shows("Call log");
+    const canvas = await tab.page.locator("#panel").boundingBox();
+    const scale = canvas.width * 3 / 240;
+    assert.ok(Math.abs(scale - Math.round(scale)) < 0.01 && scale >= 3, `a panel pixel is ${scale} device pixels wide`);
+    assert.ok(await tab.page.evaluate(() => document.documentElement.scrollWidth <= window.innerWidth));
+    assert.equal(await tab.page.locator(".handset").isVisible(), false);
+  });
+});
