@@ -105,20 +105,25 @@ void Display::processDisplayRequest(DisplayRequestEvent* request)
     case Request::LOCALE_CHANGED: mImplementation->localeChanged(request->getStringParam()); break;
     case Request::DATE_FORMAT_CHANGED: mImplementation->dateFormatChanged(request->getStringParam()); break;
     case Request::TIME_FORMAT_CHANGED: mImplementation->timeFormatChanged(request->getStringParam()); break;
-    case Request::SERIALISE: giveResult(*request, [this] { return mImplementation->serialise(); }); break;
+    case Request::SERIALISE:
+        mResultLock->take(-1);
+        giveResult(*request, mImplementation->serialise());
+        break;
     case Request::CREATE_SERVER_DISPLAY: mImplementation->createServerDisplay(request->getDisplayable()); break;
     case Request::SET_MAXIMISED: mImplementation->setMaximised(request->getBoolParam()); break;
     case Request::GET_DISPLAYED_RECTS: request->setDisplayedRects(mImplementation->getDisplayedRects()); break;
-    case Request::SERIALISE_BY_RECT:
-        giveResult(*request, [this, request] {
-            const Request::Rects* rects = request->getSerialisableRects();
-            return mImplementation->serialiseByRect(rects != nullptr ? *rects : Request::Rects(),
-                                                    request->getBoolParam());
-        });
-        break;
+    case Request::SERIALISE_BY_RECT: serialiseRects(*request); break;
     default: processSystemWindowRequest(*request); break;
     }
     request->requestCompleted();
+}
+
+void Display::serialiseRects(DisplayRequestEvent& request)
+{
+    mResultLock->take(-1);
+    const Request::Rects* rects = request.getSerialisableRects();
+    giveResult(request,
+               mImplementation->serialiseByRect(rects != nullptr ? *rects : Request::Rects(), request.getBoolParam()));
 }
 
 /// Status lines, time, messages and the clipboard. Codes that nobody knows are completed without effect.
@@ -228,24 +233,17 @@ std::vector<DisplayAPIUtils::Rect>* Display::getDisplayedRects()
     return rects;
 }
 
-/// Takes the result's lock before it writes the result, and marks in the caller's string that it has done so: the
-/// caller gives the lock when it has read the result. A request that was lost leaves no mark.
-template <typename Serialise>
-void Display::giveResult(DisplayRequestEvent& request, Serialise serialise)
+/// Writes the result, whose lock the GUI thread holds, and marks in the caller's string that it has done so.
+void Display::giveResult(DisplayRequestEvent& request, std::string result)
 {
-    mResultLock->take(-1);
-    mResult = serialise();
+    mResult = std::move(result);
     if (std::string* mark = request.getStringReturnValue())
         *mark = SERVED;
 }
 
-template <typename... Args>
-std::string Display::askForResult(int code, Args&&... args)
+/// The caller gives the result's lock when it has read the result. A request that was lost leaves no mark, and no lock.
+std::string Display::takeResult(const std::string& mark)
 {
-    std::string mark;
-    callPrepared(
-        *mImplementation, this, static_cast<Request::DisplayRequests>(code),
-        [&](Request& r) { r.setStringReturnValue(&mark); }, std::forward<Args>(args)...);
     if (mark.empty())
         return {};
     std::string result = std::move(mResult);
@@ -257,14 +255,21 @@ std::string Display::serialise()
 {
     if (Widget::isGuiThread())
         return mImplementation->serialise();
-    return askForResult(Request::SERIALISE, NO_FLAG);
+    std::string mark;
+    callPrepared(
+        *mImplementation, this, Request::SERIALISE, [&](Request& r) { r.setStringReturnValue(&mark); }, NO_FLAG);
+    return takeResult(mark);
 }
 
 std::string Display::serialiseByRect(const std::vector<DisplayAPIUtils::Rect>& rects, bool withSystemWindow)
 {
     if (Widget::isGuiThread())
         return mImplementation->serialiseByRect(rects, withSystemWindow);
-    return askForResult(Request::SERIALISE_BY_RECT, &rects, withSystemWindow);
+    std::string mark;
+    callPrepared(
+        *mImplementation, this, Request::SERIALISE_BY_RECT, [&](Request& r) { r.setStringReturnValue(&mark); }, &rects,
+        withSystemWindow);
+    return takeResult(mark);
 }
 
 void Display::localeChanged(std::string locale)

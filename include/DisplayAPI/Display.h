@@ -128,10 +128,9 @@ public:
 private:
     void init(DisplayPrivateIfc* implementation);
     void processSystemWindowRequest(DisplayRequestEvent& request);
-    template <typename Serialise>
-    void giveResult(DisplayRequestEvent& request, Serialise serialise);
-    template <typename... Args>
-    std::string askForResult(int code, Args&&... args);
+    void serialiseRects(DisplayRequestEvent& request);
+    void giveResult(DisplayRequestEvent& request, std::string result);
+    std::string takeResult(const std::string& mark);
 
     DisplayPrivateIfc* mImplementation = nullptr;
     std::string mResult;

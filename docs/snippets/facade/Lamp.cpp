@@ -49,7 +49,7 @@ void Lamp::processGuiRequest(GuiRequestEvent& request)
     case CREATE: create(); break;
     case DESTROY: destroy(); break;
     case BLINK: startBlinking(request.intParam1); break;
-    case IS_LIT: answer(request, blinks()); break;
+    case IS_LIT: answer<bool>(request, blinks()); break;
     default: break;
     }
     signalComplete(request);
