@@ -145,6 +145,7 @@ TEST_P(PostingTest, EveryMessageRecordGoesBackToThePool)
             for (int call = 0; call < CALLS; ++call)
                 postSomehow(widget, new GuiRequestEvent(&widget, CODE), chance);
         });
+        gui.settle();
     }
     const host::MessagePool::Counters counters = host::MessagePool::counters();
     EXPECT_EQ(counters.free, counters.records);
