@@ -28,4 +28,9 @@ void Choice::chosen(int row)
     parent()->open();
 }
 
+void Choice::left()
+{
+    list().setSelectedIndex(static_cast<int>(mChosen));
+}
+
 } // namespace deskphone

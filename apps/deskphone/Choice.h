@@ -22,6 +22,9 @@ private:
     void build() override;
     void chosen(int row) override;
 
+    /// A value that was only looked at is not chosen.
+    void left() override;
+
     std::string mTitle;
     std::vector<std::string> mValues;
     std::size_t mChosen = 0;

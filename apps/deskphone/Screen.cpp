@@ -54,8 +54,11 @@ void Screen::stopWorking()
 
 void Screen::commandAction(Command* command, DisplayAPI::Displayable*)
 {
-    if (command == List::BACK_COMMAND() && mParent != nullptr)
-        return mParent->open();
+    if (command == List::BACK_COMMAND() && mParent != nullptr) {
+        left();
+        mParent->open();
+        return;
+    }
     const bool isChoice = command == List::SELECT_COMMAND() || command == List::RIGHT_COMMAND();
     const int row = isChoice ? mList->getSelectedIndex() : -1;
     if (row >= 0)

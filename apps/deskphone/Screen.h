@@ -55,6 +55,9 @@ private:
     /// The user has chosen the row.
     virtual void chosen(int row) = 0;
 
+    /// The user goes back.
+    virtual void left() {}
+
     DisplayAPI::Display& mDisplay;
     Screen* mParent;
     std::unique_ptr<DisplayAPI::List> mList;

@@ -45,20 +45,13 @@ void ScriptRunner::perform(const Step& step)
 {
     using enum Step::Action;
     switch (step.action) {
-    case PRESS:
-        return pressAll(step);
-    case HOLD:
-        return hold(step);
-    case WAIT:
-        return mPhone.pass(step.milliseconds);
-    case EXPECT:
-        return expect(step, true);
-    case EXPECT_NOT:
-        return expect(step, false);
-    case SCREENSHOT:
-        return writePicture(step);
-    case DUMP:
-        return writeRows(step);
+    case PRESS: return pressAll(step);
+    case HOLD: return hold(step);
+    case WAIT: return mPhone.pass(step.milliseconds);
+    case EXPECT: return expect(step, true);
+    case EXPECT_NOT: return expect(step, false);
+    case SCREENSHOT: return writePicture(step);
+    case DUMP: return writeRows(step);
     }
 }
 

@@ -56,16 +56,11 @@ std::string portProblem(const Endpoint& endpoint)
 {
     const std::string port = std::to_string(endpoint.port);
     switch (const int error = EndpointSocket(endpoint).tryToListen()) {
-    case 0:
-        return {};
-    case EADDRINUSE:
-        return "Port " + port + " is busy: another program listens on it. Choose another one with --port.";
-    case EACCES:
-        return "Port " + port + " is not permitted to you. Choose one from 1024 on with --port.";
-    case EADDRNOTAVAIL:
-        return "This machine does not have the address " + endpoint.address + ".";
-    default:
-        return "Cannot listen on " + endpoint.addressAndPort() + ": " + std::strerror(error) + ".";
+    case 0: return {};
+    case EADDRINUSE: return "Port " + port + " is busy: another program listens on it. Choose another one with --port.";
+    case EACCES: return "Port " + port + " is not permitted to you. Choose one from 1024 on with --port.";
+    case EADDRNOTAVAIL: return "This machine does not have the address " + endpoint.address + ".";
+    default: return "Cannot listen on " + endpoint.addressAndPort() + ": " + std::strerror(error) + ".";
     }
 }
 

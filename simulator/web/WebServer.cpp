@@ -147,12 +147,8 @@ bool WebServer::handle(PageConnection& page, std::string_view text)
     if (!message)
         return false;
     switch (message->kind) {
-    case PageMessage::Kind::DOWN:
-        mKeys.down(&page, message->key);
-        break;
-    case PageMessage::Kind::UP:
-        mKeys.up(&page, message->key);
-        break;
+    case PageMessage::Kind::DOWN: mKeys.down(&page, message->key); break;
+    case PageMessage::Kind::UP: mKeys.up(&page, message->key); break;
     case PageMessage::Kind::SEEN:
         page.seen(message->frame);
         mBroadcaster.pageChanged();

@@ -69,7 +69,7 @@ describe("the panels", { timeout: 180_000 }, () => {
 
       mkdirSync(OUTPUT, { recursive: true });
       const file = path.join(OUTPUT, `${shot.name}.png`);
-      const margin = Math.floor(Math.min(24, frame.x, frame.y));
+      const margin = Math.floor(Math.min(12, frame.x, frame.y));
       const clip = { x: Math.floor(frame.x) - margin, y: Math.floor(frame.y) - margin,
                      width: Math.ceil(frame.width) + 2 * margin, height: Math.ceil(frame.height) + 2 * margin };
       await tab.page.screenshot({ path: file, clip });
