@@ -2,6 +2,7 @@
 
 #include "CommandExecutor.h"
 #include "DisplayAPI/Command.h"
+#include "host/utilities/Log.h"
 #include "utilities/Threadable.h"
 
 #include <gmock/gmock.h>
@@ -134,12 +135,14 @@ TEST_F(CommandListenerTest, RetrievingLeavesOtherListenersAlone)
 
 TEST_F(CommandListenerTest, DeletingAListenerRecallsItsNotifications)
 {
+    host::LogCapture recalls;
     std::optional<Listener> doomed(std::in_place);
     queue(*doomed, call, screen);
     queue(listener, call, screen);
     queue(*doomed, back, popup);
 
     doomed.reset();
+    EXPECT_EQ(recalls.lines().size(), 2u);
     deliver();
 
     EXPECT_THAT(listener.received, ElementsAre(Pair(&call, screen)));

@@ -1,6 +1,7 @@
 #include "DisplayAPI/ItemStateListener.h"
 
 #include "CommandExecutor.h"
+#include "host/utilities/Log.h"
 #include "utilities/Threadable.h"
 
 #include <gmock/gmock.h>
@@ -88,11 +89,14 @@ TEST_F(ItemStateListenerTest, AllPendingChangesCanBeRetrieved)
 
 TEST_F(ItemStateListenerTest, DeletingAListenerRecallsItsChanges)
 {
+    host::LogCapture recalls;
     std::optional<Listener> doomed(std::in_place);
     queue(*doomed, first);
     queue(listener, second);
+    queue(*doomed, second);
 
     doomed.reset();
+    EXPECT_EQ(recalls.lines().size(), 2u);
     deliver();
 
     EXPECT_THAT(listener.received, ElementsAre(second));
