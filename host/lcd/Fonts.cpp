@@ -1,10 +1,13 @@
 #include "host/lcd/Fonts.h"
 
+#include "host/lcd/PangoThreads.h"
+
 #include <algorithm>
 #include <cstdio>
 #include <fontconfig/fontconfig.h>
 #include <pango/pangocairo.h>
 #include <pango/pangofc-fontmap.h>
+#include <string_view>
 
 namespace host {
 
@@ -15,6 +18,8 @@ struct Face {
     const char* file;
     const char* package;
 };
+
+constexpr char16_t REPLACEMENT = 0xFFFD;
 
 enum FaceIndex : std::size_t { DEJAVU, DEJAVU_BOLD, TERMINUS, TERMINUS_BOLD, UNIFONT, FACE_COUNT };
 
@@ -77,7 +82,8 @@ PangoContext* createContext(PangoFontMap* map)
     cairo_font_options_set_hint_metrics(options, CAIRO_HINT_METRICS_ON);
     pango_cairo_context_set_font_options(context, options);
     cairo_font_options_destroy(options);
-    pango_context_set_language(context, pango_language_from_string("en"));
+    // A language that Pango knows nothing of goes for every script: texts look the same whatever the environment says.
+    pango_context_set_language(context, pango_language_from_string("und"));
     return context;
 }
 
@@ -110,6 +116,7 @@ struct Fonts::Set {
     void stopPango();
     void noteFace(FcPattern* pattern);
     bool covers(const Style& style, std::u16string_view text) const;
+    void replaceUnknown(std::u16string& text) const;
     bool has(std::size_t face, char16_t character) const;
 
     FcConfig* config;
@@ -142,6 +149,7 @@ void Fonts::Set::startPango()
 {
     // Pango has fontconfig initialised on a thread and waits for it. That is for the current configuration: without
     // this one in force it would read every font of the machine.
+    const PangoThreads threads;
     static const bool once = FcConfigSetCurrent(config) == FcTrue;
     static_cast<void>(once);
     map = pango_cairo_font_map_new_for_font_type(CAIRO_FONT_TYPE_FT);
@@ -153,6 +161,7 @@ void Fonts::Set::startPango()
 
 void Fonts::Set::stopPango()
 {
+    PangoThreads::await();
     for (PangoLayout* layout : layouts)
         g_object_unref(layout);
     g_object_unref(context);
@@ -180,6 +189,18 @@ bool Fonts::Set::covers(const Style& style, std::u16string_view text) const
                        [&](char16_t character) { return has(style.face, character) || has(style.helper, character); });
 }
 
+void Fonts::Set::replaceUnknown(std::u16string& text) const
+{
+    const auto isUnknown = [&](char16_t character) {
+        for (std::size_t face = 0; face < FACE_COUNT; ++face) {
+            if (has(face, character))
+                return false;
+        }
+        return true;
+    };
+    std::replace_if(text.begin(), text.end(), isUnknown, REPLACEMENT);
+}
+
 bool Fonts::Set::has(std::size_t face, char16_t character) const
 {
     return characters[face] != nullptr && FcCharSetHasChar(characters[face], character);
@@ -196,7 +217,7 @@ Fonts::Fonts(std::vector<std::string> folders) : mFolders(std::move(folders)) {}
 
 Fonts::~Fonts() = default;
 
-_PangoLayout* Fonts::layoutFor(Font font, std::u16string_view text)
+_PangoLayout* Fonts::layoutFor(Font font, std::u16string& text)
 {
     const auto index = static_cast<std::size_t>(font);
     const Style& style = STYLES[index];
@@ -208,6 +229,7 @@ _PangoLayout* Fonts::layoutFor(Font font, std::u16string_view text)
     const Set& complete = load(mComplete, true);
     if (complete.characters[UNIFONT] == nullptr)
         reportMissing(UNIFONT);
+    complete.replaceUnknown(text);
     return complete.layouts[index];
 }
 

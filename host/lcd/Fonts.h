@@ -3,7 +3,6 @@
 #include <array>
 #include <memory>
 #include <string>
-#include <string_view>
 #include <vector>
 
 struct _PangoLayout;
@@ -27,8 +26,8 @@ public:
     ~Fonts();
 
     /// A layout set up for `text`, without antialiasing, on one line. The caller sets text and width and does not keep
-    /// it. Null where there is no font at all.
-    _PangoLayout* layoutFor(Font font, std::u16string_view text);
+    /// it. Null where there is no font at all. Characters that no font has become U+FFFD.
+    _PangoLayout* layoutFor(Font font, std::u16string& text);
 
 private:
     struct Set;

@@ -1,5 +1,7 @@
 #include "host/lcd/TextRenderer.h"
 
+#include "host/lcd/PangoThreads.h"
+
 #include <algorithm>
 #include <cstring>
 #include <pango/pangocairo.h>
@@ -169,12 +171,14 @@ TextMask TextRenderer::render(const Key& key)
 {
     if (key.text.empty() || key.width == 0)
         return {0, !key.text.empty(), {}};
-    PangoLayout* layout = mFonts.layoutFor(key.font, key.text);
+    std::u16string text = key.text;
+    PangoLayout* layout = mFonts.layoutFor(key.font, text);
     if (layout == nullptr)
-        return boxes(key.text.size(), key.width);
+        return boxes(text.size(), key.width);
     if (!mCanvas || mCanvas->width < key.width)
         mCanvas = std::make_unique<Canvas>(key.width);
-    const std::string utf8 = toUtf8(key.text);
+    const PangoThreads threads;
+    const std::string utf8 = toUtf8(text);
     pango_layout_set_width(layout, key.width * PANGO_SCALE);
     pango_layout_set_text(layout, utf8.data(), static_cast<int>(utf8.size()));
     mCanvas->draw(layout);

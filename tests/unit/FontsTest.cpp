@@ -46,13 +46,14 @@ TEST_F(FontsTest, nothingIsMissingHere)
 TEST_F(FontsTest, missingFontIsReportedOnceWithItsPackage)
 {
     Fonts fonts({"/usr/share/fonts/opentype/terminus"});
+    std::u16string abc = u"abc", def = u"def";
     testing::internal::CaptureStderr();
-    EXPECT_NE(fonts.layoutFor(Font::FIXED, u"abc"), nullptr);
+    EXPECT_NE(fonts.layoutFor(Font::FIXED, abc), nullptr);
     EXPECT_THAT(testing::internal::GetCapturedStderr(), IsEmpty());
 
     testing::internal::CaptureStderr();
-    EXPECT_NE(fonts.layoutFor(Font::TEXT, u"abc"), nullptr);
-    EXPECT_NE(fonts.layoutFor(Font::TEXT, u"def"), nullptr);
+    EXPECT_NE(fonts.layoutFor(Font::TEXT, abc), nullptr);
+    EXPECT_NE(fonts.layoutFor(Font::TEXT, def), nullptr);
     const std::string report = testing::internal::GetCapturedStderr();
     EXPECT_THAT(report, HasSubstr("the font DejaVu Sans Condensed is missing; install the Debian package "
                                   "fonts-dejavu-extra"));
@@ -136,6 +137,11 @@ TEST_F(FontsTest, cutInTheMiddleOfMarksStillEndsInAnEllipsis)
     for (int i = 0; i < 1000; ++i)
         marks += "\u0301";
     EXPECT_GT(mask(marks + "b").width, mask("a").width);
+}
+
+TEST_F(FontsTest, charactersWithoutAPictureAreReplaced)
+{
+    EXPECT_EQ(mask("\uE123").ink, mask("\uFFFD").ink);
 }
 
 TEST_F(FontsTest, controlCharactersAreBlanks)
