@@ -3,8 +3,8 @@
 #include "DisplayAPI/DisplayEventIfc.h"
 #include "DisplayPrivate.h"
 #include "StackModel.h"
+#include "doubles/FakeStartUp.h"
 #include "presentation/PRESCPresentationManager.h"
-#include "unit/FakeStartUp.h"
 
 #include <gmock/gmock.h>
 
@@ -18,7 +18,7 @@ public:
     using Screen = StackModel::Screen;
 
     explicit CheckedDisplay(bool installFilter)
-        : DisplayPrivate(false, "any", "", "", "", "", nullptr, nullptr, new FakeStartUp, installFilter)
+        : DisplayPrivate(false, "any", "", "", "", "", nullptr, nullptr, new doubles::FakeStartUp, installFilter)
     {
         subscribe(&mObserver);
     }

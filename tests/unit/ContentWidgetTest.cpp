@@ -2,10 +2,10 @@
 
 #include "ContentWidgetFactory.h"
 #include "DisplayPrivate.h"
+#include "doubles/FakeStartUp.h"
 #include "doubles/Mocks.h"
 #include "support/SteppedLoop.h"
 #include "toolkit/PegWindow.h"
-#include "unit/FakeStartUp.h"
 #include "utilities/Rect.h"
 #include "widgets/SystemWindow.h"
 
@@ -97,7 +97,7 @@ TEST_F(ContentWidgetTest, NewCaptionBecomesLineZeroOfAPopup)
 TEST_F(ContentWidgetTest, NewCaptionTellsTheParentDisplay)
 {
     testing::StrictMock<doubles::MockDisplayEvent> observer;
-    DisplayPrivate display(false, "", "", "", "", "", nullptr, nullptr, new test::FakeStartUp, false);
+    DisplayPrivate display(false, "", "", "", "", "", nullptr, nullptr, new doubles::FakeStartUp, false);
     display.subscribe(&observer);
     content.setParent(&display);
     EXPECT_EQ(content.getParent(), &display);

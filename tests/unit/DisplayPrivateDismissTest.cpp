@@ -34,6 +34,16 @@ TEST_F(DisplayPrivateDismissTest, UnderADismissedPopupTheOneBelowBecomesCurrentA
     EXPECT_EQ(observer.notifications, 0);
 }
 
+TEST_F(DisplayPrivateDismissTest, OfThreeTheSecondBecomesCurrentWhenTheTopIsDismissed)
+{
+    given({&menu, &popup, &second});
+    display->widgetDismissed(second.getPrivateImpl());
+    EXPECT_EQ(display->getCurrent(), &popup);
+    EXPECT_THAT(display->itemList(), ElementsAre(&menu, &popup));
+    EXPECT_TRUE(hasFocus(popup));
+    EXPECT_EQ(menu.widget()->NextSibling(), popup.widget());
+}
+
 TEST_F(DisplayPrivateDismissTest, RestoringTheOneBelowIsLogged)
 {
     given({&menu, &popup});

@@ -16,7 +16,7 @@ namespace {
 std::unique_ptr<DisplayPrivate> make(const char* hardware, bool narrow)
 {
     return std::make_unique<DisplayPrivate>(narrow, hardware, "Corvane SIP", "de", "d.m.", "24", nullptr, nullptr,
-                                            new test::FakeStartUp, false);
+                                            new doubles::FakeStartUp, false);
 }
 
 class CountingFactory : public ContentWidgetFactoryIfc {
@@ -45,7 +45,7 @@ TEST_F(DisplayPrivateLifeTest, TheAreaFollowsHardwareAndNarrowness)
 TEST_F(DisplayPrivateLifeTest, TheGivenRectangleIsNotUsed)
 {
     DisplayAPIUtils::Rect given(1, 2, 3, 4);
-    const DisplayPrivate made(false, "any", "", "", "", "", &given, nullptr, new test::FakeStartUp, false);
+    const DisplayPrivate made(false, "any", "", "", "", "", &given, nullptr, new doubles::FakeStartUp, false);
     EXPECT_EQ(*const_cast<DisplayPrivate&>(made).getDisplayArea(), DisplayAPIUtils::Rect(0, 0, 240, 128));
 }
 
@@ -82,7 +82,7 @@ TEST_F(DisplayPrivateLifeTest, TheApplicationLearnsVariantTypeLocaleAndFormats)
 TEST_F(DisplayPrivateLifeTest, AGivenFactoryMakesTheContentWidget)
 {
     ContentWidget* content = nullptr;
-    DisplayPrivate made(false, "any", "", "", "", "", nullptr, new CountingFactory(content), new test::FakeStartUp,
+    DisplayPrivate made(false, "any", "", "", "", "", nullptr, new CountingFactory(content), new doubles::FakeStartUp,
                         false);
     ASSERT_NE(content, nullptr);
     EXPECT_EQ(made.getContentWidget(), content);
@@ -95,7 +95,7 @@ TEST_F(DisplayPrivateLifeTest, TheGivenStartUpRunsOnceAndItsCleanUpAtTheEnd)
     int stops = 0;
     {
         const DisplayPrivate made(false, "any", "", "", "", "", nullptr, nullptr,
-                                  new test::FakeStartUp(&starts, &stops), false);
+                                  new doubles::FakeStartUp(&starts, &stops), false);
         EXPECT_EQ(starts, 1);
         EXPECT_EQ(stops, 0);
     }
@@ -107,7 +107,7 @@ TEST_F(DisplayPrivateLifeTest, AFilterIsInstalledWhereItIsAskedForAndTakenOutWit
 {
     EXPECT_EQ(DisplayEventFilter::getFilterPointer(), gui.filter());
     {
-        const DisplayPrivate made(false, "any", "", "", "", "", nullptr, nullptr, new test::FakeStartUp, true);
+        const DisplayPrivate made(false, "any", "", "", "", "", nullptr, nullptr, new doubles::FakeStartUp, true);
         EXPECT_NE(DisplayEventFilter::getFilterPointer(), gui.filter());
         EXPECT_NE(DisplayEventFilter::getFilterPointer(), nullptr);
     }
@@ -116,9 +116,9 @@ TEST_F(DisplayPrivateLifeTest, AFilterIsInstalledWhereItIsAskedForAndTakenOutWit
 
 TEST_F(DisplayPrivateLifeTest, TheFilterOfASecondDisplaySurvivesTheFirst)
 {
-    auto first =
-        std::make_unique<DisplayPrivate>(false, "any", "", "", "", "", nullptr, nullptr, new test::FakeStartUp, true);
-    const DisplayPrivate survivor(false, "any", "", "", "", "", nullptr, nullptr, new test::FakeStartUp, true);
+    auto first = std::make_unique<DisplayPrivate>(false, "any", "", "", "", "", nullptr, nullptr,
+                                                  new doubles::FakeStartUp, true);
+    const DisplayPrivate survivor(false, "any", "", "", "", "", nullptr, nullptr, new doubles::FakeStartUp, true);
     const auto* const installed = DisplayEventFilter::getFilterPointer();
     first.reset();
     EXPECT_EQ(DisplayEventFilter::getFilterPointer(), installed);

@@ -177,3 +177,32 @@ TEST_F(DisplayPrivateServerTest, NullDoesNothing)
     EXPECT_EQ(display->getCurrent(), &menu);
     EXPECT_THAT(calls(), IsEmpty());
 }
+
+TEST_F(DisplayPrivateServerTest, ADisplayableWithoutAWidgetIsListedAndShown)
+{
+    menu.getPrivateImpl()->dropWidget();
+    display->createServerDisplay(&menu);
+    EXPECT_THAT(calls(), ElementsAre("menu: connect()", "menu: show()"));
+    EXPECT_THAT(display->itemList(), ElementsAre(&menu));
+}
+
+TEST_F(DisplayPrivateServerTest, ADisplayableThatWasAddedTwiceIsGoneWhenItIsDeleted)
+{
+    auto twice = std::make_unique<Screen>("twice");
+    display->show();
+    display->createServerDisplay(twice.get());
+    display->createServerDisplay(&menu);
+    display->createServerDisplay(twice.get());
+    twice.reset();
+    EXPECT_THAT(display->itemList(), ElementsAre(&menu));
+    EXPECT_EQ(display->getCurrent(), &menu);
+}
+
+TEST_F(DisplayPrivateServerTest, ADisplayThatEndsLetsGoOfACurrentOneThatIsNotInItsStack)
+{
+    makeDisplay("any", true);
+    display->createServerDisplay(&menu);
+    forgetCalls();
+    display.reset();
+    EXPECT_THAT(calls(), ElementsAre("menu: disconnect()", "menu: gainOwnership()"));
+}

@@ -244,8 +244,8 @@ TEST_F(DisplayPrivatePurgeTest, ANullRequestStays)
 
 TEST_F(DisplayPrivatePurgeTest, WhatIsQueuedForAFilterIsCompletedWhenItsDisplayEnds)
 {
-    auto doomed =
-        std::make_unique<DisplayPrivate>(false, "any", "", "", "", "", nullptr, nullptr, new test::FakeStartUp, true);
+    auto doomed = std::make_unique<DisplayPrivate>(false, "any", "", "", "", "", nullptr, nullptr,
+                                                   new doubles::FakeStartUp, true);
     doomed->postEventAsync(new Record(&first, Record::SHOW, &done, false));
     doomed.reset();
     EXPECT_EQ(completed(), 1);

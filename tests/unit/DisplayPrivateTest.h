@@ -3,12 +3,12 @@
 #include "DisplayPrivate.h"
 
 #include "DisplayAPI/DisplayEventIfc.h"
+#include "doubles/FakeStartUp.h"
 #include "doubles/Recorder.h"
 #include "doubles/Screen.h"
 #include "presentation/PRESCPresentationManager.h"
 #include "support/LogLines.h"
 #include "support/SteppedLoop.h"
-#include "unit/FakeStartUp.h"
 #include "utilities/Rect.h"
 #include "widgets/KestrelApplication.h"
 
@@ -36,7 +36,7 @@ protected:
     {
         display.reset();
         display = std::make_unique<DisplayAPI::DisplayPrivate>(narrow, hardware, "", "", "", "", nullptr, nullptr,
-                                                               new FakeStartUp, false);
+                                                               new doubles::FakeStartUp, false);
         display->subscribe(&observer);
     }
 

@@ -1,8 +1,11 @@
 #include "DisplayAPI/Display.h"
 
 #include "DisplayAPI/DisplayRequestEvent.h"
+#include "DisplayPrivate.h"
 #include "doubles/DisplayPrivateDouble.h"
+#include "doubles/FakeStartUp.h"
 #include "doubles/Mocks.h"
+#include "support/SteppedLoop.h"
 #include "support/Worker.h"
 #include "unit/FacadeTest.h"
 #include "utilities/ICC.h"
@@ -220,6 +223,26 @@ TEST_F(DisplayOfManyThreadsTest, SerialisationsOfSeveralThreadsNeverMix)
     for (const auto& own : answers)
         all.insert(own.begin(), own.end());
     EXPECT_EQ(all.size(), std::size_t{THREADS * CALLS});
+}
+
+TEST(DisplayLostResultTest, APurgedSerialisationIsEmptyAndTheNextOneIsNot)
+{
+    test::SteppedLoop gui;
+    DisplayPrivate purging(false, "any", "", "", "", "", nullptr, nullptr, new doubles::FakeStartUp, false);
+    Display display(new doubles::DisplayPrivateDouble);
+    for (int round = 0; round < 3; ++round) {
+        std::string text = "untouched";
+        test::Worker worker([&] { text = display.serialise(); });
+        gui.waitForQueued(1);
+        purging.purgeOwnMessage(&display, 8, 12, nullptr);
+        worker.join();
+        EXPECT_EQ(text, "");
+        test::Worker next([&] { text = display.serialise(); });
+        gui.waitForQueued(1);
+        gui.runAll();
+        next.join();
+        EXPECT_EQ(text, std::to_string(round + 1));
+    }
 }
 
 TEST_F(DisplayConstructionTest, ConstructorsPassHardwareTypeLocaleAndFormatsOn)

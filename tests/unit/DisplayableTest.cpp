@@ -114,6 +114,14 @@ TEST(DisplayableTest, CallsAListenerThatWasAddedTwiceTwiceAndQueuesItsChangeOnce
     EXPECT_THAT(notes.wait(2), ElementsAre("twice", "last"));
 }
 
+TEST(DisplayableTest, ANullListenerIsIgnored)
+{
+    PlainItem item;
+    Nameless screen;
+    screen.addItemStateListener(nullptr);
+    screen.callListeners(&item);
+}
+
 TEST(DisplayableTest, DestructionDeletesNoListener)
 {
     Notes notes;

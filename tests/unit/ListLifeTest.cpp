@@ -112,6 +112,21 @@ TEST_F(ListLifeTest, RecordWithCodeZeroCreatesWithItsFlag)
     }
 }
 
+TEST_F(ListLifeTest, RecordWithCodeZeroNotesTheBackItemOnTheSmallPanel)
+{
+    test::setHardwareVariant(0);
+    for (const From from : {From::GUI_THREAD, From::WORKER}) {
+        for (const bool flag : {true, false}) {
+            List list(nullptr);
+            carryOut(from, list, 0, [=](GuiRequestEvent& r) { r.boolParam1 = flag; });
+            EXPECT_THAT(reached(), ElementsAre(callText("ListBoxPrivateWP1", &list, flag)));
+            EXPECT_EQ(list.hasBackItem(), flag);
+            carryOut(from, list, 1);
+            reached();
+        }
+    }
+}
+
 TEST_F(ListLifeTest, AdoptedImplementationIsThePrivateSideAndIsDeletedWithTheList)
 {
     ListBoxPrivate* implementation = nullptr;

@@ -143,3 +143,18 @@ TEST_F(ListPostTest, CreateCarriesTheBackFlag)
             gui.step();
     }
 }
+
+TEST_F(ListPostTest, WithoutAFilterARowIsMadeAndAppendedOnTheCallingThread)
+{
+    List list(0);
+    gui.removeFilter();
+    TranslationInfo text("key", nullptr);
+    test::onOtherThread([&] {
+        list.append(std::string("text"));
+        list.append(&text);
+        EXPECT_EQ(list.getItems().size(), 2u);
+        list.clear();
+        EXPECT_EQ(list.getItems().size(), 0u);
+    });
+    EXPECT_EQ(gui.queued(), 0);
+}

@@ -2,7 +2,7 @@
 
 #include "PegInitAndCleanUp.h"
 
-namespace test {
+namespace doubles {
 
 /// Starts and stops nothing, and counts how often it was asked to.
 class FakeStartUp : public DisplayAPI::PegInitAndCleanUpIfc {
@@ -23,4 +23,4 @@ private:
     int* mStops;
 };
 
-} // namespace test
+} // namespace doubles
