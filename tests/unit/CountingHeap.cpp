@@ -10,7 +10,7 @@ constinit std::atomic<int> gHeapReleases{0};
 
 } // namespace test
 
-#ifndef __SANITIZE_ADDRESS__
+#if TEST_HEAP_IS_COUNTED
 
 void* operator new(std::size_t size)
 {

@@ -76,7 +76,8 @@ TEST(RecordPoolTest, AReleasedRecordIsWatchedByTheAddressSanitizer)
     EXPECT_TRUE(__asan_address_is_poisoned(record));
 }
 
-#else
+#endif
+#if TEST_HEAP_IS_COUNTED
 
 TEST(RecordPoolTest, AReleasedRecordIsUsedAgainFirst)
 {
