@@ -3,8 +3,10 @@
 #include "host/clock/Clock.h"
 #include "host/input/Keyboard.h"
 #include "host/toolkit/Loop.h"
+#include "simulator/script/Threads.h"
 
 #include <algorithm>
+#include <thread>
 
 namespace simulator {
 
@@ -15,6 +17,9 @@ using std::chrono::seconds;
 using std::chrono::steady_clock;
 
 constexpr seconds PATIENCE(10);
+
+/// An application may have a thread that never rests.
+constexpr seconds PATIENCE_WITH_THREADS(2);
 
 /// How often it is looked whether the telephone is still there.
 constexpr milliseconds SLICE(1000);
@@ -56,6 +61,11 @@ void HostPhone::pass(std::int64_t milliseconds)
 
 bool HostPhone::settle()
 {
+    return becomeIdle() && (waitForThreads(), becomeIdle());
+}
+
+bool HostPhone::becomeIdle()
+{
     const auto deadline = steady_clock::now() + PATIENCE;
     while (isThere() && steady_clock::now() < deadline) {
         if (host::Loop::waitUntilIdle(SLICE))
@@ -63,6 +73,13 @@ bool HostPhone::settle()
         waitForFrame(milliseconds(5));
     }
     return false;
+}
+
+void HostPhone::waitForThreads()
+{
+    const auto deadline = steady_clock::now() + PATIENCE_WITH_THREADS;
+    while (isThere() && !othersAreAtRest() && steady_clock::now() < deadline)
+        std::this_thread::sleep_for(milliseconds(1));
 }
 
 host::Picture HostPhone::picture()

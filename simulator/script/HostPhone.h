@@ -25,6 +25,8 @@ public:
     bool isThere() override;
 
 private:
+    bool becomeIdle();
+    void waitForThreads();
     void noteFrame();
 
     host::Lcd& mLcd;

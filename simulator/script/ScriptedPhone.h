@@ -21,7 +21,8 @@ public:
     /// Lets the telephone's clock go on.
     virtual void pass(std::int64_t milliseconds) = 0;
 
-    /// False when the telephone does not come to rest.
+    /// Waits until nothing moves any more: neither the loop nor the application's threads, which run in real time.
+    /// False when the loop does not come to rest.
     virtual bool settle() = 0;
 
     virtual host::Picture picture() = 0;
