@@ -10,6 +10,8 @@
 
 #include <gmock/gmock.h>
 
+#include <cstdlib>
+#include <memory>
 #include <optional>
 #include <type_traits>
 
@@ -348,4 +350,39 @@ TEST_F(CommandTest, DeletingACommandDuringItsNotificationIsAllowed)
     CommandExecutor().run();
 
     EXPECT_EQ(listener.calls, 1) << "the second notification is recalled by the first";
+}
+
+TEST_F(CommandTest, NotificationsAreRecalledBeforeTheListLockIsTaken)
+{
+    Listener listener;
+    const Command kept("Kept", Command::OK);
+    auto doomed = std::make_unique<Command>("Doomed", Command::OK);
+    CommandExecutor::postCommand(&listener, doomed.get(), nullptr, false);
+
+    Command::commandListMutex()->take(-1);
+    Worker deleter([&] { doomed.reset(); });
+    EXPECT_TRUE(deleter.isBlocked());
+    CommandExecutor().run();
+    Command::commandListMutex()->give();
+
+    EXPECT_THAT(listener.received, IsEmpty());
+}
+
+// The end of the process
+
+namespace {
+
+[[noreturn]] void endWithStaticObjects()
+{
+    static Command command("Static", Command::OK); // made before what it needs at its end
+    static Listener listener;
+    CommandExecutor::postCommand(&listener, &command, nullptr, false);
+    std::exit(0);
+}
+
+} // namespace
+
+TEST(CommandDeathTest, StaticCommandsAndListenersMayOutliveEverythingElse)
+{
+    EXPECT_EXIT(endWithStaticObjects(), testing::ExitedWithCode(0), "");
 }
