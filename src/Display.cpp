@@ -7,6 +7,7 @@
 #include "utilities/Rect.h"
 #include "utilities/Semaphore.h"
 
+#include <atomic>
 #include <cstdio>
 #include <utility>
 
@@ -33,6 +34,8 @@ void call(DisplayPrivateIfc& implementation, Display* display, Request::DisplayR
     callPrepared(
         implementation, display, code, [](Request&) {}, std::forward<Args>(args)...);
 }
+
+constinit std::atomic<Display*> gLatest{nullptr};
 
 constexpr bool NO_FLAG = false;
 constexpr const char* SERVED = "served";
@@ -83,12 +86,21 @@ void Display::init(DisplayPrivateIfc* implementation)
 {
     mImplementation = implementation;
     mResultLock = new Semaphore(Semaphore::AVAILABLE, 1, false);
+    gLatest = this;
 }
 
 Display::~Display()
 {
+    // Deleting the implementation stops the toolkit, and with it the tools that may still be asking this display.
     delete mImplementation;
+    Display* self = this;
+    gLatest.compare_exchange_strong(self, nullptr);
     delete mResultLock;
+}
+
+Display* Display::latest()
+{
+    return gLatest;
 }
 
 void Display::processDisplayRequest(DisplayRequestEvent* request)

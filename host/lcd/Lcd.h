@@ -22,6 +22,9 @@ struct TextRun {
     std::string text;
     bool inverted = false;
     bool cut = false;
+    bool lacksGlyph = false; ///< a character of it stands there as U+FFFD: no font has it
+    bool runs = false;       ///< changes by itself as time passes: a clock, a timer, a ticker
+    std::uint8_t widget = 0; ///< the PegType of the thing that has painted it
 
     friend bool operator==(const TextRun&, const TextRun&) = default;
 };
@@ -31,8 +34,9 @@ struct Picture {
     int width = 0;
     int height = 0;
     std::vector<std::uint8_t> pixels;
-    std::vector<TextRun> texts; ///< top to bottom, left to right
-    std::uint64_t frame = 0;    ///< counts finished frames
+    std::vector<TextRun> texts;  ///< top to bottom, left to right
+    std::uint64_t frame = 0;     ///< counts finished frames
+    PegRect focus{0, 0, -1, -1}; ///< of the thing that has the focus; empty where none has it
 };
 
 /// The panel: a buffer of four grey levels, the area that has to be painted again, and the texts that stand on it.

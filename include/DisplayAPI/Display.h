@@ -48,6 +48,10 @@ public:
     /// Calls of other threads that still wait return with neutral values; no thread may begin one meanwhile.
     virtual ~Display();
 
+    /// The display that was made last, for tools that look at a screen they have not made; null when it is gone. From
+    /// any thread; whoever uses it sees to it that it is not deleted meanwhile.
+    static Display* latest();
+
     /// Carries out one request and completes it. GUI thread only.
     virtual void processDisplayRequest(DisplayRequestEvent* request);
 

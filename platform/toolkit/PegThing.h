@@ -15,7 +15,10 @@ enum PegType : std::uint8_t {
     TYPE_WINDOW = 1,
     TYPE_PRESENTATION_MANAGER = 2,
     TYPE_LIST_WITH_TITLE = 204,
-    TYPE_LIST_WP1 = 206 ///< wants to be told when the focus moves
+    TYPE_LIST_WP1 = 206, ///< wants to be told when the focus moves
+    TYPE_SYSTEM_WINDOW = 207,
+    TYPE_STATUS_MESSAGE = 208,
+    TYPE_TICKER = 209
 };
 
 /// Where a window lies in relation to the others, kept for the presentation manager.

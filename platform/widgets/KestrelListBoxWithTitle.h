@@ -2,8 +2,15 @@
 
 #include "widgets/KestrelListBox.h"
 
-/// The list of the 240 x 128 panel and its narrow form: a title, six rows, a scroll bar where there are more.
+/// The list of the 240 x 128 panel and its narrow form: a title, six rows, a scroll bar where there are more. It shows
+/// status lines itself, above the title; they take rows away.
 class KestrelListBoxWithTitle : public KestrelListBox {
 public:
     KestrelListBoxWithTitle();
+
+    /// 0 to 6 lines; other values are cut to that.
+    void setSystemWindowLines(int lines);
+
+    /// Lines outside 0 to 5 are ignored.
+    void setSystemWindowText(PegString text, int line);
 };

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "toolkit/PString.h"
+#include "toolkit/PegThing.h"
+
+/// A line of text that runs from one edge to the other where it is too long for its area, and stands still where it
+/// fits. Costs nothing while it is not visible. GUI thread only.
+class TickerWidget : public PegThing {
+public:
+    explicit TickerWidget(PegString text);
+    ~TickerWidget() override;
+
+    int Message(const PegMessage& message) override;
+    void Draw(PegPainter& painter) override;
+    void Resize(const PegRect& area) override;
+
+    /// The text begins anew.
+    void setText(PegString text);
+    const PegString& getText() const;
+
+protected:
+    void VisibilityChanged() override;
+
+private:
+    void run();
+
+    PegString mText;
+    int mTextWidth = 0;
+    int mOffset = 0; ///< how many pixels have gone out at the edge
+};
