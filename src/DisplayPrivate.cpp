@@ -11,11 +11,12 @@
 #include "Log.h"
 #include "MainQueue.h"
 #include "PegInitAndCleanUp.h"
+#include "StackEntry.h"
 #include "Variant.h"
-#include "presentation/PRESCPresentationManager.h"
 #include "utilities/ICC.h"
-#include "utilities/Rect.h"
 #include "utilities/Semaphore.h"
+#include "widgets/StatusMessage.h"
+#include "widgets/SystemWindow.h"
 
 #include <algorithm>
 
@@ -26,47 +27,12 @@ namespace {
 constexpr Log gLog{"DisplayAPI::DisplayPrivate", "./src/DisplayPrivate"};
 constexpr const char* SOURCE_FILE = "./src/DisplayPrivate";
 
-enum SoftwareType : int { SIP = 0, KVX = 1, UNKNOWN = 2 };
-
 /// The displays that live now. GUI thread only.
 std::vector<DisplayPrivate*>& displays()
 {
     // Never destroyed: a static displayable asks as late as at process exit.
     static auto* const live = new std::vector<DisplayPrivate*>;
     return *live;
-}
-
-// The log takes plain pointers.
-
-const void* address(const void* object)
-{
-    return object;
-}
-
-const char* nameOf(Displayable* displayable)
-{
-    return displayable != nullptr ? displayable->getName().c_str() : "";
-}
-
-PegThing* widgetOf(DisplayablePrivateIfc* side)
-{
-    return side != nullptr ? side->getWidget() : nullptr;
-}
-
-PegThing* widgetOf(Displayable* displayable)
-{
-    return displayable != nullptr ? widgetOf(displayable->getPrivateImpl()) : nullptr;
-}
-
-bool isOnScreen(const PegThing* widget)
-{
-    return widget != nullptr && widget->Parent() != nullptr && widget->Parent() == gpPresent;
-}
-
-void addToScreen(PegThing* widget)
-{
-    if (gpPresent != nullptr)
-        gpPresent->Add(widget, true);
 }
 
 /// Moves the focus to `widget` unless it has it; the log line comes from where it is moved.
@@ -82,11 +48,6 @@ void lostFocus(Displayable* displayable)
 {
     if (DisplayablePrivateIfc* side = displayable->getPrivateImpl())
         side->lostFocus();
-}
-
-DisplayablePrivate* withSystemWindow(Displayable* displayable)
-{
-    return dynamic_cast<DisplayablePrivate*>(displayable->getPrivateImpl());
 }
 
 } // namespace
@@ -170,6 +131,7 @@ void DisplayPrivate::initialiseApplication(const std::string& hardware, const st
 void DisplayPrivate::cleanup()
 {
     handBackWidgets();
+    mStatusWidget.reset();
     completeQueuedRequests();
     mStartUp->cleanUp();
     mContentWidget.reset();
@@ -177,9 +139,12 @@ void DisplayPrivate::cleanup()
     mDisplayArea.reset();
 }
 
-/// The application's displayables outlive the presentation manager: it must not take their widgets with it.
+/// The application's displayables and the content widget outlive the presentation manager: it must not take their
+/// widgets with it.
 void DisplayPrivate::handBackWidgets()
 {
+    if (mContentWidget != nullptr && isOnScreen(mContentWidget->getSystemWindow()))
+        gpPresent->Remove(mContentWidget->getSystemWindow(), false);
     if (mCurrent != nullptr && std::find(mItemList.begin(), mItemList.end(), mCurrent) == mItemList.end())
         mItemList.push_back(mCurrent);
     for (Displayable* displayable : mItemList) {
@@ -264,7 +229,11 @@ void DisplayPrivate::setCurrentImpl(Displayable* displayable)
     displayChanged();
     gLog(TRACE, 360, "**current, which is: [%s] [0x%p]\n", nameOf(mCurrent), address(widgetOf(mCurrent)));
     clearSWfromDisplayable();
-    displayChanged();
+    if (!mSystemWindowOn || !currentChanged)
+        return displayChanged();
+    mSystemWindowReset = true;
+    mPopupShown = false;
+    showSW(mContentWidget->getSWCurrentNumLines());
 }
 
 void DisplayPrivate::logItemList()
@@ -306,8 +275,7 @@ bool DisplayPrivate::takeStackOffScreen(DisplayablePrivateIfc* kept)
         }
         side->connectDisplayChangedSignal(nullptr);
         side->gainOwnership();
-        if (gpPresent != nullptr)
-            gpPresent->Remove(widget, true);
+        removeFromScreen(widget);
     }
     return keptIsShown;
 }
@@ -496,6 +464,8 @@ void DisplayPrivate::showContentWidget()
         addToScreen(widget);
         entry->getPrivateImpl()->releaseOwnership();
     }
+    if (mStatusWidget != nullptr)
+        addToScreen(mStatusWidget.get());
     gLog(TRACE, 616, "showContentWidget end\n");
 }
 
@@ -519,9 +489,11 @@ void DisplayPrivate::hideContentWidget()
         gLog(TRACE, 636, "hideContentWidget() calling remove on [%s] [0x%p]", nameOf(entry), address(widget));
         if (DisplayablePrivateIfc* side = entry->getPrivateImpl())
             side->gainOwnership();
-        if (gpPresent != nullptr)
-            gpPresent->Remove(widget, true);
+        removeFromScreen(widget);
     }
+    if (mStatusWidget != nullptr)
+        removeFromScreen(mStatusWidget.get());
+    mSavedPopupLines = mPopupLines;
     mContentWidget->setSystemWindowSize(0);
 }
 
@@ -550,28 +522,6 @@ void DisplayPrivate::addServerDisplay(Displayable* displayable)
     addToScreen(widget);
     displayable->getPrivateImpl()->releaseOwnership();
     focusChanged(widget);
-}
-
-/// Takes the system window's lines from the displayable that was current before, and notes that the one that is current
-/// now has none of them yet.
-void DisplayPrivate::clearSWfromDisplayable()
-{
-    if (mPreviousCurrent == nullptr) {
-        mPreviousCurrent = mCurrent;
-        return;
-    }
-    if (mCurrent == mPreviousCurrent)
-        return;
-    if (DisplayablePrivate* previous = withSystemWindow(mPreviousCurrent))
-        previous->setSysWindowSize(0);
-    if (mCurrent != nullptr && mPreviousCurrent->getName() == "IdleDisplay" && mCurrent->getName() == "PopupDialer") {
-        gLog(TRACE, 680, "clearSWfromDisplayable()  **  previousName == IdleDisplay && currentName == PopupDialer");
-    } else {
-        const auto lines =
-            std::clamp(mContentWidget->getSWCurrentNumLines(), 0, static_cast<int>(mInvalidSystemWindowLines.size()));
-        std::fill_n(mInvalidSystemWindowLines.begin(), lines, true);
-    }
-    mPreviousCurrent = mCurrent;
 }
 
 void DisplayPrivate::dismissEverywhere(Displayable* displayable)
@@ -606,6 +556,7 @@ void DisplayPrivate::forgetEverywhere(Displayable* displayable)
 void DisplayPrivate::forget(Displayable* displayable)
 {
     std::erase(mItemList, displayable);
+    mVisibleRectMonitor.remove(*displayable);
     if (mPreviousCurrent == displayable)
         mPreviousCurrent = nullptr;
     if (mCurrent == displayable)
@@ -646,6 +597,14 @@ void DisplayPrivate::subscribe(DisplayEventIfc* observer)
 void DisplayPrivate::unSubscribe()
 {
     subscribe(nullptr);
+}
+
+DisplayEventIfc* DisplayPrivate::displayChangeListener()
+{
+    mListenerSection.enter();
+    DisplayEventIfc* const observer = mDisplayChangeListener;
+    mListenerSection.leave();
+    return observer;
 }
 
 void DisplayPrivate::displayChanged()
@@ -692,6 +651,7 @@ void DisplayPrivate::setMaximised(bool on)
 void DisplayPrivate::setTranslator(TranslatorIfc* translator)
 {
     DisplayablePrivate::commonTranslator = translator;
+    setSpellerLang(translator);
 }
 
 void DisplayPrivate::postEvent(DisplayRequestEvent* request)
@@ -743,30 +703,6 @@ std::string DisplayPrivate::paste() const
     return mClipboard;
 }
 
-void DisplayPrivate::showTimeInSystemWindow(bool on)
-{
-    mContentWidget->showTimeInSystemWindow(on);
-    displayChanged();
-}
-
-void DisplayPrivate::setTimeInSystemWindow(int hours, int minutes, int seconds)
-{
-    mContentWidget->setTimeInSystemWindow(hours, minutes, seconds);
-    displayChanged();
-}
-
-void DisplayPrivate::setTimer(std::string text)
-{
-    mContentWidget->setTimer(std::move(text));
-    displayChanged();
-}
-
-void DisplayPrivate::stopTimer()
-{
-    mContentWidget->stopTimer();
-    displayChanged();
-}
-
 std::string DisplayPrivate::dateFormat() const
 {
     return mDateFormat;
@@ -776,30 +712,5 @@ std::string DisplayPrivate::timeFormat() const
 {
     return mTimeFormat;
 }
-
-// The system window is not on screen yet, and the screen is not read as text yet: these give neutral answers.
-
-std::string DisplayPrivate::serialise()
-{
-    return {};
-}
-
-std::string DisplayPrivate::serialiseByRect(const std::vector<DisplayAPIUtils::Rect>&, bool)
-{
-    return {};
-}
-
-std::vector<DisplayAPIUtils::Rect>* DisplayPrivate::getDisplayedRects()
-{
-    return &mDisplayedRects;
-}
-
-void DisplayPrivate::setSystemWindowSize(int) {}
-
-void DisplayPrivate::setSystemWindowText(int, std::string) {}
-
-void DisplayPrivate::setSystemWindowTop(int) {}
-
-void DisplayPrivate::setStatusMessage(const std::string&, unsigned int) {}
 
 } // namespace DisplayAPI

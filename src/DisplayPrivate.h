@@ -1,6 +1,7 @@
 #pragma once
 
 #include "DisplayAPI/DisplayPrivateIfc.h"
+#include "VisibleRectMonitor.h"
 #include "utilities/CriticalSection.h"
 
 #include <array>
@@ -10,12 +11,14 @@
 #include <vector>
 
 class PegThing;
+class StatusMessage;
 
 namespace DisplayAPI {
 
 class ContentWidget;
 class ContentWidgetFactoryIfc;
 class DisplayEventFilter;
+class DisplayablePrivate;
 class PegInitAndCleanUpIfc;
 
 /// Queues a display-level request for `filter`, which may be null, and waits for its semaphore if `wait` and it has
@@ -76,6 +79,28 @@ public:
     std::string dateFormat() const override;
     std::string timeFormat() const override;
 
+    /// Shows the system window's lines: hands those that have changed to the current displayable if it draws them
+    /// itself, otherwise lets the window float above it. Seven lines or more, or nothing current: nothing.
+    void showSW(int lines);
+
+    /// Lets the system window float with 1 or 2 lines; 0 takes it down on the full panel. More lines, or a display that
+    /// is not visible: nothing.
+    void systemWindowPopup(int lines);
+
+    /// Gives the list that is current one status line more than it has; anything else is ignored.
+    void listInWidgetSetSWLines(int before, int lines);
+
+    void clearSWfromDisplayable();
+
+    void updateVisibleRectMonitor();
+
+    /// What can be seen of each entry of the stack, in its order; nothing of an entry without a widget.
+    std::vector<std::vector<DisplayAPIUtils::Rect>> findVisibleRects() const;
+
+    /// Fills the keypad tables and the names of the input modes; null leaves them. On the thread that sets the
+    /// translator, while no editor reads them.
+    static void setSpellerLang(TranslatorIfc* translator);
+
     bool execFinished() const { return mExecFinished; }
     bool isMaximised() const { return mMaximised; }
     ContentWidget* getContentWidget() const { return mContentWidget.get(); }
@@ -110,7 +135,17 @@ private:
     void restoreTopmost();
     void restoreWidget(DisplayablePrivateIfc* side);
     void addServerDisplay(Displayable* displayable);
-    void clearSWfromDisplayable();
+    void handLinesTo(DisplayablePrivate& side, int lines);
+    void handLineTo(DisplayablePrivate& side, int line, int lines);
+    void floatSystemWindow(int lines);
+    void showPopup(int lines);
+    void takePopupDown();
+    void renewLine(int line);
+    DisplayEventIfc* displayChangeListener();
+    std::string serialiseStack(const std::vector<std::vector<DisplayAPIUtils::Rect>>& visible,
+                               const std::vector<DisplayAPIUtils::Rect>& requested);
+    std::string withSystemWindowText(const std::string& screen, bool wanted) const;
+    std::string smallSystemWindowText(const std::string& screen) const;
     bool holdOnce(Displayable* displayable);
     void forget(Displayable* displayable);
 
@@ -128,8 +163,16 @@ private:
     std::string mTimeFormat;
     std::unique_ptr<DisplayAPIUtils::Rect> mDisplayArea;
     std::vector<DisplayAPIUtils::Rect> mDisplayedRects;
-    std::array<bool, 6> mInvalidSystemWindowLines{};
+    std::array<bool, 6> mInvalidSystemWindowLines{}; ///< not yet handed to the current displayable
+    bool mSystemWindowOn = false;
+    bool mSystemWindowReset = false;
+    bool mPopupShown = false;
+    int mPopupLines = 0;
+    int mSavedPopupLines = 0; ///< what they were when the screen was cleared
+    std::string mSystemWindowText;
     Displayable* mPreviousCurrent = nullptr;
+    VisibleRectMonitor mVisibleRectMonitor;
+    std::unique_ptr<StatusMessage> mStatusWidget; ///< null when none is up
     std::string mClipboard;
     CriticalSection mListenerSection;
     std::unique_ptr<ContentWidgetFactoryIfc> mFactory;

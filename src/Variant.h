@@ -13,6 +13,8 @@ inline int hardwareVariant()
 constexpr int FULL_PANEL = 1;  ///< 240 x 128 and its narrow form
 constexpr int SMALL_PANEL = 0; ///< 208 x 42
 
+enum SoftwareType : int { SIP = 0, KVX = 1, UNKNOWN = 2 };
+
 inline bool isFullPanel()
 {
     return hardwareVariant() == FULL_PANEL;

@@ -83,8 +83,18 @@ public:
     /// The rectangles of the displayables on the stack, owned by the display and valid until they are asked for again.
     std::vector<DisplayAPIUtils::Rect>* getDisplayedRects();
 
-    /// What is shown, as text in ASCII: all of it, or what lies in `rects`, with the system window if asked for. Empty
-    /// as yet.
+    /// What is shown, as text in ASCII (other characters become "?"): an object for each displayable of the stack,
+    /// bottom to top.
+    ///
+    ///     object:                     string0: first text of a sub-item
+    ///     name: type                  endsubitem:
+    ///     caption: text               end:
+    ///     subitem:
+    ///     name: type
+    ///
+    /// By rectangles: what can be seen of the stack and lies in `rects`, which needs an observer to be subscribed, and
+    /// the system window: always on the small panel, on the full one where it floats and is asked for. Rectangles
+    /// outside the screen show nothing.
     std::string serialise();
     std::string serialiseByRect(const std::vector<DisplayAPIUtils::Rect>& rects, bool withSystemWindow);
 
@@ -105,16 +115,30 @@ public:
     /// The area that the display may use, owned by the display. Runs on the calling thread.
     DisplayAPIUtils::Rect* getDisplayArea();
 
-    // The status lines. Size, texts, top and status message have no effect yet. Hours, minutes and seconds are those of
-    // a clock: of larger numbers only the first two digits arrive from another thread.
+    /// The status lines of the system window: line 0 is its caption. Displayables that draw them themselves are handed
+    /// the lines that have changed; above all others the window floats, with at most two. Set the texts, then the size,
+    /// which shows them; 0 takes them away. Only while the display is shown; lines outside 0 to 5 and negative sizes
+    /// are ignored, 7 and more show nothing. An empty text becomes a blank, as do all texts on the small panel that are
+    /// to be taken down. From another thread these two are posted: they return at once.
     void setSystemWindowSize(int lines);
     void setSystemWindowText(int line, std::string text);
+
+    /// Pixels from the panel's top; 0 on the small panel whatever is asked for.
     void setSystemWindowTop(int top);
+
+    /// The clock in the system window. Of larger numbers only the first two digits arrive from another thread.
     void showTimeInSystemWindow(bool on);
     void setTimeInSystemWindow(int hours, int minutes, int seconds);
+
+    /// The call timer, which takes the clock's place: "00:00:00" is where it starts.
     void setTimer(std::string text);
     void stopTimer();
+
+    /// "Corvane SIP", "Corvane KVX"; anything else is unknown software.
     void setSoftwareType(const std::string& type);
+
+    /// Shows a message above everything else for `timeout` milliseconds (0: until the next one); an empty text takes
+    /// it down.
     void setStatusMessage(const std::string& text, unsigned int timeout);
 
     /// The display's clipboard.

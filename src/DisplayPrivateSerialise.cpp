@@ -1,0 +1,153 @@
+#include "DisplayPrivate.h"
+
+#include "ContentWidget.h"
+#include "Log.h"
+#include "StackEntry.h"
+#include "SystemWindowText.h"
+#include "Variant.h"
+#include "utilities/ICC.h"
+
+namespace DisplayAPI {
+
+namespace {
+
+using DisplayAPIUtils::Rect;
+using Rects = std::vector<Rect>;
+
+constexpr Log gLog{"DisplayAPI::DisplayPrivate", "./src/DisplayPrivate"};
+
+std::string toAscii(const std::string& text)
+{
+    return ICC::fromUNICODEtoASCII(ICC::fromUTF8toUNICODE(text));
+}
+
+void logRect(int line, const char* text, const Rect& rect)
+{
+    gLog(TRACE, line, text, rect.left(), rect.top(), rect.right(), rect.bottom());
+}
+
+bool contains(const Rect& outer, const Rect& inner)
+{
+    return outer.left() <= inner.left() && outer.top() <= inner.top() && inner.right() <= outer.right() &&
+           inner.bottom() <= outer.bottom();
+}
+
+/// Adds what `requested` shows of `visible`: all of it once where one rectangle contains it, otherwise its share of
+/// each.
+void addRequestedParts(const Rect& visible, const Rects& requested, Rects& parts)
+{
+    for (const Rect& rect : requested) {
+        if (contains(rect, visible)) {
+            parts.push_back(visible);
+            return logRect(930, "serialiseByRect() adding to newRects: (%d,%d),(%d,%d)", visible);
+        }
+        if (!visible.Overlap(rect))
+            continue;
+        Rect share = visible;
+        share &= rect;
+        parts.push_back(share);
+        logRect(938, "serialiseByRect() OVERLAP adding to newRects: (%d,%d),(%d,%d)", share);
+    }
+}
+
+Rects requestedParts(const Rects& visible, const Rects& requested)
+{
+    Rects parts;
+    for (const Rect& rect : visible)
+        addRequestedParts(rect, requested, parts);
+    return parts;
+}
+
+} // namespace
+
+void DisplayPrivate::updateVisibleRectMonitor()
+{
+    mVisibleRectMonitor.clear();
+    for (Displayable* displayable : mItemList)
+        mVisibleRectMonitor.update(*displayable);
+}
+
+std::vector<Rect>* DisplayPrivate::getDisplayedRects()
+{
+    updateVisibleRectMonitor();
+    mDisplayedRects = mVisibleRectMonitor.getVisibleRects();
+    return &mDisplayedRects;
+}
+
+std::vector<Rects> DisplayPrivate::findVisibleRects() const
+{
+    std::vector<Rects> visible(mItemList.size());
+    Rects above;
+    for (std::size_t i = mItemList.size(); i-- > 0;) {
+        const PegThing* const widget = widgetOf(mItemList[i]);
+        if (widget == nullptr)
+            continue;
+        visible[i] = above.empty() ? Rects{rectOf(*widget)} : rectOf(*widget).subtract(above);
+        above.insert(above.begin(), rectOf(*widget));
+    }
+    return visible;
+}
+
+std::string DisplayPrivate::serialise()
+{
+    updateVisibleRectMonitor();
+    std::string text;
+    for (Displayable* displayable : mItemList) {
+        if (DisplayablePrivateIfc* side = displayable->getPrivateImpl())
+            text += side->serialise();
+    }
+    return toAscii(text);
+}
+
+std::string DisplayPrivate::serialiseByRect(const Rects& rects, bool withSystemWindow)
+{
+    gLog(TRACE, 960, "serialiseByRect() rects.size() = %d, doSW = %d", static_cast<int>(rects.size()),
+         static_cast<int>(withSystemWindow));
+    updateVisibleRectMonitor();
+    const std::vector<Rects> visible = findVisibleRects();
+    const DisplayEventIfc* const observer = displayChangeListener();
+    gLog(TRACE, 964, "serialiseByRect() mDisplayChangeListener = %p", address(observer));
+    std::string text;
+    if (observer != nullptr)
+        text = serialiseStack(visible, rects);
+    text = withSystemWindowText(text, withSystemWindow);
+    gLog(TRACE, 969, "serialiseByRect() returning = \"%s\"", text.c_str());
+    return toAscii(text);
+}
+
+std::string DisplayPrivate::serialiseStack(const std::vector<Rects>& visible, const Rects& requested)
+{
+    gLog(TRACE, 975, "serialiseByRect() mItemList.size() = %d", static_cast<int>(mItemList.size()));
+    std::string text;
+    for (std::size_t i = 0; i < mItemList.size(); ++i) {
+        const Rects parts = requestedParts(visible[i], requested);
+        gLog(TRACE, 979, "serialiseByRect() newRects.size() = %d", static_cast<int>(parts.size()));
+        DisplayablePrivateIfc* const side = mItemList[i]->getPrivateImpl();
+        if (side == nullptr)
+            continue;
+        const std::string entry = side->serialise(parts);
+        gLog(TRACE, 984, "serialiseByRect() mItemList.at(%d) serialised as \"%s\"", static_cast<int>(i), entry.c_str());
+        text += entry;
+    }
+    return text;
+}
+
+/// On the small panel the system window's lines stand in front, whatever is asked for; on the full one a popup stands
+/// behind, if it is asked for and the software has one.
+std::string DisplayPrivate::withSystemWindowText(const std::string& screen, bool wanted) const
+{
+    const KestrelApplication* const application = KestrelApplication::getCurrentApplication();
+    if (hardwareVariant() == SMALL_PANEL)
+        return smallSystemWindowText(screen) + screen;
+    const bool hasPopup = isFullPanel() && application != nullptr && application->getSoftwareType() == KVX;
+    return hasPopup && wanted && mPopupShown ? screen + mSystemWindowText : screen;
+}
+
+std::string DisplayPrivate::smallSystemWindowText(const std::string& screen) const
+{
+    const bool menuOnTop = mSystemWindowReset && holdsSmallContextMenu(screen);
+    return presentSystemWindowObject(mContentWidget->getSystemWindowText(0),
+                                     menuOnTop ? firstMenuLine(screen) : mContentWidget->getSystemWindowText(1));
+}
+
+} // namespace DisplayAPI
