@@ -145,6 +145,20 @@ void KestrelListBox::setBackArrow(bool on)
     Invalidate();
 }
 
+void KestrelListBox::setTickerShown(bool on)
+{
+    if (mImpl->ticker == on)
+        return;
+    mImpl->ticker = on;
+    mImpl->scrollToCurrent();
+    Invalidate();
+}
+
+PegRect KestrelListBox::tickerArea() const
+{
+    return mImpl->geometry().ticker;
+}
+
 void KestrelListBox::setExclusive(bool on)
 {
     mImpl->exclusive = on;

@@ -9,12 +9,14 @@ constexpr KestrelListBox::Layout LAYOUT{
     .panel = {0, 0, 207, 41},
     .font = host::Font::FIXED,
     .titleFont = host::Font::FIXED_BOLD,
+    .statusLineHeight = 21,
     .titleHeight = 21,
     .rowHeight = 21,
     .gutter = 8,
     .leftInset = 1,
     .rightInset = 0,
     .scrollWidth = 7,
+    .tickerInTitle = true,
     .scrollBar = false,
 };
 

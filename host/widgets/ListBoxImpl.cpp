@@ -9,7 +9,13 @@ using namespace host;
 
 ListGeometry KestrelListBox::Impl::geometry() const
 {
-    return geometryOf(layout, box.Area(), {rows.size(), top, !title.empty(), back, exclusive});
+    return geometryOf(layout, box.Area(),
+                      {.rows = rows.size(),
+                       .top = top,
+                       .titled = !title.empty(),
+                       .ticker = ticker,
+                       .back = back,
+                       .exclusive = exclusive});
 }
 
 int KestrelListBox::Impl::lastTop() const
@@ -81,23 +87,12 @@ void KestrelListBox::Impl::moveMark(KestrelListBoxItem* from)
 bool KestrelListBox::Impl::key(int key)
 {
     switch (key) {
-    case PK_UP:
-        step(-1);
-        return true;
-    case PK_DOWN:
-        step(1);
-        return true;
-    case PK_LEFT:
-        tell(PM_LEFT, current);
-        return true;
-    case PK_RIGHT:
-        tellIfRow(PM_RIGHT);
-        return true;
-    case PK_OK:
-        tellIfRow(PM_CLICKED);
-        return true;
-    default:
-        return false;
+    case PK_UP: step(-1); return true;
+    case PK_DOWN: step(1); return true;
+    case PK_LEFT: tell(PM_LEFT, current); return true;
+    case PK_RIGHT: tellIfRow(PM_RIGHT); return true;
+    case PK_OK: tellIfRow(PM_CLICKED); return true;
+    default: return false;
     }
 }
 

@@ -28,6 +28,7 @@ struct KestrelListBox::Impl {
     void drawTitle(PegPainter& painter, const host::ListGeometry& parts) const;
     void drawRow(PegPainter& painter, const host::ListGeometry& parts, int slot) const;
     void drawScroll(PegPainter& painter, const host::ListGeometry& parts) const;
+    void drawTickerRule(PegPainter& painter, const host::ListGeometry& parts) const;
 
     KestrelListBox& box;
     const Layout& layout;
@@ -39,4 +40,5 @@ struct KestrelListBox::Impl {
     bool highlight = true;
     bool back = false;
     bool exclusive = false;
+    bool ticker = false;
 };

@@ -34,16 +34,19 @@ void KestrelListBox::Draw(PegPainter& painter)
     for (int slot = 0; slot < parts.visibleRows; ++slot)
         mImpl->drawRow(painter, parts, slot);
     mImpl->drawScroll(painter, parts);
+    mImpl->drawTickerRule(painter, parts);
 }
 
 void KestrelListBox::Impl::drawTitle(PegPainter& painter, const ListGeometry& parts) const
 {
     if (!isEmpty(parts.title) && !painter.isClippedOut(parts.title)) {
         const PegRect& bar = parts.title;
+        const bool hidden = overlap(parts.ticker, bar);
         const auto line = static_cast<std::int16_t>(bar.bottom - 1);
-        painter.fill({bar.left, bar.top, bar.right, line}, Level::LIGHT);
+        painter.fill({bar.left, bar.top, bar.right, line}, hidden ? Level::BARE : Level::LIGHT);
         painter.fill({bar.left, line, bar.right, line}, Level::DARK);
-        painter.text(parts.titleText, title, {layout.titleFont});
+        if (!hidden)
+            painter.text(parts.titleText, title, {layout.titleFont});
     }
     if (!isEmpty(parts.back))
         painter.icon(icons::BACK, parts.back, Level::DARK);
@@ -80,4 +83,11 @@ void KestrelListBox::Impl::drawScroll(PegPainter& painter, const ListGeometry& p
         return;
     painter.fill(parts.track, Level::LIGHT);
     painter.fill(parts.thumb, Level::DARK);
+}
+
+void KestrelListBox::Impl::drawTickerRule(PegPainter& painter, const ListGeometry& parts) const
+{
+    const auto line = static_cast<std::int16_t>(parts.ticker.top - 1);
+    if (!isEmpty(parts.ticker) && !layout.tickerInTitle)
+        painter.fill({parts.ticker.left, line, parts.ticker.right, line}, Level::LIGHT);
 }

@@ -8,11 +8,13 @@ struct KestrelListBox::Layout {
     PegRect panel; ///< the area of a new list
     host::Font font;
     host::Font titleFont;
+    int statusLineHeight;
     int titleHeight;
     int rowHeight;
     int gutter;    ///< left of the rows
     int leftInset; ///< from a row's left edge to its text
     int rightInset;
     int scrollWidth;
-    bool scrollBar; ///< a bar, there when it is needed; otherwise arrows, with a place that is always kept
+    bool tickerInTitle; ///< a ticker takes the title's place, not a row's
+    bool scrollBar;     ///< a bar, there when it is needed; otherwise arrows, with a place that is always kept
 };

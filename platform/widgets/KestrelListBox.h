@@ -64,6 +64,13 @@ public:
     /// Whether the rows carry the mark of an exclusive list.
     void setExclusive(bool on);
 
+    /// Keeps a strip free for a ticker: below the rows, or in the title's place on the panel of two lines. Whoever puts
+    /// a ticker there adds it as a child.
+    void setTickerShown(bool on);
+
+    /// The strip that is kept free; empty where none is. It moves when the list is resized.
+    PegRect tickerArea() const;
+
     struct Layout;
 
 protected:

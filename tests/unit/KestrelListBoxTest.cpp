@@ -315,4 +315,35 @@ TEST_F(KestrelListBoxTest, insertedRowsLeaveTheMarkWhereItIs)
     EXPECT_FALSE(list->itemAt(2)->isMarked());
 }
 
+TEST_F(KestrelListBoxTest, tickerTakesTheLastRowsPlace)
+{
+    rows.append(*list, "abcdefghi");
+    list->setTitle(ICC::fromUTF8toUNICODE("Title"));
+    EXPECT_TRUE(host::isEmpty(list->tickerArea()));
+    list->setTickerShown(true);
+    EXPECT_EQ(list->tickerArea(), (PegRect{0, 111, 239, 127}));
+    EXPECT_FALSE(host::isEmpty(list->rowArea(4)));
+    EXPECT_TRUE(host::isEmpty(list->rowArea(5)));
+    list->setTickerShown(false);
+    EXPECT_FALSE(host::isEmpty(list->rowArea(5)));
+}
+
+TEST_F(KestrelListBoxTest, tickerKeepsTheCurrentRowInView)
+{
+    rows.append(*list, "abcdefg");
+    list->setCurrentRow(6);
+    list->setTickerShown(true);
+    EXPECT_FALSE(host::isEmpty(list->rowArea(6)));
+}
+
+TEST_F(KestrelListBoxTest, onTwoLinesTheTickerTakesTheTitlesPlace)
+{
+    KestrelListBoxWP1 twoLines;
+    rows.append(twoLines, "ab");
+    twoLines.setTickerShown(true);
+    EXPECT_EQ(twoLines.tickerArea(), (PegRect{9, 0, 200, 18}));
+    EXPECT_EQ(twoLines.rowArea(0).top, 21);
+    EXPECT_TRUE(host::isEmpty(twoLines.rowArea(1)));
+}
+
 } // namespace
