@@ -92,8 +92,32 @@ void PRESCPresentationManager::markBranch(PegThing* thing, bool current)
         thing->setStatus(PSF_CURRENT, current);
 }
 
+/// What is added slips under the messages that are up.
+void PRESCPresentationManager::slipUnderMessages(PegThing* child)
+{
+    if (child->Type() == TYPE_STATUS_MESSAGE)
+        return;
+    while (child->mPrevious != nullptr && child->mPrevious->Type() == TYPE_STATUS_MESSAGE)
+        lower(child);
+}
+
+/// Puts `child` under the one that lies directly below it.
+void PRESCPresentationManager::lower(PegThing* child)
+{
+    PegThing* const other = child->mPrevious;
+    PegThing* const below = other->mPrevious;
+    PegThing* const above = child->mNext;
+    (below != nullptr ? below->mNext : mFirst) = child;
+    (above != nullptr ? above->mPrevious : mLast) = other;
+    child->mPrevious = below;
+    child->mNext = other;
+    other->mPrevious = child;
+    other->mNext = above;
+}
+
 void PRESCPresentationManager::childAdded(PegThing* child, bool redraw)
 {
+    slipUnderMessages(child);
     if (!redraw)
         return;
     mPending = child;

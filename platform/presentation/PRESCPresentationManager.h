@@ -10,6 +10,7 @@
 ///         when the queue is empty, or the last frame is long enough ago: paint what is marked
 ///
 /// Dispatching is not re-entrant: a handler that wants something done later pushes a message.
+/// What is added lies on top of everything but status messages.
 /// Ownership: widgets added here belong to the manager until they are removed.
 class PRESCPresentationManager : public PegThing {
 public:
@@ -35,6 +36,8 @@ private:
     friend class PegThing;
 
     void childAdded(PegThing* child, bool redraw);
+    void slipUnderMessages(PegThing* child);
+    void lower(PegThing* child);
     void childRemoved(PegThing* child, bool redraw);
     void forget(PegThing* thing);
     static void markBranch(PegThing* thing, bool current);

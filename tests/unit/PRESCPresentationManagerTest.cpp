@@ -6,6 +6,7 @@
 #include "host/utilities/Log.h"
 #include "unit/RunningToolkit.h"
 #include "utilities/Threadable.h"
+#include "widgets/StatusMessage.h"
 
 #include <atomic>
 #include <gmock/gmock.h>
@@ -21,6 +22,49 @@ using testing_support::Gate;
 using testing_support::RecordingThing;
 using testing_support::RunningToolkit;
 using testing_support::StartedToolkit;
+
+std::vector<PegThing*> childrenOf(const PegThing& parent)
+{
+    std::vector<PegThing*> children;
+    for (PegThing* child = parent.First(); child != nullptr; child = child->NextSibling())
+        children.push_back(child);
+    return children;
+}
+
+class PresentationManagerMessageTest : public testing::Test {
+protected:
+    StartedToolkit toolkit;
+    PegThing* below = new PegThing;
+    StatusMessage* message = new StatusMessage("Saved", 0);
+    PegThing* added = new PegThing;
+};
+
+TEST_F(PresentationManagerMessageTest, WhatIsAddedSlipsUnderAStatusMessage)
+{
+    for (PegThing* thing : std::vector<PegThing*>{below, message, added})
+        gpPresent->Add(thing);
+    EXPECT_THAT(childrenOf(*gpPresent), ElementsAre(below, added, message));
+    delete message;
+    EXPECT_THAT(childrenOf(*gpPresent), ElementsAre(below, added));
+}
+
+TEST_F(PresentationManagerMessageTest, WhatIsAddedSlipsUnderTheOnlyThing)
+{
+    delete below;
+    gpPresent->Add(message);
+    gpPresent->Add(added);
+    EXPECT_THAT(childrenOf(*gpPresent), ElementsAre(added, message));
+    delete added;
+    EXPECT_THAT(childrenOf(*gpPresent), ElementsAre(message));
+}
+
+TEST_F(PresentationManagerMessageTest, ALaterMessageLiesAboveAnEarlierOne)
+{
+    auto* const later = new StatusMessage("Again", 0);
+    for (PegThing* thing : std::vector<PegThing*>{message, later, below, added})
+        gpPresent->Add(thing, false);
+    EXPECT_THAT(childrenOf(*gpPresent), ElementsAre(below, added, message, later));
+}
 
 class PresentationManagerFocusTest : public testing::Test {
 protected:
