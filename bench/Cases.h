@@ -13,10 +13,14 @@ constexpr const char* ONE_PRODUCER = "Asynchronous posts until carried out, one 
 constexpr const char* TWO_PRODUCERS = "Asynchronous posts until carried out, two producers";
 constexpr const char* NOTIFICATIONS = "Notifications in order through the executor";
 constexpr const char* SCREEN = "Screen";
+constexpr const char* HEAP = "Heap";
 
 // Each gives its cases; `directory` is where the benchmark's programs are.
 std::vector<Case> libraryCases();
 std::vector<Case> listCases();
+std::vector<Case> screenTextCases();
+std::vector<Case> languageCases();
+std::vector<Case> heapCases();
 std::vector<Case> firstFrameCases(const std::string& directory);
 std::vector<Case> futexCases();
 std::vector<Case> mutexLoopCases();

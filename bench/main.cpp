@@ -9,8 +9,13 @@ namespace {
 
 std::vector<bench::Case> allCases(const std::string& directory)
 {
-    std::vector<std::vector<bench::Case>> sources{bench::libraryCases(), bench::listCases(),
-                                                  bench::firstFrameCases(directory), bench::futexCases(),
+    std::vector<std::vector<bench::Case>> sources{bench::libraryCases(),
+                                                  bench::listCases(),
+                                                  bench::screenTextCases(),
+                                                  bench::languageCases(),
+                                                  bench::firstFrameCases(directory),
+                                                  bench::heapCases(),
+                                                  bench::futexCases(),
                                                   bench::mutexLoopCases()};
 #ifdef BENCH_LIBUV
     sources.push_back(bench::libuvCases());

@@ -86,11 +86,14 @@ public:
     /// What is shown, as text in ASCII (other characters become "?"): an object for each displayable of the stack,
     /// bottom to top.
     ///
-    ///     object:                     string0: first text of a sub-item
-    ///     name: type                  endsubitem:
-    ///     caption: text               end:
+    ///     object:
+    ///     name:KestrelListBox
+    ///     caption:Contacts
     ///     subitem:
-    ///     name: type
+    ///     name:KestrelListBoxItem
+    ///     string0:Ada
+    ///     endsubitem:
+    ///     end:
     ///
     /// By rectangles: what can be seen of the stack and lies in `rects`, which needs an observer to be subscribed, and
     /// the system window: always on the small panel, on the full one where it floats and is asked for. Rectangles
@@ -118,8 +121,8 @@ public:
     /// The status lines of the system window: line 0 is its caption. Displayables that draw them themselves are handed
     /// the lines that have changed; above all others the window floats, with at most two. Set the texts, then the size,
     /// which shows them; 0 takes them away. Only while the display is shown; lines outside 0 to 5 and negative sizes
-    /// are ignored, 7 and more show nothing. An empty text becomes a blank, as do all texts on the small panel that are
-    /// to be taken down. From another thread these two are posted: they return at once.
+    /// are ignored, 7 and more show nothing. An empty text becomes a blank. On the small panel a
+    /// floating window goes when all its lines are blank. From another thread these two return at once.
     void setSystemWindowSize(int lines);
     void setSystemWindowText(int line, std::string text);
 

@@ -1,0 +1,68 @@
+#include "Cases.h"
+#include "OnGuiThread.h"
+#include "Phone.h"
+
+#include "DisplayAPI/List.h"
+#include "utilities/Semaphore.h"
+#include "utilities/Wait.h"
+
+#include <cstdio>
+#include <malloc.h>
+#include <memory>
+
+namespace bench {
+
+namespace {
+
+constexpr int ROWS = 10'000;
+
+/// In every arena and with what the allocator itself needs for each block.
+double heapInUse()
+{
+    const struct mallinfo2 info = mallinfo2();
+    return static_cast<double>(info.uordblks + info.hblkhd);
+}
+
+/// Rows made on the GUI thread: no request records are on their way.
+double bytesPerRow()
+{
+    Phone phone;
+    DisplayAPI::List list(0);
+    list.append("Entry 00000");
+    double bytes = 0;
+    OnGuiThread::run([&] {
+        const double before = heapInUse();
+        for (int row = 1; row <= ROWS; ++row) {
+            char text[32];
+            std::snprintf(text, sizeof text, "Entry %05d", row);
+            list.append(text);
+        }
+        bytes = (heapInUse() - before) / ROWS;
+    });
+    return bytes;
+}
+
+/// What each facade has of its own whatever it shows: the request lock, the Wait object, the record that holds them.
+double bytesPerFacadeSynchronisation()
+{
+    struct Record {
+        std::unique_ptr<Semaphore> lock = std::make_unique<Semaphore>(Semaphore::AVAILABLE, 1, false);
+        std::unique_ptr<Wait> wait = std::make_unique<Wait>();
+    };
+    static_assert(sizeof(Record) == 2 * sizeof(void*));
+    std::vector<std::unique_ptr<Record>> records(ROWS);
+    const double before = heapInUse();
+    for (auto& record : records)
+        record = std::make_unique<Record>();
+    return (heapInUse() - before) / ROWS;
+}
+
+} // namespace
+
+std::vector<Case> heapCases()
+{
+    return {{HEAP, "A list row \"Entry 00001\"", "bytes", bytesPerRow},
+            {HEAP, "of which a facade's lock, Wait object and their record", "bytes", bytesPerFacadeSynchronisation}};
+}
+
+} // namespace bench
