@@ -111,29 +111,64 @@ void Clock::advance(std::int64_t ms)
     letOthersRun();
     const std::int64_t end = now() + ms;
     while (now() < end) {
-        moveTo(nextStop(end));
+        letTimersRun(end);
+        moveToNextStop(end);
         letOthersRun();
     }
 }
 
-/// Due times that have passed already belong to a loop that does not run: they do not hold the clock up.
-std::int64_t Clock::nextStop(std::int64_t end) const
+/// A handover between threads for each timer would take a hundred times as long as the timer: the loop goes from one to
+/// the next by itself, up to where a sleeper has to wake. It may take its time as long as the clock moves.
+void Clock::letTimersRun(std::int64_t end)
 {
+    mLeftToLoop = end;
+    std::int64_t before = 0;
+    do
+        before = now();
+    while (!Loop::waitUntilIdle(PATIENCE) && now() > before);
     std::lock_guard lock(mMutex);
-    std::int64_t stop = end;
-    if (mTimerDue > mVirtualNow)
-        stop = std::min<std::int64_t>(stop, mTimerDue);
-    if (const auto due = mSleeperDues.upper_bound(mVirtualNow); due != mSleeperDues.end())
-        stop = std::min(stop, *due);
-    return stop;
+    mLeftToLoop = 0;
 }
 
-void Clock::moveTo(std::int64_t moment)
+bool Clock::isTimerDue() const
+{
+    return mTimerDue <= now() || leavesTimersToLoop();
+}
+
+bool Clock::leavesTimersToLoop() const
+{
+    return mVirtual && mTimerDue > mVirtualNow && mTimerDue <= mLeftToLoop;
+}
+
+bool Clock::moveToTimer()
+{
+    if (!leavesTimersToLoop())
+        return false;
+    std::lock_guard lock(mMutex);
+    if (firstSleeperDue() <= mTimerDue)
+        mLeftToLoop = 0;
+    if (!leavesTimersToLoop())
+        return false;
+    mVirtualNow = mTimerDue.load();
+    return true;
+}
+
+std::int64_t Clock::firstSleeperDue() const
+{
+    const auto due = mSleeperDues.upper_bound(mVirtualNow);
+    return due != mSleeperDues.end() ? *due : NEVER;
+}
+
+/// Due times that have passed already belong to a loop that does not run: they do not hold the clock up.
+void Clock::moveToNextStop(std::int64_t end)
 {
     std::lock_guard lock(mMutex);
-    mVirtualNow = moment;
+    std::int64_t stop = std::min(end, firstSleeperDue());
+    if (mTimerDue > mVirtualNow)
+        stop = std::min<std::int64_t>(stop, mTimerDue);
+    mVirtualNow = std::max<std::int64_t>(stop, mVirtualNow);
     ++mStopNumber;
-    const auto firstStillAsleep = mSleeperDues.upper_bound(moment);
+    const auto firstStillAsleep = mSleeperDues.upper_bound(mVirtualNow);
     mAwake = static_cast<int>(std::distance(mSleeperDues.begin(), firstStillAsleep));
     mSleeperDues.erase(mSleeperDues.begin(), firstStillAsleep);
     mMoved.notify_all();

@@ -29,9 +29,9 @@ public:
     bool isVirtual() const;
 
     /// Moves the virtual clock, from one due time to the next so that sleepers and timers run in order, and wakes the
-    /// GUI loop. At each stop the loop becomes idle and the sleepers that were woken go back to sleep, end or have used
-    /// up some real time, before the clock moves on.
-    /// Negative values are ignored, and so is the call while the clock is real.
+    /// GUI loop. At each stop the loop handles all its messages, and the sleepers that were woken go back to sleep, end
+    /// or have used up some real time, before the clock moves on; it is painted in the end, and where a sleeper is
+    /// woken. Negative values are ignored, and so is the call while the clock is real.
     void advance(std::int64_t ms);
 
     /// Sleeps on this clock. Returns early with false when `stop` (may be null) becomes true; look at wakeSleepers().
@@ -53,14 +53,24 @@ public:
     void setTimerDue(std::int64_t due);
     std::int64_t timerDue() const;
 
+    /// Whether a timer is to run without anybody moving the clock: it is due, or the loop is to go on to it by itself.
+    bool isTimerDue() const;
+
+    /// Whether the loop is to go on by itself to a timer that is not due yet.
+    bool leavesTimersToLoop() const;
+
+    /// Goes on to the next timer, if that is left to the loop. For the loop, when it has nothing else to do.
+    bool moveToTimer();
+
 private:
     class Wakefulness;
 
     Clock();
 
     bool sleepVirtual(std::unique_lock<std::mutex>& lock, std::int64_t ms, const bool* stop);
-    std::int64_t nextStop(std::int64_t end) const;
-    void moveTo(std::int64_t moment);
+    void letTimersRun(std::int64_t end);
+    std::int64_t firstSleeperDue() const;
+    void moveToNextStop(std::int64_t end);
     void letOthersRun();
     void fellAsleep(std::uint64_t stopNumber);
     void forgetAwake();
@@ -71,6 +81,7 @@ private:
     std::atomic<bool> mVirtual{false};
     std::atomic<std::int64_t> mVirtualNow{0};
     std::atomic<std::int64_t> mTimerDue{NEVER};
+    std::atomic<std::int64_t> mLeftToLoop{0}; ///< timers up to this moment are the loop's to go to
     std::multiset<std::int64_t> mSleeperDues;
     std::uint64_t mStopNumber = 0; ///< counts the stops of the virtual clock
     int mAwake = 0;                ///< sleepers woken at this stop that still run

@@ -22,8 +22,7 @@ LoopStatus::LoopStatus()
 
 bool LoopStatus::isIdle() const
 {
-    const Clock& clock = Clock::instance();
-    return restsWithoutWork && MainQueue::isEmpty() && clock.timerDue() > clock.now();
+    return restsWithoutWork && MainQueue::isEmpty() && !Clock::instance().isTimerDue();
 }
 
 void LoopStatus::setRoot(PegThing* root)

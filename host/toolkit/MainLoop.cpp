@@ -21,10 +21,10 @@ std::int64_t untilDue()
     const Clock& clock = Clock::instance();
     const std::int64_t timerDue = clock.timerDue();
     std::int64_t wait = Clock::NEVER;
-    if (timerDue != Clock::NEVER)
+    if (clock.isTimerDue())
+        wait = 0;
+    else if (timerDue != Clock::NEVER && !clock.isVirtual())
         wait = std::max<std::int64_t>(timerDue - clock.now(), 0);
-    if (clock.isVirtual() && wait > 0)
-        wait = Clock::NEVER;
     return MainLoop::isPainted() ? wait : std::min<std::int64_t>(wait, Lcd::current()->untilFrameDue());
 }
 
@@ -86,14 +86,15 @@ void MainLoop::paintIfDue()
 {
     if (isPainted())
         return;
-    const bool somebodyWaits = LoopStatus::instance().watchers > 0 && MainQueue::isEmpty();
+    const bool somebodyWaits =
+        LoopStatus::instance().watchers > 0 && MainQueue::isEmpty() && !Clock::instance().leavesTimersToLoop();
     if (somebodyWaits || Lcd::current()->untilFrameDue() == 0)
         Lcd::current()->paint();
 }
 
 void MainLoop::waitForWork()
 {
-    if (mEnded || Spin::until([] { return !MainQueue::isEmpty(); }))
+    if (mEnded || Clock::instance().moveToTimer() || Spin::until([] { return !MainQueue::isEmpty(); }))
         return;
     mDone.giveBack();
     sleep();

@@ -1,5 +1,6 @@
 #include "host/clock/Clock.h"
 
+#include "host/lcd/Lcd.h"
 #include "unit/RunningToolkit.h"
 
 #include <atomic>
@@ -7,13 +8,16 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <mutex>
+#include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace {
 
 using host::Clock;
 using testing::ElementsAre;
+using testing::Pair;
 using testing_support::becomesTrue;
 using testing_support::Gate;
 using testing_support::RunningToolkit;
@@ -264,6 +268,90 @@ TEST_F(VirtualClockTest, WhatASleeperPushesIsHandledBeforeTheClockMovesOn)
     sleeper.join();
     ASSERT_TRUE(toolkit.waitUntilIdle());
     EXPECT_THAT(handled, ElementsAre(1'000, 2'000, 3'000));
+}
+
+TEST_F(VirtualClockTest, TenHoursOfAVisibleTimerAreNotPaintedTickByTick)
+{
+    RunningToolkit toolkit;
+    std::vector<std::int64_t> ticks;
+    std::atomic<int> frames = 0;
+    PegThing* ticking = nullptr;
+    toolkit.run([&] {
+        ticking = new Ticking([&](std::int32_t) {
+            ticks.push_back(passed());
+            ticking->Invalidate();
+        });
+        ticking->Resize({0, 0, 59, 11});
+        gpPresent->Add(ticking);
+        ticking->SetTimer(1, 1'000, true);
+        host::Lcd::current()->setFrameListener([&] { ++frames; });
+    });
+    clock.advance(36'000'000);
+    ASSERT_EQ(ticks.size(), 36'000u);
+    for (std::size_t i = 0; i < ticks.size(); ++i)
+        ASSERT_EQ(ticks[i], static_cast<std::int64_t>(1'000 * (i + 1)));
+    EXPECT_LT(frames, 3'600) << "the loop is not handed to and fro for each tick";
+    toolkit.run([] {
+        EXPECT_FALSE(host::Lcd::current()->isDirty());
+        host::Lcd::current()->setFrameListener({});
+    });
+}
+
+TEST_F(VirtualClockTest, TimersAndSleepersRunInTheOrderOfTheirTimes)
+{
+    RunningToolkit toolkit;
+    std::mutex mutex;
+    std::vector<std::pair<std::string, std::int64_t>> order;
+    const auto note = [&](const char* who) {
+        std::lock_guard lock(mutex);
+        order.emplace_back(who, passed());
+    };
+    toolkit.run([&] {
+        auto* const ticking = new Ticking([&](std::int32_t) { note("timer"); });
+        gpPresent->Add(ticking);
+        ticking->SetTimer(1, 100, true);
+    });
+    std::thread sleeper([&] {
+        for (int round = 0; round < 2; ++round) {
+            clock.sleepFor(150);
+            note("sleeper");
+        }
+    });
+    ASSERT_TRUE(sleeperIsThere());
+    clock.advance(250);
+    EXPECT_THAT(order, ElementsAre(Pair("timer", 100), Pair("sleeper", 150), Pair("timer", 200)));
+    clock.advance(100);
+    sleeper.join();
+    EXPECT_EQ(order.size(), 5u);
+}
+
+TEST_F(VirtualClockTest, WhatATimerPushesIsHandledBeforeTheClockMovesOn)
+{
+    RunningToolkit toolkit;
+    std::vector<std::int64_t> handled;
+    toolkit.run([&] {
+        auto* const ticking = new Ticking([&](std::int32_t) { toolkit.post([&] { handled.push_back(passed()); }); });
+        gpPresent->Add(ticking);
+        ticking->SetTimer(1, 400, true);
+    });
+    clock.advance(1'000);
+    EXPECT_THAT(handled, ElementsAre(400, 800));
+}
+
+TEST_F(VirtualClockTest, LoopThatIsHeldUpDoesNotStopTime)
+{
+    RunningToolkit toolkit;
+    Gate release;
+    toolkit.run([&] {
+        auto* const ticking = new Ticking([&](std::int32_t) { EXPECT_TRUE(release.wait()); });
+        gpPresent->Add(ticking);
+        ticking->SetTimer(1, 100, true);
+    });
+    clock.advance(1'000);
+    EXPECT_EQ(passed(), 1'000);
+    release.open();
+    EXPECT_TRUE(toolkit.waitUntilIdle());
+    EXPECT_EQ(passed(), 1'000) << "the loop moves the clock no more";
 }
 
 } // namespace
