@@ -25,12 +25,18 @@ std::atomic<Lcd*> gCurrent{nullptr};
 
 void drawTree(PegThing& thing, const PegPainter& painter)
 {
-    PegPainter own = painter.clippedTo(thing.Area());
+    PegPainter own = painter.paintingFor(thing);
     if (isEmpty(own.clip()))
         return;
     thing.Draw(own);
     for (PegThing* child = thing.First(); child != nullptr; child = child->NextSibling())
         drawTree(*child, own);
+}
+
+PegRect focusArea()
+{
+    const PegThing* focus = gpPresent == nullptr ? nullptr : gpPresent->Focus();
+    return focus == nullptr ? PegRect{0, 0, -1, -1} : focus->Area();
 }
 
 } // namespace
@@ -48,6 +54,7 @@ struct Lcd::Impl {
     FrameBuffer buffer;
     TextMap texts;
     std::uint64_t frame = 0;
+    PegRect focus{0, 0, -1, -1};
     std::shared_ptr<const std::function<void()>> listener;
 };
 
@@ -98,7 +105,7 @@ void Lcd::invalidate(const PegRect& area)
 
 bool Lcd::isDirty() const
 {
-    return !mImpl->dirty.isEmpty();
+    return !mImpl->dirty.isEmpty() || mImpl->focus != focusArea();
 }
 
 int Lcd::untilFrameDue() const
@@ -117,6 +124,7 @@ void Lcd::paint()
         for (const PegRect& area : mImpl->dirty.take())
             mImpl->paintArea(area);
         ++mImpl->frame;
+        mImpl->focus = focusArea();
         listener = mImpl->listener;
     }
     mImpl->lastFrame = Time::now();
@@ -124,10 +132,15 @@ void Lcd::paint()
         (*listener)();
 }
 
+int Lcd::textWidth(Font font, const PegString& text)
+{
+    return mImpl->renderer.mask(font, text, TextMask::MAX_WIDTH).width;
+}
+
 Picture Lcd::picture() const
 {
     std::lock_guard lock(mImpl->mutex);
-    return {mWidth, mHeight, mImpl->buffer.pixels(), mImpl->texts.sorted(), mImpl->frame};
+    return {mWidth, mHeight, mImpl->buffer.pixels(), mImpl->texts.sorted(), mImpl->frame, mImpl->focus};
 }
 
 void Lcd::setFrameListener(std::function<void()> listener)

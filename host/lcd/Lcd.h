@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/lcd/Fonts.h"
+#include "toolkit/PString.h"
 #include "toolkit/PegRect.h"
 #include "toolkit/PegScreen.h"
 
@@ -58,6 +60,7 @@ public:
     /// Adds to what has to be painted again, cut to the panel.
     void invalidate(const PegRect& area);
 
+    /// Something has to be painted again, or the focus has moved: that makes a frame of its own.
     bool isDirty() const;
 
     /// Milliseconds (of real time) until the next frame is due; 0 when it is. Only of interest while dirty.
@@ -66,6 +69,9 @@ public:
     /// Paints what is dirty: from the presentation manager's bottom child to its top one, clipped to the dirty
     /// rectangles. Then tells the frame listener. Nothing is done where nothing is dirty.
     void paint();
+
+    /// How wide the text is when nothing of it is cut off; at most TextMask::MAX_WIDTH. GUI thread only.
+    int textWidth(Font font, const PegString& text);
 
     Picture picture() const;
 

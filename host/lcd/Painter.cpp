@@ -3,6 +3,7 @@
 #include "host/lcd/Geometry.h"
 #include "host/lcd/TextMap.h"
 #include "host/lcd/TextRenderer.h"
+#include "toolkit/PegThing.h"
 #include "utilities/ICC.h"
 
 #include <cstring>
@@ -33,12 +34,9 @@ int startOf(Align align, const PegRect& cell, int width)
 {
     const int spare = widthOf(cell) - width;
     switch (align) {
-    case Align::LEFT:
-        return cell.left;
-    case Align::CENTRE:
-        return cell.left + spare / 2;
-    case Align::RIGHT:
-        return cell.left + spare;
+    case Align::LEFT: return cell.left;
+    case Align::CENTRE: return cell.left + spare / 2;
+    case Align::RIGHT: return cell.left + spare;
     }
     return cell.left;
 }
@@ -48,6 +46,16 @@ std::string wholeText(const PegString& text)
     if (text.length() <= TextRun::MAX_LENGTH)
         return ICC::fromUNICODEtoUTF8(text);
     return ICC::fromUNICODEtoUTF8(PegString(text.data(), TextRun::MAX_LENGTH));
+}
+
+TextRun runOf(const PegRect& area, const PegString& text, const TextLook& look, const TextMask& mask)
+{
+    return {.area = area,
+            .text = wholeText(text),
+            .inverted = look.inverted,
+            .cut = mask.cut || text.length() > TextRun::MAX_LENGTH,
+            .lacksGlyph = mask.lacksGlyph,
+            .runs = look.runs};
 }
 
 } // namespace
@@ -60,7 +68,16 @@ PegPainter::PegPainter(FrameBuffer& buffer, TextMap& texts, TextRenderer& render
 
 PegPainter PegPainter::clippedTo(const PegRect& area) const
 {
-    return {mBuffer, mTexts, mRenderer, intersection(mClip, area)};
+    PegPainter part = *this;
+    part.mClip = intersection(mClip, area);
+    return part;
+}
+
+PegPainter PegPainter::paintingFor(const PegThing& thing) const
+{
+    PegPainter own = clippedTo(thing.Area());
+    own.mWidget = thing.Type();
+    return own;
 }
 
 bool PegPainter::isClippedOut(const PegRect& area) const
@@ -114,7 +131,37 @@ void PegPainter::text(const PegRect& cell, const PegString& text, const TextLook
     if (isClippedOut(visible))
         return;
     stencil(mask.ink.data(), box, look.inverted ? Level::BARE : Level::DARK, cell);
-    mTexts.add({visible, wholeText(text), look.inverted, mask.cut || text.length() > TextRun::MAX_LENGTH});
+    note(runOf(visible, text, look, mask));
+}
+
+void PegPainter::scrolledText(const PegRect& cell, const PegString& text, const TextLook& look, int gone, int gap)
+{
+    if (text.empty() || isClippedOut(cell))
+        return;
+    const TextMask& mask = mRenderer.mask(look.font, text, TextMask::MAX_WIDTH);
+    const int way = mask.rightToLeft ? -1 : 1;
+    const int first = startOf(mask.rightToLeft ? Align::RIGHT : Align::LEFT, cell, mask.width) - way * gone;
+    const int top = baseLine(look.font, cell) - TextMask::ASCENT;
+    const PegRect box = rectAt(first, top, mask.width, TextMask::HEIGHT);
+    const bool fits = mask.width <= widthOf(cell);
+    const PegRect again = fits ? box : rectAt(first + way * (mask.width + gap), top, mask.width, TextMask::HEIGHT);
+    const PegRect visible = intersection(boundsOf(box, again), cell);
+    if (isClippedOut(visible))
+        return;
+    for (const PegRect& place : {box, again})
+        stencil(mask.ink.data(), place, look.inverted ? Level::BARE : Level::DARK, cell);
+    note(runOf(visible, text, look, mask));
+}
+
+int PegPainter::textWidth(const PegString& text, Font font, int most)
+{
+    return text.empty() ? 0 : mRenderer.mask(font, text, most).width;
+}
+
+void PegPainter::note(TextRun run)
+{
+    run.widget = mWidget;
+    mTexts.add(std::move(run));
 }
 
 void PegPainter::stencil(const unsigned char* ink, const PegRect& box, Level level, const PegRect& limits)

@@ -9,6 +9,7 @@
 namespace host {
 class TextMap;
 class TextRenderer;
+struct TextRun;
 
 enum class Align { LEFT, CENTRE, RIGHT };
 
@@ -16,8 +17,11 @@ struct TextLook {
     Font font = Font::TEXT;
     Align align = Align::LEFT;
     bool inverted = false; ///< bare on dark; whoever paints the text has filled the area dark
+    bool runs = false;     ///< changes by itself as time passes
 };
 } // namespace host
+
+class PegThing;
 
 /// Paints on the panel, inside its clip only. Made by the panel for the time of a frame.
 class PegPainter {
@@ -26,6 +30,9 @@ public:
 
     /// The same, further clipped.
     PegPainter clippedTo(const PegRect& area) const;
+
+    /// The same, clipped to the thing's area: what is painted from now on is the thing's.
+    PegPainter paintingFor(const PegThing& thing) const;
 
     const PegRect& clip() const { return mClip; }
     bool isClippedOut(const PegRect& area) const;
@@ -42,12 +49,21 @@ public:
     /// On one line, in the vertical middle of `cell`; ends in an ellipsis where it is too long for it.
     void text(const PegRect& cell, const PegString& text, const host::TextLook& look);
 
+    /// The same from the edge at which the text begins to be read, whole: `gone` pixels of it lie beyond that edge, and
+    /// `gap` pixels behind its end it begins again.
+    void scrolledText(const PegRect& cell, const PegString& text, const host::TextLook& look, int gone, int gap);
+
+    /// The pixels that text() takes in a cell that is `most` pixels wide.
+    int textWidth(const PegString& text, host::Font font, int most);
+
 private:
     void fillClipped(const PegRect& area, host::Level level);
+    void note(host::TextRun run);
     void stencil(const unsigned char* ink, const PegRect& box, host::Level level, const PegRect& limits);
 
     host::FrameBuffer& mBuffer;
     host::TextMap& mTexts;
     host::TextRenderer& mRenderer;
     PegRect mClip;
+    std::uint8_t mWidget = 0; ///< the PegType of whoever paints
 };

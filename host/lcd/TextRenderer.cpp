@@ -75,6 +75,7 @@ TextMask boxes(std::size_t count, int width)
     TextMask mask;
     mask.width = std::min(width, static_cast<int>(count) * STEP);
     mask.cut = static_cast<int>(count) * STEP > width;
+    mask.lacksGlyph = true;
     mask.ink.resize(static_cast<std::size_t>(mask.width * TextMask::HEIGHT));
     for (int y = TOP; y < BOTTOM; ++y) {
         for (int x = 0; x < mask.width; ++x) {
@@ -105,7 +106,8 @@ struct TextRenderer::Canvas {
     Canvas(const Canvas&) = delete;
     Canvas& operator=(const Canvas&) = delete;
 
-    void draw(PangoLayout* layout) const;
+    /// Draws what lies in the first `columns` pixels; what is to the right of them is undefined.
+    void draw(PangoLayout* layout, int columns) const;
     void copyTo(TextMask& mask) const;
 
     int width;
@@ -113,10 +115,11 @@ struct TextRenderer::Canvas {
     cairo_t* context;
 };
 
-void TextRenderer::Canvas::draw(PangoLayout* layout) const
+void TextRenderer::Canvas::draw(PangoLayout* layout, int columns) const
 {
     cairo_set_operator(context, CAIRO_OPERATOR_CLEAR);
-    cairo_paint(context);
+    cairo_rectangle(context, 0, 0, columns, TextMask::HEIGHT);
+    cairo_fill(context);
     cairo_set_operator(context, CAIRO_OPERATOR_OVER);
     cairo_move_to(context, 0, TextMask::ASCENT);
     pango_cairo_show_layout_line(context, pango_layout_get_line_readonly(layout, 0));
@@ -170,22 +173,26 @@ void TextRenderer::forgetOldest()
 TextMask TextRenderer::render(const Key& key)
 {
     if (key.text.empty() || key.width == 0)
-        return {0, !key.text.empty(), {}};
+        return {.cut = !key.text.empty(), .ink = {}};
     std::u16string text = key.text;
     PangoLayout* layout = mFonts.layoutFor(key.font, text);
     if (layout == nullptr)
         return boxes(text.size(), key.width);
-    if (!mCanvas || mCanvas->width < key.width)
-        mCanvas = std::make_unique<Canvas>(key.width);
     const PangoThreads threads;
     const std::string utf8 = toUtf8(text);
     pango_layout_set_width(layout, key.width * PANGO_SCALE);
     pango_layout_set_text(layout, utf8.data(), static_cast<int>(utf8.size()));
-    mCanvas->draw(layout);
-
+    PangoLayoutLine* const line = pango_layout_get_line_readonly(layout, 0);
     PangoRectangle extents;
-    pango_layout_line_get_pixel_extents(pango_layout_get_line_readonly(layout, 0), nullptr, &extents);
-    TextMask mask{std::clamp(extents.width, 0, key.width), pango_layout_is_ellipsized(layout) == TRUE, {}};
+    pango_layout_line_get_pixel_extents(line, nullptr, &extents);
+    TextMask mask{.width = std::clamp(extents.width, 0, key.width),
+                  .cut = pango_layout_is_ellipsized(layout) == TRUE,
+                  .rightToLeft = pango_layout_line_get_resolved_direction(line) == PANGO_DIRECTION_RTL,
+                  .lacksGlyph = text.find(REPLACEMENT) != std::u16string::npos,
+                  .ink = {}};
+    if (!mCanvas || mCanvas->width < mask.width)
+        mCanvas = std::make_unique<Canvas>(mask.width);
+    mCanvas->draw(layout, mask.width);
     mCanvas->copyTo(mask);
     return mask;
 }

@@ -15,9 +15,12 @@ namespace host {
 struct TextMask {
     static constexpr int ASCENT = 16;
     static constexpr int HEIGHT = 22;
+    static constexpr int MAX_WIDTH = 8192; ///< for a text that is wanted whole
 
     int width = 0;
-    bool cut = false; ///< more text than fits: an ellipsis stands at its end
+    bool cut = false;         ///< more text than fits: an ellipsis stands at its end
+    bool rightToLeft = false; ///< the text begins at the right
+    bool lacksGlyph = false;  ///< a character stands there as U+FFFD
     std::vector<std::uint8_t> ink;
 };
 

@@ -4,7 +4,8 @@
 #include "toolkit/PegThing.h"
 
 /// A line of text that runs from one edge to the other where it is too long for its area, and stands still where it
-/// fits. Costs nothing while it is not visible. GUI thread only.
+/// fits. It rests for a moment each time that its beginning has come to the edge. Costs nothing while it is not
+/// visible. GUI thread only.
 class TickerWidget : public PegThing {
 public:
     explicit TickerWidget(PegString text);
@@ -22,7 +23,9 @@ protected:
     void VisibilityChanged() override;
 
 private:
-    void run();
+    void beginAnew();
+    void rest();
+    void step();
 
     PegString mText;
     int mTextWidth = 0;
