@@ -1,0 +1,41 @@
+#pragma once
+
+#include "DisplayAPI/Widget.h"
+
+#include <string>
+
+namespace DisplayAPI {
+
+class TickerPrivateIfc;
+
+/// A line of text for a list: it runs where it is too long for its place, and stands still where it fits.
+///
+/// Threads: safe from any thread but for the destructor. Every operation waits when called off the GUI thread.
+/// Delete tickers on the GUI thread: deleted elsewhere, their GUI-thread side stays behind.
+/// Ownership: a list that has been given the ticker owns what is shown of it. Set and get its text no longer than that
+/// list lives; deleting the ticker later is fine.
+class DISPLAYAPI_EXPORT Ticker : public Widget {
+public:
+    explicit Ticker(std::string text);
+    Ticker(const Ticker&) = delete;
+    Ticker& operator=(const Ticker&) = delete;
+    ~Ticker() override;
+
+    void processGuiRequest(GuiRequestEvent& request) override;
+
+    /// UTF-8. It begins anew.
+    void setText(std::string text);
+    std::string getText();
+
+    /// The GUI-thread side; null until it has been made. GUI thread only.
+    TickerPrivateIfc* getPrivateImpl() const;
+
+private:
+    void create(const std::string& text);
+    void changeText(const std::string& text);
+    std::string currentText();
+
+    TickerPrivateIfc* mImplementation = nullptr;
+};
+
+} // namespace DisplayAPI

@@ -1,0 +1,172 @@
+#include "DisplayAPI/Timer.h"
+
+#include "Request.h"
+#include "TimerPrivate.h"
+
+#include <memory>
+
+namespace DisplayAPI {
+
+namespace {
+
+enum Request {
+    CREATE = 0,
+    CLEAN_UP = 1,
+    START = 2,
+    STOP = 3,
+    ENABLE_SINGLE_SHOT = 4,
+    ADD_COMMAND_LISTENER = 5,
+    REMOVE_COMMAND_LISTENER = 6,
+    ADD_EVENT_LISTENER = 7,
+    REMOVE_EVENT_LISTENER = 8,
+    ADD_COMMAND = 9
+};
+
+std::set<int>* const ANY_CODE = nullptr;
+
+} // namespace
+
+Timer::Timer(int interval)
+{
+    name = "Timer";
+    if (isGuiThread())
+        create(interval);
+    else
+        postEventAsync(request(this, CREATE, interval));
+}
+
+Timer::Timer(TimerPrivateIfc* implementation) : mImplementation(implementation)
+{
+    name = "Timer";
+}
+
+Timer::~Timer()
+{
+    if (isGuiThread())
+        cleanUp();
+    else if (!dropQueuedRequests())
+        postEvent(CLEAN_UP);
+}
+
+void Timer::create(int interval)
+{
+    mImplementation = new TimerPrivate(interval);
+}
+
+void Timer::cleanUp()
+{
+    delete mImplementation;
+    mImplementation = nullptr;
+}
+
+/// Returns whether the GUI-thread side was still to be made, and now never will be.
+bool Timer::dropQueuedRequests()
+{
+    bool wasToBeMade = false;
+    while (const std::unique_ptr<GuiRequestEvent> dropped{dequeueOwnMessage(ANY_CODE)}) {
+        wasToBeMade = wasToBeMade || dropped->getType() == CREATE;
+        dropped->signalComplete();
+    }
+    return wasToBeMade;
+}
+
+/// A listener may delete the timer, so nothing of it is used after its handler has run.
+void Timer::processGuiRequest(GuiRequestEvent& request)
+{
+    switch (request.getType()) {
+    case CREATE: create(request.intParam1); break;
+    case CLEAN_UP: cleanUp(); break;
+    default:
+        if (mImplementation != nullptr)
+            processImplementationRequest(request);
+        break;
+    }
+    request.signalComplete();
+}
+
+void Timer::processImplementationRequest(GuiRequestEvent& request)
+{
+    TimerPrivateIfc& timer = *mImplementation;
+    switch (request.getType()) {
+    case START: timer.start(request.intParam1); break;
+    case STOP: timer.stop(); break;
+    case ENABLE_SINGLE_SHOT: timer.enableSingleShot(request.boolParam1); break;
+    case ADD_COMMAND_LISTENER: timer.addCommandListener(pointer<CommandListener>(request.ptrParam1)); break;
+    case REMOVE_COMMAND_LISTENER: timer.removeCommandListener(pointer<CommandListener>(request.ptrParam1)); break;
+    case ADD_EVENT_LISTENER: timer.addEventListener(pointer<TimerEvent>(request.ptrParam1)); break;
+    case REMOVE_EVENT_LISTENER: timer.removeEventListener(pointer<TimerEvent>(request.ptrParam1)); break;
+    case ADD_COMMAND: timer.addCommand(pointer<Command>(request.ptrParam1)); break;
+    default: break;
+    }
+}
+
+void Timer::start(int ms)
+{
+    if (!isGuiThread())
+        postEventAsync(request(this, START, ms));
+    else if (mImplementation != nullptr)
+        mImplementation->start(ms);
+}
+
+void Timer::stop()
+{
+    if (!isGuiThread())
+        postEventAsync(STOP);
+    else if (mImplementation != nullptr)
+        mImplementation->stop();
+}
+
+void Timer::enableSingleShot(bool on)
+{
+    if (!isGuiThread())
+        postEventAsync(request(this, ENABLE_SINGLE_SHOT, on));
+    else if (mImplementation != nullptr)
+        mImplementation->enableSingleShot(on);
+}
+
+void Timer::addCommand(Command* command)
+{
+    if (!isGuiThread())
+        postEventAsync(request(this, ADD_COMMAND, command));
+    else if (mImplementation != nullptr)
+        mImplementation->addCommand(command);
+}
+
+void Timer::addCommandListener(CommandListener* listener)
+{
+    if (!isGuiThread())
+        postEventAsync(request(this, ADD_COMMAND_LISTENER, listener));
+    else if (mImplementation != nullptr)
+        mImplementation->addCommandListener(listener);
+}
+
+void Timer::removeCommandListener(CommandListener* listener)
+{
+    if (!isGuiThread())
+        postEventAsync(request(this, REMOVE_COMMAND_LISTENER, listener));
+    else if (mImplementation != nullptr)
+        mImplementation->removeCommandListener(listener);
+}
+
+void Timer::addEventListener(TimerEvent* listener)
+{
+    if (!isGuiThread())
+        postEventAsync(request(this, ADD_EVENT_LISTENER, listener));
+    else if (mImplementation != nullptr)
+        mImplementation->addEventListener(listener);
+}
+
+void Timer::removeEventListener(TimerEvent* listener)
+{
+    if (!isGuiThread())
+        postEventAsync(request(this, REMOVE_EVENT_LISTENER, listener));
+    else if (mImplementation != nullptr)
+        mImplementation->removeEventListener(listener);
+}
+
+TimerPrivateIfc* Timer::getPrivateImpl() const
+{
+    return mImplementation;
+}
+
+} // namespace DisplayAPI
