@@ -4,6 +4,7 @@
 #include "DisplayAPI/ListBoxPrivateIfc.h"
 #include "DisplayAPI/ListItem.h"
 #include "DisplayAPI/ListItemPrivateIfc.h"
+#include "DisplayAPI/Ticker.h"
 #include "Log.h"
 #include "Request.h"
 #include "Variant.h"
@@ -488,10 +489,11 @@ void List::deleteItems()
     mItems.clear();
 }
 
-/// Tickers have no GUI-thread side to hand over yet: the list remembers which one it was given.
 void List::privateSetTicker(Ticker* ticker)
 {
     mTicker = ticker;
+    if (mImplementation != nullptr)
+        mImplementation->setTicker(ticker != nullptr ? ticker->getPrivateImpl() : nullptr);
 }
 
 void List::privateAddDialer(PopupDialer* dialer)

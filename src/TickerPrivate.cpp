@@ -5,22 +5,29 @@
 
 namespace DisplayAPI {
 
-TickerPrivate::TickerPrivate(const std::string& text) : mWidget(new TickerWidget(ICC::fromUTF8toUNICODE(text))) {}
+TickerPrivate::TickerPrivate(const std::string& text) : mWidget(new TickerWidget(ICC::fromUTF8toUNICODE(text)))
+{
+    mWidget->watchedBy(&mWidget);
+}
 
 TickerPrivate::~TickerPrivate()
 {
+    if (mWidget == nullptr)
+        return;
+    mWidget->watchedBy(nullptr);
     if (mOwnsWidget)
         delete mWidget;
 }
 
 void TickerPrivate::setText(std::string text)
 {
-    mWidget->setText(ICC::fromUTF8toUNICODE(text));
+    if (mWidget != nullptr)
+        mWidget->setText(ICC::fromUTF8toUNICODE(text));
 }
 
 std::string TickerPrivate::getText()
 {
-    return ICC::fromUNICODEtoUTF8(mWidget->getText());
+    return mWidget != nullptr ? ICC::fromUNICODEtoUTF8(mWidget->getText()) : std::string();
 }
 
 PegThing* TickerPrivate::getWidget()

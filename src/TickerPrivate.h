@@ -6,7 +6,8 @@ class TickerWidget;
 
 namespace DisplayAPI {
 
-/// A ticker on the toolkit's widget, which it owns until somebody asks for it. GUI thread only.
+/// A ticker on the toolkit's widget, which it owns until somebody asks for it. Empty when that one has deleted it. GUI
+/// thread only.
 class TickerPrivate : public TickerPrivateIfc {
 public:
     explicit TickerPrivate(const std::string& text);
@@ -23,7 +24,7 @@ public:
 
 private:
     bool mOwnsWidget = true;
-    TickerWidget* mWidget;
+    TickerWidget* mWidget; ///< null when its new owner has deleted it
 };
 
 } // namespace DisplayAPI

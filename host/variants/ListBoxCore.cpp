@@ -2,6 +2,7 @@
 
 #include "DisplayAPI/List.h"
 #include "DisplayAPI/ListItemPrivateIfc.h"
+#include "DisplayAPI/TickerPrivateIfc.h"
 #include "utilities/ICC.h"
 #include "utilities/TranslationInfo.h"
 #include "widgets/KestrelApplication.h"
@@ -19,6 +20,15 @@ constexpr const char* BACK_ROW_TEXT = "\u2190";
 KestrelListBoxItem* itemOf(ListItemPrivateIfc* row)
 {
     return row == nullptr ? nullptr : row->getKestrelListItem();
+}
+
+/// Null where there is none.
+PegThing* tickerOf(const KestrelListBox& box)
+{
+    PegThing* child = box.First();
+    while (child != nullptr && child->Type() != TYPE_TICKER)
+        child = child->NextSibling();
+    return child;
 }
 
 } // namespace
@@ -47,12 +57,8 @@ ListBoxCore::~ListBoxCore()
 int ListBoxCore::Message(const PegMessage& message)
 {
     switch (message.wType) {
-    case PM_CURRENT_CHANGED:
-        changed();
-        break;
-    case PM_CLICKED:
-        mSelf.postCommand(isOnBackRow() ? List::BACK_COMMAND() : List::SELECT_COMMAND(), mOwner);
-        break;
+    case PM_CURRENT_CHANGED: changed(); break;
+    case PM_CLICKED: mSelf.postCommand(isOnBackRow() ? List::BACK_COMMAND() : List::SELECT_COMMAND(), mOwner); break;
     case PM_RIGHT:
         if (!isOnBackRow())
             mSelf.postCommand(List::RIGHT_COMMAND(), mOwner);
@@ -61,11 +67,8 @@ int ListBoxCore::Message(const PegMessage& message)
         if (mGoesBack)
             mSelf.postCommand(List::BACK_COMMAND(), mOwner);
         break;
-    case PM_APPLICATION_CHANGED:
-        showTitle();
-        break;
-    default:
-        return PegThing::Message(message);
+    case PM_APPLICATION_CHANGED: showTitle(); break;
+    default: return PegThing::Message(message);
     }
     return 0;
 }
@@ -182,6 +185,26 @@ void ListBoxCore::hide()
         return;
     mOwnership.gainOwnership();
     box()->Parent()->Remove(box());
+}
+
+void ListBoxCore::setTicker(TickerPrivateIfc* ticker)
+{
+    PegThing* const widget = ticker != nullptr ? ticker->getWidget() : nullptr;
+    if (box() == nullptr)
+        mFormerTickers.Add(widget);
+    else if (tickerOf(*box()) != widget)
+        change([&](KestrelListBox& list) { showTicker(list, widget); });
+}
+
+/// A ticker that stands in another list leaves that one.
+void ListBoxCore::showTicker(KestrelListBox& list, PegThing* ticker)
+{
+    auto* const before = ticker != nullptr ? dynamic_cast<KestrelListBox*>(ticker->Parent()) : nullptr;
+    mFormerTickers.Add(tickerOf(list));
+    list.Add(ticker);
+    list.setTickerShown(ticker != nullptr);
+    if (before != nullptr)
+        before->setTickerShown(false);
 }
 
 void ListBoxCore::setSystemText(int line, const std::string& text)

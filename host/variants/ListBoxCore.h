@@ -73,7 +73,7 @@ public:
 
     void setSystemLines(int lines) { mSystemLines = lines; }
     void setSystemText(int line, const std::string& text);
-    void setTicker(TickerPrivateIfc* ticker) { mTicker = ticker; }
+    void setTicker(TickerPrivateIfc* ticker);
     void setDialler(PopupDialer* dialler) { mDialler = dialler; }
     void showDialler(bool onInitialKey) { mDiallerOnInitialKey = onInitialKey; }
 
@@ -85,6 +85,7 @@ private:
     void changed();
     bool isOnBackRow() const;
     void showTitle();
+    void showTicker(KestrelListBox& list, PegThing* ticker);
 
     DisplayablePrivate& mSelf;
     List* mOwner;
@@ -94,11 +95,11 @@ private:
     std::unique_ptr<KestrelListBoxItem> mBackRow; ///< null where there is none
     std::string mTitle;
     TranslationInfo* mTranslatedTitle = nullptr;
+    PegThing mFormerTickers; ///< holds them, never on screen: their facades may change them and give them back
 
     // Kept for the parts of a list that are still to be shown.
     int mSystemLines = 0;
     std::array<std::string, 6> mSystemTexts;
-    TickerPrivateIfc* mTicker = nullptr;
     PopupDialer* mDialler = nullptr;
     bool mDiallerOnInitialKey = false;
 };

@@ -31,6 +31,7 @@ void KestrelListBox::Resize(const PegRect& area)
 {
     PegThing::Resize(area);
     mImpl->scrollToCurrent();
+    mImpl->placeTicker();
 }
 
 void KestrelListBox::setMessageTarget(PegThing* target)
@@ -147,11 +148,11 @@ void KestrelListBox::setBackArrow(bool on)
 
 void KestrelListBox::setTickerShown(bool on)
 {
-    if (mImpl->ticker == on)
-        return;
+    if (mImpl->ticker != on)
+        Invalidate();
     mImpl->ticker = on;
     mImpl->scrollToCurrent();
-    Invalidate();
+    mImpl->placeTicker();
 }
 
 PegRect KestrelListBox::tickerArea() const

@@ -84,6 +84,13 @@ void KestrelListBox::Impl::moveMark(KestrelListBoxItem* from)
         item->setMarked(exclusive);
 }
 
+void KestrelListBox::Impl::placeTicker()
+{
+    for (PegThing* child = box.First(); child != nullptr; child = child->NextSibling())
+        if (child->Type() == TYPE_TICKER)
+            child->Resize(geometry().ticker);
+}
+
 bool KestrelListBox::Impl::key(int key)
 {
     switch (key) {

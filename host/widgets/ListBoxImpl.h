@@ -15,6 +15,7 @@ struct KestrelListBox::Impl {
     void makeCurrent(int row);
     void scrollToCurrent();
     void moveMark(KestrelListBoxItem* from);
+    void placeTicker();
 
     bool key(int key);
     void step(int by);

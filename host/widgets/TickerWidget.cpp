@@ -42,7 +42,11 @@ TickerWidget::TickerWidget(PegString text) : mText(std::move(text))
     Type(TYPE_TICKER);
 }
 
-TickerWidget::~TickerWidget() = default;
+TickerWidget::~TickerWidget()
+{
+    if (mWatcher != nullptr)
+        *mWatcher = nullptr;
+}
 
 int TickerWidget::Message(const PegMessage& message)
 {
@@ -75,6 +79,11 @@ void TickerWidget::setText(PegString text)
 const PegString& TickerWidget::getText() const
 {
     return mText;
+}
+
+void TickerWidget::watchedBy(TickerWidget** pointer)
+{
+    mWatcher = pointer;
 }
 
 void TickerWidget::VisibilityChanged()

@@ -12,8 +12,9 @@ class TickerPrivateIfc;
 ///
 /// Threads: safe from any thread but for the destructor. Every operation waits when called off the GUI thread.
 /// Delete tickers on the GUI thread: deleted elsewhere, their GUI-thread side stays behind.
-/// Ownership: a list that has been given the ticker owns what is shown of it. Set and get its text no longer than that
-/// list lives; deleting the ticker later is fine.
+/// Ownership: a list that has been given the ticker owns what is shown of it. Use the ticker no longer than that list:
+/// afterwards it has no text, and no list can show it. Deleting it later is fine, deleting it earlier leaves the text
+/// on the list.
 class DISPLAYAPI_EXPORT Ticker : public Widget {
 public:
     explicit Ticker(std::string text);

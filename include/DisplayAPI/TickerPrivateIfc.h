@@ -16,7 +16,8 @@ public:
     virtual void setText(std::string text) = 0;
     virtual std::string getText() = 0;
 
-    /// The toolkit's widget, which belongs to the caller from now on. The same one each time.
+    /// The toolkit's widget, which belongs to the caller from now on. The same one each time;
+    /// null when it has been deleted meanwhile.
     virtual PegThing* getWidget() = 0;
 };
 

@@ -65,7 +65,7 @@ public:
     void setExclusive(bool on);
 
     /// Keeps a strip free for a ticker: below the rows, or in the title's place on the panel of two lines. Whoever puts
-    /// a ticker there adds it as a child.
+    /// a ticker there adds it as a child first; the list places it.
     void setTickerShown(bool on);
 
     /// The strip that is kept free; empty where none is. It moves when the list is resized.

@@ -19,6 +19,9 @@ public:
     void setText(PegString text);
     const PegString& getText() const;
 
+    /// Sets `pointer` to null when the widget dies: it belongs to whoever shows it. A null address: nobody watches.
+    void watchedBy(TickerWidget** pointer);
+
 protected:
     void VisibilityChanged() override;
 
@@ -28,6 +31,7 @@ private:
     void step();
 
     PegString mText;
+    TickerWidget** mWatcher = nullptr;
     int mTextWidth = 0;
     int mOffset = 0; ///< how many pixels have gone out at the edge
 };
