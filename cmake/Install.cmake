@@ -7,23 +7,27 @@ set(HEADERS ${CMAKE_INSTALL_INCLUDEDIR}/displayapi-${PROJECT_VERSION_MAJOR})
 set(PACKAGE ${CMAKE_INSTALL_LIBDIR}/cmake/DisplayAPI)
 
 set_target_properties(displayapi PROPERTIES EXPORT_NAME DisplayAPI)
-foreach(part platform host variants phone)
+foreach(part platform host languages variants phone)
     set_target_properties(displayapi_${part} PROPERTIES EXPORT_NAME ${part})
 endforeach()
 
 # Front ends are loaded from beside the host's shared object, and everything finds everything wherever it is moved to.
-set_target_properties(displayapi displayapi_host displayapi_variants displayapi_web displayapi_script PROPERTIES
-    INSTALL_RPATH $ORIGIN)
+set_target_properties(displayapi displayapi_host displayapi_languages displayapi_variants displayapi_web
+    displayapi_script PROPERTIES INSTALL_RPATH $ORIGIN)
 file(RELATIVE_PATH FROM_BIN_TO_LIB ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
 set_target_properties(phone PROPERTIES INSTALL_RPATH $ORIGIN/${FROM_BIN_TO_LIB})
 
-install(TARGETS displayapi displayapi_platform displayapi_host displayapi_variants displayapi_phone
+install(TARGETS
+    displayapi displayapi_platform displayapi_host displayapi_languages displayapi_variants displayapi_phone
     EXPORT DisplayAPI
     INCLUDES DESTINATION ${HEADERS})
 install(TARGETS displayapi_web displayapi_script phone LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/ DESTINATION ${HEADERS} FILES_MATCHING PATTERN *.h)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/platform/ DESTINATION ${HEADERS} FILES_MATCHING PATTERN *.h)
 install(FILES ${PROJECT_SOURCE_DIR}/host/Phone.h DESTINATION ${HEADERS}/host)
+install(FILES ${PROJECT_SOURCE_DIR}/host/languages/Languages.h DESTINATION ${HEADERS}/host/languages)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/languages
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/displayapi-${PROJECT_VERSION_MAJOR} FILES_MATCHING PATTERN *.po)
 
 install(EXPORT DisplayAPI NAMESPACE DisplayAPI:: DESTINATION ${PACKAGE} FILE DisplayAPITargets.cmake)
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/DisplayAPIConfig.cmake.in DisplayAPIConfig.cmake

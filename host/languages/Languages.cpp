@@ -1,0 +1,119 @@
+#include "host/languages/Languages.h"
+
+#include "host/languages/Catalogue.h"
+#include "utilities/Logging.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <dlfcn.h>
+#include <filesystem>
+
+namespace host {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int REFUSED = 3;
+constexpr const char* BESIDE = "displayapi-1/languages";
+constexpr const char* ENDING = ".po";
+constexpr const char* OWN_NAME = "Language.name";
+
+Language describe(const std::string& code, const Catalogue& catalogue)
+{
+    const auto name = catalogue.texts.find(OWN_NAME);
+    return {code, name != catalogue.texts.end() ? name->second : code, catalogue.locale};
+}
+
+/// A code becomes a part of a path.
+bool isCode(const std::string& text)
+{
+    return !text.empty() && text.find_first_of("./") == std::string::npos;
+}
+
+} // namespace
+
+Languages::Languages(std::string folder) : mFolder(std::move(folder)) {}
+
+Languages::~Languages() = default;
+
+std::string Languages::folder()
+{
+    if (const char* const asked = std::getenv("DISPLAYAPI_LANGUAGES"); asked != nullptr && *asked != '\0')
+        return asked;
+    Dl_info info;
+    if (dladdr(reinterpret_cast<void*>(&Languages::folder), &info) == 0)
+        return BESIDE;
+    return fs::absolute(info.dli_fname).replace_filename(BESIDE).string();
+}
+
+std::vector<Language> Languages::available() const
+{
+    std::vector<Language> all;
+    std::error_code error;
+    for (const fs::directory_entry& entry : fs::directory_iterator(mFolder, error)) {
+        if (entry.path().extension() != ENDING)
+            continue;
+        Catalogue catalogue;
+        readCatalogue(entry.path(), catalogue);
+        all.push_back(describe(entry.path().stem().string(), catalogue));
+    }
+    std::ranges::sort(all, {}, &Language::code);
+    return all;
+}
+
+std::string Languages::use(const std::string& code)
+{
+    if (!isCode(code))
+        return "There is no language '" + code + "'.";
+    auto catalogue = std::make_shared<Catalogue>();
+    if (std::string complaint = readCatalogue(pathOf(code), *catalogue); !complaint.empty())
+        return complaint;
+    const std::lock_guard lock(mMutex);
+    mInUse = {std::move(catalogue), code};
+    return {};
+}
+
+Language Languages::current() const
+{
+    const InUse now = inUse();
+    return now.catalogue != nullptr ? describe(now.code, *now.catalogue) : Language();
+}
+
+std::string Languages::translate(const std::string& key)
+{
+    const InUse now = inUse();
+    if (now.catalogue == nullptr)
+        return key;
+    const auto found = now.catalogue->texts.find(key);
+    if (found != now.catalogue->texts.end())
+        return found->second;
+    reportMissing(now.code, key);
+    return key;
+}
+
+Languages::InUse Languages::inUse() const
+{
+    const std::lock_guard lock(mMutex);
+    return mInUse;
+}
+
+void Languages::reportMissing(const std::string& code, const std::string& key)
+{
+    if (!loggingOnUni())
+        return;
+    {
+        const std::lock_guard lock(mMutex);
+        if (!mReported.insert(code + ' ' + key).second)
+            return;
+    }
+    logAppUni("host::Languages", "host/languages/Languages", REFUSED, __LINE__, "%s%s has no text for '%s'",
+              code.c_str(), ENDING, key.c_str());
+}
+
+std::string Languages::pathOf(const std::string& code) const
+{
+    return (fs::path(mFolder) / (code + ENDING)).string();
+}
+
+} // namespace host
