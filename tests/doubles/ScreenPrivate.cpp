@@ -55,6 +55,22 @@ void ScreenPrivate::setSysWindowSize(int lines)
     note("setSysWindowSize", lines);
 }
 
+void ScreenPrivate::setSysWindowText(std::string line, int index)
+{
+    note("setSysWindowText", line, index);
+}
+
+std::string ScreenPrivate::serialise()
+{
+    return text.value_or(DisplayablePrivate::serialise());
+}
+
+std::string ScreenPrivate::serialise(const std::vector<DisplayAPIUtils::Rect>& visible)
+{
+    lastRects = visible;
+    return DisplayablePrivate::serialise(visible);
+}
+
 void ScreenPrivate::dropWidget()
 {
     delete std::exchange(mWidget, nullptr);

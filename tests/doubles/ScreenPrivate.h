@@ -3,8 +3,11 @@
 #include "DisplayAPI/DisplayablePrivate.h"
 #include "DisplayAPI/OwnershipDelegate.h"
 #include "toolkit/PegWindow.h"
+#include "utilities/Rect.h"
 
+#include <optional>
 #include <string>
+#include <vector>
 
 namespace doubles {
 
@@ -26,12 +29,20 @@ public:
     bool hideOldWidgetOnFocusGained() override { return mKind == SCREEN; }
     void connectDisplayChangedSignal(DisplayAPI::DisplayPrivateIfc* display) override;
     void setSysWindowSize(int lines) override;
+    void setSysWindowText(std::string line, int index) override;
+    bool hasSystemWindow() override { return drawsSystemWindow; }
+    std::string serialise() override;
+    std::string serialise(const std::vector<DisplayAPIUtils::Rect>& visible) override;
 
     bool ownsWidget() const { return mOwnership.hasOwnership(); }
     DisplayAPI::DisplayPrivateIfc* attachedTo() const { return display(); }
 
     /// From here on the side has no widget.
     void dropWidget();
+
+    bool drawsSystemWindow = false;
+    std::optional<std::string> text;              ///< what it reads as; what every displayable does where it is not set
+    std::vector<DisplayAPIUtils::Rect> lastRects; ///< what of it was last asked for
 
 private:
     template <typename... Args>
