@@ -22,6 +22,8 @@ KestrelListBox::~KestrelListBox()
 
 int KestrelListBox::Message(const PegMessage& message)
 {
+    if (message.wType == PM_APPLICATION_CHANGED)
+        Invalidate();
     if (message.wType == PM_KEY && mImpl->key(message.iData))
         return 0;
     return PegThing::Message(message);
@@ -92,9 +94,7 @@ void KestrelListBox::clear()
 
 void KestrelListBox::itemChanged(const KestrelListBoxItem* item)
 {
-    const int row = rowOf(item);
-    if (row >= 0)
-        mImpl->repaintRow(row);
+    mImpl->repaintItem(item);
 }
 
 int KestrelListBox::currentRow() const
@@ -123,6 +123,8 @@ PegRect KestrelListBox::rowArea(int row) const
 
 void KestrelListBox::setTitle(PegString title)
 {
+    if (mImpl->title == title)
+        return;
     mImpl->title = std::move(title);
     mImpl->scrollToCurrent();
     Invalidate();

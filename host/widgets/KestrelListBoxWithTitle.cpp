@@ -1,6 +1,7 @@
 #include "widgets/KestrelListBoxWithTitle.h"
 
-#include "host/widgets/ListLayout.h"
+#include "host/widgets/ListBoxImpl.h"
+#include "utilities/ICC.h"
 
 namespace {
 
@@ -22,3 +23,13 @@ constexpr KestrelListBox::Layout LAYOUT{
 } // namespace
 
 KestrelListBoxWithTitle::KestrelListBoxWithTitle() : KestrelListBox(TYPE_LIST_WITH_TITLE, LAYOUT) {}
+
+void KestrelListBoxWithTitle::setSystemWindowLines(int lines)
+{
+    impl().setStatusLines(lines);
+}
+
+void KestrelListBoxWithTitle::setSystemWindowText(PegString text, int line)
+{
+    impl().setStatusText(line, ICC::fromUNICODEtoUTF8(text));
+}

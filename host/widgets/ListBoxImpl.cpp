@@ -1,6 +1,7 @@
 #include "host/widgets/ListBoxImpl.h"
 
 #include "host/lcd/Geometry.h"
+#include "host/widgets/Reading.h"
 #include "widgets/KestrelListBoxItem.h"
 
 #include <algorithm>
@@ -12,10 +13,12 @@ ListGeometry KestrelListBox::Impl::geometry() const
     return geometryOf(layout, box.Area(),
                       {.rows = rows.size(),
                        .top = top,
+                       .statusLines = statusShown,
                        .titled = !title.empty(),
                        .ticker = ticker,
                        .back = back,
-                       .exclusive = exclusive});
+                       .exclusive = exclusive,
+                       .mirrored = isReadFromTheRight()});
 }
 
 int KestrelListBox::Impl::lastTop() const
@@ -134,6 +137,17 @@ void KestrelListBox::Impl::tell(std::uint16_t type, int data)
 void KestrelListBox::Impl::repaintRow(int row)
 {
     repaintRows(row, row);
+}
+
+/// Looks at the rows in view only: a list that changes all its rows asks for each.
+void KestrelListBox::Impl::repaintItem(const KestrelListBoxItem* item)
+{
+    if (item == nullptr || !box.StatusIs(PSF_VISIBLE))
+        return;
+    for (int row = top, end = top + geometry().visibleRows; row < end; ++row) {
+        if (rows.at(row) == item)
+            return repaintRow(row);
+    }
 }
 
 void KestrelListBox::Impl::repaintRows(int first, int last)

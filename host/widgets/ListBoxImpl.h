@@ -1,11 +1,15 @@
 #pragma once
 
+#include "host/widgets/ApplicationWatch.h"
 #include "host/widgets/ListGeometry.h"
 #include "host/widgets/ListRows.h"
+#include "host/widgets/StatusLines.h"
+#include "host/widgets/StatusTime.h"
 
 /// The state of a list box, and what each change of it means for the screen.
-struct KestrelListBox::Impl {
-    Impl(KestrelListBox& self, const Layout& look) : box(self), layout(look) {}
+struct KestrelListBox::Impl final : host::StatusTimeView {
+    Impl(KestrelListBox& self, const Layout& look) : box(self), layout(look), application(self) {}
+    ~Impl() { host::StatusTime::watch(*this, false); }
 
     host::ListGeometry geometry() const;
     int lastTop() const;
@@ -23,9 +27,17 @@ struct KestrelListBox::Impl {
     void tellIfRow(std::uint16_t type);
 
     void repaintRow(int row);
+    void repaintItem(const KestrelListBoxItem* item);
     void repaintRows(int first, int last);
     void repaintAfter(const host::ListGeometry& before, int topBefore);
 
+    const host::StatusTime* statusTime() const override { return host::StatusTime::current(); }
+    void statusTimeChanged() override;
+    void setStatusLines(int lines);
+    void setStatusText(int line, const std::string& text);
+    void placeStatus();
+
+    void drawStatus(PegPainter& painter, const host::ListGeometry& parts) const;
     void drawTitle(PegPainter& painter, const host::ListGeometry& parts) const;
     void drawRow(PegPainter& painter, const host::ListGeometry& parts, int slot) const;
     void drawScroll(PegPainter& painter, const host::ListGeometry& parts) const;
@@ -33,6 +45,9 @@ struct KestrelListBox::Impl {
 
     KestrelListBox& box;
     const Layout& layout;
+    host::ApplicationWatch application;
+    host::StatusLines status;
+    int statusShown = 0; ///< status lines that take room
     host::ListRows rows;
     PegString title;
     PegThing* target = nullptr;

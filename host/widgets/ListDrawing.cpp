@@ -1,6 +1,7 @@
 #include "host/lcd/Geometry.h"
 #include "host/lcd/Painter.h"
 #include "host/widgets/ListBoxImpl.h"
+#include "host/widgets/Reading.h"
 #include "widgets/KestrelListBoxItem.h"
 
 using namespace host;
@@ -30,11 +31,22 @@ void KestrelListBox::Draw(PegPainter& painter)
 {
     const ListGeometry parts = mImpl->geometry();
     painter.fill(Area(), Level::BARE);
+    mImpl->drawStatus(painter, parts);
     mImpl->drawTitle(painter, parts);
     for (int slot = 0; slot < parts.visibleRows; ++slot)
         mImpl->drawRow(painter, parts, slot);
     mImpl->drawScroll(painter, parts);
     mImpl->drawTickerRule(painter, parts);
+}
+
+void KestrelListBox::Impl::drawStatus(PegPainter& painter, const ListGeometry& parts) const
+{
+    if (isEmpty(parts.status) || painter.isClippedOut(parts.status))
+        return;
+    for (int line = 0; line < statusShown; ++line)
+        drawStatusLine(painter, parts.statusLine(line), status.text(line), layout.font,
+                       line == 0 ? statusTime() : nullptr);
+    painter.fill({parts.status.left, parts.status.bottom, parts.status.right, parts.status.bottom}, Level::DARK);
 }
 
 void KestrelListBox::Impl::drawTitle(PegPainter& painter, const ListGeometry& parts) const
@@ -46,7 +58,7 @@ void KestrelListBox::Impl::drawTitle(PegPainter& painter, const ListGeometry& pa
         painter.fill({bar.left, bar.top, bar.right, line}, hidden ? Level::BARE : Level::LIGHT);
         painter.fill({bar.left, line, bar.right, line}, Level::DARK);
         if (!hidden)
-            painter.text(parts.titleText, title, {layout.titleFont});
+            painter.text(parts.titleText, title, {layout.titleFont, startAlign()});
     }
     if (!isEmpty(parts.back))
         painter.icon(icons::BACK, parts.back, Level::DARK);
@@ -66,7 +78,7 @@ void KestrelListBox::Impl::drawRow(PegPainter& painter, const ListGeometry& part
         painter.icon(item->isMarked() ? icons::RADIO_CHOSEN : icons::RADIO, parts.mark(slot),
                      onBar ? Level::BARE : Level::DARK);
     }
-    painter.text(parts.text(slot), item->DataGet(), {layout.font, Align::LEFT, inverted});
+    painter.text(parts.text(slot), item->DataGet(), {layout.font, startAlign(), inverted});
 }
 
 void KestrelListBox::Impl::drawScroll(PegPainter& painter, const ListGeometry& parts) const

@@ -1,152 +1,169 @@
 #include "widgets/SystemWindow.h"
 
 #include "host/lcd/Geometry.h"
-#include "host/lcd/Lcd.h"
-#include "host/lcd/Painter.h"
-#include "utilities/ICC.h"
-#include "widgets/KestrelApplication.h"
+#include "host/widgets/ApplicationWatch.h"
+#include "host/widgets/StatusTime.h"
+#include "host/widgets/SystemWindowLook.h"
+#include "toolkit/PegScreen.h"
 
 #include <algorithm>
-#include <cstdio>
+#include <utility>
 
 using namespace host;
 
-namespace {
+struct SystemWindow::Impl final : StatusTimeView {
+    explicit Impl(SystemWindow& self) : window(self), application(self) {}
+    ~Impl() { StatusTime::watch(*this, false); }
 
-struct Look {
-    Font font;
-    int lineHeight;
-    int margin;
-    int clockWidth;
+    const StatusTime* statusTime() const override { return &time; }
+    void statusTimeChanged() override;
+
+    SystemWindowState state() const;
+    void place();
+    void lineChanged(int line);
+    void watch();
+
+    SystemWindow& window;
+    ApplicationWatch application;
+    GUIEventIfc* handler = nullptr;
+    StatusTime time;
+    StatusLines lines;
+    int top = 0;
+    bool popup = false;
+    bool separator = false;
 };
 
-const Look& look()
+SystemWindow::SystemWindow() : PegWindow(FF_NONE | FF_BEHIND), mImpl(std::make_unique<Impl>(*this))
 {
-    static constexpr Look GRAPHIC{Font::TEXT, 18, 6, 60};
-    static constexpr Look TWO_LINES{Font::FIXED, 21, 8, 72};
-    const auto* application = KestrelApplication::getCurrentApplication();
-    return KestrelApplication::getHardwareVariant(application) == 1 ? GRAPHIC : TWO_LINES;
-}
-
-PegRect lineArea(const PegRect& window, int line)
-{
-    return rectAt(window.left + look().margin, window.top + line * look().lineHeight,
-                  widthOf(window) - 2 * look().margin, look().lineHeight);
-}
-
-std::string clockText(const std::array<int, 3>& time)
-{
-    char text[40];
-    std::snprintf(text, sizeof text, "%02d:%02d:%02d", time[0], time[1], time[2]);
-    return text;
-}
-
-bool isLine(int line)
-{
-    return line >= 0 && line < SystemWindow::MAX_LINES;
-}
-
-} // namespace
-
-SystemWindow::SystemWindow() : PegWindow(FF_NONE)
-{
-    place();
+    Type(TYPE_SYSTEM_WINDOW);
+    mImpl->place();
 }
 
 SystemWindow::~SystemWindow() = default;
 
-void SystemWindow::Draw(PegPainter& painter)
+int SystemWindow::Message(const PegMessage& message)
 {
-    PegWindow::Draw(painter);
-    const PegRect first = lineArea(Area(), 0);
-    const std::string right = mTimer.empty() && mTimeShown ? clockText(mTime) : mTimer;
-    painter.text(first, ICC::fromUTF8toUNICODE(right), {look().font, Align::RIGHT});
-    for (int line = 0; line < mSize; ++line) {
-        PegRect cell = lineArea(Area(), line);
-        if (line == 0 && !right.empty())
-            cell.right = static_cast<std::int16_t>(cell.right - look().clockWidth);
-        painter.text(cell, ICC::fromUTF8toUNICODE(mLines[static_cast<std::size_t>(line)]), {look().font});
-    }
-    if (mSeparator)
-        painter.fill({Area().left, Area().top, Area().right, Area().top}, Level::DARK);
+    if (message.wType == PM_APPLICATION_CHANGED)
+        Invalidate();
+    return PegWindow::Message(message);
 }
 
-/// As wide as the panel, as high as its lines.
-void SystemWindow::place()
+void SystemWindow::Draw(PegPainter& painter)
 {
-    const int width = Lcd::current() != nullptr ? Lcd::current()->width() : 240;
-    Resize(rectAt(0, mTop, width, mSize * look().lineHeight));
+    if (!isEmpty(Area()))
+        drawSystemWindow(painter, Area(), mImpl->state(), mImpl->lines, mImpl->time);
+}
+
+void SystemWindow::VisibilityChanged()
+{
+    mImpl->place();
+}
+
+/// The time alone keeps line 0 on the screen. A popup is taken down by blank lines, whatever the time.
+SystemWindowState SystemWindow::Impl::state() const
+{
+    constexpr int POPUP_LINES = 2;
+    const bool timed = !popup && lines.size() > 0 && !time.text().empty();
+    const int used = std::max(lines.used(), timed ? 1 : 0);
+    return {popup ? std::min(used, POPUP_LINES) : used, top, popup, separator};
+}
+
+void SystemWindow::Impl::place()
+{
+    const PegRect area = systemWindowArea(state());
+    if (area != window.Area())
+        window.Resize(area);
+    watch();
+}
+
+void SystemWindow::Impl::watch()
+{
+    const bool hasPlace = lines.size() > 0 && (!popup || showsTime(state()));
+    StatusTime::watch(*this, hasPlace && window.StatusIs(PSF_VISIBLE));
+}
+
+void SystemWindow::Impl::statusTimeChanged()
+{
+    place();
+    lineChanged(0);
+}
+
+void SystemWindow::Impl::lineChanged(int line)
+{
+    if (line < state().lines)
+        window.Invalidate();
 }
 
 void SystemWindow::setEventHandler(GUIEventIfc* handler)
 {
-    mHandler = handler;
+    mImpl->handler = handler;
 }
 
 void SystemWindow::setSystemWindowSize(int lines)
 {
-    mSize = std::clamp(lines, 0, MAX_LINES);
-    place();
+    if (mImpl->lines.setSize(lines))
+        mImpl->place();
 }
 
 void SystemWindow::setSystemWindowText(int line, const std::string& text)
 {
-    if (!isLine(line))
+    if (!mImpl->lines.setText(line, text))
         return;
-    mLines[static_cast<std::size_t>(line)] = text;
-    Invalidate();
+    mImpl->place();
+    mImpl->lineChanged(line);
 }
 
 std::string SystemWindow::getSystemWindowText(int line) const
 {
-    return isLine(line) ? mLines[static_cast<std::size_t>(line)] : std::string();
+    return mImpl->lines.text(line);
 }
 
 void SystemWindow::setSystemWindowTop(int top, bool separator, bool redraw)
 {
-    mTop = top;
-    mSeparator = separator;
-    place();
+    mImpl->top = top;
+    showLine(separator);
+    mImpl->place();
     if (redraw && mpScreen != nullptr)
         mpScreen->Update();
 }
 
 void SystemWindow::setAsPopup(bool popup)
 {
-    mPopup = popup;
+    if (std::exchange(mImpl->popup, popup) == popup)
+        return;
+    mImpl->place();
+    Invalidate();
 }
 
 bool SystemWindow::isPopup() const
 {
-    return mPopup;
+    return mImpl->popup;
 }
 
 void SystemWindow::showLine(bool on)
 {
-    mSeparator = on;
+    if (std::exchange(mImpl->separator, on) == on)
+        return;
+    mImpl->place();
     Invalidate();
 }
 
 void SystemWindow::showTime(bool on)
 {
-    mTimeShown = on;
-    Invalidate();
+    mImpl->time.showClock(on);
 }
 
 void SystemWindow::setTime(int hours, int minutes, int seconds)
 {
-    mTime = {hours, minutes, seconds};
-    Invalidate();
+    mImpl->time.setClock(hours, minutes, seconds);
 }
 
 void SystemWindow::setTimer(const std::string& text)
 {
-    mTimer = text;
-    Invalidate();
+    mImpl->time.setTimer(text);
 }
 
 void SystemWindow::stopTimer()
 {
-    mTimer.clear();
-    Invalidate();
+    mImpl->time.stopTimer();
 }

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <string>
 
 class KestrelListBoxItem;
 
@@ -52,6 +53,11 @@ public:
     /// Where the row stands on the screen; empty where it is not in view.
     PegRect rowArea(int row) const;
 
+    /// The status lines that the list shows itself, how many it keeps visible, and where. Texts are UTF-8.
+    int systemWindowLines() const;
+    const std::string& systemWindowText(int line) const;
+    PegRect systemWindowArea() const;
+
     void setTitle(PegString title);
     const PegString& title() const;
 
@@ -74,9 +80,14 @@ public:
     struct Layout;
 
 protected:
+    struct Impl;
+
     KestrelListBox(std::uint8_t type, const Layout& layout);
 
+    void VisibilityChanged() override;
+
+    Impl& impl() { return *mImpl; }
+
 private:
-    struct Impl;
     std::unique_ptr<Impl> mImpl;
 };

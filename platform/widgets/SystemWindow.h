@@ -2,12 +2,13 @@
 
 #include "toolkit/PegWindow.h"
 
-#include <array>
+#include <memory>
 #include <string>
 
 class GUIEventIfc;
 
-/// The status lines at the top of the screen: up to six, line 0 is the caption. GUI thread only.
+/// The status lines at the top of the screen, or a popup with two of them: up to six, line 0 is the caption. Blank
+/// lines at the end take no room. Never takes the focus. GUI thread only.
 class SystemWindow : public PegWindow {
 public:
     static constexpr int MAX_LINES = 6;
@@ -15,11 +16,13 @@ public:
     SystemWindow();
     ~SystemWindow() override;
 
+    int Message(const PegMessage& message) override;
     void Draw(PegPainter& painter) override;
 
     /// Not owned; null reports to nobody.
     void setEventHandler(GUIEventIfc* handler);
 
+    /// Cut to 0 to MAX_LINES.
     void setSystemWindowSize(int lines);
 
     /// Lines outside 0 to 5 are ignored. The text is UTF-8.
@@ -27,27 +30,28 @@ public:
     std::string getSystemWindowText(int line) const;
 
     void setSystemWindowTop(int top, bool separator, bool redraw);
+
+    /// A popup stands over the screen, with a frame where the panel has room for one, and shows two lines at most.
     void setAsPopup(bool popup);
     bool isPopup() const;
 
     /// Whether the line that separates the window from the screen is shown.
     void showLine(bool on);
 
+    /// The clock stands at the end of line 0, which it keeps visible unless the window is a popup. It goes on from what
+    /// it was set to; numbers out of range are cut into it.
     void showTime(bool on);
     void setTime(int hours, int minutes, int seconds);
+
+    /// A call timer takes the clock's place until it is stopped: "HH:MM:SS" and "MM:SS" count up from there, any other
+    /// text stands still. An empty text stops it.
     void setTimer(const std::string& text);
     void stopTimer();
 
-private:
-    void place();
+protected:
+    void VisibilityChanged() override;
 
-    GUIEventIfc* mHandler = nullptr;
-    std::array<std::string, MAX_LINES> mLines;
-    int mSize = 0;
-    int mTop = 0;
-    bool mPopup = false;
-    bool mSeparator = false;
-    bool mTimeShown = false;
-    std::array<int, 3> mTime{};
-    std::string mTimer;
+private:
+    struct Impl;
+    std::unique_ptr<Impl> mImpl;
 };

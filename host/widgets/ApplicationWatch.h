@@ -1,0 +1,27 @@
+#pragma once
+
+#include "widgets/KestrelApplication.h"
+
+namespace host {
+
+/// While it lives, a thing is told of changes of the current application's locale and formats.
+class ApplicationWatch {
+public:
+    explicit ApplicationWatch(PegThing& observer) : mObserver(observer)
+    {
+        if (auto* application = KestrelApplication::getCurrentApplication())
+            application->addObserver(&mObserver);
+    }
+    ApplicationWatch(const ApplicationWatch&) = delete;
+    ApplicationWatch& operator=(const ApplicationWatch&) = delete;
+    ~ApplicationWatch()
+    {
+        if (auto* application = KestrelApplication::getCurrentApplication())
+            application->removeObserver(&mObserver);
+    }
+
+private:
+    PegThing& mObserver;
+};
+
+} // namespace host

@@ -1,0 +1,79 @@
+#include "widgets/StatusMessage.h"
+
+#include "host/lcd/Geometry.h"
+#include "host/widgets/PopupFrame.h"
+#include "host/widgets/Reading.h"
+#include "utilities/ICC.h"
+#include "widgets/KestrelApplication.h"
+
+#include <algorithm>
+#include <limits>
+
+using namespace host;
+
+namespace {
+
+constexpr std::int32_t TIME_OUT = 1;
+constexpr int HEIGHT = 22 + 2 * FRAME_WIDTH;
+constexpr int INDENT = 6; ///< from the edges of a graphic panel
+constexpr int MARGIN = 6;
+
+/// Near the bottom; on two lines the second one.
+PegRect place()
+{
+    const auto [width, height] = runningPanel();
+    if (hasTwoLines())
+        return rectAt(0, BIG_LINE_HEIGHT, width, BIG_LINE_HEIGHT);
+    return rectAt(INDENT, height - INDENT / 2 - HEIGHT, width - 2 * INDENT, HEIGHT);
+}
+
+PegRect drawBox(PegPainter& painter, const PegRect& area)
+{
+    if (!hasTwoLines())
+        return drawPopupFrame(painter, area);
+    painter.fill(area, Level::BARE);
+    painter.frame(area, Level::DARK);
+    return rectAt(area.left + 1, area.top + 1, widthOf(area) - 2, heightOf(area) - 2);
+}
+
+} // namespace
+
+StatusMessage::StatusMessage(const std::string& text, unsigned int timeout)
+    : PegWindow(FF_NONE | FF_BEHIND), mText(text)
+{
+    Type(TYPE_STATUS_MESSAGE);
+    Resize(place());
+    if (auto* application = KestrelApplication::getCurrentApplication())
+        application->addObserver(this);
+    constexpr unsigned int LONGEST = std::numeric_limits<int>::max();
+    if (timeout > 0)
+        SetTimer(TIME_OUT, static_cast<int>(std::min(timeout, LONGEST)), false);
+}
+
+StatusMessage::~StatusMessage()
+{
+    if (auto* application = KestrelApplication::getCurrentApplication())
+        application->removeObserver(this);
+}
+
+int StatusMessage::Message(const PegMessage& message)
+{
+    if (message.wType == PM_APPLICATION_CHANGED)
+        Invalidate();
+    if (message.wType != PM_TIMER)
+        return PegWindow::Message(message);
+    if (Parent() != nullptr)
+        Parent()->Remove(this);
+    Resize(rectAt(Area().left, Area().top, 0, 0));
+    return 0;
+}
+
+void StatusMessage::Draw(PegPainter& painter)
+{
+    if (isEmpty(Area()))
+        return;
+    const PegRect inside = drawBox(painter, Area());
+    const Font font = hasTwoLines() ? Font::FIXED : Font::TEXT;
+    const PegRect cell = rectAt(inside.left + MARGIN, inside.top, widthOf(inside) - 2 * MARGIN, heightOf(inside));
+    painter.text(cell, ICC::fromUTF8toUNICODE(mText), {.font = font, .align = startAlign()});
+}
