@@ -37,7 +37,7 @@ Child::Environment environmentFor(const Options& options, int reportDescriptor)
 std::string preparationError(const Options& options)
 {
     std::string text;
-    for (const std::string& error : readScript(*options.script).errors)
+    for (const std::string& error : readScript(*options.script, options.variant).errors)
         text += error + '\n';
     std::error_code error;
     std::filesystem::create_directories(options.out, error);

@@ -1,12 +1,15 @@
 #include "simulator/script/HostPhone.h"
 
+#include "DisplayAPI/Display.h"
 #include "host/clock/Clock.h"
 #include "host/input/Keyboard.h"
 #include "host/toolkit/Loop.h"
+#include "host/toolkit/MainQueue.h"
 #include "simulator/script/Threads.h"
 
 #include <algorithm>
 #include <thread>
+#include <utility>
 
 namespace simulator {
 
@@ -21,8 +24,11 @@ constexpr seconds PATIENCE(10);
 /// An application may have a thread that never rests.
 constexpr seconds PATIENCE_WITH_THREADS(2);
 
-/// How often it is looked whether the telephone is still there.
+/// How often it is looked whether the telephone is still there, in real and virtual time.
 constexpr milliseconds SLICE(1000);
+constexpr std::chrono::minutes ADVANCED_SLICE(1);
+
+constexpr std::uint16_t INQUIRY = 0x5C01;
 
 } // namespace
 
@@ -55,8 +61,30 @@ bool HostPhone::release(PegKey key)
 
 void HostPhone::pass(std::int64_t milliseconds)
 {
-    for (std::int64_t left = milliseconds; left > 0 && isThere(); left -= SLICE.count())
-        host::Clock::instance().advance(std::min<std::int64_t>(left, SLICE.count()));
+    if (host::Clock::instance().isVirtual())
+        moveClock(milliseconds, SLICE.count());
+    else
+        sleep(std::chrono::milliseconds(milliseconds));
+}
+
+bool HostPhone::advance(std::int64_t milliseconds)
+{
+    if (!host::Clock::instance().isVirtual())
+        return false;
+    moveClock(milliseconds, std::chrono::milliseconds(ADVANCED_SLICE).count());
+    return true;
+}
+
+void HostPhone::moveClock(std::int64_t milliseconds, std::int64_t slice)
+{
+    for (std::int64_t left = milliseconds; left > 0 && isThere(); left -= slice)
+        host::Clock::instance().advance(std::min(left, slice));
+}
+
+void HostPhone::sleep(std::chrono::milliseconds time)
+{
+    std::unique_lock lock(mMutex);
+    mChanged.wait_for(lock, time, [this] { return !mIsThere; });
 }
 
 bool HostPhone::settle()
@@ -85,6 +113,30 @@ void HostPhone::waitForThreads()
 host::Picture HostPhone::picture()
 {
     return mLcd.picture();
+}
+
+std::string HostPhone::displayables()
+{
+    std::unique_lock lock(mMutex);
+    mAnswer.reset();
+    lock.unlock();
+    if (!host::MainQueue::push({INQUIRY, 0, &mInquiry}))
+        return {};
+    lock.lock();
+    mChanged.wait_for(lock, PATIENCE, [this] { return mAnswer || !mIsThere; });
+    return mAnswer.value_or(std::string());
+}
+
+int HostPhone::Inquiry::Message(const PegMessage& message)
+{
+    if (message.wType != INQUIRY)
+        return PegThing::Message(message);
+    DisplayAPI::Display* const display = DisplayAPI::Display::latest();
+    std::string answer = display != nullptr ? display->serialise() : std::string();
+    std::lock_guard lock(mPhone.mMutex);
+    mPhone.mAnswer = std::move(answer);
+    mPhone.mChanged.notify_all();
+    return 0;
 }
 
 void HostPhone::waitForFrame(milliseconds limit)

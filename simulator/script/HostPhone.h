@@ -1,9 +1,11 @@
 #pragma once
 
 #include "simulator/script/ScriptedPhone.h"
+#include "toolkit/PegThing.h"
 
 #include <condition_variable>
 #include <mutex>
+#include <optional>
 
 namespace simulator {
 
@@ -19,13 +21,28 @@ public:
     bool press(PegKey key) override;
     bool release(PegKey key) override;
     void pass(std::int64_t milliseconds) override;
+    bool advance(std::int64_t milliseconds) override;
     bool settle() override;
     host::Picture picture() override;
+    std::string displayables() override;
     void waitForFrame(std::chrono::milliseconds limit) override;
     bool isThere() override;
 
 private:
+    /// Asks the library on the GUI thread, between two messages: while they are handled the display is there, which a
+    /// call from the script's thread could not know. Who asks waits as long as the telephone is there, and no longer.
+    class Inquiry : public PegThing {
+    public:
+        explicit Inquiry(HostPhone& phone) : mPhone(phone) {}
+        int Message(const PegMessage& message) override;
+
+    private:
+        HostPhone& mPhone;
+    };
+
     bool becomeIdle();
+    void moveClock(std::int64_t milliseconds, std::int64_t slice);
+    void sleep(std::chrono::milliseconds time);
     void waitForThreads();
     void noteFrame();
 
@@ -34,6 +51,8 @@ private:
     std::condition_variable mChanged;
     bool mFrameIsNew = false;
     bool mIsThere = true;
+    std::optional<std::string> mAnswer;
+    Inquiry mInquiry{*this};
 };
 
 } // namespace simulator

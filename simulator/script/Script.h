@@ -10,13 +10,13 @@ namespace simulator {
 
 /// One line of a script.
 struct Step {
-    enum class Action { PRESS, HOLD, WAIT, EXPECT, EXPECT_NOT, SCREENSHOT, DUMP };
+    enum class Action { PRESS, HOLD, WAIT, ADVANCE, EXPECT, EXPECT_NOT, SCREENSHOT, DUMP, DUMP_JSON, COMPARE };
 
     Action action;
     int line = 0;
     std::vector<PegKey> keys;      ///< PRESS: one after the other; HOLD: exactly one
-    std::int64_t milliseconds = 0; ///< HOLD, WAIT
-    std::string text;              ///< the expected text, or the file's name
+    std::int64_t milliseconds = 0; ///< HOLD, WAIT, ADVANCE
+    std::string text;              ///< the expected text, or the file's name; COMPARE: its path
 };
 
 struct Script {

@@ -1,5 +1,6 @@
 #include "simulator/script/ScriptFrontEnd.h"
 
+#include "host/Phone.h"
 #include "host/toolkit/Loop.h"
 #include "simulator/script/ScriptParser.h"
 #include "simulator/script/ScriptRunner.h"
@@ -44,7 +45,7 @@ std::filesystem::path outputFolder()
 
 std::string ScriptFrontEnd::start(const std::string& fileName)
 {
-    mScript = readScript(fileName);
+    mScript = readScript(fileName, nameOf(host::variant()));
     if (!mScript.errors.empty())
         return joined(mScript.errors);
     mReport = makeReport(fileName);

@@ -1,6 +1,7 @@
 #include "simulator/script/ScriptParser.h"
 
 #include "host/input/Keyboard.h"
+#include "simulator/script/ExpectedScreen.h"
 
 #include <charconv>
 #include <fstream>
@@ -54,7 +55,7 @@ PegKey toDigit(char character)
 {
     if ((character >= '0' && character <= '9') || character == '*' || character == '#')
         return static_cast<PegKey>(character);
-    throw Mistake("only 0 to 9, * and # can be typed, not " + quoted(std::string(1, character)));
+    throw Mistake("only 0 to 9, * and # can be typed, not " + quoted({&character, 1}));
 }
 
 std::int64_t toMilliseconds(std::string_view text)
@@ -92,7 +93,7 @@ void parseType(Step& step, std::string_view rest)
         step.keys.push_back(toDigit(character));
 }
 
-void parseWait(Step& step, std::string_view rest)
+void parseTime(Step& step, std::string_view rest)
 {
     step.milliseconds = toMilliseconds(rest);
 }
@@ -112,6 +113,19 @@ void parseTextName(Step& step, std::string_view rest)
     step.text = toFileName(rest, ".txt");
 }
 
+/// `dump` with an option is another step.
+void parseDump(Step& step, std::string_view rest)
+{
+    if (!rest.starts_with("--"))
+        return parseTextName(step, rest);
+    if (const std::string_view option = takeWord(rest); option != "--json")
+        throw Mistake("there is no option " + quoted(option) + "; there is --json");
+    if (rest.empty())
+        throw Mistake("the name of the file is missing");
+    step.action = Step::Action::DUMP_JSON;
+    step.text = toFileName(rest, ".json");
+}
+
 struct Command {
     Step::Action action;
     void (*parse)(Step&, std::string_view);
@@ -124,11 +138,13 @@ const std::map<std::string_view, Command>& commands()
         {"key", {PRESS, parseKey}},
         {"hold", {HOLD, parseHold}},
         {"type", {PRESS, parseType}},
-        {"wait", {WAIT, parseWait}},
+        {"wait", {WAIT, parseTime}},
+        {"advance", {ADVANCE, parseTime}},
         {"expect", {EXPECT, parseText}},
         {"expect-not", {EXPECT_NOT, parseText}},
         {"screenshot", {SCREENSHOT, parsePictureName}},
-        {"dump", {DUMP, parseTextName}},
+        {"dump", {DUMP, parseDump}},
+        {"compare", {COMPARE, parseTextName}},
     };
     return all;
 }
@@ -138,13 +154,35 @@ Step parseLine(std::string_view text, int line)
     const std::string_view name = takeWord(text);
     const auto command = commands().find(name);
     if (command == commands().end())
-        throw Mistake("there is no command " + quoted(name) +
-                      "; commands are key, hold, type, wait, expect, expect-not, screenshot and dump");
+        throw Mistake(
+            "there is no command " + quoted(name) +
+            "; commands are key, hold, type, wait, advance, expect, expect-not, screenshot, dump and compare");
     if (text.empty())
         throw Mistake(quoted(name) + " needs something behind it");
     Step step{command->second.action, line, {}, 0, {}};
     command->second.parse(step, text);
     return step;
+}
+
+std::string errorAt(const std::string& fileName, int line, const std::string& reason)
+{
+    return fileName + ":" + std::to_string(line) + ": " + reason;
+}
+
+/// From names to the paths of files.
+void locateExpectedScreens(Script& script, const std::string& fileName, std::string_view panel)
+{
+    for (Step& step : script.steps) {
+        if (step.action != Step::Action::COMPARE)
+            continue;
+        const std::filesystem::path file =
+            expectedScreen(std::filesystem::path(fileName).parent_path(), step.text, panel);
+        if (!exists(file) && !updatesScreens())
+            script.errors.push_back(
+                errorAt(fileName, step.line,
+                        "there is no file " + file.string() + "; " + UPDATE_SCREENS_VARIABLE + "=1 writes it"));
+        step.text = file.string();
+    }
 }
 
 } // namespace
@@ -161,19 +199,21 @@ Script parseScript(const std::string& fileName, std::string_view text)
         try {
             script.steps.push_back(parseLine(content, line));
         } catch (const Mistake& mistake) {
-            script.errors.push_back(fileName + ":" + std::to_string(line) + ": " + mistake.what());
+            script.errors.push_back(errorAt(fileName, line, mistake.what()));
         }
     }
     return script;
 }
 
-Script readScript(const std::string& fileName)
+Script readScript(const std::string& fileName, std::string_view panel)
 {
     std::ifstream file(fileName);
     std::stringstream text;
     if (!(text << file.rdbuf()))
         return {{}, {fileName + ": the script cannot be read, or is empty"}};
-    return parseScript(fileName, text.str());
+    Script script = parseScript(fileName, text.str());
+    locateExpectedScreens(script, fileName, panel);
+    return script;
 }
 
 } // namespace simulator

@@ -1,10 +1,16 @@
 #include "simulator/script/ScriptRunner.h"
 
+#include "host/Phone.h"
 #include "host/lcd/Png.h"
 #include "simulator/screen/KeyRepeatRule.h"
+#include "simulator/screen/ScreenJson.h"
 #include "simulator/screen/ScreenRows.h"
+#include "simulator/screen/ScreenText.h"
+#include "simulator/script/ExpectedScreen.h"
+#include "simulator/script/TextDifference.h"
 
 #include <fstream>
+#include <sstream>
 #include <stdexcept>
 
 namespace simulator {
@@ -17,6 +23,13 @@ using std::chrono::steady_clock;
 struct StepFailed : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
+
+std::string contentOf(const std::filesystem::path& path)
+{
+    std::stringstream text;
+    text << std::ifstream(path).rdbuf();
+    return text.str();
+}
 
 } // namespace
 
@@ -48,10 +61,13 @@ void ScriptRunner::perform(const Step& step)
     case PRESS: return pressAll(step);
     case HOLD: return hold(step);
     case WAIT: return mPhone.pass(step.milliseconds);
+    case ADVANCE: return advance(step);
     case EXPECT: return expect(step, true);
     case EXPECT_NOT: return expect(step, false);
     case SCREENSHOT: return writePicture(step);
-    case DUMP: return writeRows(step);
+    case DUMP: return write(mFolder / step.text, screen());
+    case DUMP_JSON: return write(mFolder / step.text, screenJson(mPhone.picture(), nameOf(host::variant())));
+    case COMPARE: return compare(step);
     }
 }
 
@@ -91,6 +107,28 @@ void ScriptRunner::expect(const Step& step, bool wanted)
     }
 }
 
+void ScriptRunner::advance(const Step& step)
+{
+    if (!mPhone.advance(step.milliseconds))
+        fail("the telephone's clock is not a virtual one");
+}
+
+void ScriptRunner::compare(const Step& step)
+{
+    if (updatesScreens())
+        return write(step.text, screen());
+    const std::string expected = contentOf(step.text);
+    const auto deadline = steady_clock::now() + mPatience;
+    for (;;) {
+        const std::string difference = textDifference(expected, screen());
+        if (difference.empty())
+            return;
+        if (!mPhone.isThere() || steady_clock::now() >= deadline)
+            fail("the screen is not that of " + step.text + " (-), but another (+):\n" + difference);
+        mPhone.waitForFrame(milliseconds(20));
+    }
+}
+
 void ScriptRunner::writePicture(const Step& step)
 {
     const std::string error = host::writePng(mPhone.picture(), mFolder / step.text);
@@ -98,12 +136,18 @@ void ScriptRunner::writePicture(const Step& step)
         fail(error);
 }
 
-void ScriptRunner::writeRows(const Step& step)
+std::string ScriptRunner::screen()
 {
-    std::ofstream file(mFolder / step.text);
-    file << describe(rowsOf(mPhone.picture().texts)) << std::flush;
+    const std::string displayables = mPhone.displayables();
+    return screenText(displayables, mPhone.picture().texts);
+}
+
+void ScriptRunner::write(const std::filesystem::path& path, const std::string& text)
+{
+    std::ofstream file(path);
+    file << text << std::flush;
     if (!file)
-        fail("cannot write " + (mFolder / step.text).string());
+        fail("cannot write " + path.string());
 }
 
 void ScriptRunner::down(PegKey key)

@@ -13,7 +13,8 @@ namespace simulator {
 /// Carries out a script step by step on a telephone, and reports how far it got.
 class ScriptRunner {
 public:
-    /// Pictures and dumps go into `folder`. An expectation is given `patience` of real time to come true.
+    /// Pictures and dumps go into `folder`. An expectation is given `patience` of real time to come true. Where screens
+    /// are updated, comparisons write their files.
     ScriptRunner(ScriptedPhone& phone, ScriptReport& report, std::filesystem::path folder,
                  std::chrono::milliseconds patience);
 
@@ -25,8 +26,11 @@ private:
     void pressAll(const Step& step);
     void hold(const Step& step);
     void expect(const Step& step, bool wanted);
+    void advance(const Step& step);
+    void compare(const Step& step);
     void writePicture(const Step& step);
-    void writeRows(const Step& step);
+    std::string screen();
+    void write(const std::filesystem::path& path, const std::string& text);
     void down(PegKey key);
     void up(PegKey key);
     void settle();

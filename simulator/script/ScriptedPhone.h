@@ -18,14 +18,21 @@ public:
     virtual bool press(PegKey key) = 0;
     virtual bool release(PegKey key) = 0;
 
-    /// Lets the telephone's clock go on.
+    /// Lets that much time pass on the telephone's clock: a real one goes by itself, a virtual one is moved second by
+    /// second.
     virtual void pass(std::int64_t milliseconds) = 0;
+
+    /// Moves the virtual clock in one go: hours cost little. False when the clock is not virtual.
+    virtual bool advance(std::int64_t milliseconds) = 0;
 
     /// Waits until nothing moves any more: neither the loop nor the application's threads, which run in real time.
     /// False when the loop does not come to rest.
     virtual bool settle() = 0;
 
     virtual host::Picture picture() = 0;
+
+    /// What the library says of the displayables on the screen. Empty when it has no display.
+    virtual std::string displayables() = 0;
 
     /// Returns at the next frame, or after `limit`.
     virtual void waitForFrame(std::chrono::milliseconds limit) = 0;

@@ -1,5 +1,10 @@
 #include "simulator/script/ScriptParser.h"
 
+#include "simulator/script/ExpectedScreen.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -58,6 +63,13 @@ TEST(ScriptParser, WaitHasATime)
     EXPECT_EQ(onlyStep("wait 86400000").milliseconds, 86'400'000);
 }
 
+TEST(ScriptParser, AdvanceHasATime)
+{
+    const Step step = onlyStep("advance 36000000");
+    EXPECT_EQ(step.action, Step::Action::ADVANCE);
+    EXPECT_EQ(step.milliseconds, 36'000'000);
+}
+
 TEST(ScriptParser, ExpectationsTakeTheRestOfTheLine)
 {
     EXPECT_EQ(onlyStep("expect  Ring tone: Классика  ").text, "Ring tone: Классика");
@@ -69,6 +81,24 @@ TEST(ScriptParser, OutputHasAPlainName)
 {
     EXPECT_EQ(onlyStep("screenshot menu.png").text, "menu.png");
     EXPECT_EQ(onlyStep("dump menu 2.txt").text, "menu 2.txt");
+    EXPECT_EQ(onlyStep("compare menu.txt").text, "menu.txt");
+}
+
+TEST(ScriptParser, DumpMayBeJson)
+{
+    const Step step = onlyStep("dump  --json  menu 2.json");
+    EXPECT_EQ(step.action, Step::Action::DUMP_JSON);
+    EXPECT_EQ(step.text, "menu 2.json");
+    EXPECT_EQ(onlyStep("dump menu.txt").action, Step::Action::DUMP);
+}
+
+TEST(ScriptParser, BadOptionsOfDump)
+{
+    expectMistake("dump --xml menu.xml", "there is no option '--xml'; there is --json");
+    expectMistake("dump --json", "the name of the file is missing");
+    expectMistake("dump --json menu.txt", "is no plain file name that ends in .json");
+    expectMistake("dump --json ../menu.json", "is no plain file name that ends in .json");
+    expectMistake("dump menu.json", "is no plain file name that ends in .txt");
 }
 
 TEST(ScriptParser, CommentsEmptyLinesAndCarriageReturnsAreNothing)
@@ -98,13 +128,15 @@ TEST(ScriptParser, UnknownKeys)
 TEST(ScriptParser, BadNumbers)
 {
     for (const char* number : {"-1", "1.5", "ten", "5s", "86400001", "99999999999999999999", "0x10", "1 2"})
-        expectMistake(std::string("wait ") + number, "is no number of milliseconds");
+        for (const char* command : {"wait ", "advance "})
+            expectMistake(std::string(command) + number, "is no number of milliseconds");
     expectMistake("hold 5", "'' is no number of milliseconds");
 }
 
 TEST(ScriptParser, NothingBehindACommand)
 {
-    for (const char* command : {"key", "hold", "type", "wait", "expect", "expect-not", "screenshot", "dump"})
+    for (const char* command :
+         {"key", "hold", "type", "wait", "advance", "expect", "expect-not", "screenshot", "dump", "compare"})
         expectMistake(command, "needs something behind it");
 }
 
@@ -113,12 +145,62 @@ TEST(ScriptParser, OutputStaysInItsFolder)
     for (const char* name : {"../a.png", "/tmp/a.png", "b/a.png", "..", ".a.png", "a.txt"})
         expectMistake(std::string("screenshot ") + name, "is no plain file name that ends in .png");
     expectMistake("dump a.png", "is no plain file name that ends in .txt");
+    expectMistake("compare ../a.txt", "is no plain file name that ends in .txt");
 }
 
 TEST(ScriptParser, FileThatCannotBeReadIsAMistake)
 {
-    EXPECT_THAT(simulator::readScript("/nowhere/s").errors, ElementsAre(StartsWith("/nowhere/s: ")));
-    EXPECT_THAT(simulator::readScript("/").errors, SizeIs(1));
+    EXPECT_THAT(simulator::readScript("/nowhere/s", "plain").errors, ElementsAre(StartsWith("/nowhere/s: ")));
+    EXPECT_THAT(simulator::readScript("/", "plain").errors, SizeIs(1));
+}
+
+/// A folder with a script that compares the screen with `menu.txt`.
+class ComparingScriptTest : public testing::Test {
+protected:
+    ComparingScriptTest()
+    {
+        remove_all(folder);
+        create_directory(folder);
+        write("s", "key ok\ncompare menu.txt\n");
+    }
+    ~ComparingScriptTest() override { remove_all(folder); }
+
+    void write(const char* name, const char* text) const { std::ofstream(folder / name) << text; }
+    Script read(const char* panel) const { return simulator::readScript(folder / "s", panel); }
+
+    const std::filesystem::path folder = std::filesystem::path(testing::TempDir()) / "ComparingScriptTest";
+};
+
+TEST_F(ComparingScriptTest, ComparesWithAFileBesideTheScript)
+{
+    write("menu.txt", "");
+    const Script script = read("wp1");
+    EXPECT_THAT(script.errors, IsEmpty());
+    EXPECT_EQ(script.steps.at(1).text, folder / "menu.txt");
+}
+
+TEST_F(ComparingScriptTest, PanelMayHaveAFileOfItsOwn)
+{
+    write("menu.txt", "");
+    write("menu.wp1.txt", "");
+    EXPECT_EQ(read("wp1").steps.at(1).text, folder / "menu.wp1.txt");
+    EXPECT_EQ(read("plain").steps.at(1).text, folder / "menu.txt");
+}
+
+TEST_F(ComparingScriptTest, MissingFileIsAMistake)
+{
+    write("menu.wp1.txt", "");
+    const std::string start = (folder / "s").string() + ":2: there is no file " + (folder / "menu.txt").string();
+    EXPECT_THAT(read("plain").errors, ElementsAre(StartsWith(start)));
+}
+
+TEST_F(ComparingScriptTest, FileThatIsAboutToBeWrittenMayBeMissing)
+{
+    setenv(simulator::UPDATE_SCREENS_VARIABLE, "1", 1);
+    EXPECT_THAT(read("plain").errors, IsEmpty());
+    setenv(simulator::UPDATE_SCREENS_VARIABLE, "0", 1);
+    EXPECT_THAT(read("plain").errors, SizeIs(1));
+    unsetenv(simulator::UPDATE_SCREENS_VARIABLE);
 }
 
 } // namespace

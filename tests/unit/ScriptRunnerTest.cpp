@@ -1,11 +1,15 @@
 #include "simulator/script/ScriptRunner.h"
 
+#include "simulator/script/ExpectedScreen.h"
 #include "simulator/script/ScriptParser.h"
 
+#include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <functional>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sstream>
 
 namespace {
 
@@ -20,8 +24,10 @@ public:
     bool press(PegKey key) override { return note("down " + std::to_string(key)), takesKeys; }
     bool release(PegKey key) override { return note("up " + std::to_string(key)), takesKeys; }
     void pass(std::int64_t time) override { note("pass " + std::to_string(time)); }
+    bool advance(std::int64_t time) override { return note("advance " + std::to_string(time)), hasVirtualClock; }
+    std::string displayables() override { return "object:\nname:List\nstring0:" + text + "\nend:\n"; }
     bool settle() override { return comesToRest; }
-    bool isThere() override { return comesToRest; }
+    bool isThere() override { return comesToRest && !isGone; }
 
     host::Picture picture() override
     {
@@ -42,7 +48,9 @@ public:
     std::vector<std::string> notes;
     std::string text;
     bool takesKeys = true;
+    bool hasVirtualClock = true;
     bool comesToRest = true;
+    bool isGone = false;
     std::function<void()> nextFrame;
 };
 
@@ -115,6 +123,20 @@ TEST_F(ScriptRunnerTest, WaitLetsTimePass)
     EXPECT_THAT(phone.notes, ElementsAre("pass 250"));
 }
 
+TEST_F(ScriptRunnerTest, AdvanceMovesTheClockInOneGo)
+{
+    run("advance 36000000");
+    EXPECT_THAT(phone.notes, ElementsAre("advance 36000000"));
+}
+
+TEST_F(ScriptRunnerTest, RealClockIsNotAdvanced)
+{
+    phone.hasVirtualClock = false;
+    run("wait 5\nadvance 5");
+    EXPECT_EQ(report.failedLine, 2);
+    EXPECT_THAT(report.failure, testing::StartsWith("the telephone's clock is not a virtual one"));
+}
+
 TEST_F(ScriptRunnerTest, ExpectedTextMayBeAPartOfARow)
 {
     phone.text = "Ring tone: Classic";
@@ -175,14 +197,82 @@ TEST_F(ScriptRunnerTest, EndOfTheApplicationFails)
     EXPECT_THAT(phone.notes, IsEmpty());
 }
 
-TEST_F(ScriptRunnerTest, DumpWritesTheRows)
+std::string contentOf(const std::string& name)
+{
+    std::stringstream text;
+    text << std::ifstream(testing::TempDir() + "/" + name).rdbuf();
+    return text.str();
+}
+
+TEST_F(ScriptRunnerTest, DumpWritesTheScreenAsText)
+{
+    phone.text = "Ready";
+    run("dump ScriptRunnerTest.txt");
+    EXPECT_EQ(contentOf("ScriptRunnerTest.txt"), "object:\nname:List\nstring0:Ready\nend:\n");
+}
+
+TEST_F(ScriptRunnerTest, DumpWritesTheTextsAsJson)
 {
     phone.text = "Ångström";
-    run("dump ScriptRunnerTest.txt");
-    std::ifstream file(testing::TempDir() + "/ScriptRunnerTest.txt");
-    std::string line;
-    EXPECT_TRUE(std::getline(file, line));
-    EXPECT_EQ(line, "> Ångström");
+    run("dump --json ScriptRunnerTest.json");
+    EXPECT_THAT(contentOf("ScriptRunnerTest.json"), testing::HasSubstr("\"text\": \"Ångström\""));
+}
+
+class ScriptComparisonTest : public ScriptRunnerTest {
+protected:
+    ScriptComparisonTest() { std::ofstream(mFile) << "object:\nname:List\nstring0:Ready\nend:\n"; }
+    ~ScriptComparisonTest() override { std::filesystem::remove(mFile); }
+
+    void compare(milliseconds patience = milliseconds(0))
+    {
+        const Script script{{{Step::Action::COMPARE, 7, {}, 0, mFile}}, {}};
+        ScriptRunner(phone, report, "/nowhere", patience).run(script);
+    }
+
+    const std::string mFile = testing::TempDir() + "/ScriptComparisonTest.txt";
+};
+
+TEST_F(ScriptComparisonTest, SameScreenPasses)
+{
+    phone.text = "Ready";
+    compare();
+    EXPECT_TRUE(report.hasPassed);
+}
+
+TEST_F(ScriptComparisonTest, OtherScreenFailsWithTheLinesThatDiffer)
+{
+    phone.text = "Busy";
+    compare();
+    EXPECT_EQ(report.failedLine, 7);
+    EXPECT_EQ(report.failure,
+              "the screen is not that of " + mFile +
+                  " (-), but another (+):\n- string0:Ready\n+ string0:Busy\n\nthe screen shows:\n> Busy\n");
+}
+
+TEST_F(ScriptComparisonTest, WaitsForALaterFrame)
+{
+    phone.text = "Busy";
+    phone.nextFrame = [this] { phone.text = "Ready"; };
+    compare(std::chrono::minutes(1));
+    EXPECT_TRUE(report.hasPassed);
+}
+
+TEST_F(ScriptComparisonTest, DoesNotWaitForATelephoneThatIsGone)
+{
+    phone.text = "Busy";
+    phone.nextFrame = [this] { phone.isGone = true; };
+    compare(std::chrono::minutes(1));
+    EXPECT_EQ(report.failedLine, 7);
+}
+
+TEST_F(ScriptComparisonTest, UpdateMakesWhatIsShownTheExpectedScreen)
+{
+    phone.text = "Busy";
+    setenv(UPDATE_SCREENS_VARIABLE, "1", 1);
+    compare();
+    unsetenv(UPDATE_SCREENS_VARIABLE);
+    EXPECT_TRUE(report.hasPassed);
+    EXPECT_EQ(contentOf("ScriptComparisonTest.txt"), "object:\nname:List\nstring0:Busy\nend:\n");
 }
 
 TEST_F(ScriptRunnerTest, ScreenshotWritesAPicture)
@@ -197,7 +287,7 @@ TEST_F(ScriptRunnerTest, ScreenshotWritesAPicture)
 
 TEST_F(ScriptRunnerTest, OutputThatCannotBeWrittenFails)
 {
-    for (const char* step : {"dump a.txt", "screenshot a.png"}) {
+    for (const char* step : {"dump a.txt", "dump --json a.json", "screenshot a.png"}) {
         report = {};
         ScriptRunner(phone, report, "/nowhere", milliseconds(0)).run(parseScript("s", step));
         EXPECT_EQ(report.failedLine, 1) << step;

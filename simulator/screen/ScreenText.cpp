@@ -1,0 +1,85 @@
+#include "simulator/screen/ScreenText.h"
+
+#include "simulator/screen/WidgetNames.h"
+#include "utilities/ICC.h"
+
+#include <algorithm>
+#include <set>
+#include <sstream>
+
+namespace simulator {
+
+namespace {
+
+using Texts = std::vector<host::TextRun>;
+
+constexpr char VOLATILE[] = "volatile:";
+
+/// On one line, whatever the text is made of.
+std::string ascii(const std::string& text)
+{
+    std::string line = ICC::fromUNICODEtoASCII(ICC::fromUTF8toUNICODE(text));
+    std::ranges::replace_if(
+        line, [](char c) { return c < ' '; }, ' ');
+    return line;
+}
+
+std::set<std::string> runningTextsOfLists(const Texts& texts)
+{
+    std::set<std::string> running;
+    for (const host::TextRun& run : texts)
+        if (run.runs && isList(run.widget))
+            running.insert(ascii(run.text));
+    return running;
+}
+
+std::string marked(const std::string& line, const std::set<std::string>& running)
+{
+    const auto colon = line.find(':');
+    const bool isText = line.starts_with("string") || line.starts_with("caption");
+    if (colon == std::string::npos || !isText || !running.contains(line.substr(colon + 1)))
+        return line;
+    return VOLATILE + line.substr(colon + 1);
+}
+
+std::string withMarks(const std::string& displayables, const std::set<std::string>& running)
+{
+    if (running.empty())
+        return displayables;
+    std::istringstream lines(displayables);
+    std::string text;
+    for (std::string line; std::getline(lines, line);)
+        text += marked(line, running) + '\n';
+    return text;
+}
+
+std::string object(const std::string& name, const Texts& texts)
+{
+    if (texts.empty())
+        return {};
+    std::string lines = "object:\nname:" + name + '\n';
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        lines += (texts[i].runs ? VOLATILE : "string" + std::to_string(i) + ':') + ascii(texts[i].text) + '\n';
+    return lines + "end:\n";
+}
+
+Texts textsOf(PegType widget, const Texts& texts)
+{
+    Texts found;
+    std::ranges::copy_if(texts, std::back_inserter(found), [=](const auto& run) { return run.widget == widget; });
+    return found;
+}
+
+} // namespace
+
+std::string screenText(const std::string& displayables, const Texts& texts)
+{
+    std::string text = withMarks(displayables, runningTextsOfLists(texts));
+    text += object("SystemWindow", textsOf(TYPE_SYSTEM_WINDOW, texts));
+    text += object("StatusMessage", textsOf(TYPE_STATUS_MESSAGE, texts));
+    for (const host::TextRun& ticker : textsOf(TYPE_TICKER, texts))
+        text += object("Ticker", {ticker});
+    return text;
+}
+
+} // namespace simulator

@@ -1,0 +1,53 @@
+#include "simulator/script/TextDifference.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using simulator::textDifference;
+
+TEST(TextDifference, SameTextsDoNotDiffer)
+{
+    EXPECT_EQ(textDifference("", ""), "");
+    EXPECT_EQ(textDifference("a\nb\n", "a\nb\n"), "");
+    EXPECT_EQ(textDifference("a\nb", "a\nb\n"), "") << "an editor has left out the last line feed";
+}
+
+TEST(TextDifference, ChangedLineIsExpectedAndActual)
+{
+    EXPECT_EQ(textDifference("a\nb\nc\n", "a\nx\nc\n"), "- b\n+ x\n");
+}
+
+TEST(TextDifference, MissingAndAdditionalLines)
+{
+    EXPECT_EQ(textDifference("a\nb\nc\n", "a\nc\n"), "- b\n");
+    EXPECT_EQ(textDifference("a\nc\n", "a\nb\nc\n"), "+ b\n");
+    EXPECT_EQ(textDifference("a\n", ""), "- a\n");
+    EXPECT_EQ(textDifference("", "a\n"), "+ a\n");
+}
+
+TEST(TextDifference, SameLinesBetweenAreToldOnce)
+{
+    EXPECT_EQ(textDifference("1\na\nb\n2\nend\n", "3\na\nb\nend\n"), "- 1\n+ 3\n  a\n  b\n- 2\n");
+}
+
+TEST(TextDifference, BlanksAndEmptyLinesCount)
+{
+    EXPECT_EQ(textDifference("a\n\nb\n", "a\nb\n"), "- \n");
+    EXPECT_EQ(textDifference("a \n", "a\n"), "- a \n+ a\n");
+}
+
+TEST(TextDifference, VolatileTextsAreSkipped)
+{
+    EXPECT_EQ(textDifference("volatile:09:12\n", "volatile:09:13\n"), "");
+    EXPECT_EQ(textDifference("volatile:\n", "volatile:09:13\n"), "");
+}
+
+TEST(TextDifference, VolatileTextHasToBeOnBothSides)
+{
+    EXPECT_EQ(textDifference("volatile:09:12\n", ""), "- volatile:09:12\n");
+    EXPECT_EQ(textDifference("volatile:09:12\n", "string0:09:12\n"), "- volatile:09:12\n+ string0:09:12\n");
+    EXPECT_EQ(textDifference("string0:09:12\n", "volatile:09:12\n"), "- string0:09:12\n+ volatile:09:12\n");
+}
+
+} // namespace
