@@ -3,6 +3,8 @@
 #include "DisplayAPI/List.h"
 
 #include "DisplayAPI/ListBoxPrivateIfc.h"
+#include "DisplayAPI/Ticker.h"
+#include "DisplayAPI/TickerPrivateIfc.h"
 #include "unit/FacadeTest.h"
 #include "unit/LiveRow.h"
 #include "utilities/TranslationInfo.h"
@@ -164,11 +166,17 @@ TEST_P(ListRecordTest, EighteenAnswersTheSize)
     EXPECT_EQ(size, 9);
 }
 
-TEST_P(ListRecordTest, TwentyRemembersTheTicker)
+TEST_P(ListRecordTest, TwentyRemembersTheTickerAndHandsItsGuiThreadSideOn)
 {
-    auto* const ticker = reinterpret_cast<Ticker*>(0x1000);
-    carryOut(20, [&](GuiRequestEvent& r) { r.ptrParam1 = ticker; });
-    EXPECT_EQ(list.getTicker(), ticker);
+    auto ticker = std::make_unique<Ticker>("News");
+    carryOut(20, [&](GuiRequestEvent& r) { r.ptrParam1 = ticker.get(); });
+    EXPECT_EQ(list.getTicker(), ticker.get());
+    carryOut(20, [](GuiRequestEvent& r) { r.ptrParam1 = nullptr; });
+    EXPECT_EQ(list.getTicker(), nullptr);
+    const void* const side = ticker->getPrivateImpl();
+    EXPECT_THAT(reached(),
+                ElementsAre(call("setTicker", side), call("setTicker", static_cast<const void*>(nullptr))));
+    gui.call([&] { ticker.reset(); });
 }
 
 TEST_P(ListRecordTest, CodesOfRoundTripsDoNothing)

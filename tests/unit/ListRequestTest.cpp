@@ -20,7 +20,6 @@ namespace {
 struct Arguments {
     TranslationInfo text{"key", nullptr};
     testing::NiceMock<doubles::MockCommandListener> listener;
-    Ticker* ticker = reinterpret_cast<Ticker*>(0x1000);
     PopupDialer* dialer = reinterpret_cast<PopupDialer*>(0x2000);
 };
 

@@ -3,6 +3,7 @@
 #include "DisplayAPI/Command.h"
 #include "DisplayAPI/ListBoxPrivateIfc.h"
 #include "DisplayAPI/ListItemPrivateIfc.h"
+#include "DisplayAPI/Ticker.h"
 #include "unit/FacadeTest.h"
 #include "unit/LiveRow.h"
 #include "utilities/TranslationInfo.h"
@@ -266,16 +267,17 @@ TEST_P(ListTest, ChangesOfRowsDoNotTouchTheSelection)
 
 TEST_P(ListTest, GetTickerAndGetDialerAreWhatWasGivenLast)
 {
-    auto* const ticker = reinterpret_cast<Ticker*>(0x1000);
+    auto ticker = std::make_unique<Ticker>("News");
     auto* const dialer = reinterpret_cast<PopupDialer*>(0x2000);
     run([&] {
         EXPECT_EQ(list.getTicker(), nullptr);
         EXPECT_EQ(list.getDialer(), nullptr);
-        list.setTicker(ticker);
+        list.setTicker(ticker.get());
         list.addDialer(dialer);
-        EXPECT_EQ(list.getTicker(), ticker);
+        EXPECT_EQ(list.getTicker(), ticker.get());
         EXPECT_EQ(list.getDialer(), dialer);
     });
+    gui.call([&] { ticker.reset(); });
 }
 
 TEST_P(ListTest, LocaleChangedReachesEachRowInOrderAndNotTheList)

@@ -1,0 +1,345 @@
+#include "TimerPrivate.h"
+
+#include "DisplayAPI/Command.h"
+#include "DisplayAPI/TimerEvent.h"
+#include "doubles/Mocks.h"
+#include "toolkit/PegMessage.h"
+#include "unit/PoolGate.h"
+#include "unit/RunningToolkit.h"
+#include "unit/VirtualTime.h"
+
+#include <functional>
+#include <optional>
+
+using namespace DisplayAPI;
+using doubles::MockCommandListener;
+using testing::ElementsAre;
+using testing::InSequence;
+using testing::IsEmpty;
+using testing::StrictMock;
+using testing_support::StartedToolkit;
+using testing_support::VirtualTime;
+
+namespace {
+
+using Names = std::vector<std::string>;
+
+/// Writes its name down each time, and then does what the test wants.
+class Listener : public TimerEvent {
+public:
+    Listener(std::string name, Names& told) : mName(std::move(name)), mTold(told) {}
+
+    void timerExpired() override
+    {
+        mTold.push_back(mName);
+        reaction();
+    }
+
+    std::function<void()> reaction = [] {};
+
+private:
+    std::string mName;
+    Names& mTold;
+};
+
+class TimerPrivateTest : public VirtualTime, public testing::Test {
+protected:
+    void addAll()
+    {
+        for (auto* listener : {&a, &b, &c})
+            timer->addEventListener(listener);
+    }
+
+    Names expire()
+    {
+        told.clear();
+        timer->start(0);
+        return told;
+    }
+
+    StartedToolkit toolkit;
+    Names told;
+    Listener a{"a", told}, b{"b", told}, c{"c", told};
+    Command command{"Tick", Command::ITEM};
+    std::optional<TimerPrivate> timer{std::in_place, 100};
+};
+
+TEST_F(TimerPrivateTest, hasNoListenersAtFirst)
+{
+    EXPECT_THAT(timer->getCommandListenerList(), IsEmpty());
+    EXPECT_THAT(timer->getTimerEventListenerList(), IsEmpty());
+}
+
+TEST_F(TimerPrivateTest, doesNotRunUntilItIsStarted)
+{
+    for (const int interval : {-5, 0, 1, 100}) {
+        timer.emplace(interval);
+        EXPECT_FALSE(isTimerRunning()) << interval;
+    }
+}
+
+TEST_F(TimerPrivateTest, tellsCommandListenersAndThenEventListenersInOrder)
+{
+    StrictMock<MockCommandListener> first, second;
+    testing::MockFunction<void()> event;
+    a.reaction = event.AsStdFunction();
+    timer->addEventListener(&a);
+    timer->addCommandListener(&first);
+    timer->addCommandListener(&second);
+    timer->addCommand(&command);
+    const InSequence order;
+    EXPECT_CALL(first, postCommandAction(&command, nullptr));
+    EXPECT_CALL(second, postCommandAction(&command, nullptr));
+    EXPECT_CALL(event, Call());
+    expire();
+}
+
+TEST_F(TimerPrivateTest, zeroTellsAtOnceWithoutARunningTimer)
+{
+    addAll();
+    EXPECT_THAT(expire(), ElementsAre("a", "b", "c"));
+    EXPECT_FALSE(isTimerRunning());
+}
+
+TEST_F(TimerPrivateTest, zeroLeavesARunningTimerRunning)
+{
+    timer->addEventListener(&a);
+    timer->start(30);
+    pass(10);
+    expire();
+    pass(20);
+    EXPECT_THAT(told, ElementsAre("a", "a"));
+}
+
+TEST_F(TimerPrivateTest, belowZeroDoesNothing)
+{
+    addAll();
+    timer->start(-1);
+    EXPECT_FALSE(isTimerRunning());
+    pass(5);
+    EXPECT_THAT(told, IsEmpty());
+}
+
+TEST_F(TimerPrivateTest, runsOutAfterItsTimeAndAgainUntilItIsStopped)
+{
+    timer->addEventListener(&a);
+    timer->start(20);
+    pass(19);
+    EXPECT_THAT(told, IsEmpty());
+    pass(31);
+    EXPECT_THAT(told, ElementsAre("a", "a"));
+    timer->stop();
+    pass(100);
+    EXPECT_THAT(told, ElementsAre("a", "a"));
+}
+
+TEST_F(TimerPrivateTest, singleShotRunsOutOnce)
+{
+    timer->addEventListener(&a);
+    timer->enableSingleShot(true);
+    timer->start(20);
+    pass(100);
+    EXPECT_THAT(told, ElementsAre("a"));
+    timer->enableSingleShot(false);
+    timer->start(20);
+    pass(45);
+    EXPECT_THAT(told, ElementsAre("a", "a", "a"));
+}
+
+TEST_F(TimerPrivateTest, messagesOfOtherTypesAreIgnored)
+{
+    addAll();
+    for (const auto type : {PM_KEY, PM_EXIT, PM_CLICKED}) {
+        PegMessage message;
+        message.wType = type;
+        timer->Message(message);
+    }
+    EXPECT_THAT(told, IsEmpty());
+    PegMessage expiry;
+    expiry.wType = 31;
+    timer->Message(expiry);
+    EXPECT_THAT(told, ElementsAre("a", "b", "c"));
+}
+
+TEST_F(TimerPrivateTest, nullListenersAreIgnored)
+{
+    timer->addCommandListener(nullptr);
+    timer->addEventListener(nullptr);
+    timer->removeCommandListener(nullptr);
+    timer->removeEventListener(nullptr);
+    EXPECT_THAT(timer->getCommandListenerList(), IsEmpty());
+    EXPECT_THAT(timer->getTimerEventListenerList(), IsEmpty());
+    EXPECT_THAT(expire(), IsEmpty());
+}
+
+TEST_F(TimerPrivateTest, listenerThatIsAddedTwiceIsToldTwiceAndRemovedOnceAtATime)
+{
+    for (auto* listener : {&a, &b, &a})
+        timer->addEventListener(listener);
+    EXPECT_THAT(expire(), ElementsAre("a", "b", "a"));
+    timer->removeEventListener(&a);
+    EXPECT_THAT(timer->getTimerEventListenerList(), ElementsAre(&b, &a));
+    timer->removeEventListener(&a);
+    timer->removeEventListener(&a);
+    EXPECT_THAT(timer->getTimerEventListenerList(), ElementsAre(&b));
+}
+
+TEST_F(TimerPrivateTest, commandListenerThatIsAddedTwiceIsToldTwiceAndRemovedOnceAtATime)
+{
+    StrictMock<MockCommandListener> one, other;
+    for (auto* listener : {&one, &other, &one})
+        timer->addCommandListener(listener);
+    timer->addCommand(&command);
+    EXPECT_CALL(one, postCommandAction(&command, nullptr)).Times(2);
+    EXPECT_CALL(other, postCommandAction(&command, nullptr));
+    expire();
+    timer->removeCommandListener(&one);
+    EXPECT_THAT(timer->getCommandListenerList(), ElementsAre(&other, &one));
+    timer->removeCommandListener(&one);
+    timer->removeCommandListener(&one);
+    EXPECT_THAT(timer->getCommandListenerList(), ElementsAre(&other));
+}
+
+TEST_F(TimerPrivateTest, withoutACommandNullIsReported)
+{
+    StrictMock<MockCommandListener> listener;
+    timer->addCommandListener(&listener);
+    EXPECT_CALL(listener, postCommandAction(nullptr, nullptr)).Times(2);
+    expire();
+    timer->addCommand(&command);
+    timer->addCommand(nullptr);
+    expire();
+}
+
+TEST_F(TimerPrivateTest, lastCommandIsReported)
+{
+    StrictMock<MockCommandListener> listener;
+    Command other("Other", Command::ITEM);
+    timer->addCommandListener(&listener);
+    timer->addCommand(&command);
+    timer->addCommand(&other);
+    EXPECT_CALL(listener, postCommandAction(&other, nullptr));
+    expire();
+}
+
+TEST_F(TimerPrivateTest, listenerMayRemoveItself)
+{
+    addAll();
+    a.reaction = [&] { timer->removeEventListener(&a); };
+    c.reaction = [&] { timer->removeEventListener(&c); };
+    EXPECT_THAT(expire(), ElementsAre("a", "b", "c"));
+    EXPECT_THAT(expire(), ElementsAre("b"));
+}
+
+TEST_F(TimerPrivateTest, listenerThatIsRemovedMeanwhileIsNotTold)
+{
+    addAll();
+    b.reaction = [&] {
+        timer->removeEventListener(&a);
+        timer->removeEventListener(&c);
+    };
+    EXPECT_THAT(expire(), ElementsAre("a", "b"));
+}
+
+TEST_F(TimerPrivateTest, listenerThatIsAddedMeanwhileIsToldTheNextTime)
+{
+    timer->addEventListener(&a);
+    a.reaction = [&] {
+        for (int i = 0; i < 100; ++i)
+            timer->addEventListener(&b);
+        a.reaction = [] {};
+    };
+    EXPECT_THAT(expire(), ElementsAre("a"));
+    EXPECT_EQ(expire().size(), 101u);
+}
+
+TEST_F(TimerPrivateTest, listenerMayStopAndRestartTheTimer)
+{
+    timer->addEventListener(&a);
+    a.reaction = [&] { told.size() < 2 ? timer->start(20) : timer->stop(); };
+    timer->start(10);
+    pass(29);
+    EXPECT_THAT(told, ElementsAre("a"));
+    pass(100);
+    EXPECT_THAT(told, ElementsAre("a", "a"));
+}
+
+TEST_F(TimerPrivateTest, expiryInsideAnExpiryIsToldAtOnce)
+{
+    addAll();
+    b.reaction = [&] {
+        b.reaction = [&] { timer->removeEventListener(&a); };
+        timer->start(0);
+    };
+    EXPECT_THAT(expire(), ElementsAre("a", "b", "a", "b", "c", "c"));
+}
+
+TEST_F(TimerPrivateTest, listenerMayDeleteTheTimer)
+{
+    addAll();
+    b.reaction = [&] { timer.reset(); };
+    timer->start(10);
+    pass(50);
+    EXPECT_THAT(told, ElementsAre("a", "b"));
+    EXPECT_FALSE(isTimerRunning());
+}
+
+TEST_F(TimerPrivateTest, listenerMayDeleteTheTimerInsideAnExpiryInsideAnExpiry)
+{
+    addAll();
+    a.reaction = [&] {
+        a.reaction = [&] { timer.reset(); };
+        timer->start(0);
+    };
+    timer->start(0);
+    EXPECT_THAT(told, ElementsAre("a", "a"));
+}
+
+TEST_F(TimerPrivateTest, deletingItStopsIt)
+{
+    timer->addEventListener(&a);
+    timer->start(10);
+    timer.reset();
+    pass(30);
+    EXPECT_THAT(told, IsEmpty());
+    EXPECT_FALSE(isTimerRunning());
+}
+
+/// Counts what really arrives.
+class Counter : public CommandListener {
+public:
+    void commandAction(Command*, Displayable*) override { ++count; }
+
+    std::atomic<int> count{0};
+};
+
+TEST_F(TimerPrivateTest, deletingItRecallsItsQueuedCommandFromAllListeners)
+{
+    Counter one, other;
+    Command another("Another", Command::ITEM);
+    {
+        const test::PoolGate gate;
+        timer->addCommandListener(&one);
+        timer->addCommandListener(&other);
+        timer->addCommand(&command);
+        expire();
+        one.postCommandAction(&another, nullptr);
+        timer.reset();
+    }
+    test::waitUntil([&] { return one.count.load() == 1; });
+    EXPECT_EQ(other.count, 0);
+}
+
+TEST_F(TimerPrivateTest, deletingItWithoutACommandRecallsNothing)
+{
+    Counter listener;
+    {
+        const test::PoolGate gate;
+        timer->addCommandListener(&listener);
+        listener.postCommandAction(&command, nullptr);
+        timer.reset();
+    }
+    test::waitUntil([&] { return listener.count.load() == 1; });
+}
+
+} // namespace

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "host/clock/Clock.h"
+#include "host/toolkit/Timers.h"
+
+namespace testing_support {
+
+/// Time stands still while it lives. Base of the tests in which it passes, before the toolkit starts.
+class VirtualTime {
+public:
+    VirtualTime() { host::Clock::instance().makeVirtual(); }
+    VirtualTime(const VirtualTime&) = delete;
+    VirtualTime& operator=(const VirtualTime&) = delete;
+    ~VirtualTime() { host::Clock::instance().makeReal(); }
+
+    /// Without a loop: the test's thread is the GUI thread, and fires what becomes due.
+    static void pass(int ms)
+    {
+        for (int i = 0; i < ms; ++i) {
+            host::Clock::instance().advance(1);
+            host::Timers::instance().fireDue();
+        }
+    }
+
+    static bool isTimerRunning() { return host::Clock::instance().timerDue() != host::Clock::NEVER; }
+};
+
+} // namespace testing_support
