@@ -9,7 +9,7 @@ constexpr KestrelListBox::Layout LAYOUT{
     .panel = {0, 0, 239, 127},
     .font = host::Font::TEXT,
     .titleFont = host::Font::TEXT_BOLD,
-    .statusLineHeight = 14,
+    .statusLineHeight = 16,
     .titleHeight = 20,
     .rowHeight = 18,
     .gutter = 0,

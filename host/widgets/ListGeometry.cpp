@@ -34,25 +34,28 @@ PegRect lowered(const PegRect& area, int by)
     return rectAt(area.left, area.top + by, widthOf(area), heightOf(area));
 }
 
+/// The title bar comes for a way back or a ticker if need be.
+bool hasBar(const Layout& layout, const ListState& state)
+{
+    return state.titled || (state.back && layout.gutter == 0) || (state.ticker && layout.tickerInTitle);
+}
+
+/// As many lines as leave room for a row.
 void placeStatus(ListGeometry& geometry, const Layout& layout, PegRect& rest, const ListState& state)
 {
-    const int lines = std::min(state.statusLines, heightOf(rest) / layout.statusLineHeight);
+    const int others = (hasBar(layout, state) ? layout.titleHeight : 0) + RULE + layout.rowHeight;
+    const int lines = std::clamp((heightOf(rest) - others) / layout.statusLineHeight, 0, state.statusLines);
     geometry.status = lines > 0 ? cutTop(rest, lines * layout.statusLineHeight + RULE) : NOWHERE;
     geometry.firstStatusLine =
         rectAt(rest.left + layout.leftInset, geometry.status.top, widthOf(rest) - layout.leftInset - layout.rightInset,
                lines > 0 ? layout.statusLineHeight : 0);
 }
 
-/// The way back is shown in the gutter, or where there is none in the title bar, which comes for it if need be. So it
-/// does for a ticker that stands there.
 void placeTitle(ListGeometry& geometry, const Layout& layout, PegRect& rest, const ListState& state)
 {
-    const bool inBar = state.back && layout.gutter == 0;
-    const bool tickerInBar = state.ticker && layout.tickerInTitle;
-    const bool bar = state.titled || inBar || tickerInBar;
     const int right = layout.rightInset + (layout.scrollBar ? 0 : layout.scrollWidth);
     const int left = layout.gutter + layout.leftInset;
-    geometry.title = bar ? cutTop(rest, layout.titleHeight) : NOWHERE;
+    geometry.title = hasBar(layout, state) ? cutTop(rest, layout.titleHeight) : NOWHERE;
     geometry.titleText =
         rectAt(rest.left + left, geometry.title.top, widthOf(rest) - left - right, layout.titleHeight - TITLE_RULE);
 }
@@ -92,16 +95,17 @@ void placeRowParts(ListGeometry& geometry, const Layout& layout, const ListState
         rectAt(row.left + textLeft, row.top, widthOf(row) - textLeft - layout.rightInset, layout.rowHeight);
 }
 
-/// The thumb is to the track as the rows in view are to all.
+/// The thumb is to the track as the rows in view are to all. One row alone has the arrows only.
 void placeThumb(ListGeometry& geometry, const Layout& layout, const ListState& state)
 {
     const PegRect& scroll = geometry.scroll;
     geometry.track = geometry.thumb = NOWHERE;
     if (!layout.scrollBar || state.rows <= geometry.visibleRows)
         return;
-    geometry.track =
-        rectAt(scroll.left + 1, scroll.top + ARROW_HEIGHT, widthOf(scroll) - 1, heightOf(scroll) - 2 * ARROW_HEIGHT);
-    const int track = heightOf(geometry.track);
+    const int track = heightOf(scroll) - 2 * ARROW_HEIGHT;
+    if (track < LEAST_THUMB)
+        return;
+    geometry.track = rectAt(scroll.left + 1, scroll.top + ARROW_HEIGHT, widthOf(scroll) - 1, track);
     const int length = std::max(LEAST_THUMB, track * geometry.visibleRows / state.rows);
     const int start = (track - length) * state.top / (state.rows - geometry.visibleRows);
     geometry.thumb = rectAt(geometry.track.left, geometry.track.top + start, widthOf(geometry.track), length);
@@ -117,7 +121,8 @@ void mirror(ListGeometry& geometry, const PegRect& area)
                     : rectAt(area.left + area.right - part->right, part->top, widthOf(*part), heightOf(*part));
 }
 
-/// The arrow stands where the left key is, in whichever direction texts are read.
+/// In the gutter, or where there is none in the title bar. The arrow stands where the left key is, in whichever
+/// direction texts are read.
 void placeBack(ListGeometry& geometry, const Layout& layout, const PegRect& area, const ListState& state)
 {
     geometry.back = NOWHERE;

@@ -11,12 +11,13 @@ namespace host {
 namespace {
 
 // The graphic panels.
-constexpr int LINE_HEIGHT = 14;
+constexpr int LINE_HEIGHT = 16;
 constexpr int MARGIN = 6;
 constexpr int CAPTION_HEIGHT = 20;
 constexpr int TEXT_HEIGHT = 22;
-constexpr int LEAST_INDENT = 8; ///< of a popup, on either side
-constexpr int POPUP_WIDTH = 200;
+constexpr int LEAST_INDENT = 4; ///< of a popup, on either side
+constexpr int POPUP_WIDTH = 208;
+constexpr int POPUP_MARGIN = 4;
 
 // The panel of two lines, where the window stands as a list does.
 constexpr int TITLE_RULE = 2;
@@ -54,7 +55,7 @@ void drawPopup(PegPainter& painter, const PegRect& area, const SystemWindowState
 {
     const PegRect inside = drawPopupFrame(painter, area);
     const auto cell = [&](int top, int height) {
-        return rectAt(inside.left + MARGIN, inside.top + top, widthOf(inside) - 2 * MARGIN, height);
+        return rectAt(inside.left + POPUP_MARGIN, inside.top + top, widthOf(inside) - 2 * POPUP_MARGIN, height);
     };
     const auto draw = [&](const PegRect& place, int line, Font font) {
         painter.text(place, ICC::fromUTF8toUNICODE(lines.text(line)), {.font = font, .align = Align::CENTRE});
