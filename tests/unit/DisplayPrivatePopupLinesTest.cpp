@@ -260,11 +260,10 @@ TEST_F(DisplayPrivatePopupLinesTest, ReadsAsNothingAfterASizeOfZeroWithNothingCu
 
 namespace {
 
-/// Whether the two look the same with the separator as without it shows whether it was there.
-std::vector<std::uint8_t> painted(SystemWindow& window)
+/// The panel with the window on it.
+std::vector<std::uint8_t> painted()
 {
     host::Lcd::current()->invalidate({0, 0, 239, 127});
-    window.Invalidate();
     host::Lcd::current()->paint();
     return host::Lcd::current()->picture().pixels;
 }
@@ -277,13 +276,15 @@ TEST_F(DisplayPrivatePopupLinesTest, TakingDownWhatIsNotUpShowsTheSeparatorOnThe
         start(hardware, SIP);
         given({});
         display->systemWindowPopup(0);
+        for (int line = 0; line < 2; ++line)
+            window().setSystemWindowText(line, "busy");
         window().setSystemWindowSize(2);
         gpPresent->Add(&window());
-        const auto left = painted(window());
+        const auto left = painted();
         window().showLine(false);
-        const auto without = painted(window());
+        const auto without = painted();
         window().showLine(true);
-        ASSERT_NE(painted(window()), without);
+        ASSERT_NE(painted(), without);
         EXPECT_EQ(left != without, hardware == FULL_PANEL) << hardware;
         gpPresent->Remove(&window());
     }

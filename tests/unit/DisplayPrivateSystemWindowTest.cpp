@@ -2,6 +2,7 @@
 
 #include "unit/DisplayPrivateLinesTest.h"
 
+#include "utilities/ICC.h"
 #include "widgets/KestrelListBoxItem.h"
 #include "widgets/KestrelListBoxWithTitle.h"
 
@@ -206,10 +207,12 @@ class DisplayPrivateListLinesTest : public DisplayPrivateLinesTest {
 protected:
     DisplayPrivateListLinesTest()
     {
-        for (KestrelListBox* box : {list, &byHand}) {
+        for (KestrelListBoxWithTitle* box : {list, &byHand}) {
             box->Resize({0, 0, 239, 127});
             rows.push_back(std::make_unique<KestrelListBoxItem>(PegString()));
             box->append(rows.back().get());
+            for (int line = 0; line < 2; ++line)
+                box->setSystemWindowText(ICC::fromUTF8toUNICODE("busy"), line);
         }
         without = list->rowArea(0);
         byHand.setSystemWindowLines(2);
