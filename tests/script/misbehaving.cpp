@@ -1,13 +1,16 @@
-// An application that does one thing wrong when the user chooses the first row: `misbehaving crash|exit|linger`.
-// `deaf` never runs its loop.
+// An application that does one thing wrong when the user chooses the first row: `misbehaving crash|exit|leave|linger`.
+// `deaf` never runs its loop, `never` does all well.
 
 #include "DisplayAPI/CommandListener.h"
 #include "DisplayAPI/Display.h"
 #include "DisplayAPI/List.h"
 #include "host/Phone.h"
+#include "host/toolkit/Loop.h"
 
+#include <chrono>
 #include <cstdlib>
 #include <string_view>
+#include <thread>
 #include <unistd.h>
 
 using namespace DisplayAPI;
@@ -24,9 +27,18 @@ public:
             std::abort();
         if (mWay == "exit")
             std::_Exit(3);
+        if (mWay == "leave")
+            leaveSoon();
     }
 
 private:
+    /// In the middle of what the script does next.
+    static void leaveSoon()
+    {
+        std::this_thread::sleep_for(std::chrono::milliseconds(20 + getpid() % 20));
+        host::Loop::quit();
+    }
+
     std::string_view mWay;
 };
 
