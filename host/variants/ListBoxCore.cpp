@@ -7,6 +7,7 @@
 #include "utilities/TranslationInfo.h"
 #include "widgets/KestrelApplication.h"
 #include "widgets/KestrelListBoxItem.h"
+#include "widgets/KestrelListBoxWithTitle.h"
 
 #include <algorithm>
 
@@ -67,7 +68,7 @@ int ListBoxCore::Message(const PegMessage& message)
         if (mGoesBack)
             mSelf.postCommand(List::BACK_COMMAND(), mOwner);
         break;
-    case PM_APPLICATION_CHANGED: showTitle(); break;
+    case PM_APPLICATION_CHANGED: lookUp(*static_cast<const PegString*>(message.pData)); break;
     default: return PegThing::Message(message);
     }
     return 0;
@@ -174,6 +175,14 @@ void ListBoxCore::showTitle()
     change([&](KestrelListBox& list) { list.setTitle(ICC::fromUTF8toUNICODE(text)); });
 }
 
+/// Title and rows, also while the list is not on screen.
+void ListBoxCore::lookUp(const PegString& locale)
+{
+    showTitle();
+    if (mOwner != nullptr)
+        mOwner->localeChanged(ICC::fromUNICODEtoASCII(locale));
+}
+
 void ListBoxCore::setHighlight(bool on)
 {
     change([&](KestrelListBox& list) { list.setSelectionHighlight(on); });
@@ -207,10 +216,22 @@ void ListBoxCore::showTicker(KestrelListBox& list, PegThing* ticker)
         before->setTickerShown(false);
 }
 
+/// The widget of the full panel draws the status lines itself; null for the other.
+KestrelListBoxWithTitle* ListBoxCore::statusBox() const
+{
+    return dynamic_cast<KestrelListBoxWithTitle*>(box());
+}
+
+void ListBoxCore::setSystemLines(int lines)
+{
+    if (KestrelListBoxWithTitle* list = statusBox())
+        list->setSystemWindowLines(lines);
+}
+
 void ListBoxCore::setSystemText(int line, const std::string& text)
 {
-    if (line >= 0 && line < static_cast<int>(mSystemTexts.size()))
-        mSystemTexts[static_cast<std::size_t>(line)] = text;
+    if (KestrelListBoxWithTitle* list = statusBox())
+        list->setSystemWindowText(ICC::fromUTF8toUNICODE(text), line);
 }
 
 } // namespace DisplayAPI

@@ -5,11 +5,11 @@
 #include "toolkit/PegThing.h"
 #include "widgets/KestrelListBox.h"
 
-#include <array>
 #include <memory>
 #include <string>
 
 class KestrelListBoxItem;
+class KestrelListBoxWithTitle;
 class TranslationInfo;
 
 namespace DisplayAPI {
@@ -71,7 +71,8 @@ public:
     void setHighlight(bool on);
     void hide();
 
-    void setSystemLines(int lines) { mSystemLines = lines; }
+    bool drawsSystemLines() const { return statusBox() != nullptr; }
+    void setSystemLines(int lines);
     void setSystemText(int line, const std::string& text);
     void setTicker(TickerPrivateIfc* ticker);
     void setDialler(PopupDialer* dialler) { mDialler = dialler; }
@@ -84,7 +85,9 @@ private:
     void changeRows(Change apply);
     void changed();
     bool isOnBackRow() const;
+    KestrelListBoxWithTitle* statusBox() const;
     void showTitle();
+    void lookUp(const PegString& locale);
     void showTicker(KestrelListBox& list, PegThing* ticker);
 
     DisplayablePrivate& mSelf;
@@ -98,8 +101,6 @@ private:
     PegThing mFormerTickers; ///< holds them, never on screen: their facades may change them and give them back
 
     // Kept for the parts of a list that are still to be shown.
-    int mSystemLines = 0;
-    std::array<std::string, 6> mSystemTexts;
     PopupDialer* mDialler = nullptr;
     bool mDiallerOnInitialKey = false;
 };

@@ -1,6 +1,7 @@
 #include "unit/ListVariantTest.h"
 
 #include "DisplayAPI/Command.h"
+#include "DisplayAPI/ListItem.h"
 #include "utilities/Rect.h"
 #include "utilities/TranslationInfo.h"
 #include "widgets/KestrelApplication.h"
@@ -30,10 +31,28 @@ TYPED_TEST(ListBoxPrivateTest, knowsItsFacade)
     EXPECT_EQ(this->list.getParent(), &this->owner);
 }
 
-TYPED_TEST(ListBoxPrivateTest, isAFullScreenWithoutSystemWindow)
+TYPED_TEST(ListBoxPrivateTest, isAFullScreen)
 {
     EXPECT_TRUE(this->list.hideOldWidgetOnFocusGained());
-    EXPECT_FALSE(this->list.hasSystemWindow());
+}
+
+TYPED_TEST(ListBoxPrivateTest, statusLinesTakeRoomOnTheFullPanel)
+{
+    const bool isFullPanel = std::is_same_v<TypeParam, testing_support::PlainVariant>;
+    EXPECT_EQ(this->list.hasSystemWindow(), isFullPanel);
+    this->list.append(&this->a);
+    const auto topOfRows = [this] { return this->boxOf(this->list).rowArea(0).top; };
+    const int top = topOfRows();
+
+    this->list.setSysWindowText("Line 1", 0);
+    this->list.setSysWindowSize(1);
+    EXPECT_EQ(topOfRows() > top, isFullPanel);
+    this->list.setSysWindowSize(0);
+    EXPECT_EQ(topOfRows(), top);
+
+    this->list.setSystemWindowText(0, "Größe");
+    this->list.setSystemWindowSize(1);
+    EXPECT_EQ(topOfRows() > top, isFullPanel);
 }
 
 TYPED_TEST(ListBoxPrivateTest, keepsRowsInOrder)
@@ -195,6 +214,17 @@ TYPED_TEST(ListBoxPrivateTest, translatedTitleFollowsTheLocale)
     EXPECT_EQ(ICC::fromUNICODEtoUTF8(this->boxOf(this->list).title()), "Title 1");
     KestrelApplication::getCurrentApplication()->setLocale(ICC::fromUTF8toUNICODE("de"));
     EXPECT_EQ(ICC::fromUNICODEtoUTF8(this->boxOf(this->list).title()), "Titel 1");
+}
+
+TYPED_TEST(ListBoxPrivateTest, rowsFollowTheLocale)
+{
+    testing::StrictMock<doubles::MockTranslator> translator;
+    EXPECT_CALL(translator, translate("Calls")).WillOnce(Return("Calls")).WillOnce(Return("Anrufe"));
+    TranslationInfo text("Calls", &translator);
+    auto* const row = new ListItem(&text, true);
+    this->owner.append(row);
+    KestrelApplication::getCurrentApplication()->setLocale(ICC::fromUTF8toUNICODE("de"));
+    EXPECT_EQ(row->getText(), "Anrufe");
 }
 
 TYPED_TEST(ListBoxPrivateTest, plainTitleReplacesATranslatedOne)
