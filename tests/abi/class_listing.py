@@ -23,7 +23,7 @@ OPTIONS = ["-g", "-O0", "-w", "-c", "-fdump-lang-class", "-femit-class-debug-alw
 
 # The library's own classes whose order is fixed as well, beside those that are exported.
 INTERNAL = ["ContentWidget.h", "ContentWidgetFactory.h", "DisplayEventFilter.h", "DisplayPrivate.h", "ImagePrivate.h",
-            "PegInitAndCleanUp.h"]
+            "PegInitAndCleanUp.h", "TickerPrivate.h", "TimerPrivate.h"]
 
 
 def headers():
