@@ -91,6 +91,16 @@ void TickerWidget::VisibilityChanged()
     beginAnew();
 }
 
+/// Whether a thing that stands higher hides all of it.
+bool TickerWidget::isCovered() const
+{
+    for (const PegThing* thing = this; thing != nullptr; thing = thing->Parent())
+        for (const PegThing* above = thing->NextSibling(); above != nullptr; above = above->NextSibling())
+            if (contains(above->Area(), Area()))
+                return true;
+    return false;
+}
+
 /// With the beginning of the text at the edge, and without a timer unless it has somewhere to go.
 void TickerWidget::beginAnew()
 {
@@ -109,8 +119,13 @@ void TickerWidget::rest()
     SetTimer(TIMER, REST_MS, false);
 }
 
+/// Looks now and then whether it has come to light again.
 void TickerWidget::step()
 {
+    if (isCovered()) {
+        mOffset = 0;
+        return rest();
+    }
     if (mOffset == 0)
         SetTimer(TIMER, STEP_MS, true);
     mOffset += STEP_WIDTH;

@@ -3,6 +3,7 @@
 #include "host/lcd/Geometry.h"
 #include "host/lcd/Lcd.h"
 #include "presentation/PRESCPresentationManager.h"
+#include "toolkit/PegWindow.h"
 #include "unit/RunningToolkit.h"
 #include "unit/VirtualTime.h"
 #include "utilities/ICC.h"
@@ -253,6 +254,36 @@ TEST_F(TickerWidgetTest, goesAndComesWithTheThingThatItStandsOn)
     gpPresent->Remove(&below);
     EXPECT_FALSE(isTimerRunning());
     below.Remove(ticker.get());
+}
+
+TEST_F(TickerWidgetTest, restsWhileSomethingCoversItAndBeginsAnewAfterwards)
+{
+    show(LONG);
+    const auto before = columns();
+    pass(REST + 5 * STEP);
+    PegWindow popup;
+    popup.Resize(rectAt(0, 40, 200, 60));
+    gpPresent->Add(&popup);
+    paint();
+    pass(STEP);
+    const auto due = host::Clock::instance().timerDue();
+    EXPECT_EQ(due, host::Clock::instance().now() + REST);
+    EXPECT_FALSE(isDirtyAfter(9 * REST));
+    gpPresent->Remove(&popup);
+    EXPECT_EQ(columns(), before);
+    pass(REST);
+    EXPECT_TRUE(isMoved(before, columns(), 2));
+}
+
+TEST_F(TickerWidgetTest, runsOnWhenOnlyAPartOfItIsCovered)
+{
+    show(LONG);
+    PegWindow popup;
+    popup.Resize(rectAt(0, 40, 60, 60));
+    gpPresent->Add(&popup);
+    pass(REST);
+    EXPECT_TRUE(isDirtyAfter(STEP));
+    gpPresent->Remove(&popup);
 }
 
 TEST_F(TickerWidgetTest, newTextBeginsAnew)
