@@ -136,6 +136,32 @@ TEST_F(PainterTest, hugeTextIsNotedInPart)
     EXPECT_EQ(texts.sorted()[0].text.size(), TextRun::MAX_LENGTH);
 }
 
+TEST_F(PainterTest, scrolledTextGoesOutAtOneEdgeAndComesRoundWithAGap)
+{
+    const PegString text = ICC::fromUTF8toUNICODE("----");
+    FrameBuffer cell(24, 16);
+    painter(cell).scrolledText({0, 0, 23, 15}, text, {.font = Font::FIXED, .runs = true}, 20, 6);
+    EXPECT_EQ(art(cell)[7], "###..######........#####");
+    TextRun run{{0, 0, 23, 15}, "----"};
+    run.runs = true;
+    EXPECT_THAT(texts.sorted(), ElementsAre(run));
+}
+
+TEST_F(PainterTest, scrolledTextThatFitsStandsAloneAtItsBeginning)
+{
+    painter(panel).scrolledText({10, 0, 99, 15}, ICC::fromUTF8toUNICODE("--"), {Font::FIXED}, 0, 6);
+    EXPECT_EQ(art(panel)[7].substr(0, 40), "...........######..######...............");
+    EXPECT_THAT(texts.sorted(), ElementsAre(TextRun{{10, 0, 25, 15}, "--"}));
+}
+
+TEST_F(PainterTest, scrolledTextStaysInItsCell)
+{
+    painter(panel).scrolledText({10, 0, 19, 15}, ICC::fromUTF8toUNICODE("--------"), {Font::FIXED}, 8, 6);
+    const std::string line = art(panel)[7];
+    EXPECT_EQ(line.find('#'), 11u);
+    EXPECT_LE(line.rfind('#'), 19u);
+}
+
 TEST_F(PainterTest, emptyOrClippedTextIsNotNoted)
 {
     painter(panel).text({0, 0, 99, 19}, PegString(), {Font::TEXT});
