@@ -1,13 +1,11 @@
 #include "apps/deskphone/About.h"
 
 #include "DisplayAPI/List.h"
-#include "DisplayAPI/ListItem.h"
 #include "host/Phone.h"
 #include "host/clock/Clock.h"
 
 namespace deskphone {
 
-using DisplayAPI::ListItem;
 using host::Clock;
 
 namespace {
@@ -16,19 +14,19 @@ constexpr std::int64_t SECOND = 1000;
 
 } // namespace
 
-About::About(DisplayAPI::Display& display, Screen* parent)
-    : Screen(display, parent, "About"), mStart(Clock::instance().now())
+About::About(Telephone& telephone, Screen* parent)
+    : Screen(telephone, parent, "About.title"), mStart(Clock::instance().now())
 {
 }
 
 void About::build()
 {
-    mUptimeRow = new ListItem(uptime(), false);
-    list().append(mUptimeRow);
-    list().append("Panel: " + std::string(host::nameOf(host::variant())));
+    Text& uptime = text("About.uptime", {[this] { return seconds(); }});
+    mUptimeRow = append(uptime);
+    append(text("About.panel", {[] { return std::string(host::nameOf(host::variant())); }}));
     list().append("DisplayAPI 1.0");
     while (Clock::instance().sleepFor(untilNextSecond(), &mStop))
-        renewRow(mUptimeRow, uptime());
+        renewRow(mUptimeRow, uptime);
 }
 
 void About::stopWorking()
@@ -37,9 +35,9 @@ void About::stopWorking()
     Screen::stopWorking();
 }
 
-std::string About::uptime() const
+std::string About::seconds() const
 {
-    return "Up " + std::to_string((Clock::instance().now() - mStart) / SECOND) + " s";
+    return std::to_string((Clock::instance().now() - mStart) / SECOND);
 }
 
 std::int64_t About::untilNextSecond() const

@@ -9,7 +9,7 @@ namespace deskphone {
 /// What this telephone is and how long it has been running; that row renews itself every second.
 class About : public Screen {
 public:
-    About(DisplayAPI::Display& display, Screen* parent);
+    About(Telephone& telephone, Screen* parent);
 
     void stopWorking() override;
 
@@ -17,7 +17,7 @@ private:
     void build() override;
     void chosen(int) override {}
 
-    std::string uptime() const;
+    std::string seconds() const;
     std::int64_t untilNextSecond() const;
 
     std::int64_t mStart;

@@ -2,27 +2,29 @@
 
 #include "apps/deskphone/Screen.h"
 
+#include <ctime>
 #include <vector>
 
 namespace deskphone {
 
-/// The latest calls of one kind.
+class Call;
+
+/// The latest calls of one kind: those of today with their time, others with their date. Choosing one calls back.
 class CallLog : public Screen {
 public:
-    struct Call {
-        std::string time;
+    struct Entry {
+        std::time_t moment;
         std::string party;
     };
 
-    CallLog(DisplayAPI::Display& display, Screen* parent, const std::string& title, std::vector<Call> calls);
+    CallLog(Telephone& telephone, Screen* parent, const std::string& title, std::vector<Entry> entries, Call& call);
 
 private:
     void build() override;
+    void chosen(int row) override;
 
-    /// Calling back is not for this telephone.
-    void chosen(int) override {}
-
-    std::vector<Call> mCalls;
+    std::vector<Entry> mEntries;
+    Call& mCall;
 };
 
 } // namespace deskphone

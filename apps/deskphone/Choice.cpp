@@ -1,31 +1,42 @@
 #include "apps/deskphone/Choice.h"
 
 #include "DisplayAPI/ExclusiveList.h"
+#include "apps/deskphone/Telephone.h"
 
 namespace deskphone {
 
-Choice::Choice(DisplayAPI::Display& display, Screen* parent, const std::string& title, std::vector<std::string> values)
-    : Screen(display, parent, title, std::make_unique<DisplayAPI::ExclusiveList>()), mTitle(title),
-      mValues(std::move(values))
+Choice::Choice(Telephone& telephone, Screen* parent, const std::string& name, const std::vector<std::string>& values,
+               Values kind, Effect effect)
+    : Screen(telephone, parent, name + ".title", std::make_unique<DisplayAPI::ExclusiveList>()),
+      mSummary(text(name, {[this] { return mValues[mChosen].get(); }})), mSaved(text("Status.saved")),
+      mEffect(std::move(effect))
 {
-}
-
-std::string Choice::summary() const
-{
-    return mTitle + ": " + mValues[mChosen];
+    for (const std::string& value : values)
+        mValues.emplace_back(kind == Values::TRANSLATED ? &telephone.languages() : nullptr, value);
 }
 
 void Choice::build()
 {
-    for (const std::string& value : mValues)
-        list().append(value);
+    for (Text& value : mValues)
+        append(value);
+    list().setSelectedIndex(static_cast<int>(mChosen));
 }
 
 void Choice::chosen(int row)
 {
-    mChosen = static_cast<std::size_t>(row);
-    mListener();
+    const std::string complaint = mEffect(static_cast<std::size_t>(row));
+    if (complaint.empty())
+        accept(static_cast<std::size_t>(row));
+    else
+        left();
     parent()->open();
+    telephone().tell(complaint.empty() ? mSaved.get() : complaint);
+}
+
+void Choice::accept(std::size_t value)
+{
+    mChosen = value;
+    mListener();
 }
 
 void Choice::left()

@@ -1,19 +1,29 @@
 #include "apps/deskphone/ContactCard.h"
 
 #include "DisplayAPI/List.h"
+#include "apps/deskphone/Call.h"
 #include "apps/deskphone/PhoneBook.h"
 
 namespace deskphone {
 
-ContactCard::ContactCard(DisplayAPI::Display& display, Screen* parent) : Screen(display, parent, "Contact") {}
+ContactCard::ContactCard(Telephone& telephone, Screen* parent, Call& call)
+    : Screen(telephone, parent, "Contacts.title"), mCall(call)
+{
+}
 
 void ContactCard::show(int entry)
 {
+    mEntry = entry;
     list().clear();
     list().setTitle(PhoneBook::name(entry));
     list().append(PhoneBook::number(entry));
     list().append(PhoneBook::kind(entry));
     open();
+}
+
+void ContactCard::chosen(int)
+{
+    mCall.begin(*this, PhoneBook::name(mEntry));
 }
 
 } // namespace deskphone

@@ -4,16 +4,21 @@
 
 namespace deskphone {
 
-/// One entry of the phone book, filled anew for each.
+class Call;
+
+/// One entry of the phone book, filled anew for each. Choosing a row calls it.
 class ContactCard : public Screen {
 public:
-    ContactCard(DisplayAPI::Display& display, Screen* parent);
+    ContactCard(Telephone& telephone, Screen* parent, Call& call);
 
     void show(int entry);
 
 private:
     void build() override {}
-    void chosen(int) override {}
+    void chosen(int row) override;
+
+    Call& mCall;
+    int mEntry = 0;
 };
 
 } // namespace deskphone

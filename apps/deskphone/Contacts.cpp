@@ -5,8 +5,8 @@
 
 namespace deskphone {
 
-Contacts::Contacts(DisplayAPI::Display& display, Screen* parent)
-    : Screen(display, parent, "Contacts"), mCard(display, this)
+Contacts::Contacts(Telephone& telephone, Screen* parent, Call& call)
+    : Screen(telephone, parent, "Contacts.title"), mCard(telephone, this, call)
 {
 }
 

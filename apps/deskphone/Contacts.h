@@ -5,10 +5,12 @@
 
 namespace deskphone {
 
+class Call;
+
 /// Everybody in the phone book. Choosing one shows the card.
 class Contacts : public Screen {
 public:
-    Contacts(DisplayAPI::Display& display, Screen* parent);
+    Contacts(Telephone& telephone, Screen* parent, Call& call);
 
     ContactCard& card() { return mCard; }
 

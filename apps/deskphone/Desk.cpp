@@ -1,6 +1,7 @@
 #include "apps/deskphone/Desk.h"
 
 #include "DisplayAPI/Command.h"
+#include "apps/deskphone/WallClock.h"
 
 #include <semaphore>
 
@@ -28,19 +29,41 @@ private:
     std::shared_ptr<std::binary_semaphore> mReached = std::make_shared<std::binary_semaphore>(0);
 };
 
+std::time_t ago(int days, int minutes)
+{
+    return WallClock::now() - (days * 24 * 60 + minutes) * 60;
+}
+
 } // namespace
 
-Desk::Desk(DisplayAPI::Display& display)
-    : mMainMenu(display, nullptr, "Desk phone"), mCallLogs(display, &mMainMenu, "Call log"),
-      mMissed(display, &mCallLogs, "Missed calls", {{"09:12", "Ελένη Ιωάννου"}, {"08:47", "030 1234567"}}),
-      mReceived(display, &mCallLogs, "Received calls",
-                {{"10:05", "Zoë Ångström"}, {"09:31", "Иван Орлик"}, {"08:02", "佐藤 美咲"}}),
-      mDialled(display, &mCallLogs, "Dialled calls", {{"10:20", "Jürgen Müller"}, {"09:58", "משה כהן"}}),
-      mContacts(display, &mMainMenu), mSettings(display, &mMainMenu), mAbout(display, &mMainMenu)
+Desk::Desk(DisplayAPI::Display& display, const std::string& language)
+    : mTelephone(display), mComplaint(mTelephone.useLanguage(language)), mStatus(mTelephone),
+      mNewsText(&mTelephone.languages(), "News.ticker"), mNews(mNewsText.get()), mCall(mTelephone, mStatus),
+      mMainMenu(mTelephone, nullptr, "Menu.title"), mCallLogs(mTelephone, &mMainMenu, "Call.log.title"),
+      mMissed(mTelephone, &mCallLogs, "Call.log.missed.title",
+              {{ago(0, 29), "Ελένη Ιωάννου"}, {ago(1, 54), "030 1234567"}}, mCall),
+      mReceived(mTelephone, &mCallLogs, "Call.log.received.title",
+                {{ago(0, 10), "Zoë Ångström"}, {ago(2, 80), "Иван Орлик"}, {ago(3, 0), "佐藤 美咲"}}, mCall),
+      mDialled(mTelephone, &mCallLogs, "Call.log.dialled.title",
+               {{ago(0, 21), "Jürgen Müller"}, {ago(7, 43), "משה כהן"}}, mCall),
+      mContacts(mTelephone, &mMainMenu, mCall), mSettings(mTelephone, &mMainMenu), mAbout(mTelephone, &mMainMenu)
 {
-    mMainMenu.setEntries(
-        {{"Call log", &mCallLogs}, {"Contacts", &mContacts}, {"Settings", &mSettings}, {"About", &mAbout}});
-    mCallLogs.setEntries({{"Missed", &mMissed}, {"Received", &mReceived}, {"Dialled", &mDialled}});
+    mMainMenu.setEntries({{"Menu.call.log", &mCallLogs},
+                          {"Menu.contacts", &mContacts},
+                          {"Menu.settings", &mSettings},
+                          {"Menu.about", &mAbout}});
+    mMainMenu.setTicker(mNews);
+    mCallLogs.setEntries(
+        {{"Call.log.missed", &mMissed}, {"Call.log.received", &mReceived}, {"Call.log.dialled", &mDialled}});
+    mTelephone.addLanguageListener([this] { mNews.setText(mNewsText.get()); });
+}
+
+void Desk::open()
+{
+    mMainMenu.open();
+    mStatus.open();
+    if (!mComplaint.empty())
+        mTelephone.tell(mComplaint);
 }
 
 void Desk::close()
@@ -55,7 +78,7 @@ void Desk::close()
 std::vector<Screen*> Desk::screens()
 {
     std::vector<Screen*> all = {&mMainMenu, &mCallLogs, &mMissed,          &mReceived, &mDialled,
-                                &mContacts, &mSettings, &mContacts.card(), &mAbout};
+                                &mContacts, &mSettings, &mContacts.card(), &mAbout,    &mCall};
     for (Choice* choice : mSettings.choices())
         all.push_back(choice);
     return all;

@@ -1,22 +1,28 @@
 #pragma once
 
+#include "DisplayAPI/Ticker.h"
 #include "apps/deskphone/About.h"
+#include "apps/deskphone/Call.h"
 #include "apps/deskphone/CallLog.h"
 #include "apps/deskphone/Contacts.h"
 #include "apps/deskphone/Menu.h"
 #include "apps/deskphone/Settings.h"
+#include "apps/deskphone/StatusLines.h"
+#include "apps/deskphone/Telephone.h"
 
+#include <string>
 #include <vector>
 
 namespace deskphone {
 
-/// All screens of the telephone and how they hang together.
+/// All screens of the telephone and how they hang together. Make and delete it on the GUI thread.
 class Desk {
 public:
-    explicit Desk(DisplayAPI::Display& display);
+    /// Begins in the language with this code.
+    Desk(DisplayAPI::Display& display, const std::string& language);
 
-    /// Shows the main menu.
-    void open() { mMainMenu.open(); }
+    /// Shows the main menu. REQUIRES: the display is shown.
+    void open();
 
     /// Ends all that the screens do on other threads. Not on the GUI thread; its loop has to run meanwhile.
     void close();
@@ -24,6 +30,12 @@ public:
 private:
     std::vector<Screen*> screens();
 
+    Telephone mTelephone;
+    std::string mComplaint; ///< about the first language
+    StatusLines mStatus;
+    Text mNewsText;
+    DisplayAPI::Ticker mNews;
+    Call mCall;
     Menu mMainMenu;
     Menu mCallLogs;
     CallLog mMissed;

@@ -4,10 +4,15 @@
 
 namespace deskphone {
 
+void Menu::setTicker(DisplayAPI::Ticker& ticker)
+{
+    list().setTicker(&ticker);
+}
+
 void Menu::build()
 {
     for (const Entry& entry : mEntries)
-        list().append(entry.text);
+        append(text(entry.text));
 }
 
 void Menu::chosen(int row)

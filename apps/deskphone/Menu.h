@@ -4,13 +4,17 @@
 
 #include <vector>
 
+namespace DisplayAPI {
+class Ticker;
+}
+
 namespace deskphone {
 
 /// A screen whose rows lead to other screens.
 class Menu : public Screen {
 public:
     struct Entry {
-        std::string text;
+        std::string text; ///< its key
         Screen* target;
     };
 
@@ -18,6 +22,9 @@ public:
 
     /// REQUIRES: before the first open().
     void setEntries(std::vector<Entry> entries) { mEntries = std::move(entries); }
+
+    /// The ticker outlives the menu.
+    void setTicker(DisplayAPI::Ticker& ticker);
 
 private:
     void build() override;

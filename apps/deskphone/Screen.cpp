@@ -3,32 +3,32 @@
 #include "DisplayAPI/Display.h"
 #include "DisplayAPI/List.h"
 #include "DisplayAPI/ListItem.h"
+#include "apps/deskphone/Telephone.h"
 
 #include <utility>
 
 namespace deskphone {
 
 using DisplayAPI::Command;
-using DisplayAPI::Display;
 using DisplayAPI::List;
 using DisplayAPI::ListItem;
 
 namespace {
 
-constexpr int LIST_WITH_A_WAY_BACK = 3;
-constexpr int LIST_WITHOUT = 0;
+constexpr int LIST_WITHOUT_A_WAY_BACK = 0;
 
 } // namespace
 
-Screen::Screen(Display& display, Screen* parent, const std::string& title)
-    : Screen(display, parent, title, std::make_unique<List>(parent != nullptr ? LIST_WITH_A_WAY_BACK : LIST_WITHOUT))
+Screen::Screen(Telephone& telephone, Screen* parent, const std::string& title)
+    : Screen(telephone, parent, title,
+             std::make_unique<List>(parent != nullptr ? LIST_WITH_A_WAY_BACK : LIST_WITHOUT_A_WAY_BACK))
 {
 }
 
-Screen::Screen(Display& display, Screen* parent, const std::string& title, std::unique_ptr<List> list)
-    : mDisplay(display), mParent(parent), mList(std::move(list))
+Screen::Screen(Telephone& telephone, Screen* parent, const std::string& title, std::unique_ptr<List> list)
+    : mTelephone(telephone), mParent(parent), mList(std::move(list))
 {
-    mList->setTitle(title);
+    mList->setTitle(text(title).info());
     mList->addCommandListener(this);
 }
 
@@ -37,7 +37,7 @@ Screen::~Screen() = default;
 void Screen::open()
 {
     std::call_once(mIsBuilt, [this] { mBuilder = std::thread([this] { build(); }); });
-    mDisplay.setCurrent(mList.get());
+    mTelephone.display().setCurrent(mList.get());
 }
 
 void Screen::stopListening()
@@ -65,10 +65,22 @@ void Screen::commandAction(Command* command, DisplayAPI::Displayable*)
         chosen(row);
 }
 
-void Screen::renewRow(ListItem*& row, const std::string& text)
+Text& Screen::text(const std::string& key, std::vector<Text::Argument> arguments)
+{
+    return mTexts.emplace_back(&mTelephone.languages(), key, std::move(arguments));
+}
+
+ListItem* Screen::append(Text& text)
+{
+    auto* const row = new ListItem(text.info(), false);
+    mList->append(row);
+    return row;
+}
+
+void Screen::renewRow(ListItem*& row, Text& text)
 {
     const bool wasSelected = mList->getSelected() == row;
-    const std::unique_ptr<ListItem> former(std::exchange(row, new ListItem(text, false)));
+    const std::unique_ptr<ListItem> former(std::exchange(row, new ListItem(text.info(), false)));
     mList->replace(former.get(), row);
     if (wasSelected)
         mList->setSelected(row);

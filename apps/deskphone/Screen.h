@@ -1,27 +1,31 @@
 #pragma once
 
 #include "DisplayAPI/CommandListener.h"
+#include "apps/deskphone/Text.h"
 
+#include <deque>
 #include <memory>
 #include <mutex>
 #include <string>
 #include <thread>
+#include <vector>
 
 namespace DisplayAPI {
-class Display;
 class List;
 class ListItem;
 } // namespace DisplayAPI
 
 namespace deskphone {
 
+class Telephone;
+
 /// One screen of the telephone: a list, the thread that fills it, and what happens when the user chooses a row.
 ///
 /// Make and delete screens on the GUI thread. They answer the user on a thread of the library's.
 class Screen : public DisplayAPI::CommandListener {
 public:
-    /// `parent` is where left leads back to; null for the first screen.
-    Screen(DisplayAPI::Display& display, Screen* parent, const std::string& title);
+    /// `parent` is where left leads back to; null for the first screen. `title` is the key of a text.
+    Screen(Telephone& telephone, Screen* parent, const std::string& title);
     Screen(const Screen&) = delete;
     Screen& operator=(const Screen&) = delete;
     ~Screen() override;
@@ -38,15 +42,24 @@ public:
     void commandAction(DisplayAPI::Command* command, DisplayAPI::Displayable* displayable) override;
 
 protected:
-    /// For screens with another kind of list.
-    Screen(DisplayAPI::Display& display, Screen* parent, const std::string& title,
-           std::unique_ptr<DisplayAPI::List> list);
+    static constexpr int LIST_WITH_A_WAY_BACK = 3;
 
+    /// For screens with another kind of list.
+    Screen(Telephone& telephone, Screen* parent, const std::string& title, std::unique_ptr<DisplayAPI::List> list);
+
+    Telephone& telephone() { return mTelephone; }
     DisplayAPI::List& list() { return *mList; }
     Screen* parent() { return mParent; }
+    void setParent(Screen* parent) { mParent = parent; }
 
-    /// Puts a row with another text in the place of `row`: a row's text is fixed. The selection stays. Waits.
-    void renewRow(DisplayAPI::ListItem*& row, const std::string& text);
+    /// A text that lives as long as the screen. In the constructor, or on the thread that fills the screen.
+    Text& text(const std::string& key, std::vector<Text::Argument> arguments = {});
+
+    /// A row that follows the language; the list owns it.
+    DisplayAPI::ListItem* append(Text& text);
+
+    /// Puts a row that looks `text` up again in the place of `row`: a row's text is fixed. The selection stays. Waits.
+    void renewRow(DisplayAPI::ListItem*& row, Text& text);
 
 private:
     /// Fills the list. On the screen's own thread.
@@ -58,8 +71,9 @@ private:
     /// The user goes back.
     virtual void left() {}
 
-    DisplayAPI::Display& mDisplay;
+    Telephone& mTelephone;
     Screen* mParent;
+    std::deque<Text> mTexts; ///< before the list, whose rows show them
     std::unique_ptr<DisplayAPI::List> mList;
     std::once_flag mIsBuilt;
     std::thread mBuilder;

@@ -1,32 +1,82 @@
 #include "apps/deskphone/Settings.h"
 
+#include "DisplayAPI/Display.h"
 #include "DisplayAPI/List.h"
-#include "DisplayAPI/ListItem.h"
+#include "apps/deskphone/Telephone.h"
+
+#include <algorithm>
 
 namespace deskphone {
 
-using DisplayAPI::ListItem;
+namespace {
 
-Settings::Settings(DisplayAPI::Display& display, Screen* parent)
-    : Screen(display, parent, "Settings"),
-      mRingTone(display, this, "Ring tone", {"Classic", "Marimba", "Blackbird", "Steam organ", "Silent"}),
-      mBrightness(display, this, "Brightness", {"Low", "Medium", "High"})
+using enum Choice::Values;
+
+const std::array<std::string, 3> DATE_FORMATS = {"dd.mm.yyyy", "mm/dd/yyyy", "yyyy-mm-dd"};
+const std::array<std::string, 2> TIME_FORMATS = {"24h", "12h"};
+
+std::string nothing(std::size_t)
 {
+    return {};
+}
+
+std::vector<std::string> namesOf(const std::vector<host::Language>& languages)
+{
+    std::vector<std::string> names;
+    std::ranges::transform(languages, std::back_inserter(names), &host::Language::name);
+    return names;
+}
+
+} // namespace
+
+Settings::Settings(Telephone& telephone, Screen* parent)
+    : Screen(telephone, parent, "Settings.title"), mLanguages(telephone.languages().available()),
+      mLanguage(telephone, this, "Settings.language", namesOf(mLanguages), AS_THEY_ARE,
+                [this](std::size_t value) { return useLanguage(value); }),
+      mRingTone(telephone, this, "Settings.ring.tone",
+                {"Ring.tone.classic", "Ring.tone.marimba", "Ring.tone.blackbird", "Ring.tone.steam.organ",
+                 "Ring.tone.silent"},
+                TRANSLATED, nothing),
+      mBrightness(telephone, this, "Settings.brightness", {"Brightness.low", "Brightness.medium", "Brightness.high"},
+                  TRANSLATED, nothing),
+      mDateFormat(telephone, this, "Settings.date", {"31.12.2026", "12/31/2026", "2026-12-31"}, AS_THEY_ARE,
+                  [this](std::size_t value) { return useDateFormat(value); }),
+      mTimeFormat(telephone, this, "Settings.time", {"14:30", "2:30 PM"}, AS_THEY_ARE,
+                  [this](std::size_t value) { return useTimeFormat(value); })
+{
+    const auto current = std::ranges::find(mLanguages, telephone.languages().current().code, &host::Language::code);
+    if (current != mLanguages.end())
+        mLanguage.setChosen(static_cast<std::size_t>(current - mLanguages.begin()));
     for (std::size_t i = 0; i < choices().size(); ++i)
         choices()[i]->setListener([this, i] { renewRow(mRows[i], choices()[i]->summary()); });
 }
 
 void Settings::build()
 {
-    for (std::size_t i = 0; i < mRows.size(); ++i) {
-        mRows[i] = new ListItem(choices()[i]->summary(), false);
-        list().append(mRows[i]);
-    }
+    for (std::size_t i = 0; i < mRows.size(); ++i)
+        mRows[i] = append(choices()[i]->summary());
 }
 
 void Settings::chosen(int row)
 {
     choices().at(static_cast<std::size_t>(row))->open();
+}
+
+std::string Settings::useLanguage(std::size_t value)
+{
+    return telephone().useLanguage(mLanguages.at(value).code);
+}
+
+std::string Settings::useDateFormat(std::size_t value)
+{
+    telephone().display().dateFormatChanged(DATE_FORMATS.at(value));
+    return {};
+}
+
+std::string Settings::useTimeFormat(std::size_t value)
+{
+    telephone().display().timeFormatChanged(TIME_FORMATS.at(value));
+    return {};
 }
 
 } // namespace deskphone

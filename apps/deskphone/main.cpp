@@ -30,7 +30,7 @@ int main()
 {
     DisplayAPI::Widget::setGuiThreadId();
     Display display(host::hardwareName(), "en_GB", "dd.mm.yyyy", "24h", host::isNarrow(), nullptr);
-    deskphone::Desk desk(display);
+    deskphone::Desk desk(display, "en");
     display.show();
     desk.open();
     display.exec();

@@ -1,0 +1,58 @@
+#include "apps/deskphone/Call.h"
+
+#include "DisplayAPI/List.h"
+#include "apps/deskphone/StatusLines.h"
+#include "apps/deskphone/Telephone.h"
+#include "host/clock/Clock.h"
+
+#include <cstdio>
+
+namespace deskphone {
+
+using host::Clock;
+
+namespace {
+
+std::string minutesAndSeconds(std::int64_t ms)
+{
+    const auto seconds = static_cast<int>(ms / 1000);
+    char text[32];
+    std::snprintf(text, sizeof text, "%02d:%02d", seconds / 60, seconds % 60);
+    return text;
+}
+
+} // namespace
+
+Call::Call(Telephone& telephone, StatusLines& status)
+    : Screen(telephone, nullptr, "Call.title", std::make_unique<DisplayAPI::List>(LIST_WITH_A_WAY_BACK)),
+      mStatus(status), mEnded(text("Call.ended", {[this] { return mDuration; }}))
+{
+}
+
+void Call::begin(Screen& from, const std::string& party)
+{
+    setParent(&from);
+    mStart = Clock::instance().now();
+    open();
+    mStatus.callBegins(party);
+}
+
+void Call::build()
+{
+    append(text("Call.hang.up"));
+}
+
+void Call::chosen(int)
+{
+    left();
+    parent()->open();
+}
+
+void Call::left()
+{
+    mStatus.callEnds();
+    mDuration = minutesAndSeconds(Clock::instance().now() - mStart);
+    telephone().tell(mEnded.get());
+}
+
+} // namespace deskphone

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "apps/deskphone/Screen.h"
+
+#include <cstdint>
+
+namespace deskphone {
+
+class StatusLines;
+
+/// A call, as far as this telephone has any: it is answered at once and lasts until the user goes back or hangs up.
+class Call : public Screen {
+public:
+    Call(Telephone& telephone, StatusLines& status);
+
+    /// Calls `party` and goes back to `from` afterwards.
+    void begin(Screen& from, const std::string& party);
+
+private:
+    void build() override;
+    void chosen(int row) override;
+    void left() override;
+
+    StatusLines& mStatus;
+    std::int64_t mStart = 0;
+    std::string mDuration;
+    Text& mEnded;
+};
+
+} // namespace deskphone

@@ -1,0 +1,64 @@
+#include "apps/deskphone/StatusLines.h"
+
+#include "DisplayAPI/Display.h"
+#include "apps/deskphone/Telephone.h"
+#include "apps/deskphone/WallClock.h"
+#include "host/Phone.h"
+
+namespace deskphone {
+
+namespace {
+
+enum Line { OWN_NAME = 0, PARTY = 1 };
+
+/// The small panel's status line is taken down by a line of blanks.
+const std::string BLANK_LINE(24, ' ');
+
+bool isSmallPanel()
+{
+    return host::variant() == host::Variant::WP1;
+}
+
+} // namespace
+
+StatusLines::StatusLines(Telephone& telephone)
+    : mTelephone(telephone), mOwnName(&telephone.languages(), "Status.own.name")
+{
+    telephone.addLanguageListener([this] { showOwnName(); });
+}
+
+void StatusLines::open()
+{
+    const std::tm now = WallClock::local(WallClock::now());
+    mTelephone.display().setTimeInSystemWindow(now.tm_hour, now.tm_min, now.tm_sec);
+    mTelephone.display().showTimeInSystemWindow(!isSmallPanel());
+    showOwnName();
+}
+
+void StatusLines::callBegins(const std::string& party)
+{
+    DisplayAPI::Display& display = mTelephone.display();
+    display.setSystemWindowText(isSmallPanel() ? OWN_NAME : PARTY, party);
+    display.setTimer("00:00:00");
+    display.setSystemWindowSize(isSmallPanel() ? 1 : 2);
+}
+
+void StatusLines::callEnds()
+{
+    DisplayAPI::Display& display = mTelephone.display();
+    display.stopTimer();
+    if (isSmallPanel())
+        display.setSystemWindowText(OWN_NAME, BLANK_LINE);
+    else
+        display.setSystemWindowSize(1);
+}
+
+void StatusLines::showOwnName()
+{
+    if (isSmallPanel())
+        return;
+    mTelephone.display().setSystemWindowText(OWN_NAME, mOwnName.get());
+    mTelephone.display().setSystemWindowSize(1);
+}
+
+} // namespace deskphone

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "DisplayAPI/Timer.h"
+#include "DisplayAPI/TimerEvent.h"
+#include "host/languages/Languages.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace DisplayAPI {
+class Display;
+}
+
+namespace deskphone {
+
+/// What all screens share: the display, the languages, and a way to say something. Safe from any thread; make and
+/// delete it on the GUI thread.
+class Telephone : private DisplayAPI::TimerEvent {
+public:
+    explicit Telephone(DisplayAPI::Display& display);
+
+    DisplayAPI::Display& display() { return mDisplay; }
+    host::Languages& languages() { return mLanguages; }
+
+    /// Changes the language of all that is shown. Returns the sentence that says why it does not, or nothing.
+    std::string useLanguage(const std::string& code);
+
+    /// `listener` is called on the GUI thread each time that the language has changed. REQUIRES: on the GUI thread.
+    void addLanguageListener(std::function<void()> listener);
+
+    /// Shows a message that goes away by itself.
+    void tell(const std::string& message);
+
+private:
+    void timerExpired() override;
+
+    DisplayAPI::Display& mDisplay;
+    host::Languages mLanguages;
+    std::vector<std::function<void()>> mLanguageListeners;
+    DisplayAPI::Timer mLanguageChange; ///< runs out at once: a way to the GUI thread
+};
+
+} // namespace deskphone
