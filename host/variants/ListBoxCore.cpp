@@ -68,7 +68,12 @@ int ListBoxCore::Message(const PegMessage& message)
         if (mGoesBack)
             mSelf.postCommand(List::BACK_COMMAND(), mOwner);
         break;
-    case PM_APPLICATION_CHANGED: lookUp(*static_cast<const PegString*>(message.pData)); break;
+    case PM_APPLICATION_CHANGED:
+        if (message.iData == KestrelApplication::LOCALE)
+            lookUp(*static_cast<const PegString*>(message.pData));
+        else
+            showTitle();
+        break;
     default: return PegThing::Message(message);
     }
     return 0;
@@ -175,12 +180,12 @@ void ListBoxCore::showTitle()
     change([&](KestrelListBox& list) { list.setTitle(ICC::fromUTF8toUNICODE(text)); });
 }
 
-/// Title and rows, also while the list is not on screen.
+/// Rows and title, also while the list is not on screen. The display is told once, when all of it is done.
 void ListBoxCore::lookUp(const PegString& locale)
 {
-    showTitle();
     if (mOwner != nullptr)
         mOwner->localeChanged(ICC::fromUNICODEtoASCII(locale));
+    showTitle();
 }
 
 void ListBoxCore::setHighlight(bool on)

@@ -71,9 +71,15 @@ public:
     void setHighlight(bool on);
     void hide();
 
+    /// Whether the list shows status lines itself, above its title. Two lines have no room for that: there the system
+    /// window pops up above the list, and setting the list's lines has no effect.
     bool drawsSystemLines() const { return statusBox() != nullptr; }
     void setSystemLines(int lines);
     void setSystemText(int line, const std::string& text);
+
+    /// Tells the display when a list on screen looks different.
+    void changed();
+
     void setTicker(TickerPrivateIfc* ticker);
     void setDialler(PopupDialer* dialler) { mDialler = dialler; }
     void showDialler(bool onInitialKey) { mDiallerOnInitialKey = onInitialKey; }
@@ -83,7 +89,6 @@ private:
     void change(Change apply);
     template <typename Change>
     void changeRows(Change apply);
-    void changed();
     bool isOnBackRow() const;
     KestrelListBoxWithTitle* statusBox() const;
     void showTitle();

@@ -23,14 +23,31 @@ bool isVisible(const PegRect& area, const std::vector<Rect>& visible)
     return std::any_of(visible.begin(), visible.end(), [&](const Rect& part) { return part.Overlap(toRect(area)); });
 }
 
+/// What ends a line of the text may not stand within one.
+std::string onOneLine(std::string text)
+{
+    std::replace_if(
+        text.begin(), text.end(), [](unsigned char c) { return c < ' ' || c == 0x7F; }, ' ');
+    return text;
+}
+
 std::string captionOf(const KestrelListBox& list)
 {
-    return list.title().empty() ? std::string() : "caption:" + ICC::fromUNICODEtoUTF8(list.title()) + "\n";
+    return list.title().empty() ? std::string() : "caption:" + onOneLine(ICC::fromUNICODEtoUTF8(list.title())) + "\n";
 }
 
 std::string subItem(const KestrelListBoxItem& item)
 {
-    return "subitem:\nname:KestrelListBoxItem\nstring0:" + ICC::fromUNICODEtoUTF8(item.DataGet()) + "\nendsubitem:\n";
+    return "subitem:\nname:KestrelListBoxItem\nstring0:" + onOneLine(ICC::fromUNICODEtoUTF8(item.DataGet())) +
+           "\nendsubitem:\n";
+}
+
+std::string systemWindowOf(const KestrelListBox& list)
+{
+    std::string text = "subitem:\nname:SystemWindow\n";
+    for (int line = 0; line < list.systemWindowLines(); ++line)
+        text += "string" + std::to_string(line) + ":" + onOneLine(list.systemWindowText(line)) + "\n";
+    return text + "endsubitem:\n";
 }
 
 bool isInView(const PegRect& area)
@@ -50,6 +67,8 @@ std::string listAsText(const KestrelListBox& list, const std::vector<Rect>& visi
     if (!isVisible(list.Area(), visible))
         return {};
     std::string text = "object:\nname:KestrelListBox\n" + captionOf(list);
+    if (isInView(list.systemWindowArea()) && isVisible(list.systemWindowArea(), visible))
+        text += systemWindowOf(list);
     for (int row = list.topRow(); isInView(list.rowArea(row)); ++row) {
         if (isVisible(list.rowArea(row), visible))
             text += subItem(*list.itemAt(row));

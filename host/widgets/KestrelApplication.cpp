@@ -63,19 +63,19 @@ void KestrelApplication::setSoftwareType(int type)
 void KestrelApplication::setLocale(const PegString& locale)
 {
     mLocale = locale;
-    notifyObservers();
+    notifyObservers(LOCALE);
 }
 
 void KestrelApplication::setDateFormat(const PegString& format)
 {
     mDateFormat = format;
-    notifyObservers();
+    notifyObservers(FORMAT);
 }
 
 void KestrelApplication::setTimeFormat(const PegString& format)
 {
     mTimeFormat = format;
-    notifyObservers();
+    notifyObservers(FORMAT);
 }
 
 const PegString& KestrelApplication::getLocale() const
@@ -104,10 +104,11 @@ void KestrelApplication::removeObserver(PegThing* observer)
     std::erase(mObservers, observer);
 }
 
-void KestrelApplication::notifyObservers()
+void KestrelApplication::notifyObservers(Change change)
 {
     PegMessage message;
     message.wType = PM_APPLICATION_CHANGED;
+    message.iData = change;
     message.pData = &mLocale;
     for (PegThing* observer : std::vector<PegThing*>(mObservers)) {
         if (std::find(mObservers.begin(), mObservers.end(), observer) == mObservers.end())

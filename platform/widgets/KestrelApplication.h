@@ -34,6 +34,9 @@ public:
     int getSoftwareType() const;
     void setSoftwareType(int type);
 
+    /// What PM_APPLICATION_CHANGED says in `iData` has changed.
+    enum Change : int { LOCALE, FORMAT };
+
     /// Each setter keeps the text and sends every observer PM_APPLICATION_CHANGED with the locale.
     void setLocale(const PegString& locale);
     void setDateFormat(const PegString& format);
@@ -49,7 +52,7 @@ public:
     void removeObserver(PegThing* observer);
 
 private:
-    void notifyObservers();
+    void notifyObservers(Change change);
 
     std::atomic<int> mHardwareVariant{1};
     std::atomic<int> mSoftwareType{2};
