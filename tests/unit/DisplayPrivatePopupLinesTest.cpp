@@ -187,6 +187,30 @@ TEST_F(DisplayPrivatePopupLinesTest, StaysUpOnTheSmallPanel)
     EXPECT_EQ(lineCount(), 2);
 }
 
+TEST_F(DisplayPrivatePopupLinesTest, HidingSetsOnlyTheWindowsOwnSizeToZero)
+{
+    for (const char* hardware : {FULL_PANEL, SMALL_PANEL}) {
+        start(hardware, SIP);
+        givenLines(2, menu);
+        display->hide();
+        EXPECT_THAT(callsTo("content: "), ElementsAre("content: setSystemWindowSize(0)"));
+        EXPECT_EQ(lineCount(), 2);
+        display->show();
+        display->setCurrent(&popup);
+        EXPECT_EQ(calls().back(), "content: setSystemWindowText(1, \"line 1\")") << "the lines are still on";
+    }
+}
+
+TEST_F(DisplayPrivatePopupLinesTest, ClearingTheScreenSetsOnlyTheWindowsOwnSizeToZero)
+{
+    givenLines(2, menu);
+    display->setCurrent(nullptr);
+    EXPECT_THAT(callsTo("content: "), ElementsAre("content: setSystemWindowSize(0)"));
+    EXPECT_EQ(lineCount(), 2);
+    display->showSW(2);
+    EXPECT_EQ(observer.notifications, 1) << "nothing is current";
+}
+
 TEST_F(DisplayPrivatePopupLinesTest, ReadsAsItsFirstTwoLines)
 {
     start(FULL_PANEL, KVX);

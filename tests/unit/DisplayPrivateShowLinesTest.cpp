@@ -125,9 +125,12 @@ TEST_F(DisplayPrivateDrawnLinesTest, NoLinesAtAllReachTheDisplayableAsASizeOfZer
 
 TEST_F(DisplayPrivateDrawnLinesTest, ShowingNoLinesForgetsTheLineCount)
 {
-    givenLines(2, menu);
-    display->showSW(0);
-    EXPECT_EQ(lineCount(), 0);
+    for (const char* hardware : {FULL_PANEL, SMALL_PANEL}) {
+        start(hardware, SIP);
+        givenLines(2, menu);
+        display->showSW(0);
+        EXPECT_EQ(lineCount(), 0) << hardware;
+    }
 }
 
 TEST_F(DisplayPrivateDrawnLinesTest, NoLinesAtAllTakeAFloatingWindowDown)

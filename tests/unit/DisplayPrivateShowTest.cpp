@@ -88,6 +88,7 @@ TEST_F(DisplayPrivateShowTest, HidingShrinksTheSystemWindowToNothing)
 {
     given({&menu});
     display->getContentWidget()->setSystemWindowSize(2);
+    display->getContentWidget()->setSystemWindowText(1, "busy");
     display->hide();
     const PegRect area = display->getContentWidget()->getSystemWindow()->Area();
     EXPECT_LT(area.bottom, area.top);
