@@ -62,24 +62,26 @@ std::string timerText(std::int64_t time, bool hours)
 }
 
 /// A number of the text: digits up to a colon or the end.
-std::optional<std::int64_t> takeNumber(std::string& text, std::size_t mostDigits)
+std::optional<std::int64_t> takeNumber(std::string& text, std::size_t leastDigits, std::size_t mostDigits)
 {
     const std::size_t end = std::min(text.find(':'), text.size());
     const std::string digits = text.substr(0, end);
-    if (digits.empty() || digits.size() > mostDigits || digits.find_first_not_of("0123456789") != std::string::npos)
+    if (digits.size() < leastDigits || digits.size() > mostDigits ||
+        digits.find_first_not_of("0123456789") != std::string::npos)
         return std::nullopt;
     text.erase(0, end);
     return std::stoll(digits);
 }
 
-/// The milliseconds that "HH:MM:SS" or "MM:SS" stand for.
+/// The milliseconds that "HH:MM:SS" or "MM:SS" stand for; the first number may have one digit.
 std::optional<std::int64_t> parseTimer(std::string text)
 {
     constexpr std::size_t HOUR_DIGITS = 6;
     const bool hours = std::count(text.begin(), text.end(), ':') == 2;
     std::int64_t seconds = 0;
-    for (int part = hours ? 0 : 1; part < 3; ++part) {
-        const auto number = takeNumber(text, part == 0 ? HOUR_DIGITS : 2);
+    const int first = hours ? 0 : 1;
+    for (int part = first; part < 3; ++part) {
+        const auto number = takeNumber(text, part == first ? 1 : 2, part == 0 ? HOUR_DIGITS : 2);
         const bool last = part == 2;
         if (!number || (part > 0 && *number > 59) || text.empty() != last)
             return std::nullopt;
