@@ -175,6 +175,61 @@ TEST_F(DisplayPrivateStatusMessageTest, TheMessageGoesWithItsDisplay)
     EXPECT_EQ(gpPresent->First(), nullptr);
 }
 
+namespace {
+
+/// Looks at the screen when the toolkit is about to stop.
+class LookingStartUp : public doubles::FakeStartUp {
+public:
+    LookingStartUp(const PegThing& menu, std::vector<std::string>& seen) : mMenu(menu), mSeen(seen) {}
+
+    void cleanUp() override
+    {
+        if (gpPresent->First() != nullptr)
+            mSeen.push_back("something on the screen");
+        if (mMenu.Parent() != nullptr)
+            mSeen.push_back("menu not handed back");
+        mSeen.push_back("stopped");
+    }
+
+private:
+    const PegThing& mMenu;
+    std::vector<std::string>& mSeen;
+};
+
+} // namespace
+
+TEST_F(DisplayPrivateStatusMessageTest, MessageWindowAndScreenAreGoneBeforeTheToolkitStops)
+{
+    std::vector<std::string> seen;
+    display = std::make_unique<DisplayAPI::DisplayPrivate>(false, FULL_PANEL, KVX, "", "", "", nullptr, nullptr,
+                                                           new LookingStartUp(*menu.widget(), seen), false);
+    given({&menu});
+    display->setSystemWindowSize(2);
+    display->setStatusMessage("Saved", 5000);
+    display.reset();
+    EXPECT_THAT(seen, ElementsAre("stopped"));
+}
+
+TEST(DisplayPrivateToolkitEndTest, ADisplayWithAMessageAndAWindowStopsTheToolkitAndMayBeMadeAgain)
+{
+    for (const char* hardware : {FULL_PANEL, SMALL_PANEL, FULL_PANEL}) {
+        auto display = std::make_unique<DisplayAPI::DisplayPrivate>(false, hardware, KVX, "", "", "", nullptr, nullptr,
+                                                                    nullptr, false);
+        doubles::Screen menu("menu");
+        display->show();
+        display->setCurrent(&menu);
+        display->setSystemWindowText(0, "noon");
+        display->setSystemWindowSize(2);
+        display->setStatusMessage("Saved", 5000);
+        ASSERT_NE(menu.widget()->NextSibling(), nullptr);
+        display.reset();
+        EXPECT_EQ(gpPresent, nullptr);
+        EXPECT_EQ(menu.widget()->Parent(), nullptr);
+        EXPECT_TRUE(menu.getPrivateImpl()->ownsWidget());
+    }
+    KestrelApplication::getCurrentApplication()->setHardwareVariant(1);
+}
+
 TEST_F(DisplayPrivateStatusMessageTest, AHiddenMessageGoesWithItsDisplayToo)
 {
     display->setStatusMessage("Saved", 5000);

@@ -46,18 +46,19 @@ public:
     int Message(const PegMessage& message) override
     {
         EXPECT_EQ(message.wType, PM_APPLICATION_CHANGED);
-        EXPECT_EQ(Threadable::currentThreadId(), home);
+        EXPECT_EQ(Threadable::currentThreadId(), mHome);
         const auto& application = *KestrelApplication::getCurrentApplication();
         EXPECT_EQ(message.pData, &application.getLocale());
-        told.push_back(utf8(application.getLocale()) + ' ' + utf8(application.getDateFormat()) + ' ' +
+        told.push_back((message.iData == KestrelApplication::LOCALE ? "locale " : "format ") +
+                       utf8(application.getLocale()) + ' ' + utf8(application.getDateFormat()) + ' ' +
                        utf8(application.getTimeFormat()));
         return 0;
     }
 
-    std::vector<std::string> told; ///< locale, date format and time format at each notification
+    std::vector<std::string> told; ///< what has changed, and locale, date format and time format at each notification
 
 private:
-    const unsigned int home = Threadable::currentThreadId();
+    const unsigned int mHome = Threadable::currentThreadId();
 };
 
 /// A real display with a real screen; its content widget notes what it is told.
@@ -176,7 +177,7 @@ TEST_P(DisplayRequestEffectTest, LocaleAndFormatsReachTheApplicationsObserversOn
         display->dateFormatChanged("d.m.");
         display->timeFormatChanged("24 \xE6\x99\x82");
     });
-    EXPECT_THAT(watching->told, ElementsAre("fr d/m 12", "fr d.m. 12", "fr d.m. 24 \xE6\x99\x82"));
+    EXPECT_THAT(watching->told, ElementsAre("locale fr d/m 12", "format fr d.m. 12", "format fr d.m. 24 \xE6\x99\x82"));
     EXPECT_EQ(side->dateFormat(), "d.m.");
     EXPECT_EQ(side->timeFormat(), "24 \xE6\x99\x82");
     gui.call([&] { watching.reset(); });
@@ -320,7 +321,8 @@ TEST(DisplayConstructionEffectTest, LocaleAndFormatsOfTheConstructorReachTheAppl
     const std::string after = utf8(application->getTimeFormat());
     const DisplayPrivate display(false, "any", "", "de", "d.m.", "24", nullptr, nullptr, new doubles::FakeStartUp,
                                  false);
-    EXPECT_THAT(watching.told, ElementsAre("de " + before + after, "de d.m. " + after, "de d.m. 24"));
+    EXPECT_THAT(watching.told,
+                ElementsAre("locale de " + before + after, "format de d.m. " + after, "format de d.m. 24"));
 }
 
 TEST(DisplayShutdownEffectTest, ShutdownQueuesTheEndOfTheLoopFromBothThreads)
