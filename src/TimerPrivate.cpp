@@ -13,7 +13,7 @@ namespace DisplayAPI {
 struct TimerPrivate::Walk {
     std::size_t next;
     std::size_t end;
-    Walk* outer;
+    std::shared_ptr<Walk> outer;
     bool timerIsGone = false;
 
     void hasLost(std::size_t index)
@@ -38,7 +38,7 @@ TimerPrivate::TimerPrivate(int interval) : mTimer(std::make_unique<KestrelPegTim
 
 TimerPrivate::~TimerPrivate()
 {
-    for (Walk* walk = mWalk; walk != nullptr; walk = walk->outer)
+    for (Walk* walk = mWalk.get(); walk != nullptr; walk = walk->outer.get())
         walk->abandon();
     mTimer.reset();
     if (mCommand == nullptr)
@@ -63,12 +63,12 @@ void TimerPrivate::timerEvent()
 
 void TimerPrivate::tellEventListeners()
 {
-    Walk walk{0, mEventListeners.size(), mWalk};
-    mWalk = &walk;
-    while (walk.next < walk.end)
-        mEventListeners[walk.next++]->timerExpired();
-    if (!walk.timerIsGone)
-        mWalk = walk.outer;
+    const auto walk = std::make_shared<Walk>(Walk{0, mEventListeners.size(), mWalk});
+    mWalk = walk;
+    while (walk->next < walk->end)
+        mEventListeners[walk->next++]->timerExpired();
+    if (!walk->timerIsGone)
+        mWalk = walk->outer;
 }
 
 void TimerPrivate::start(int ms)
@@ -120,7 +120,7 @@ void TimerPrivate::removeEventListener(TimerEvent* listener)
         return;
     const auto index = static_cast<std::size_t>(found - mEventListeners.begin());
     mEventListeners.erase(found);
-    for (Walk* walk = mWalk; walk != nullptr; walk = walk->outer)
+    for (Walk* walk = mWalk.get(); walk != nullptr; walk = walk->outer.get())
         walk->hasLost(index);
 }
 

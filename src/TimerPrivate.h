@@ -41,7 +41,7 @@ private:
     std::vector<TimerEvent*> mEventListeners;
     std::unique_ptr<KestrelPegTimer> mTimer;
     Command* mCommand = nullptr;
-    Walk* mWalk = nullptr; ///< the innermost one; they lie on the stack
+    std::shared_ptr<Walk> mWalk; ///< the innermost one
 };
 
 } // namespace DisplayAPI
