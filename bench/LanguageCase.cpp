@@ -2,6 +2,7 @@
 #include "Phone.h"
 
 #include "DisplayAPI/List.h"
+#include "DisplayAPI/ListItem.h"
 #include "host/lcd/Lcd.h"
 #include "host/toolkit/Loop.h"
 #include "utilities/TranslationInfo.h"
@@ -10,6 +11,7 @@
 #include <array>
 #include <atomic>
 #include <cstdio>
+#include <memory>
 #include <unordered_map>
 
 namespace bench {
@@ -74,7 +76,8 @@ double changeLanguage()
     host::Loop::waitUntilIdle(10s);
     const double milliseconds = secondsSince(start) * 1e3;
 
-    if (!shows("Eintrag 0") || list.removeAt(ROWS - 1)->getText() != "Eintrag " + std::to_string(ROWS - 1))
+    const std::unique_ptr<DisplayAPI::ListItem> last(list.removeAt(ROWS - 1));
+    if (!shows("Eintrag 0") || last->getText() != "Eintrag " + std::to_string(ROWS - 1))
         std::fprintf(stderr, "benchmark broken: the language has not changed\n");
     phone.display().setCurrent(nullptr);
     return milliseconds;

@@ -133,7 +133,7 @@ void DisplayPrivate::floatSystemWindow(int lines)
 
 void DisplayPrivate::systemWindowPopup(int lines)
 {
-    if (lines > MOST_POPUP_LINES || !mVisible)
+    if (lines < 0 || lines > MOST_POPUP_LINES || !mVisible)
         return;
     mPopupLines = lines;
     if (isFullPanel())
