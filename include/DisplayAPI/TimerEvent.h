@@ -10,7 +10,7 @@ public:
     virtual ~TimerEvent() = default;
 
     /// Called on the GUI thread, which waits meanwhile. It may call any facade, remove and add listeners of the timer,
-    /// start and stop it, and delete it. It must not throw.
+    /// start and stop it, and delete it while no other thread calls it. It must not throw.
     virtual void timerExpired() = 0;
 };
 

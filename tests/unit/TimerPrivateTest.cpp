@@ -4,6 +4,7 @@
 #include "DisplayAPI/TimerEvent.h"
 #include "doubles/Mocks.h"
 #include "toolkit/PegMessage.h"
+#include "unit/Deliveries.h"
 #include "unit/PoolGate.h"
 #include "unit/RunningToolkit.h"
 #include "unit/VirtualTime.h"
@@ -61,6 +62,8 @@ protected:
     Names told;
     Listener a{"a", told}, b{"b", told}, c{"c", told};
     Command command{"Tick", Command::ITEM};
+    Command otherCommand{"Other", Command::ITEM};
+    StrictMock<MockCommandListener> one, other;
     std::optional<TimerPrivate> timer{std::in_place, 100};
 };
 
@@ -80,16 +83,15 @@ TEST_F(TimerPrivateTest, doesNotRunUntilItIsStarted)
 
 TEST_F(TimerPrivateTest, tellsCommandListenersAndThenEventListenersInOrder)
 {
-    StrictMock<MockCommandListener> first, second;
     testing::MockFunction<void()> event;
     a.reaction = event.AsStdFunction();
     timer->addEventListener(&a);
-    timer->addCommandListener(&first);
-    timer->addCommandListener(&second);
+    timer->addCommandListener(&one);
+    timer->addCommandListener(&other);
     timer->addCommand(&command);
     const InSequence order;
-    EXPECT_CALL(first, postCommandAction(&command, nullptr));
-    EXPECT_CALL(second, postCommandAction(&command, nullptr));
+    EXPECT_CALL(one, postCommandAction(&command, nullptr));
+    EXPECT_CALL(other, postCommandAction(&command, nullptr));
     EXPECT_CALL(event, Call());
     expire();
 }
@@ -186,7 +188,6 @@ TEST_F(TimerPrivateTest, listenerThatIsAddedTwiceIsToldTwiceAndRemovedOnceAtATim
 
 TEST_F(TimerPrivateTest, commandListenerThatIsAddedTwiceIsToldTwiceAndRemovedOnceAtATime)
 {
-    StrictMock<MockCommandListener> one, other;
     for (auto* listener : {&one, &other, &one})
         timer->addCommandListener(listener);
     timer->addCommand(&command);
@@ -202,9 +203,8 @@ TEST_F(TimerPrivateTest, commandListenerThatIsAddedTwiceIsToldTwiceAndRemovedOnc
 
 TEST_F(TimerPrivateTest, withoutACommandNullIsReported)
 {
-    StrictMock<MockCommandListener> listener;
-    timer->addCommandListener(&listener);
-    EXPECT_CALL(listener, postCommandAction(nullptr, nullptr)).Times(2);
+    timer->addCommandListener(&one);
+    EXPECT_CALL(one, postCommandAction(nullptr, nullptr)).Times(2);
     expire();
     timer->addCommand(&command);
     timer->addCommand(nullptr);
@@ -213,12 +213,10 @@ TEST_F(TimerPrivateTest, withoutACommandNullIsReported)
 
 TEST_F(TimerPrivateTest, lastCommandIsReported)
 {
-    StrictMock<MockCommandListener> listener;
-    Command other("Other", Command::ITEM);
-    timer->addCommandListener(&listener);
+    timer->addCommandListener(&one);
     timer->addCommand(&command);
-    timer->addCommand(&other);
-    EXPECT_CALL(listener, postCommandAction(&other, nullptr));
+    timer->addCommand(&otherCommand);
+    EXPECT_CALL(one, postCommandAction(&otherCommand, nullptr));
     expire();
 }
 
@@ -305,41 +303,47 @@ TEST_F(TimerPrivateTest, deletingItStopsIt)
     EXPECT_FALSE(isTimerRunning());
 }
 
-/// Counts what really arrives.
-class Counter : public CommandListener {
-public:
-    void commandAction(Command*, Displayable*) override { ++count; }
-
-    std::atomic<int> count{0};
-};
-
 TEST_F(TimerPrivateTest, deletingItRecallsItsQueuedCommandFromAllListeners)
 {
-    Counter one, other;
-    Command another("Another", Command::ITEM);
+    test::Deliveries first, second;
     {
         const test::PoolGate gate;
-        timer->addCommandListener(&one);
-        timer->addCommandListener(&other);
+        timer->addCommandListener(&first);
+        timer->addCommandListener(&second);
         timer->addCommand(&command);
         expire();
-        one.postCommandAction(&another, nullptr);
+        timer.reset();
+        first.postCommandAction(&otherCommand, nullptr);
+        second.postCommandAction(&otherCommand, nullptr);
+    }
+    second.waitFor(&otherCommand);
+    EXPECT_THAT(first.arrived(), ElementsAre(&otherCommand));
+    EXPECT_THAT(second.arrived(), ElementsAre(&otherCommand));
+}
+
+TEST_F(TimerPrivateTest, deletingItLeavesOtherCommandsOfItsListenersQueued)
+{
+    test::Deliveries listener;
+    {
+        const test::PoolGate gate;
+        timer->addCommandListener(&listener);
+        timer->addCommand(&command);
+        listener.postCommandAction(&otherCommand, nullptr);
         timer.reset();
     }
-    test::waitUntil([&] { return one.count.load() == 1; });
-    EXPECT_EQ(other.count, 0);
+    listener.waitFor(&otherCommand);
 }
 
 TEST_F(TimerPrivateTest, deletingItWithoutACommandRecallsNothing)
 {
-    Counter listener;
+    test::Deliveries listener;
     {
         const test::PoolGate gate;
         timer->addCommandListener(&listener);
         listener.postCommandAction(&command, nullptr);
         timer.reset();
     }
-    test::waitUntil([&] { return listener.count.load() == 1; });
+    listener.waitFor(&command);
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "DisplayAPI/TimerEvent.h"
 #include "DisplayAPI/TimerPrivateIfc.h"
 #include "doubles/Mocks.h"
+#include "unit/Deliveries.h"
 #include "unit/FacadeTest.h"
 #include "unit/PoolGate.h"
 #include "unit/Posted.h"
@@ -255,26 +256,16 @@ TEST_P(TimerTest, ListenerMayDeleteTheTimerThatTellsIt)
     arguments.event.reaction = [&] { timer.reset(); };
     run([&] {
         timer->addEventListener(&arguments.event);
-        timer->start(0);
+        timer->start(10);
     });
+    advance(50);
     EXPECT_EQ(arguments.event.count, 1);
     EXPECT_EQ(timer, nullptr);
 }
 
-namespace {
-
-class Deliveries : public CommandListener {
-public:
-    void commandAction(Command*, Displayable*) override { ++count; }
-
-    std::atomic<int> count{0};
-};
-
-} // namespace
-
 TEST_P(TimerTest, NoQueuedCommandArrivesAfterTheTimerIsDeleted)
 {
-    Deliveries listener;
+    test::Deliveries listener;
     Command last("Last", Command::ITEM);
     {
         const test::PoolGate gate;
@@ -287,9 +278,21 @@ TEST_P(TimerTest, NoQueuedCommandArrivesAfterTheTimerIsDeleted)
         run([&] { timer.reset(); });
         listener.postCommandAction(&last, nullptr);
     }
-    test::waitUntil([&] { return listener.count.load() > 0; });
-    listener.retrievePendingCommandAction(nullptr, nullptr);
-    EXPECT_EQ(listener.count, 1);
+    listener.waitFor(&last);
+    EXPECT_THAT(listener.arrived(), ElementsAre(&last));
+}
+
+TEST_P(TimerTest, CommandArrivesOnAPoolThread)
+{
+    test::Deliveries listener;
+    Timer timer(0);
+    run([&] {
+        timer.addCommandListener(&listener);
+        timer.addCommand(&arguments.command);
+        timer.start(0);
+    });
+    listener.waitFor(&arguments.command);
+    run([&] { timer.removeCommandListener(&listener); });
 }
 
 INSTANTIATE_TEST_SUITE_P(Requests, TimerTest, testing::Values(From::GUI_THREAD, From::WORKER),
@@ -331,6 +334,21 @@ TEST_F(TimerPostTest, DestructorDropsQueuedCallsBeforeItWaits)
     EXPECT_THAT(gui.queuedCodes(), ElementsAre(2));
     EXPECT_EQ(test::postedBy(gui, [&] { timer.reset(); }), (Posted{{1}, true}));
     EXPECT_EQ(event.count, 0);
+}
+
+TEST_F(TimerPostTest, ListenerMayDeleteTheTimerInsideAPostedCall)
+{
+    auto timer = std::make_unique<Timer>(0);
+    Expiries event;
+    event.reaction = [&] { timer.reset(); };
+    timer->addEventListener(&event);
+    test::onOtherThread([&] {
+        timer->start(0);
+        timer->stop();
+    });
+    gui.step();
+    EXPECT_EQ(timer, nullptr);
+    EXPECT_THAT(gui.queuedCodes(), IsEmpty()) << "what was queued for it goes with it";
 }
 
 TEST_F(TimerPostTest, TimerThatWasNeverMadeIsDestroyedWithoutPosting)
