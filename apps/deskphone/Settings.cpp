@@ -1,6 +1,5 @@
 #include "apps/deskphone/Settings.h"
 
-#include "DisplayAPI/Display.h"
 #include "DisplayAPI/List.h"
 #include "apps/deskphone/Telephone.h"
 
@@ -69,13 +68,13 @@ std::string Settings::useLanguage(std::size_t value)
 
 std::string Settings::useDateFormat(std::size_t value)
 {
-    telephone().display().dateFormatChanged(DATE_FORMATS.at(value));
+    telephone().useDateFormat(DATE_FORMATS.at(value));
     return {};
 }
 
 std::string Settings::useTimeFormat(std::size_t value)
 {
-    telephone().display().timeFormatChanged(TIME_FORMATS.at(value));
+    telephone().useTimeFormat(TIME_FORMATS.at(value));
     return {};
 }
 

@@ -26,6 +26,18 @@ std::string Telephone::useLanguage(const std::string& code)
     return complaint;
 }
 
+void Telephone::useDateFormat(const std::string& format)
+{
+    mDisplay.dateFormatChanged(format);
+    renewTexts();
+}
+
+void Telephone::useTimeFormat(const std::string& format)
+{
+    mDisplay.timeFormatChanged(format);
+    renewTexts();
+}
+
 void Telephone::addLanguageListener(std::function<void()> listener)
 {
     mLanguageListeners.push_back(std::move(listener));
@@ -39,9 +51,15 @@ void Telephone::tell(const std::string& message)
 void Telephone::timerExpired()
 {
     mDisplay.setTranslator(&mLanguages);
-    mDisplay.localeChanged(mLanguages.current().locale);
+    renewTexts();
     for (const auto& listener : mLanguageListeners)
         listener();
+}
+
+/// With the locale every screen looks its texts up again, dates and times among them.
+void Telephone::renewTexts()
+{
+    mDisplay.localeChanged(mLanguages.current().locale);
 }
 
 } // namespace deskphone

@@ -26,6 +26,10 @@ public:
     /// Changes the language of all that is shown. Returns the sentence that says why it does not, or nothing.
     std::string useLanguage(const std::string& code);
 
+    /// Change how dates and times are shown, on all screens.
+    void useDateFormat(const std::string& format);
+    void useTimeFormat(const std::string& format);
+
     /// `listener` is called on the GUI thread each time that the language has changed. REQUIRES: on the GUI thread.
     void addLanguageListener(std::function<void()> listener);
 
@@ -34,6 +38,7 @@ public:
 
 private:
     void timerExpired() override;
+    void renewTexts();
 
     DisplayAPI::Display& mDisplay;
     host::Languages mLanguages;

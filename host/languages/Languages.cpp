@@ -25,6 +25,12 @@ Language describe(const std::string& code, const Catalogue& catalogue)
     return {code, name != catalogue.texts.end() ? name->second : code, catalogue.locale};
 }
 
+void log(int line, const std::string& text)
+{
+    if (loggingOnUni())
+        logAppUni("host::Languages", "host/languages/Languages", REFUSED, line, "%s", text.c_str());
+}
+
 /// A code becomes a part of a path.
 bool isCode(const std::string& text)
 {
@@ -67,8 +73,10 @@ std::string Languages::use(const std::string& code)
     if (!isCode(code))
         return "There is no language '" + code + "'.";
     auto catalogue = std::make_shared<Catalogue>();
-    if (std::string complaint = readCatalogue(pathOf(code), *catalogue); !complaint.empty())
+    if (std::string complaint = readCatalogue(pathOf(code), *catalogue); !complaint.empty()) {
+        log(__LINE__, complaint);
         return complaint;
+    }
     const std::lock_guard lock(mMutex);
     mInUse = {std::move(catalogue), code};
     return {};
@@ -107,8 +115,7 @@ void Languages::reportMissing(const std::string& code, const std::string& key)
         if (!mReported.insert(code + ' ' + key).second)
             return;
     }
-    logAppUni("host::Languages", "host/languages/Languages", REFUSED, __LINE__, "%s%s has no text for '%s'",
-              code.c_str(), ENDING, key.c_str());
+    log(__LINE__, code + ENDING + " has no text for '" + key + "'");
 }
 
 std::string Languages::pathOf(const std::string& code) const

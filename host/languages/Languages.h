@@ -37,7 +37,7 @@ public:
     std::vector<Language> available() const;
 
     /// Changes the language. Returns nothing when all is well, else the sentence that says in which file and line it is
-    /// not; the former language then stays.
+    /// not, which is logged as well; the former language then stays.
     std::string use(const std::string& code);
 
     /// The language in use; all empty before the first.

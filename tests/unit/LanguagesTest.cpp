@@ -187,6 +187,14 @@ TEST_F(LanguagesTest, CatalogueThatIsNotThereIsRefused)
     EXPECT_EQ(languages.current().code, "de");
 }
 
+TEST_F(LanguagesTest, RefusalIsLogged)
+{
+    const host::LogCapture log;
+    const std::string complaint = complaintOf("nonsense");
+    ASSERT_EQ(test::linesOf(log, MODULE).size(), 1u);
+    EXPECT_EQ(test::linesOf(log, MODULE).front().text, complaint);
+}
+
 TEST_F(LanguagesTest, FolderIsNoCatalogue)
 {
     fs::create_directory(folder / "fr.po");
