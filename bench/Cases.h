@@ -18,6 +18,7 @@ constexpr const char* HEAP = "Heap";
 // Each gives its cases; `directory` is where the benchmark's programs are.
 std::vector<Case> libraryCases();
 std::vector<Case> listCases();
+std::vector<Case> repaintCases();
 std::vector<Case> screenTextCases();
 std::vector<Case> languageCases();
 std::vector<Case> heapCases();

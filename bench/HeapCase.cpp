@@ -23,23 +23,29 @@ double heapInUse()
     return static_cast<double>(info.uordblks + info.hblkhd);
 }
 
-/// Rows made on the GUI thread: no request records are on their way.
+/// Never many at a time, so that few request records are on their way.
+void append(DisplayAPI::List& list)
+{
+    for (int row = 0; row < ROWS; ++row) {
+        char text[32];
+        std::snprintf(text, sizeof text, "Entry %05d", row);
+        list.append(text);
+        if (row % 16 == 15)
+            list.size();
+    }
+}
+
+/// The first filling makes the request records, which are kept for the next one.
 double bytesPerRow()
 {
     Phone phone;
     DisplayAPI::List list(0);
-    list.append("Entry 00000");
-    double bytes = 0;
-    OnGuiThread::run([&] {
-        const double before = heapInUse();
-        for (int row = 1; row <= ROWS; ++row) {
-            char text[32];
-            std::snprintf(text, sizeof text, "Entry %05d", row);
-            list.append(text);
-        }
-        bytes = (heapInUse() - before) / ROWS;
-    });
-    return bytes;
+    append(list);
+    list.clear();
+    list.size();
+    const double before = heapInUse();
+    append(list);
+    return (heapInUse() - before) / ROWS;
 }
 
 /// What each facade has of its own whatever it shows: the request lock, the Wait object, the record that holds them.
@@ -57,12 +63,34 @@ double bytesPerFacadeSynchronisation()
     return (heapInUse() - before) / ROWS;
 }
 
+/// A list's call on the GUI thread leaves its record behind; a row that is made of a text is appended by one.
+double bytesPerCallOnGuiThread()
+{
+    Phone phone;
+    DisplayAPI::List list(0);
+    double bytes = 0;
+    OnGuiThread::run([&] {
+        const double before = heapInUse();
+        for (int call = 0; call < ROWS; ++call)
+            list.setSelectionHighlight(true);
+        bytes = (heapInUse() - before) / ROWS;
+    });
+    return bytes;
+}
+
+double bytesOfTheRowItself()
+{
+    return bytesPerRow() - bytesPerFacadeSynchronisation() - bytesPerCallOnGuiThread();
+}
+
 } // namespace
 
 std::vector<Case> heapCases()
 {
-    return {{HEAP, "A list row \"Entry 00001\"", "bytes", bytesPerRow},
-            {HEAP, "of which a facade's lock, Wait object and their record", "bytes", bytesPerFacadeSynchronisation}};
+    return {{HEAP, "A list row \"Entry 00001\", with all that comes with it", "bytes", bytesPerRow},
+            {HEAP, "of which a facade's lock, Wait object and their record", "bytes", bytesPerFacadeSynchronisation},
+            {HEAP, "of which the record of the call that appends it", "bytes", bytesPerCallOnGuiThread},
+            {HEAP, "Facade, row and text", "bytes", bytesOfTheRowItself}};
 }
 
 } // namespace bench

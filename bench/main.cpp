@@ -11,6 +11,7 @@ std::vector<bench::Case> allCases(const std::string& directory)
 {
     std::vector<std::vector<bench::Case>> sources{bench::libraryCases(),
                                                   bench::listCases(),
+                                                  bench::repaintCases(),
                                                   bench::screenTextCases(),
                                                   bench::languageCases(),
                                                   bench::firstFrameCases(directory),
