@@ -47,7 +47,7 @@ struct KestrelListBox::Impl final : host::StatusTimeView {
     const Layout& layout;
     host::ApplicationWatch application;
     host::StatusLines status;
-    int statusShown = 0; ///< status lines that take room
+    int statusShown = 0; ///< status lines that take room where there is any
     host::ListRows rows;
     PegString title;
     PegThing* target = nullptr;

@@ -42,7 +42,7 @@ void KestrelListBox::Impl::placeStatus()
 
 int KestrelListBox::systemWindowLines() const
 {
-    return mImpl->statusShown;
+    return mImpl->geometry().statusLines();
 }
 
 const std::string& KestrelListBox::systemWindowText(int line) const

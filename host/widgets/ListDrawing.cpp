@@ -43,8 +43,7 @@ void KestrelListBox::Impl::drawStatus(PegPainter& painter, const ListGeometry& p
 {
     if (isEmpty(parts.status) || painter.isClippedOut(parts.status))
         return;
-    const int lines = heightOf(parts.status) / layout.statusLineHeight;
-    for (int line = 0; line < lines; ++line)
+    for (int line = 0; line < parts.statusLines(); ++line)
         drawStatusLine(painter, parts.statusLine(line), status.text(line), layout.font,
                        line == 0 ? statusTime() : nullptr);
     painter.fill({parts.status.left, parts.status.bottom, parts.status.right, parts.status.bottom}, Level::DARK);

@@ -152,6 +152,11 @@ PegRect ListGeometry::text(int slot) const
     return lowered(firstText, slot * rowHeight);
 }
 
+int ListGeometry::statusLines() const
+{
+    return isEmpty(status) ? 0 : heightOf(status) / heightOf(firstStatusLine);
+}
+
 PegRect ListGeometry::statusLine(int line) const
 {
     return lowered(firstStatusLine, line * heightOf(firstStatusLine));

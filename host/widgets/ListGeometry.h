@@ -38,6 +38,7 @@ struct ListGeometry {
     PegRect mark(int slot) const;
     PegRect text(int slot) const;
 
+    int statusLines() const;
     PegRect statusLine(int line) const;
 
     friend bool operator==(const ListGeometry&, const ListGeometry&) = default;

@@ -97,7 +97,7 @@ RunningTime::RunningTime(std::int64_t milliseconds) : mStart(Clock::instance().n
 
 std::int64_t RunningTime::milliseconds() const
 {
-    return Clock::instance().now() - mStart;
+    return std::max<std::int64_t>(0, Clock::instance().now() - mStart);
 }
 
 StatusTime::StatusTime()

@@ -106,6 +106,8 @@ TEST_F(KestrelListBoxStatusTest, numbersOutOfRangeAreCutOrIgnored)
 {
     setLines(6);
     list->setSystemWindowLines(99);
+    EXPECT_EQ(list->systemWindowLines(), 5);
+    list->setTitle(PegString());
     EXPECT_EQ(list->systemWindowLines(), 6);
     list->setSystemWindowText(text("x"), 6);
     list->setSystemWindowText(text("x"), -1);

@@ -4,6 +4,7 @@
 #include "presentation/PRESCPresentationManager.h"
 #include "unit/RunningToolkit.h"
 #include "utilities/ICC.h"
+#include "widgets/SystemWindow.h"
 
 #include <chrono>
 #include <gmock/gmock.h>
@@ -224,5 +225,66 @@ TEST_F(LcdTest, thereIsNoneWithoutToolkit)
 }
 
 } // namespace
+
+TEST_F(LcdTest, textsTellWhoHasPaintedThem)
+{
+    PegThing parent;
+    Patch child({0, 0, 79, 15}, Level::BARE, "child");
+    parent.Resize({0, 0, 99, 99});
+    parent.Add(&child);
+    SystemWindow window;
+    window.setSystemWindowTop(50, false, false);
+    window.setSystemWindowSize(1);
+    window.setSystemWindowText(0, "window");
+    gpPresent->Add(&parent);
+    gpPresent->Add(&window);
+    lcd.paint();
+    const auto runs = lcd.picture().texts;
+    ASSERT_EQ(texts(), (std::vector<std::string>{"child", "window"}));
+    EXPECT_EQ(runs[0].widget, TYPE_THING);
+    EXPECT_EQ(runs[1].widget, TYPE_SYSTEM_WINDOW);
+    parent.Remove(&child);
+    gpPresent->Remove(&parent);
+}
+
+TEST_F(LcdTest, pictureKnowsTheFocus)
+{
+    constexpr PegRect NOWHERE{0, 0, -1, -1};
+    Patch one({0, 0, 9, 9}, Level::DARK);
+    Patch other({20, 20, 29, 29}, Level::DARK);
+    gpPresent->Add(&one);
+    gpPresent->Add(&other);
+    lcd.paint();
+    EXPECT_EQ(lcd.picture().focus, NOWHERE);
+    gpPresent->MoveFocusTree(&one);
+    lcd.paint();
+    EXPECT_EQ(lcd.picture().focus, one.Area());
+    gpPresent->MoveFocusTree(&other);
+    EXPECT_TRUE(lcd.isDirty());
+    lcd.paint();
+    EXPECT_EQ(lcd.picture().focus, other.Area());
+    other.Resize({30, 30, 39, 39});
+    lcd.paint();
+    EXPECT_EQ(lcd.picture().focus, other.Area());
+    gpPresent->Remove(&other);
+    lcd.paint();
+    EXPECT_EQ(lcd.picture().focus, NOWHERE);
+}
+
+TEST_F(LcdTest, moveOfTheFocusAloneMakesAFrameThatPaintsNothing)
+{
+    Patch one({0, 0, 9, 9}, Level::DARK);
+    gpPresent->Add(&one);
+    lcd.paint();
+    one.clips.clear();
+    int frames = 0;
+    lcd.setFrameListener([&] { ++frames; });
+    gpPresent->MoveFocusTree(&one);
+    lcd.paint();
+    lcd.paint();
+    EXPECT_EQ(frames, 1);
+    EXPECT_TRUE(one.clips.empty());
+    lcd.setFrameListener({});
+}
 
 } // namespace host

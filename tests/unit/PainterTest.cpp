@@ -30,10 +30,7 @@ std::vector<std::string> art(const FrameBuffer& buffer)
 
 class PainterTest : public testing::Test {
 protected:
-    PegPainter painter(FrameBuffer& buffer, const PegRect& clip = WHOLE)
-    {
-        return {buffer, texts, renderer, clip};
-    }
+    PegPainter painter(FrameBuffer& buffer, const PegRect& clip = WHOLE) { return {buffer, texts, renderer, clip}; }
 
     FrameBuffer small{7, 5};
     FrameBuffer panel{100, 20};
@@ -177,6 +174,36 @@ TEST_F(PainterTest, fillTakesTheTextsBelowIt)
     EXPECT_THAT(texts.sorted(), SizeIs(1));
     painter(panel).fill({0, 0, 99, 19}, Level::BARE);
     EXPECT_THAT(texts.sorted(), IsEmpty());
+}
+
+TEST_F(PainterTest, tellsWhichTextsLackAGlyph)
+{
+    constexpr PegRect CELL{0, 0, 99, 19};
+    const auto lacks = [&](const std::string& text) {
+        texts = {};
+        painter(panel).text(CELL, ICC::fromUTF8toUNICODE(text), {Font::TEXT});
+        return texts.sorted().at(0).lacksGlyph;
+    };
+    EXPECT_FALSE(lacks("Grüße"));
+    EXPECT_FALSE(lacks("設定"));
+    EXPECT_FALSE(lacks("الإعدادات"));
+    EXPECT_TRUE(lacks("a\uE000"));
+    EXPECT_TRUE(lacks("smile \U0001F600"));
+    EXPECT_FALSE(lacks("Grüße"));
+}
+
+TEST_F(PainterTest, notesWhichTextsRun)
+{
+    painter(panel).text({0, 0, 99, 19}, ICC::fromUTF8toUNICODE("12:00"), {.runs = true});
+    EXPECT_TRUE(texts.sorted().at(0).runs);
+}
+
+TEST_F(PainterTest, measuresTextsAsItPaintsThem)
+{
+    const PegString text = ICC::fromUTF8toUNICODE("ab");
+    EXPECT_EQ(painter(panel).textWidth(text, Font::FIXED, 100), 16);
+    EXPECT_EQ(painter(panel).textWidth(PegString(), Font::FIXED, 100), 0);
+    EXPECT_LE(painter(panel).textWidth(text, Font::FIXED, 10), 10);
 }
 
 } // namespace
