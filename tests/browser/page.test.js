@@ -24,7 +24,10 @@ describe("the page", { timeout: 180_000 }, () => {
   });
 
   test("shows the panel, and its rows as text", LIMIT, async () => {
-    assert.deepEqual(await tab.rows(), ["Desk phone", "Call log", "Contacts", "Settings", "About"]);
+    const [status, ...rows] = await tab.rows();
+    assert.match(status, /^Line 1  \d\d:\d\d$/);
+    assert.deepEqual(rows.slice(0, 5), ["Desk phone", "Call log", "Contacts", "Settings", "About"]);
+    assert.match(rows[5], /^Welcome!/);
     assert.equal(await tab.selected(), "Call log");
     const levels = await tab.levels();
     assert.equal(levels.length, 240 * 128);

@@ -33,11 +33,13 @@ export async function until(condition, what, patience = 20_000) {
 }
 
 export class Phone {
-  static async start({ variant = "plain", port, options = [], app = [program("deskphone")] } = {}) {
+  static async start({ variant = "plain", port, options = [], app = [program("deskphone")], clock = "real" } = {}) {
     const phone = new Phone();
     phone.port = port ?? (await freePort());
     const words = ["--variant", variant, "--port", phone.port, ...options, ...app].map(String);
-    phone.process = spawn(program("phone"), words, { stdio: ["ignore", "pipe", "pipe"] });
+    phone.process = spawn(program("phone"), words, {
+      stdio: ["ignore", "pipe", "pipe"], env: { ...process.env, DISPLAYAPI_CLOCK: clock },
+    });
     phone.output = "";
     for (const stream of [phone.process.stdout, phone.process.stderr])
       stream.on("data", (data) => (phone.output += data));
