@@ -106,6 +106,7 @@ public:
     /// Hands the locale to every row. Call it on the GUI thread.
     virtual void localeChanged(std::string locale);
 
+    /// The list shows it until it is given another one or null, or the ticker is given to another list.
     void setTicker(Ticker* ticker);
     Ticker* getTicker();
     void showDiallerOnInitialKeyEvent(bool on);
