@@ -23,7 +23,7 @@ KestrelListBox::~KestrelListBox()
 int KestrelListBox::Message(const PegMessage& message)
 {
     if (message.wType == PM_APPLICATION_CHANGED)
-        Invalidate();
+        mImpl->languageChanged();
     if (message.wType == PM_KEY && mImpl->key(message.iData))
         return 0;
     return PegThing::Message(message);

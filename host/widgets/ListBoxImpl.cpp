@@ -87,6 +87,13 @@ void KestrelListBox::Impl::moveMark(KestrelListBoxItem* from)
         item->setMarked(exclusive);
 }
 
+/// Texts may begin at the other side now.
+void KestrelListBox::Impl::languageChanged()
+{
+    placeTicker();
+    box.Invalidate();
+}
+
 void KestrelListBox::Impl::placeTicker()
 {
     for (PegThing* child = box.First(); child != nullptr; child = child->NextSibling())

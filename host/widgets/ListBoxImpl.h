@@ -20,6 +20,7 @@ struct KestrelListBox::Impl final : host::StatusTimeView {
     void scrollToCurrent();
     void moveMark(KestrelListBoxItem* from);
     void placeTicker();
+    void languageChanged();
 
     bool key(int key);
     void step(int by);

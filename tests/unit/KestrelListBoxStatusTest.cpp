@@ -8,6 +8,7 @@
 #include "widgets/KestrelListBoxWP1.h"
 #include "widgets/KestrelListBoxWithTitle.h"
 #include "widgets/SystemWindow.h"
+#include "widgets/TickerWidget.h"
 
 #include <gmock/gmock.h>
 
@@ -228,6 +229,17 @@ TEST_F(KestrelListBoxStatusTest, twoLinesAreMirroredToo)
     EXPECT_EQ(twoLines.rowArea(0), (PegRect{8, 0, 200, 20}));
     KestrelApplication::getCurrentApplication()->setLocale(text("he"));
     EXPECT_EQ(twoLines.rowArea(0), (PegRect{7, 0, 199, 20}));
+}
+
+TEST_F(KestrelListBoxStatusTest, tickerOnTwoLinesMovesWithTheLanguage)
+{
+    KestrelListBoxWP1 twoLines;
+    auto* ticker = new TickerWidget(text("news"));
+    twoLines.Add(ticker);
+    twoLines.setTickerShown(true);
+    EXPECT_EQ(ticker->Area(), (PegRect{9, 0, 200, 18}));
+    KestrelApplication::getCurrentApplication()->setLocale(text("he"));
+    EXPECT_EQ(ticker->Area(), (PegRect{7, 0, 198, 18}));
 }
 
 } // namespace
