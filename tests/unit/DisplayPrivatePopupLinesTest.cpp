@@ -120,6 +120,15 @@ TEST_F(DisplayPrivatePopupLinesTest, ThreeLinesLeaveAWindowThatIsUpAsItIs)
     EXPECT_EQ(lineCount(), 2);
 }
 
+TEST_F(DisplayPrivatePopupLinesTest, ANegativeNumberOfLinesDoesNothing)
+{
+    givenLines(2, menu);
+    display->systemWindowPopup(-1);
+    EXPECT_THAT(calls(), IsEmpty());
+    EXPECT_TRUE(isUp());
+    EXPECT_EQ(lineCount(), 2);
+}
+
 TEST_F(DisplayPrivatePopupLinesTest, OnAHiddenDisplayNothingIsPutUpOrTakenDown)
 {
     givenLines(2, menu);

@@ -209,6 +209,17 @@ TEST_F(DisplayPrivateSerialiseTest, EveryStepIsLogged)
     EXPECT_EQ(text, MENU + POPUP_TEXT);
 }
 
+TEST_F(DisplayPrivateSerialiseTest, ThatNothingOfADisplayableIsAskedForIsLoggedToo)
+{
+    given({&menu});
+    EXPECT_THAT(logged([&] { display->serialiseByRect({}, true); }),
+                ElementsAre("serialiseByRect() rects.size() = 0, doSW = 1",
+                            "serialiseByRect() mDisplayChangeListener = " + shown(&observer),
+                            "serialiseByRect() mItemList.size() = 1", "serialiseByRect() newRects.size() = 0",
+                            "serialiseByRect() mItemList.at(0) serialised as \"" + MENU + "\"",
+                            "serialiseByRect() returning = \"" + MENU + "\""));
+}
+
 TEST_F(DisplayPrivateSerialiseTest, WithoutAListenerNothingIsDescribed)
 {
     given({&menu});

@@ -138,6 +138,27 @@ TEST_F(DisplayPrivateStatusMessageTest, HidingTakesTheMessageOffTheScreenAndShow
     EXPECT_EQ(popup.widget()->NextSibling(), onScreen());
 }
 
+TEST_F(DisplayPrivateStatusMessageTest, HidingWithNothingCurrentLeavesTheMessage)
+{
+    given({});
+    display->setStatusMessage("Saved", 5000);
+    display->hide();
+    EXPECT_EQ(textOnScreen(), "Saved");
+}
+
+TEST_F(DisplayPrivateStatusMessageTest, AMessageStaysAboveWhatBecomesCurrentLater)
+{
+    given({&menu});
+    display->setStatusMessage("Saved", 5000);
+    display->setSystemWindowSize(2);
+    display->setCurrent(&other);
+    display->setCurrent(&popup);
+    EXPECT_EQ(onScreen()->NextSibling(), nullptr);
+    display->widgetDismissed(popup.getPrivateImpl());
+    EXPECT_EQ(onScreen()->NextSibling(), nullptr);
+    EXPECT_TRUE(hasFocus(other));
+}
+
 TEST_F(DisplayPrivateStatusMessageTest, ShowingAShownDisplayKeepsTheMessage)
 {
     given({&menu});

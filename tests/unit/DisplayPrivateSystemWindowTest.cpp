@@ -132,6 +132,18 @@ TEST_F(DisplayPrivateSystemWindowTest, WithNothingCurrentASizeIsStoredAndNothing
     EXPECT_EQ(observer.notifications, 0);
 }
 
+TEST_F(DisplayPrivateSystemWindowTest, ANegativeSizeIsRefused)
+{
+    givenLines(2, menu);
+    host::LogCapture log;
+    display->setSystemWindowSize(-1);
+    EXPECT_EQ(log.lines().back().level, 3);
+    EXPECT_EQ(lineCount(), 2);
+    EXPECT_TRUE(isUp());
+    EXPECT_THAT(calls(), IsEmpty());
+    EXPECT_EQ(observer.notifications, 0);
+}
+
 TEST_F(DisplayPrivateSystemWindowTest, TheTopIsTheFullPanelsWithASeparator)
 {
     given({&menu});
@@ -257,6 +269,25 @@ TEST_F(DisplayPrivateListLinesTest, AListUnderTheCurrentDisplayableIsLeftAlone)
     given({&listScreen, &popup});
     display->listInWidgetSetSWLines(1, 2);
     EXPECT_EQ(list->rowArea(0), without);
+}
+
+TEST_F(DisplayPrivateListLinesTest, TheTypeOfTheWidgetDecides)
+{
+    struct Untitled : KestrelListBoxWithTitle {
+        Untitled() { Type(TYPE_WINDOW); }
+    };
+    struct Claiming : PegWindow {
+        Claiming() { Type(TYPE_LIST_WITH_TITLE); }
+    };
+    auto* const untitled = new Untitled;
+    untitled->setSystemWindowText(ICC::fromUTF8toUNICODE("busy"), 0);
+    Screen wrongType("wrong type", doubles::ScreenPrivate::SCREEN, untitled);
+    Screen noList("no list", doubles::ScreenPrivate::SCREEN, new Claiming);
+    given({&wrongType});
+    display->listInWidgetSetSWLines(0, 1);
+    EXPECT_EQ(untitled->systemWindowLines(), 0);
+    given({&noList});
+    display->listInWidgetSetSWLines(0, 1);
 }
 
 TEST_F(DisplayPrivateListLinesTest, WithNothingCurrentOrWithoutAWidgetNothingIsDone)
