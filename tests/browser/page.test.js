@@ -5,6 +5,10 @@ import { after, afterEach, before, beforeEach, describe, test } from "node:test"
 import { openBrowser, Tab } from "./support/browser.js";
 import { LIMIT, Phone, until } from "./support/phone.js";
 
+const looksPressed = (button, isPressed) =>
+  until(async () => /pressed/.test(await button.getAttribute("class") ?? "") === isPressed,
+        isPressed ? "the button is pressed" : "the button is not pressed");
+
 describe("the page", { timeout: 180_000 }, () => {
   let browser, phone, tab;
 
@@ -74,9 +78,9 @@ describe("the page", { timeout: 180_000 }, () => {
       const button = tab.page.getByRole("button", { name, exact: true });
       assert.equal(await button.getAttribute("data-key"), key);
       await tab.page.keyboard.down(keyboardKey);
-      assert.match(await button.getAttribute("class") ?? "", /pressed/, key);
+      await looksPressed(button, true);
       await tab.page.keyboard.up(keyboardKey);
-      assert.doesNotMatch(await button.getAttribute("class") ?? "", /pressed/, key);
+      await looksPressed(button, false);
     }
   });
 
@@ -106,8 +110,9 @@ describe("the page", { timeout: 180_000 }, () => {
 
   test("lets go of a key when the tab loses the keyboard", LIMIT, async () => {
     await tab.page.keyboard.down("5");
+    await looksPressed(tab.button("5"), true);
     await tab.page.evaluate(() => window.dispatchEvent(new Event("blur")));
-    assert.doesNotMatch(await tab.button("5").getAttribute("class") ?? "", /pressed/);
+    await looksPressed(tab.button("5"), false);
   });
 
   test("shows a row that an application thread renews", LIMIT, async () => {
