@@ -14,24 +14,26 @@ using namespace host;
 namespace {
 
 constexpr std::int32_t TIME_OUT = 1;
-constexpr int HEIGHT = 22 + 2 * FRAME_WIDTH;
-constexpr int INDENT = 6; ///< from the edges of a graphic panel
+constexpr int HEIGHT = 36; ///< two rows of a list: none shows in part
+constexpr int INDENT = 2;  ///< of the frame, from the edges
+constexpr int GAP = 3;
 constexpr int MARGIN = 6;
 
-/// Near the bottom; on two lines the second one.
+/// At the bottom; on two lines the second one.
 PegRect place()
 {
     const auto [width, height] = runningPanel();
     if (hasTwoLines())
         return rectAt(0, BIG_LINE_HEIGHT, width, BIG_LINE_HEIGHT);
-    return rectAt(INDENT, height - INDENT / 2 - HEIGHT, width - 2 * INDENT, HEIGHT);
+    return rectAt(0, height - HEIGHT, width, HEIGHT);
 }
 
 PegRect drawBox(PegPainter& painter, const PegRect& area)
 {
-    if (!hasTwoLines())
-        return drawPopupFrame(painter, area);
     painter.fill(area, Level::BARE);
+    if (!hasTwoLines())
+        return drawPopupFrame(
+            painter, rectAt(area.left + INDENT, area.top + GAP, widthOf(area) - 2 * INDENT, heightOf(area) - 2 * GAP));
     painter.frame(area, Level::DARK);
     return rectAt(area.left + 1, area.top + 1, widthOf(area) - 2, heightOf(area) - 2);
 }
