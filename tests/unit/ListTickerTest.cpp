@@ -185,6 +185,16 @@ TYPED_TEST(ListTickerTest, formerTickerOfAListCanGoToAnother)
     EXPECT_EQ(this->other->getText(), "");
 }
 
+TYPED_TEST(ListTickerTest, formerTickersGoWithTheirList)
+{
+    this->show(&*this->ticker);
+    this->show(&*this->other);
+    this->show(nullptr);
+    this->list.reset();
+    EXPECT_EQ(this->ticker->getText(), "");
+    EXPECT_EQ(this->other->getText(), "");
+}
+
 TYPED_TEST(ListTickerTest, twoListsCanSwapTheirTickers)
 {
     this->show(&*this->ticker);
