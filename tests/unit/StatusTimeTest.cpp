@@ -249,6 +249,17 @@ TEST_F(StatusTimeTest, viewsWithoutAnOwnOneShowTheLastOneMade)
     EXPECT_EQ(StatusTime::current(), &time);
 }
 
+TEST_F(StatusTimeTest, viewsOfTheFormerOneAreToldOfANewOne)
+{
+    CountingView view;
+    clockAt(9, 0);
+    EXPECT_TRUE(isTimerRunning());
+    view.changes = 0;
+    StatusTime last;
+    EXPECT_EQ(view.changes, 1);
+    EXPECT_FALSE(isTimerRunning());
+}
+
 TEST_F(StatusTimeTest, onlyTheOneThatIsWatchedWakes)
 {
     clockAt(9, 0);
