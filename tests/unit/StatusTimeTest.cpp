@@ -24,7 +24,7 @@ public:
 };
 
 /// Counts what it is told; shows one time or the current one.
-class CountingView : public StatusTimeView {
+class CountingView final : public StatusTimeView {
 public:
     explicit CountingView(const StatusTime* own = nullptr) : mOwn(own) { StatusTime::watch(*this, true); }
     CountingView(const CountingView&) = delete;
