@@ -14,6 +14,15 @@ const char* const USAGE = R"(Usage: phone [--variant plain|narrow|wp1] [--port 8
 
 Runs APP as a telephone. Its panel and keys are a page for the browser, or a script presses the keys and looks at the
 panel. The page is for this machine only unless --listen and --token say otherwise.
+
+A script has one command a line:
+  key NAME, hold NAME MS, type DIGITS      press keys
+  wait MS, advance MS                      let time pass; move the virtual clock in one go
+  expect TEXT, expect-not TEXT             wait until a row has the text, or none has
+  compare NAME.txt                         wait until the screen is that of the file beside the script
+  screenshot NAME.png, dump NAME.txt,      write the screen to the folder of --out
+  dump --json NAME.json
+With DISPLAYAPI_UPDATE_SCREENS=1 in the environment, compare writes its files.
 )";
 
 namespace {

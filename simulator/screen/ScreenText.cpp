@@ -70,11 +70,22 @@ Texts textsOf(PegType widget, const Texts& texts)
     return found;
 }
 
+/// The clock and the timer that a list paints into its status lines.
+Texts untoldTexts(const Texts& texts, const std::string& told)
+{
+    Texts untold;
+    for (const host::TextRun& run : texts)
+        if (run.runs && isList(run.widget) && told.find(VOLATILE + ascii(run.text) + '\n') == std::string::npos)
+            untold.push_back(run);
+    return untold;
+}
+
 } // namespace
 
 std::string screenText(const std::string& displayables, const Texts& texts)
 {
     std::string text = withMarks(displayables, runningTextsOfLists(texts));
+    text += object("RunningTexts", untoldTexts(texts, text));
     text += object("SystemWindow", textsOf(TYPE_SYSTEM_WINDOW, texts));
     text += object("StatusMessage", textsOf(TYPE_STATUS_MESSAGE, texts));
     for (const host::TextRun& ticker : textsOf(TYPE_TICKER, texts))

@@ -1,0 +1,92 @@
+#include "audit/Walk.h"
+
+#include <fstream>
+#include <sstream>
+
+namespace audit {
+
+namespace {
+
+/// A list remembers its row: up again, however many rows it has.
+const std::string FIRST_ROW = "hold up 1000\n";
+
+/// Longer than a message stays.
+const std::string NO_MESSAGE = "wait 3000\n";
+
+/// The first setting of the third row of the main menu.
+const std::string LANGUAGES = FIRST_ROW + "key down\nkey down\nkey ok\n" + FIRST_ROW + "key ok\n" + FIRST_ROW;
+
+const std::string CONTACTS = FIRST_ROW + "key down\nkey ok\n" + FIRST_ROW;
+
+std::string repeated(int count, const std::string& line)
+{
+    std::string lines;
+    for (int i = 0; i < count; ++i)
+        lines += line;
+    return lines;
+}
+
+std::string dump(const std::string& name)
+{
+    return "dump --json " + name + ".json\n";
+}
+
+std::string visit(const Screen& screen)
+{
+    std::string script = NO_MESSAGE + FIRST_ROW;
+    for (const int row : screen.path)
+        script += repeated(row, "key down\n") + "key ok\n" + FIRST_ROW;
+    script += dump(screen.name);
+    for (int row = 1; row < screen.rows; ++row)
+        script += "key down\n" + dump(screen.name + '.' + std::to_string(row));
+    if (!screen.path.empty())
+        script += "key left\n" + dump("from-" + screen.name);
+    return script + repeated(static_cast<int>(screen.path.size()) - 1, "key left\n");
+}
+
+} // namespace
+
+std::vector<Screen> readScreens(const std::string& fileName)
+{
+    std::vector<Screen> screens;
+    std::ifstream file(fileName);
+    for (std::string line; std::getline(file, line);) {
+        std::istringstream words(line);
+        Screen screen;
+        if (line.starts_with('#') || !(words >> screen.name >> screen.rows))
+            continue;
+        for (int row = 0; words >> row;)
+            screen.path.push_back(row);
+        screens.push_back(screen);
+    }
+    return screens;
+}
+
+std::string scriptThrough(const std::vector<Screen>& screens, int language)
+{
+    std::string script =
+        LANGUAGES + repeated(language, "key down\n") + "key ok\n" + dump("language-chosen") + "key left\n";
+    for (const Screen& screen : screens)
+        script += visit(screen);
+    return script;
+}
+
+std::string scriptThroughCards(int cards)
+{
+    std::string script = CONTACTS;
+    for (int card = 0; card < cards; ++card)
+        script += "key ok\n" + dump("card." + std::to_string(card)) + "key left\nkey down\n";
+    return script;
+}
+
+std::string scriptThroughContacts(int contacts, int step)
+{
+    const int held = 500 + 100 * (step - 2);
+    const std::string next = step == 1 ? "key down\n" : "hold down " + std::to_string(held) + '\n';
+    std::string script = CONTACTS + dump("contacts");
+    for (int row = step; row < contacts; row += step)
+        script += next + dump("contacts." + std::to_string(row));
+    return script + next + dump("contacts.last");
+}
+
+} // namespace audit

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace audit {
+
+/// A screen, and the rows that lead to it from the first one.
+struct Screen {
+    std::string name;
+    int rows = 0;
+    std::vector<int> path;
+};
+
+/// Reads a list of screens: see the file `screens`.
+std::vector<Screen> readScreens(const std::string& fileName);
+
+/// A script that chooses the language in row `language` of the settings, and writes what each screen shows with each
+/// row selected, and what the screen shows that it is left for, as NAME.json, NAME.1.json and so on, and
+/// from-NAME.json.
+std::string scriptThrough(const std::vector<Screen>& screens, int language);
+
+/// A script that writes all pages of the contacts, `step` rows apart.
+std::string scriptThroughContacts(int contacts, int step);
+
+/// A script that writes the cards of the first contacts.
+std::string scriptThroughCards(int cards);
+
+} // namespace audit

@@ -1,0 +1,77 @@
+#include "audit/Catalogue.h"
+#include "audit/Faults.h"
+#include "audit/Walk.h"
+
+#include <fstream>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using audit::Allowed;
+using audit::Fault;
+using audit::isThatText;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+std::string fileWith(const std::string& text)
+{
+    const std::string name = testing::TempDir() + "/AuditTest";
+    std::ofstream(name) << text;
+    return name;
+}
+
+TEST(AuditCatalogue, MarksStandForAnyText)
+{
+    EXPECT_TRUE(isThatText("Up %1 s", "Up 12 s"));
+    EXPECT_TRUE(isThatText("%1  %2", "09:12  Ann"));
+    EXPECT_TRUE(isThatText("Zo\u00EB", "Zo\u00EB"));
+    EXPECT_FALSE(isThatText("Up %1 s", "Up 12 m"));
+    EXPECT_FALSE(isThatText("Call", "Calls"));
+    EXPECT_FALSE(isThatText("Calls", "Call"));
+    EXPECT_TRUE(isThatText("100 %", "100 %"));
+}
+
+TEST(AuditCatalogue, KeysOfTheKeypadAreNotShown)
+{
+    EXPECT_THAT(audit::keysOf(fileWith("msgid \"\"\nmsgstr \"Language: en\"\nmsgid \"Menu.title\"\nmsgstr \"x\"\n"
+                                       "msgid \"Keypad.2.lower.case\"\nmsgid \"Text.input.mode.numeric\"\n")),
+                ElementsAre("Menu.title"));
+}
+
+TEST(AuditAllowed, CoversWhatItNames)
+{
+    const Allowed allowed(fileWith("# why\n\ncut de wp1 menu Sehr lang -- there is no shorter word\n"));
+    EXPECT_THAT(allowed.errors(), ElementsAre());
+    EXPECT_TRUE(allowed.covers({"cut", "de", "wp1", "menu", "Sehr lang"}));
+    EXPECT_FALSE(allowed.covers({"glyph", "de", "wp1", "menu", "Sehr lang"}));
+    EXPECT_FALSE(allowed.covers({"cut", "fr", "wp1", "menu", "Sehr lang"}));
+    EXPECT_FALSE(allowed.covers({"cut", "de", "plain", "menu", "Sehr lang"}));
+    EXPECT_FALSE(allowed.covers({"cut", "de", "wp1", "log", "Sehr lang"}));
+    EXPECT_FALSE(allowed.covers({"cut", "de", "wp1", "menu", "Sehr langsam"}));
+}
+
+TEST(AuditAllowed, StarIsAnythingButNotForGlyphs)
+{
+    const Allowed allowed(fileWith("cut * * * Se* -- a\nglyph * * * Se* -- b\n"));
+    EXPECT_TRUE(allowed.covers({"cut", "de", "wp1", "menu", "Sehr lang"}));
+    EXPECT_FALSE(allowed.covers({"cut", "de", "wp1", "menu", "sehr lang"}));
+    EXPECT_FALSE(allowed.covers({"glyph", "de", "wp1", "menu", "Sehr lang"}));
+}
+
+TEST(AuditAllowed, LineWithoutAReasonIsAnError)
+{
+    EXPECT_THAT(Allowed(fileWith("cut de wp1 menu Lang\ncut de wp1 menu Lang -- \ncut de -- why\n")).errors(),
+                testing::SizeIs(3));
+}
+
+TEST(AuditWalk, VisitsEachScreenAndEachOfItsRows)
+{
+    const auto screens = audit::readScreens(fileWith("# a comment\nlog 2 1 0\n"));
+    ASSERT_EQ(screens.size(), 1u);
+    EXPECT_THAT(audit::scriptThrough(screens, 2),
+                HasSubstr("key down\nkey ok\nhold up 1000\nkey ok\nhold up 1000\ndump --json log.json\nkey down\n"
+                          "dump --json log.1.json\nkey left\ndump --json from-log.json\nkey left\n"));
+}
+
+} // namespace
