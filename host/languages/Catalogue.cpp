@@ -21,24 +21,26 @@ using Iterator = std::unique_ptr<struct po_message_iterator, decltype(&po_messag
 
 constexpr std::size_t NO_LINE = static_cast<std::size_t>(-1);
 
-/// What is wrong with the file that is being read: the first complaint. The parser's handlers know nothing of who
-/// reads, so one reads at a time.
-std::string gComplaint;
-
-std::string sentence(const char* file, std::size_t line, std::string text)
+std::string sentence(const fs::path& file, std::size_t line, std::string text)
 {
     while (!text.empty() && text.back() == '\n')
         text.pop_back();
-    const std::string name = file != nullptr ? fs::path(file).filename().string() : "catalogue";
     const std::string where = line != NO_LINE && line != 0 ? ":" + std::to_string(line) : "";
-    return name + where + ": " + text;
+    return file.filename().string() + where + ": " + text;
 }
 
+/// The file that is being read and the first complaint about it. The parser's handlers know nothing of who reads, so
+/// one reads at a time.
+struct Reading {
+    fs::path file;
+    std::string complaint;
+} gReading;
+
 /// The parser means to be left for good after a fatal error, which would end the process; it copes with going on.
-void complain(int severity, po_message_t, const char* file, std::size_t line, std::size_t, int, const char* text)
+void complain(int severity, po_message_t, const char*, std::size_t line, std::size_t, int, const char* text)
 {
-    if (severity != PO_SEVERITY_WARNING && gComplaint.empty())
-        gComplaint = sentence(file, line, text);
+    if (severity != PO_SEVERITY_WARNING && gReading.complaint.empty())
+        gReading.complaint = sentence(gReading.file, line, text);
 }
 
 void complainOfTwo(int severity, po_message_t message, const char* file, std::size_t line, std::size_t column,
@@ -110,19 +112,19 @@ Catalogue catalogueOf(po_file_t file, const char* header)
 std::string readCatalogue(const fs::path& path, Catalogue& catalogue)
 {
     if (const std::string reason = whyUnreadable(path); !reason.empty())
-        return sentence(path.c_str(), NO_LINE, reason);
+        return sentence(path, NO_LINE, reason);
 
     static std::mutex oneAtATime;
     const std::lock_guard lock(oneAtATime);
-    gComplaint.clear();
+    gReading = {path, {}};
     const File file(po_file_read(path.c_str(), &HANDLER), &po_file_free);
     if (file == nullptr)
-        return sentence(path.c_str(), NO_LINE, "The file cannot be read.");
-    if (!gComplaint.empty())
-        return gComplaint;
+        return sentence(path, NO_LINE, "The file cannot be read.");
+    if (!gReading.complaint.empty())
+        return gReading.complaint;
     const char* const header = po_file_domain_header(file.get(), nullptr);
     if (const std::string complaint = complaintOf(header); !complaint.empty())
-        return sentence(path.c_str(), 1, complaint);
+        return sentence(path, 1, complaint);
     catalogue = catalogueOf(file.get(), header);
     return {};
 }

@@ -213,6 +213,13 @@ TEST_F(LanguagesTest, SyntaxErrorIsRefusedWithItsLine)
                 StartsWith("xx.po:1: "));
 }
 
+/// The parser means to end the process then.
+TEST_F(LanguagesTest, FileThatCannotBeReadToItsEndIsRefused)
+{
+    fs::create_symlink("/proc/self/mem", folder / "fr.po");
+    EXPECT_THAT(Languages(folder).use("fr"), StartsWith("fr.po: error while reading"));
+}
+
 TEST_F(LanguagesTest, ManyErrorsDoNotEndTheProcess)
 {
     std::string content = header("xx");
