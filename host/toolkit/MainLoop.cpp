@@ -94,7 +94,8 @@ void MainLoop::paintIfDue()
 
 void MainLoop::waitForWork()
 {
-    if (mEnded || Clock::instance().moveToTimer() || Spin::until([] { return !MainQueue::isEmpty(); }))
+    if (mEnded || !MainQueue::isEmpty() || Clock::instance().moveToTimer() ||
+        Spin::until([] { return !MainQueue::isEmpty(); }))
         return;
     mDone.giveBack();
     sleep();
