@@ -15,6 +15,8 @@ namespace host {
 
 namespace {
 
+constexpr int MESSAGES_BEFORE_A_BURST = 16;
+
 /// Milliseconds of real time until something is due that no message announces; NEVER where nothing is.
 std::int64_t untilDue()
 {
@@ -72,7 +74,7 @@ void MainLoop::end()
 PegMessage* MainLoop::take()
 {
     PegMessage* const message =
-        MainQueue::take(mMessagesInARow > 0 ? MainQueue::Haste::NONE : MainQueue::Haste::FIRST_OF_A_ROW);
+        MainQueue::take(mMessagesInARow < MESSAGES_BEFORE_A_BURST ? MainQueue::Pace::PROMPT : MainQueue::Pace::BURST);
     mMessagesInARow = message ? mMessagesInARow + 1 : 0;
     return message;
 }

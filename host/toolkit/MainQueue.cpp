@@ -52,6 +52,15 @@ bool lockSoon(std::unique_lock<QueueMutex>& lock)
     return false;
 }
 
+/// Sleeping and waking for every collision with a poster would cost more than the messages.
+bool lockLater(std::unique_lock<QueueMutex>& lock)
+{
+    if (lock.try_lock())
+        return true;
+    Spin::stayAway();
+    return lock.try_lock();
+}
+
 /// The messages that come next were written by other CPUs: ask for their lines while this one is being handled.
 void fetchAhead(const PegMessage& next)
 {
@@ -115,13 +124,13 @@ bool MainQueue::push(const PegMessage& message)
     return true;
 }
 
-PegMessage* MainQueue::take(Haste haste)
+PegMessage* MainQueue::take(Pace pace)
 {
     if (isEmpty())
         return nullptr;
     QueueMutex mutex;
     std::unique_lock lock(mutex, std::defer_lock);
-    if (haste == Haste::NONE || !lockSoon(lock))
+    if (!(pace == Pace::PROMPT ? lockSoon(lock) : lockLater(lock)))
         lock.lock();
     PegMainQueue& queue = *gtPegMainQueue;
     PegMessage* const message = queue.head;

@@ -23,11 +23,11 @@ public:
     /// Appends a copy. Returns false where there is no record for it, or no queue.
     static bool push(const PegMessage& message);
 
-    /// Whether somebody may be waiting for the message.
-    enum class Haste { NONE, FIRST_OF_A_ROW };
+    /// In a burst of messages the loop lets posters go on rather than compete with them for each.
+    enum class Pace { PROMPT, BURST };
 
     /// The first message, which is the caller's from now on; null where there is none.
-    static PegMessage* take(Haste haste);
+    static PegMessage* take(Pace pace);
 
     /// Takes out what waits for `thing`, which is about to be gone. Requests stay, without a target: their records are
     /// the library's to complete and delete.

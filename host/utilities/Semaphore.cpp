@@ -31,14 +31,22 @@ public:
         return false;
     }
 
-    bool take(const host::Deadline& deadline)
+    /// A semaphore that starts with permits is used as a lock, others to announce something.
+    bool take(const host::Deadline& deadline, bool isLock)
     {
         if (tryTake())
             return true;
         if (deadline.isNow())
             return false;
-        host::Spin::until([this] { return low(mState.load(std::memory_order_relaxed)) > 0; });
-        return tryTake() || sleepAndTake(deadline);
+        for (int races = isLock ? RACES_FOR_A_LOCK : 1; races > 0; --races) {
+            if (isLock)
+                host::Spin::stayAway();
+            if (!host::Spin::until([this] { return low(mState.load(std::memory_order_relaxed)) > 0; }))
+                break;
+            if (tryTake())
+                return true;
+        }
+        return sleepAndTake(deadline);
     }
 
     void give(std::uint32_t maximum)
@@ -53,6 +61,7 @@ public:
     }
 
 private:
+    static constexpr int RACES_FOR_A_LOCK = 4;
     static constexpr std::uint64_t ONE_SLEEPER = std::uint64_t{1} << 32;
 
     static std::uint32_t low(std::uint64_t state) { return static_cast<std::uint32_t>(state); }
@@ -111,8 +120,9 @@ private:
 } // namespace
 
 struct Semaphore::Impl {
-    Impl(int permits, int maximum, bool holderMayTakeAgain)
-        : mPermits(static_cast<std::uint32_t>(permits)), mMaximum(static_cast<std::uint32_t>(maximum)),
+    Impl(State state, int maximum, bool holderMayTakeAgain)
+        : mPermits(static_cast<std::uint32_t>(state == AVAILABLE ? maximum : 0)),
+          mMaximum(static_cast<std::uint32_t>(maximum)), mIsLock(state == AVAILABLE),
           mHolders(holderMayTakeAgain ? std::make_unique<Holders>() : nullptr)
     {
     }
@@ -121,7 +131,7 @@ struct Semaphore::Impl {
     {
         if (mHolders && mHolders->takeAgain())
             return true;
-        const bool taken = mPermits.tryTake() || mPermits.take(host::Deadline(milliseconds));
+        const bool taken = mPermits.tryTake() || mPermits.take(host::Deadline(milliseconds), mIsLock);
         if (taken && mHolders)
             mHolders->taken();
         return taken;
@@ -136,11 +146,12 @@ struct Semaphore::Impl {
 private:
     Permits mPermits;
     const std::uint32_t mMaximum;
+    const bool mIsLock;
     const std::unique_ptr<Holders> mHolders;
 };
 
 Semaphore::Semaphore(State state, int maximum, bool holderMayTakeAgain)
-    : mImpl(std::make_unique<Impl>(state == AVAILABLE ? maximum : 0, maximum, holderMayTakeAgain))
+    : mImpl(std::make_unique<Impl>(state, maximum, holderMayTakeAgain))
 {
 }
 

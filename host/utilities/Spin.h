@@ -44,6 +44,14 @@ public:
         return ready();
     }
 
+    /// After a lost race for a lock that is held for a few instructions at a time: leaves its cache line alone for some
+    /// microseconds, in which whoever has it may use it many times over. Returns at once on a single CPU.
+    static void stayAway()
+    {
+        for (int rounds = hasCompany() ? ROUNDS_AWAY : 0; rounds > 0; --rounds)
+            relaxProcessor();
+    }
+
     /// Whether the calling thread may run on more than one CPU. Remembered per thread, looked up again now and then.
     static bool hasCompany();
 
@@ -61,6 +69,7 @@ public:
 
 private:
     static constexpr int ROUNDS_PER_LOOK_AT_THE_CLOCK = 32;
+    static constexpr int ROUNDS_AWAY = 512;
 
     /// Resting between looks saves power, but it makes the answer late: the first rounds do without.
     template <typename Ready, typename Rest>

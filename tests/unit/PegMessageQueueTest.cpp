@@ -49,12 +49,12 @@ TEST(PegMessageQueue, TakeGivesTheHeadUntilItIsEmpty)
     PegMessageQueue().Push({PM_CLICKED, 1});
     PegMessageQueue().Push({PM_CLICKED, 2});
     for (const int expected : {1, 2}) {
-        PegMessage* const message = host::MainQueue::take(host::MainQueue::Haste::NONE);
+        PegMessage* const message = host::MainQueue::take(host::MainQueue::Pace::PROMPT);
         ASSERT_NE(message, nullptr);
         EXPECT_EQ(message->iData, expected);
         host::MessagePool::giveBack(message, message);
     }
-    EXPECT_EQ(host::MainQueue::take(host::MainQueue::Haste::NONE), nullptr);
+    EXPECT_EQ(host::MainQueue::take(host::MainQueue::Pace::PROMPT), nullptr);
     EXPECT_EQ(gtPegMainQueue->head, nullptr);
     EXPECT_EQ(gtPegMainQueue->tail, nullptr);
     EXPECT_EQ(gtPegMainQueue->count, 0);
