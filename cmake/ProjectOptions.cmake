@@ -17,13 +17,23 @@ endif()
 
 find_program(CCACHE ccache)
 if(CCACHE)
-    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+    # The rest is what lets it keep files that are compiled with precompiled headers.
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE})
+    if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+        add_compile_options(-fpch-preprocess)
+    else()
+        add_compile_options(-Xclang -fno-pch-timestamp)
+    endif()
 endif()
 
 find_package(Threads REQUIRED)
 
 add_library(project_options INTERFACE)
 target_compile_options(project_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow)
+if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+    # Of these, those about a short literal in front of a string are false.
+    target_compile_options(project_options INTERFACE -Wno-restrict)
+endif()
 if(DISPLAYAPI_WERROR)
     target_compile_options(project_options INTERFACE -Werror)
 endif()
