@@ -5,6 +5,7 @@
 #include <cstring>
 #include <fstream>
 #include <gettext-po.h>
+#include <limits>
 #include <memory>
 #include <mutex>
 #include <string_view>
@@ -52,15 +53,17 @@ void complainOfTwo(int severity, po_message_t message, const char* file, std::si
 
 constexpr po_xerror_handler HANDLER = {complain, complainOfTwo};
 
-/// The parser's own words for a file that is not there would be none.
+/// The parser has no good words for a file that is not there, and forgets what it has read when reading fails.
 std::string whyUnreadable(const fs::path& file)
 {
     std::error_code error;
     if (fs::is_directory(file, error))
         return "This is a folder.";
     errno = 0;
-    const std::ifstream stream(file);
-    return stream ? std::string() : std::string("The file cannot be read: ") + std::strerror(errno) + ".";
+    std::ifstream stream(file);
+    stream.ignore(std::numeric_limits<std::streamsize>::max());
+    const bool isReadable = stream.is_open() && !stream.bad();
+    return isReadable ? std::string() : std::string("The file cannot be read: ") + std::strerror(errno) + ".";
 }
 
 std::string field(const char* header, const char* name)

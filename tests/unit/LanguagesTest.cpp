@@ -217,7 +217,7 @@ TEST_F(LanguagesTest, SyntaxErrorIsRefusedWithItsLine)
 TEST_F(LanguagesTest, FileThatCannotBeReadToItsEndIsRefused)
 {
     fs::create_symlink("/proc/self/mem", folder / "fr.po");
-    EXPECT_THAT(Languages(folder).use("fr"), StartsWith("fr.po: error while reading"));
+    EXPECT_THAT(Languages(folder).use("fr"), "fr.po: The file cannot be read: Input/output error.");
 }
 
 TEST_F(LanguagesTest, ManyErrorsDoNotEndTheProcess)
