@@ -24,6 +24,20 @@ enum Request {
 
 std::set<int>* const ANY_CODE = nullptr;
 
+/// What comes after the creation.
+std::set<int>* followers()
+{
+    static std::set<int> codes{START,
+                               STOP,
+                               ENABLE_SINGLE_SHOT,
+                               ADD_COMMAND_LISTENER,
+                               REMOVE_COMMAND_LISTENER,
+                               ADD_EVENT_LISTENER,
+                               REMOVE_EVENT_LISTENER,
+                               ADD_COMMAND};
+    return &codes;
+}
+
 } // namespace
 
 Timer::Timer(int interval)
@@ -59,9 +73,11 @@ void Timer::cleanUp()
     mImplementation = nullptr;
 }
 
-/// Returns whether the GUI-thread side was still to be made, and now never will be.
+/// Returns whether the GUI-thread side was still to be made, and now never will be. The creation goes last: as long as
+/// it is queued, the GUI thread has none of those behind it in hand.
 bool Timer::dropQueuedRequests()
 {
+    purgeOwnMessage(followers());
     bool wasToBeMade = false;
     while (const std::unique_ptr<GuiRequestEvent> dropped{dequeueOwnMessage(ANY_CODE)}) {
         wasToBeMade = wasToBeMade || dropped->getType() == CREATE;

@@ -26,13 +26,14 @@ public:
     Timer(const Timer&) = delete;
     Timer& operator=(const Timer&) = delete;
 
-    /// Drops the calls that are still queued, and recalls the command where it has not been delivered yet.
+    /// Drops the calls that are still queued, and recalls the command that it has from the listeners that it has, where
+    /// it has not been delivered yet.
     ~Timer() override;
 
     void processGuiRequest(GuiRequestEvent& request) override;
 
     /// Runs out after `ms` milliseconds, and every `ms` again; a running one starts anew. 0 tells the listeners once,
-    /// on the GUI thread before start() returns, and leaves the rest as it is. Values below 0 are ignored.
+    /// as soon as the call is carried out, and leaves the rest as it is. Values below 0 are ignored.
     void start(int ms);
     void stop();
 

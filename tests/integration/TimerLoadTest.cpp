@@ -80,6 +80,21 @@ TEST_P(TimerLoadTest, NoListenerIsToldAfterItsTimerIsDestroyed)
     EXPECT_GT(gExpiries, 0);
 }
 
+TEST_P(TimerLoadTest, TimersMayGoWhileTheirCreationIsOnItsWay)
+{
+    GuiLoop gui;
+    Watcher watcher;
+    test::onThreads(THREADS, [&](int thread) {
+        Chance chance(seed(), thread);
+        for (int call = 0; call < 20 * CALLS; ++call) {
+            Timer timer(1000);
+            timer.addEventListener(&watcher);
+            for (int more = chance.below(4); more > 0; --more)
+                timer.stop();
+        }
+    });
+}
+
 TEST_P(TimerLoadTest, OneTickerIsWrittenAndReadByAllThreads)
 {
     GuiLoop gui;
