@@ -8,9 +8,10 @@
 
 namespace DisplayAPI {
 
-/// An expiry on its way along the event listeners. They may change the list, let the timer expire again or delete it:
-/// whoever was removed is not told, and whoever was added is told the next time.
+/// An expiry on its way along listeners. They may change their list, let the timer expire again or delete it: whoever
+/// was removed is not told, and whoever was added is told the next time.
 struct TimerPrivate::Walk {
+    const void* listeners;
     std::size_t next;
     std::size_t end;
     std::shared_ptr<Walk> outer;
@@ -56,19 +57,38 @@ int TimerPrivate::Message(const PegMessage& message)
 
 void TimerPrivate::timerEvent()
 {
-    for (CommandListener* listener : mCommandListeners)
-        listener->postCommandAction(mCommand, nullptr);
-    tellEventListeners();
+    if (tellEach(mCommandListeners,
+                 [this](CommandListener& listener) { listener.postCommandAction(mCommand, nullptr); }))
+        tellEach(mEventListeners, [](TimerEvent& listener) { listener.timerExpired(); });
 }
 
-void TimerPrivate::tellEventListeners()
+/// Returns whether the timer is still there.
+template <typename Listener, typename Tell>
+bool TimerPrivate::tellEach(const std::vector<Listener*>& listeners, Tell tell)
 {
-    const auto walk = std::make_shared<Walk>(Walk{0, mEventListeners.size(), mWalk});
+    const auto walk = std::make_shared<Walk>(Walk{&listeners, 0, listeners.size(), mWalk});
     mWalk = walk;
     while (walk->next < walk->end)
-        mEventListeners[walk->next++]->timerExpired();
-    if (!walk->timerIsGone)
-        mWalk = walk->outer;
+        tell(*listeners[walk->next++]);
+    if (walk->timerIsGone)
+        return false;
+    mWalk = walk->outer;
+    return true;
+}
+
+/// Takes the first of them, on every walk along the list as well.
+template <typename Listener>
+void TimerPrivate::removeFirst(std::vector<Listener*>& listeners, const Listener* listener)
+{
+    const auto found = std::find(listeners.begin(), listeners.end(), listener);
+    if (found == listeners.end())
+        return;
+    const auto index = static_cast<std::size_t>(found - listeners.begin());
+    listeners.erase(found);
+    for (Walk* walk = mWalk.get(); walk != nullptr; walk = walk->outer.get()) {
+        if (walk->listeners == &listeners)
+            walk->hasLost(index);
+    }
 }
 
 void TimerPrivate::start(int ms)
@@ -102,9 +122,7 @@ void TimerPrivate::addCommandListener(CommandListener* listener)
 
 void TimerPrivate::removeCommandListener(CommandListener* listener)
 {
-    const auto found = std::find(mCommandListeners.begin(), mCommandListeners.end(), listener);
-    if (found != mCommandListeners.end())
-        mCommandListeners.erase(found);
+    removeFirst(mCommandListeners, listener);
 }
 
 void TimerPrivate::addEventListener(TimerEvent* listener)
@@ -115,13 +133,7 @@ void TimerPrivate::addEventListener(TimerEvent* listener)
 
 void TimerPrivate::removeEventListener(TimerEvent* listener)
 {
-    const auto found = std::find(mEventListeners.begin(), mEventListeners.end(), listener);
-    if (found == mEventListeners.end())
-        return;
-    const auto index = static_cast<std::size_t>(found - mEventListeners.begin());
-    mEventListeners.erase(found);
-    for (Walk* walk = mWalk.get(); walk != nullptr; walk = walk->outer.get())
-        walk->hasLost(index);
+    removeFirst(mEventListeners, listener);
 }
 
 const std::vector<CommandListener*>& TimerPrivate::getCommandListenerList() const

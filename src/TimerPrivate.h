@@ -35,7 +35,10 @@ private:
     struct Walk;
 
     void timerEvent();
-    void tellEventListeners();
+    template <typename Listener, typename Tell>
+    bool tellEach(const std::vector<Listener*>& listeners, Tell tell);
+    template <typename Listener>
+    void removeFirst(std::vector<Listener*>& listeners, const Listener* listener);
 
     std::vector<CommandListener*> mCommandListeners;
     std::vector<TimerEvent*> mEventListeners;

@@ -43,6 +43,26 @@ private:
     Names& mTold;
 };
 
+/// One that takes the notification itself instead of having it queued.
+class ImmediateListener : public CommandListener {
+public:
+    ImmediateListener(std::string name, Names& told) : mName(std::move(name)), mTold(told) {}
+
+    void postCommandAction(Command*, Displayable*) override
+    {
+        mTold.push_back(mName);
+        reaction();
+    }
+
+    void commandAction(Command*, Displayable*) override {}
+
+    std::function<void()> reaction = [] {};
+
+private:
+    std::string mName;
+    Names& mTold;
+};
+
 class TimerPrivateTest : public VirtualTime, public testing::Test {
 protected:
     void addAll()
@@ -291,6 +311,43 @@ TEST_F(TimerPrivateTest, listenerMayDeleteTheTimerInsideAnExpiryInsideAnExpiry)
     };
     timer->start(0);
     EXPECT_THAT(told, ElementsAre("a", "a"));
+}
+
+TEST_F(TimerPrivateTest, commandListenersMayRemoveThemselvesAndOthers)
+{
+    ImmediateListener first("first", told);
+    ImmediateListener second("second", told);
+    ImmediateListener third("third", told);
+    for (auto* listener : {&first, &second, &third})
+        timer->addCommandListener(listener);
+    first.reaction = [&] {
+        timer->removeCommandListener(&first);
+        timer->removeCommandListener(&third);
+    };
+    timer->addEventListener(&a);
+    EXPECT_THAT(expire(), ElementsAre("first", "second", "a"));
+    EXPECT_THAT(expire(), ElementsAre("second", "a"));
+}
+
+TEST_F(TimerPrivateTest, commandListenerMayDeleteTheTimer)
+{
+    ImmediateListener first("first", told);
+    ImmediateListener second("second", told);
+    timer->addCommandListener(&first);
+    timer->addCommandListener(&second);
+    timer->addEventListener(&a);
+    first.reaction = [&] { timer.reset(); };
+    timer->start(0);
+    EXPECT_THAT(told, ElementsAre("first"));
+}
+
+TEST_F(TimerPrivateTest, commandListenersThatGoLeaveTheWalkAlongEventListenersAlone)
+{
+    ImmediateListener first("first", told);
+    timer->addCommandListener(&first);
+    addAll();
+    a.reaction = [&] { timer->removeCommandListener(&first); };
+    EXPECT_THAT(expire(), ElementsAre("first", "a", "b", "c"));
 }
 
 TEST_F(TimerPrivateTest, deletingItStopsIt)
