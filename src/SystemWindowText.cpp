@@ -1,5 +1,6 @@
 #include "SystemWindowText.h"
 
+#include <algorithm>
 #include <string_view>
 
 namespace DisplayAPI {
@@ -9,18 +10,24 @@ namespace {
 constexpr std::string_view BLANK_LINE = "                        ";
 constexpr std::string_view SMALL_CONTEXT_MENU = "object:\nname:ContextMenu20Line2\n";
 constexpr std::string_view FIRST_TEXT = "string0:";
+constexpr std::string_view CLOSING = "\nend:\n";
+
+/// A line break of the application's would begin a keyword.
+std::string onOneLine(std::string text)
+{
+    std::replace(text.begin(), text.end(), '\n', ' ');
+    return text;
+}
 
 std::string opening(const std::string& caption)
 {
-    return "object:\nname:PopupTextField\ncaption:" + caption;
+    return "object:\nname:PopupTextField\ncaption:" + onOneLine(caption);
 }
 
 std::string subItem(const std::string& line)
 {
-    return "\nsubitem:\nname:KestrelListBoxItem\nstring0:" + line + "\nendsubitem:";
+    return "\nsubitem:\nname:KestrelListBoxItem\nstring0:" + onOneLine(line) + "\nendsubitem:";
 }
-
-constexpr const char* CLOSING = "\nend:\n";
 
 bool isPresent(const std::string& line)
 {
@@ -31,7 +38,7 @@ bool isPresent(const std::string& line)
 
 std::string systemWindowObject(const std::string& caption, const std::string& line)
 {
-    return opening(caption) + subItem(line) + CLOSING;
+    return (opening(caption) + subItem(line)).append(CLOSING);
 }
 
 std::string presentSystemWindowObject(const std::string& caption, const std::string& line)

@@ -121,8 +121,8 @@ public:
     /// The status lines of the system window: line 0 is its caption. Displayables that draw them themselves are handed
     /// the lines that have changed; above all others the window floats, with at most two. Set the texts, then the size,
     /// which shows them; 0 takes them away. Only while the display is shown; lines outside 0 to 5 and negative sizes
-    /// are ignored, 7 and more show nothing. An empty text becomes a blank. On the small panel a
-    /// floating window goes when all its lines are blank. From another thread these two return at once.
+    /// are ignored, 7 and more show nothing. An empty text becomes a blank. On the small panel a floating window goes
+    /// when all its lines are blank. From another thread these two return at once.
     void setSystemWindowSize(int lines);
     void setSystemWindowText(int line, std::string text);
 

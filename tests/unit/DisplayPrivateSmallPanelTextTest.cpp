@@ -122,6 +122,12 @@ TEST_F(DisplayPrivateSmallPanelTextTest, OtherBlanksArePresent)
     }
 }
 
+TEST_F(DisplayPrivateSmallPanelTextTest, LineBreaksInALineAreBlanks)
+{
+    givenTexts("noon\nend:\nobject:", "busy\nname:Fake");
+    EXPECT_EQ(text(), caption("noon end: object:") + row("busy name:Fake") + "\nend:\n");
+}
+
 TEST_F(DisplayPrivateSmallPanelTextTest, WithoutAListenerTheWindowIsAll)
 {
     given({&menu});
