@@ -43,14 +43,10 @@ ListBoxCore::ListBoxCore(DisplayablePrivate& self, List* owner, std::shared_ptr<
         mBackRow = std::make_unique<KestrelListBoxItem>(ICC::fromUTF8toUNICODE(BACK_ROW_TEXT));
         box()->append(mBackRow.get());
     }
-    if (auto* application = KestrelApplication::getCurrentApplication())
-        application->addObserver(this);
 }
 
 ListBoxCore::~ListBoxCore()
 {
-    if (auto* application = KestrelApplication::getCurrentApplication())
-        application->removeObserver(this);
     if (box() != nullptr)
         box()->setMessageTarget(nullptr);
 }

@@ -2,6 +2,7 @@
 
 #include "DisplayAPI/DisplayablePrivate.h"
 #include "DisplayAPI/OwnershipDelegate.h"
+#include "host/widgets/ApplicationWatch.h"
 #include "toolkit/PegThing.h"
 #include "widgets/KestrelListBox.h"
 
@@ -103,6 +104,7 @@ private:
     std::unique_ptr<KestrelListBoxItem> mBackRow; ///< null where there is none
     std::string mTitle;
     TranslationInfo* mTranslatedTitle = nullptr;
+    host::ApplicationWatch mApplication{*this};
     PegThing mFormerTickers; ///< holds them, never on screen: their facades may change them and give them back
 
     // Kept for the parts of a list that are still to be shown.

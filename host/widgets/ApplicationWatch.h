@@ -4,7 +4,7 @@
 
 namespace host {
 
-/// While it lives, a thing is told of changes of the current application's locale and formats.
+/// While it lives, a thing is told of changes of the locale and formats of the application that is current now.
 class ApplicationWatch {
 public:
     explicit ApplicationWatch(PegThing& observer) : mObserver(observer)
@@ -14,11 +14,7 @@ public:
     }
     ApplicationWatch(const ApplicationWatch&) = delete;
     ApplicationWatch& operator=(const ApplicationWatch&) = delete;
-    ~ApplicationWatch()
-    {
-        if (auto* application = KestrelApplication::getCurrentApplication())
-            application->removeObserver(&mObserver);
-    }
+    ~ApplicationWatch() { KestrelApplication::removeObserver(&mObserver); }
 
 private:
     PegThing& mObserver;

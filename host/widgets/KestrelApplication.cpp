@@ -3,6 +3,7 @@
 #include "toolkit/PegThing.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace {
 
@@ -15,6 +16,26 @@ constinit std::atomic<KestrelApplication*> gCurrent{nullptr};
     return application;
 }();
 
+struct Observation {
+    const KestrelApplication* application;
+    PegThing* observer;
+
+    bool operator==(const Observation&) const = default;
+};
+
+/// Of all applications, in the order in which they were added. Never destroyed: a static widget leaves them as late as
+/// at process exit.
+std::vector<Observation>& observations()
+{
+    static auto* const living = new std::vector<Observation>;
+    return *living;
+}
+
+bool isObserved(const Observation& wanted)
+{
+    return std::find(observations().begin(), observations().end(), wanted) != observations().end();
+}
+
 } // namespace
 
 KestrelApplication::KestrelApplication() = default;
@@ -23,6 +44,7 @@ KestrelApplication::~KestrelApplication()
 {
     KestrelApplication* self = this;
     gCurrent.compare_exchange_strong(self, nullptr);
+    std::erase_if(observations(), [this](const Observation& one) { return one.application == this; });
 }
 
 KestrelApplication* KestrelApplication::getCurrentApplication()
@@ -95,13 +117,13 @@ const PegString& KestrelApplication::getTimeFormat() const
 
 void KestrelApplication::addObserver(PegThing* observer)
 {
-    if (observer != nullptr && std::find(mObservers.begin(), mObservers.end(), observer) == mObservers.end())
-        mObservers.push_back(observer);
+    if (observer != nullptr && !isObserved({this, observer}))
+        observations().push_back({this, observer});
 }
 
 void KestrelApplication::removeObserver(PegThing* observer)
 {
-    std::erase(mObservers, observer);
+    std::erase_if(observations(), [observer](const Observation& one) { return one.observer == observer; });
 }
 
 void KestrelApplication::notifyObservers(Change change)
@@ -110,10 +132,10 @@ void KestrelApplication::notifyObservers(Change change)
     message.wType = PM_APPLICATION_CHANGED;
     message.iData = change;
     message.pData = &mLocale;
-    for (PegThing* observer : std::vector<PegThing*>(mObservers)) {
-        if (std::find(mObservers.begin(), mObservers.end(), observer) == mObservers.end())
+    for (const Observation& one : std::vector<Observation>(observations())) {
+        if (one.application != this || !isObserved(one))
             continue;
-        message.pTarget = observer;
-        observer->Message(message);
+        message.pTarget = one.observer;
+        one.observer->Message(message);
     }
 }

@@ -1,10 +1,10 @@
 #include "widgets/StatusMessage.h"
 
 #include "host/lcd/Geometry.h"
+#include "host/widgets/ApplicationWatch.h"
 #include "host/widgets/PopupFrame.h"
 #include "host/widgets/Reading.h"
 #include "utilities/ICC.h"
-#include "widgets/KestrelApplication.h"
 
 #include <algorithm>
 #include <limits>
@@ -40,23 +40,22 @@ PegRect drawBox(PegPainter& painter, const PegRect& area)
 
 } // namespace
 
+struct StatusMessage::Impl {
+    std::string text;
+    ApplicationWatch application;
+};
+
 StatusMessage::StatusMessage(const std::string& text, unsigned int timeout)
-    : PegWindow(FF_NONE | FF_BEHIND), mText(text)
+    : PegWindow(FF_NONE | FF_BEHIND), mImpl(new Impl{text, ApplicationWatch(*this)})
 {
     Type(TYPE_STATUS_MESSAGE);
     Resize(place());
-    if (auto* application = KestrelApplication::getCurrentApplication())
-        application->addObserver(this);
     constexpr unsigned int LONGEST = std::numeric_limits<int>::max();
     if (timeout > 0)
         SetTimer(TIME_OUT, static_cast<int>(std::min(timeout, LONGEST)), false);
 }
 
-StatusMessage::~StatusMessage()
-{
-    if (auto* application = KestrelApplication::getCurrentApplication())
-        application->removeObserver(this);
-}
+StatusMessage::~StatusMessage() = default;
 
 int StatusMessage::Message(const PegMessage& message)
 {
@@ -77,5 +76,10 @@ void StatusMessage::Draw(PegPainter& painter)
     const PegRect inside = drawBox(painter, Area());
     const Font font = hasTwoLines() ? Font::FIXED : Font::TEXT;
     const PegRect cell = rectAt(inside.left + MARGIN, inside.top, widthOf(inside) - 2 * MARGIN, heightOf(inside));
-    painter.text(cell, ICC::fromUTF8toUNICODE(mText), {.font = font, .align = startAlign()});
+    painter.text(cell, ICC::fromUTF8toUNICODE(mImpl->text), {.font = font, .align = startAlign()});
+}
+
+const std::string& StatusMessage::text() const
+{
+    return mImpl->text;
 }

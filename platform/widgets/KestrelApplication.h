@@ -3,7 +3,6 @@
 #include "toolkit/PString.h"
 
 #include <atomic>
-#include <vector>
 
 class PegThing;
 
@@ -17,7 +16,7 @@ public:
     KestrelApplication(const KestrelApplication&) = delete;
     KestrelApplication& operator=(const KestrelApplication&) = delete;
 
-    /// A current application that dies leaves none.
+    /// A current application that dies leaves none. Its observers are told nothing more.
     ~KestrelApplication();
 
     /// The application in force, or null. From any thread.
@@ -49,7 +48,9 @@ public:
     /// Observers are told in the order in which they were added, and may add and remove themselves meanwhile. Not
     /// owned.
     void addObserver(PegThing* observer);
-    void removeObserver(PegThing* observer);
+
+    /// Takes it out of every application: another one may have become current since it was added.
+    static void removeObserver(PegThing* observer);
 
 private:
     void notifyObservers(Change change);
@@ -59,5 +60,4 @@ private:
     PegString mLocale;
     PegString mDateFormat;
     PegString mTimeFormat;
-    std::vector<PegThing*> mObservers;
 };

@@ -2,6 +2,7 @@
 
 #include "toolkit/PegWindow.h"
 
+#include <memory>
 #include <string>
 
 /// A message above everything else that goes away by itself. GUI thread only.
@@ -17,8 +18,9 @@ public:
     int Message(const PegMessage& message) override;
     void Draw(PegPainter& painter) override;
 
-    const std::string& text() const { return mText; }
+    const std::string& text() const;
 
 private:
-    std::string mText;
+    struct Impl;
+    std::unique_ptr<Impl> mImpl;
 };

@@ -1,10 +1,12 @@
 #include "widgets/KestrelApplication.h"
 
+#include "host/widgets/ApplicationWatch.h"
 #include "toolkit/PegThing.h"
 #include "utilities/ICC.h"
 
 #include <functional>
 #include <gmock/gmock.h>
+#include <memory>
 #include <thread>
 
 using testing::ElementsAre;
@@ -133,6 +135,60 @@ TEST_F(KestrelApplicationTest, observersMayComeAndGoWhileTheyAreTold)
     EXPECT_THAT(log, ElementsAre("a:x"));
     application.setLocale(text("y"));
     EXPECT_THAT(log, ElementsAre("a:x", "c:y"));
+}
+
+TEST_F(KestrelApplicationTest, removedObserverIsTakenOutOfEveryApplication)
+{
+    KestrelApplication former, next;
+    std::vector<std::string> log;
+    Observer gone("a", log), stays("b", log);
+    for (KestrelApplication* application : {&former, &next}) {
+        application->addObserver(&gone);
+        application->addObserver(&stays);
+    }
+    KestrelApplication::removeObserver(&gone);
+    former.setLocale(text("x"));
+    next.setLocale(text("y"));
+    EXPECT_THAT(log, ElementsAre("b:x", "b:y"));
+}
+
+TEST_F(KestrelApplicationTest, watchEndsWhicheverApplicationIsCurrent)
+{
+    KestrelApplication former, next;
+    std::vector<std::string> log;
+    Observer observer("a", log);
+    for (KestrelApplication* current : {&next, static_cast<KestrelApplication*>(nullptr)}) {
+        KestrelApplication::setCurrentApplication(&former);
+        const auto watch = std::make_unique<host::ApplicationWatch>(observer);
+        KestrelApplication::setCurrentApplication(current);
+        former.setLocale(text("x"));
+    }
+    former.setLocale(text("y"));
+    EXPECT_THAT(log, ElementsAre("a:x", "a:x"));
+}
+
+TEST_F(KestrelApplicationTest, eachApplicationTellsItsOwnObservers)
+{
+    KestrelApplication one, other;
+    std::vector<std::string> log;
+    Observer first("a", log), second("b", log);
+    one.addObserver(&first);
+    other.addObserver(&second);
+    other.setLocale(text("x"));
+    one.setLocale(text("y"));
+    EXPECT_THAT(log, ElementsAre("b:x", "a:y"));
+}
+
+TEST_F(KestrelApplicationTest, applicationMayDieWhileItTells)
+{
+    auto application = std::make_unique<KestrelApplication>();
+    std::vector<std::string> log;
+    Observer first("a", log), second("b", log);
+    first.whenTold = [&] { application.reset(); };
+    application->addObserver(&first);
+    application->addObserver(&second);
+    application->setLocale(text("x"));
+    EXPECT_THAT(log, ElementsAre("a:x"));
 }
 
 } // namespace
