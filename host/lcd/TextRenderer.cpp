@@ -154,20 +154,27 @@ const TextMask& TextRenderer::mask(Font font, const PegString& text, int width)
     const auto [entry, isNew] = mEntries.try_emplace(std::move(key));
     if (isNew) {
         entry->second = {render(entry->first), mUses.insert(mUses.begin(), &entry->first)};
-        forgetOldest();
+        mBytes += entry->second.mask.ink.size();
+        while (isFull())
+            forgetOldest();
     } else {
         mUses.splice(mUses.begin(), mUses, entry->second.use);
     }
     return entry->second.mask;
 }
 
+/// Never of the one just made: the caller is about to use it.
+bool TextRenderer::isFull() const
+{
+    return mEntries.size() > MAX_ENTRIES || (mBytes > MAX_BYTES && mEntries.size() > 1);
+}
+
 void TextRenderer::forgetOldest()
 {
-    if (mEntries.size() <= MAX_ENTRIES)
-        return;
-    const Key* oldest = mUses.back();
+    const auto oldest = mEntries.find(*mUses.back());
     mUses.pop_back();
-    mEntries.erase(mEntries.find(*oldest));
+    mBytes -= oldest->second.mask.ink.size();
+    mEntries.erase(oldest);
 }
 
 TextMask TextRenderer::render(const Key& key)

@@ -36,6 +36,11 @@ public:
     /// text that can never be visible.
     const TextMask& mask(Font font, const PegString& text, int width);
 
+    static constexpr std::size_t MAX_BYTES = 4 << 20;
+
+    /// What the stencils take that are kept: MAX_BYTES at most, but for a single one that is larger.
+    std::size_t bytes() const { return mBytes; }
+
 private:
     struct Key {
         Font font;
@@ -55,11 +60,13 @@ private:
     static constexpr std::size_t MAX_ENTRIES = 256;
 
     TextMask render(const Key& key);
+    bool isFull() const;
     void forgetOldest();
 
     Fonts mFonts;
     std::unordered_map<Key, Entry, KeyHash> mEntries;
     std::list<const Key*> mUses; ///< the last used first
+    std::size_t mBytes = 0;
     struct Canvas;
     std::unique_ptr<Canvas> mCanvas;
 };

@@ -164,6 +164,43 @@ TEST_F(FontsTest, forgottenTextsComeBackTheSame)
     EXPECT_EQ(mask("first").ink, first.ink);
 }
 
+TEST_F(FontsTest, longTextsAreKeptWithinBounds)
+{
+    const auto longText = [](int i) { return std::to_string(i) + std::string(2000, 'm'); };
+    const TextMask first = mask(longText(0), Font::TEXT, TextMask::MAX_WIDTH);
+    EXPECT_EQ(renderer.bytes(), first.ink.size());
+    EXPECT_GT(300 * first.ink.size(), TextRenderer::MAX_BYTES);
+    for (int i = 1; i < 300; ++i) {
+        mask(longText(i), Font::TEXT, TextMask::MAX_WIDTH);
+        ASSERT_LE(renderer.bytes(), TextRenderer::MAX_BYTES);
+    }
+    EXPECT_GT(renderer.bytes() + 2 * first.ink.size(), TextRenderer::MAX_BYTES);
+    EXPECT_EQ(mask(longText(0), Font::TEXT, TextMask::MAX_WIDTH).ink, first.ink);
+}
+
+TEST_F(FontsTest, textThatIsLargerThanTheBoundIsShown)
+{
+    TextRenderer bare(NOWHERE);
+    testing::internal::CaptureStderr();
+    constexpr int WIDTH = TextRenderer::MAX_BYTES / TextMask::HEIGHT + 1;
+    bare.mask(Font::TEXT, text("abc"), 100);
+    const TextMask& huge = bare.mask(Font::TEXT, text(std::string(WIDTH / 7 + 1, 'x')), WIDTH);
+    EXPECT_EQ(huge.width, WIDTH);
+    EXPECT_GT(inkOf(huge), 0);
+    EXPECT_EQ(bare.bytes(), huge.ink.size());
+    bare.mask(Font::TEXT, text("abc"), 100);
+    EXPECT_LT(bare.bytes(), TextRenderer::MAX_BYTES);
+    testing::internal::GetCapturedStderr();
+}
+
+TEST_F(FontsTest, textsUsedLastAreKept)
+{
+    const TextMask first = mask("first");
+    const std::size_t others = renderer.bytes();
+    mask("first");
+    EXPECT_EQ(renderer.bytes(), others);
+}
+
 } // namespace
 
 } // namespace host
