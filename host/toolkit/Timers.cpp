@@ -4,6 +4,7 @@
 #include "toolkit/PegThing.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace host {
 
@@ -13,29 +14,40 @@ Timers& Timers::instance()
     return *timers;
 }
 
-template <typename Unwanted>
-void Timers::remove(Unwanted unwanted)
+void Timers::insert(std::int64_t due, const Timer& timer)
 {
-    std::erase_if(mByDue, [&](const auto& entry) { return unwanted(entry.second); });
-    publishNextDue();
+    mByThing[{timer.thing, timer.id}] = mByDue.emplace(due, timer);
+}
+
+Timers::ByThing::iterator Timers::remove(ByThing::iterator timer)
+{
+    mByDue.erase(timer->second);
+    return mByThing.erase(timer);
 }
 
 void Timers::set(PegThing* thing, std::int32_t id, int ms, bool repeat)
 {
     kill(thing, id);
     const int period = std::max(ms, 1);
-    mByDue.emplace(Clock::instance().now() + period, Timer{thing, id, repeat ? period : 0});
+    insert(Clock::instance().now() + period, {thing, id, repeat ? period : 0});
     publishNextDue();
 }
 
 void Timers::kill(const PegThing* thing, std::int32_t id)
 {
-    remove([=](const Timer& timer) { return timer.thing == thing && timer.id == id; });
+    const auto timer = mByThing.find({thing, id});
+    if (timer == mByThing.end())
+        return;
+    remove(timer);
+    publishNextDue();
 }
 
 void Timers::killAll(const PegThing* thing)
 {
-    remove([=](const Timer& timer) { return timer.thing == thing; });
+    auto timer = mByThing.lower_bound({thing, std::numeric_limits<std::int32_t>::min()});
+    while (timer != mByThing.end() && timer->first.first == thing)
+        timer = remove(timer);
+    publishNextDue();
 }
 
 void Timers::fireDue()
@@ -45,10 +57,10 @@ void Timers::fireDue()
     const std::int64_t now = Clock::instance().now();
     while (!mByDue.empty() && mByDue.begin()->first <= now) {
         const auto [due, timer] = *mByDue.begin();
-        mByDue.erase(mByDue.begin());
+        remove(mByThing.find({timer.thing, timer.id}));
         if (timer.period > 0) { // a loop that was late does not catch up
             const std::int64_t next = due + timer.period;
-            mByDue.emplace(next > now ? next : now + timer.period, timer);
+            insert(next > now ? next : now + timer.period, timer);
         }
         publishNextDue();
         timer.thing->Message({PM_TIMER, timer.id, timer.thing});

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <map>
+#include <utility>
 
 class PegThing;
 
@@ -28,12 +29,15 @@ private:
         int period; ///< 0 where it does not repeat
     };
 
-    template <typename Unwanted>
-    void remove(Unwanted unwanted);
+    using ByDue = std::multimap<std::int64_t, Timer>;
+    using ByThing = std::map<std::pair<const PegThing*, std::int32_t>, ByDue::iterator>;
 
+    void insert(std::int64_t due, const Timer& timer);
+    ByThing::iterator remove(ByThing::iterator timer);
     void publishNextDue() const;
 
-    std::multimap<std::int64_t, Timer> mByDue;
+    ByDue mByDue;
+    ByThing mByThing;
 };
 
 } // namespace host

@@ -3,8 +3,11 @@
 #include "host/clock/Clock.h"
 #include "unit/RunningToolkit.h"
 
+#include <ctime>
+#include <functional>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <limits>
 #include <memory>
 #include <vector>
 
@@ -181,6 +184,99 @@ TEST_F(TimersTest, ReceiverMaySetAndKillTimers)
     thing.SetTimer(2, 10, false);
     pass(30);
     EXPECT_THAT(shots, ElementsAre(Shot{1, 10}, Shot{3, 15}));
+}
+
+/// Calls what the test gives it.
+class Caller : public TimerThing {
+public:
+    using TimerThing::TimerThing;
+
+    int Message(const PegMessage& message) override
+    {
+        TimerThing::Message(message);
+        call(message.iData);
+        return 0;
+    }
+
+    std::function<void(std::int32_t)> call;
+};
+
+TEST_F(TimersTest, ReceiverMayDeleteAnotherThatIsDueAsWell)
+{
+    auto other = std::make_unique<TimerThing>(shots);
+    Caller thing(shots);
+    thing.call = [&](std::int32_t) { other.reset(); };
+    thing.SetTimer(1, 10, false);
+    other->SetTimer(2, 10, true);
+    other->SetTimer(3, 10, false);
+    pass(30);
+    EXPECT_THAT(shots, ElementsAre(Shot{1, 10}));
+    EXPECT_EQ(Clock::instance().timerDue(), Clock::NEVER);
+}
+
+TEST_F(TimersTest, ReceiverMayKillTheTimerThatFires)
+{
+    Caller thing(shots);
+    thing.call = [&](std::int32_t id) { thing.KillTimer(id); };
+    thing.SetTimer(1, 10, true);
+    thing.SetTimer(2, 10, false);
+    pass(30);
+    EXPECT_THAT(shots, ElementsAre(Shot{1, 10}, Shot{2, 10}));
+}
+
+TEST_F(TimersTest, ReceiverMaySetTheTimerThatFires)
+{
+    Caller thing(shots);
+    thing.call = [&](std::int32_t id) { thing.SetTimer(id, 5, false); };
+    thing.SetTimer(1, 10, true);
+    pass(22);
+    EXPECT_THAT(shots, ElementsAre(Shot{1, 10}, Shot{1, 15}, Shot{1, 20}));
+}
+
+TEST_F(TimersTest, RepeatingTimerQueuesBehindThoseDueWithIt)
+{
+    TimerThing thing(shots);
+    thing.SetTimer(1, 10, true);
+    pass(5);
+    thing.SetTimer(2, 15, false);
+    pass(15);
+    EXPECT_THAT(shots, ElementsAre(Shot{1, 10}, Shot{2, 20}, Shot{1, 20}));
+}
+
+TEST_F(TimersTest, DeadThingTakesAllOfItsTimersAndNobodyElses)
+{
+    std::vector<std::unique_ptr<TimerThing>> things(3);
+    for (auto& thing : things) {
+        thing = std::make_unique<TimerThing>(shots);
+        for (const std::int32_t id :
+             {std::numeric_limits<std::int32_t>::min(), -1, 0, std::numeric_limits<std::int32_t>::max()})
+            thing->SetTimer(id, 10, false);
+    }
+    things[1].reset();
+    pass(30);
+    EXPECT_EQ(shots.size(), 8u);
+    EXPECT_EQ(Clock::instance().timerDue(), Clock::NEVER);
+}
+
+/// What the calling thread has had of the processor.
+double secondsUsed()
+{
+    timespec time;
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
+}
+
+TEST_F(TimersTest, ManyTimersCostLittleEach)
+{
+    constexpr int MANY = 60'000;
+    TimerThing thing(shots);
+    const double start = secondsUsed();
+    for (int id = 0; id < MANY; ++id)
+        thing.SetTimer(id, 1000 + id, false);
+    for (int id = 0; id < MANY; id += 2)
+        thing.KillTimer(id);
+    EXPECT_LT(secondsUsed() - start, 4);
+    EXPECT_EQ(Clock::instance().timerDue() - Clock::instance().now(), 1001);
 }
 
 } // namespace
