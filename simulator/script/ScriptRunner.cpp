@@ -24,13 +24,6 @@ struct StepFailed : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-std::string contentOf(const std::filesystem::path& path)
-{
-    std::stringstream text;
-    text << std::ifstream(path).rdbuf();
-    return text.str();
-}
-
 } // namespace
 
 ScriptRunner::ScriptRunner(ScriptedPhone& phone, ScriptReport& report, std::filesystem::path folder,
@@ -117,7 +110,7 @@ void ScriptRunner::compare(const Step& step)
 {
     if (updatesScreens())
         return write(step.text, screen());
-    const std::string expected = contentOf(step.text);
+    const std::string expected = read(step.text);
     const auto deadline = steady_clock::now() + mPatience;
     for (;;) {
         const std::string difference = textDifference(expected, screen());
@@ -140,6 +133,16 @@ std::string ScriptRunner::screen()
 {
     const std::string displayables = mPhone.displayables();
     return screenText(displayables, mPhone.picture().texts);
+}
+
+std::string ScriptRunner::read(const std::filesystem::path& path)
+{
+    std::ifstream file(path);
+    if (!file)
+        fail("cannot read " + path.string());
+    std::stringstream text;
+    text << file.rdbuf();
+    return text.str();
 }
 
 void ScriptRunner::write(const std::filesystem::path& path, const std::string& text)

@@ -30,6 +30,7 @@ private:
     void compare(const Step& step);
     void writePicture(const Step& step);
     std::string screen();
+    std::string read(const std::filesystem::path& path);
     void write(const std::filesystem::path& path, const std::string& text);
     void down(PegKey key);
     void up(PegKey key);

@@ -1,6 +1,7 @@
 #include "audit/Catalogue.h"
 #include "audit/Faults.h"
 #include "audit/Walk.h"
+#include "support/TemporaryFolder.h"
 
 #include <fstream>
 #include <gmock/gmock.h>
@@ -16,7 +17,8 @@ using testing::HasSubstr;
 
 std::string fileWith(const std::string& text)
 {
-    const std::string name = testing::TempDir() + "/AuditTest";
+    static const test::TemporaryFolder folder;
+    const std::string name = folder / "AuditTest";
     std::ofstream(name) << text;
     return name;
 }

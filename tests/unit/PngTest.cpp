@@ -1,6 +1,7 @@
 #include "host/lcd/Png.h"
 
-#include <filesystem>
+#include "support/TemporaryFolder.h"
+
 #include <fstream>
 #include <gmock/gmock.h>
 
@@ -10,9 +11,8 @@ namespace {
 
 class PngTest : public testing::Test {
 protected:
-    ~PngTest() override { std::filesystem::remove(mPath); }
-
-    const std::string mPath = testing::TempDir() + "png-test.png";
+    const test::TemporaryFolder mFolder;
+    const std::string mPath = mFolder / "png-test.png";
     const Picture mPicture{4, 2, {0, 1, 2, 3, 3, 2, 1, 0}, {}, 0};
 };
 

@@ -1,6 +1,7 @@
 #include "simulator/script/ScriptParser.h"
 
 #include "simulator/script/ExpectedScreen.h"
+#include "support/TemporaryFolder.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -157,18 +158,13 @@ TEST(ScriptParser, FileThatCannotBeReadIsAMistake)
 /// A folder with a script that compares the screen with `menu.txt`.
 class ComparingScriptTest : public testing::Test {
 protected:
-    ComparingScriptTest()
-    {
-        remove_all(folder);
-        create_directory(folder);
-        write("s", "key ok\ncompare menu.txt\n");
-    }
-    ~ComparingScriptTest() override { remove_all(folder); }
+    ComparingScriptTest() { write("s", "key ok\ncompare menu.txt\n"); }
 
     void write(const char* name, const char* text) const { std::ofstream(folder / name) << text; }
     Script read(const char* panel) const { return simulator::readScript(folder / "s", panel); }
 
-    const std::filesystem::path folder = std::filesystem::path(testing::TempDir()) / "ComparingScriptTest";
+    const test::TemporaryFolder temporary;
+    const std::filesystem::path& folder = temporary.path();
 };
 
 TEST_F(ComparingScriptTest, ComparesWithAFileBesideTheScript)

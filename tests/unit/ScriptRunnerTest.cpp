@@ -2,6 +2,7 @@
 
 #include "simulator/script/ExpectedScreen.h"
 #include "simulator/script/ScriptParser.h"
+#include "support/TemporaryFolder.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -77,10 +78,18 @@ protected:
     {
         const Script script = parseScript("s", text);
         ASSERT_THAT(script.errors, IsEmpty());
-        ScriptRunner(phone, report, testing::TempDir(), patience).run(script);
+        ScriptRunner(phone, report, folder.path(), patience).run(script);
         EXPECT_NE(report.hasPassed, report.failedLine != 0);
     }
 
+    std::string contentOf(const char* name) const
+    {
+        std::stringstream text;
+        text << std::ifstream(folder / name).rdbuf();
+        return text.str();
+    }
+
+    const test::TemporaryFolder folder;
     FakePhone phone;
     FakeReport report;
 };
@@ -197,13 +206,6 @@ TEST_F(ScriptRunnerTest, EndOfTheApplicationFails)
     EXPECT_THAT(phone.notes, IsEmpty());
 }
 
-std::string contentOf(const std::string& name)
-{
-    std::stringstream text;
-    text << std::ifstream(testing::TempDir() + "/" + name).rdbuf();
-    return text.str();
-}
-
 TEST_F(ScriptRunnerTest, DumpWritesTheScreenAsText)
 {
     phone.text = "Ready";
@@ -221,7 +223,6 @@ TEST_F(ScriptRunnerTest, DumpWritesTheTextsAsJson)
 class ScriptComparisonTest : public ScriptRunnerTest {
 protected:
     ScriptComparisonTest() { std::ofstream(mFile) << "object:\nname:List\nstring0:Ready\nend:\n"; }
-    ~ScriptComparisonTest() override { std::filesystem::remove(mFile); }
 
     void compare(milliseconds patience = milliseconds(0))
     {
@@ -229,7 +230,7 @@ protected:
         ScriptRunner(phone, report, "/nowhere", patience).run(script);
     }
 
-    const std::string mFile = testing::TempDir() + "/ScriptComparisonTest.txt";
+    const std::string mFile = folder / "ScriptComparisonTest.txt";
 };
 
 TEST_F(ScriptComparisonTest, SameScreenPasses)
@@ -265,6 +266,15 @@ TEST_F(ScriptComparisonTest, DoesNotWaitForATelephoneThatIsGone)
     EXPECT_EQ(report.failedLine, 7);
 }
 
+TEST_F(ScriptComparisonTest, DoesNotWaitForAFileThatIsGone)
+{
+    std::filesystem::remove(mFile);
+    phone.nextFrame = [this] { phone.isGone = true; };
+    compare(std::chrono::minutes(1));
+    EXPECT_EQ(report.failedLine, 7);
+    EXPECT_THAT(report.failure, testing::StartsWith("cannot read " + mFile));
+}
+
 TEST_F(ScriptComparisonTest, UpdateMakesWhatIsShownTheExpectedScreen)
 {
     phone.text = "Busy";
@@ -279,7 +289,7 @@ TEST_F(ScriptRunnerTest, ScreenshotWritesAPicture)
 {
     run("screenshot ScriptRunnerTest.png");
     EXPECT_TRUE(report.hasPassed);
-    std::ifstream file(testing::TempDir() + "/ScriptRunnerTest.png");
+    std::ifstream file(folder / "ScriptRunnerTest.png");
     std::string start(4, ' ');
     EXPECT_TRUE(file.read(start.data(), 4));
     EXPECT_EQ(start, "\x89PNG");
