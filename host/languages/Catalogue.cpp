@@ -37,8 +37,9 @@ struct Reading {
     std::string complaint;
 } gReading;
 
-/// The parser means to be left for good after a fatal error, which would end the process; it copes with going on.
-void complain(int severity, po_message_t, const char*, std::size_t line, std::size_t, int, const char* text)
+/// The parser means to be left for good after a fatal error, which would end the process; it copes with going on, but
+/// not with exceptions.
+void complain(int severity, po_message_t, const char*, std::size_t line, std::size_t, int, const char* text) noexcept
 {
     if (severity != PO_SEVERITY_WARNING && gReading.complaint.empty())
         gReading.complaint = sentence(gReading.file, line, text);
@@ -46,7 +47,7 @@ void complain(int severity, po_message_t, const char*, std::size_t line, std::si
 
 void complainOfTwo(int severity, po_message_t message, const char* file, std::size_t line, std::size_t column,
                    int multiline, const char* text, po_message_t, const char*, std::size_t, std::size_t, int,
-                   const char*)
+                   const char*) noexcept
 {
     complain(severity, message, file, line, column, multiline, text);
 }
@@ -59,11 +60,21 @@ std::string whyUnreadable(const fs::path& file)
     std::error_code error;
     if (fs::is_directory(file, error))
         return "This is a folder.";
+    if (fs::exists(file, error) && !fs::is_regular_file(file, error)) // opening a pipe waits for its other end
+        return "This is no regular file.";
     errno = 0;
     std::ifstream stream(file);
     stream.ignore(std::numeric_limits<std::streamsize>::max());
     const bool isReadable = stream.is_open() && !stream.bad();
     return isReadable ? std::string() : std::string("The file cannot be read: ") + std::strerror(errno) + ".";
+}
+
+/// Some editors write one; the parser takes it for a keyword.
+bool beginsWithByteOrderMark(const fs::path& file)
+{
+    static constexpr std::string_view MARK = "\xEF\xBB\xBF";
+    std::string start(MARK.size(), '\0');
+    return std::ifstream(file).read(start.data(), static_cast<std::streamsize>(start.size())) && start == MARK;
 }
 
 std::string field(const char* header, const char* name)
@@ -116,6 +127,8 @@ std::string readCatalogue(const fs::path& path, Catalogue& catalogue)
 {
     if (const std::string reason = whyUnreadable(path); !reason.empty())
         return sentence(path, NO_LINE, reason);
+    if (beginsWithByteOrderMark(path))
+        return sentence(path, 1, "The file begins with a byte order mark.");
 
     static std::mutex oneAtATime;
     const std::lock_guard lock(oneAtATime);

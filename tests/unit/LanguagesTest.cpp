@@ -1,6 +1,7 @@
 #include "host/languages/Languages.h"
 
 #include "support/LogLines.h"
+#include "support/TemporaryFolder.h"
 #include "utilities/TranslationInfo.h"
 
 #include <atomic>
@@ -8,8 +9,8 @@
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <thread>
-#include <unistd.h>
 
 namespace {
 
@@ -42,13 +43,9 @@ class LanguagesTest : public testing::Test {
 protected:
     LanguagesTest()
     {
-        char name[] = "/tmp/languages.XXXXXX";
-        folder = mkdtemp(name);
         write("de.po", header("de_DE") + text("Language.name", "Deutsch") + text("Menu.title", "Menü"));
         write("ja.po", header("ja_JP") + text("Language.name", "日本語") + text("Menu.title", "メニュー"));
     }
-
-    ~LanguagesTest() override { fs::remove_all(folder); }
 
     void write(const std::string& file, const std::string& content) { std::ofstream(folder / file) << content; }
 
@@ -64,7 +61,8 @@ protected:
         return complaint;
     }
 
-    fs::path folder;
+    const test::TemporaryFolder temporary;
+    const fs::path& folder = temporary.path();
 };
 
 TEST_F(LanguagesTest, EachLanguageIsKnownByItsCodeItsOwnNameAndItsLocale)
@@ -199,6 +197,19 @@ TEST_F(LanguagesTest, FolderIsNoCatalogue)
 {
     fs::create_directory(folder / "fr.po");
     EXPECT_EQ(Languages(folder).use("fr"), "fr.po: This is a folder.");
+}
+
+TEST_F(LanguagesTest, PipeIsNoCatalogue)
+{
+    ASSERT_EQ(mkfifo((folder / "fr.po").c_str(), 0600), 0);
+    EXPECT_EQ(Languages(folder).use("fr"), "fr.po: This is no regular file.");
+}
+
+TEST_F(LanguagesTest, ByteOrderMarkIsRefusedWithItsLine)
+{
+    static const std::string MARK = "\xEF\xBB\xBF";
+    EXPECT_EQ(complaintOf(MARK + header("xx") + text("a", "b")), "xx.po:1: The file begins with a byte order mark.");
+    EXPECT_EQ(complaintOf(MARK), "xx.po:1: The file begins with a byte order mark.");
 }
 
 TEST_F(LanguagesTest, SyntaxErrorIsRefusedWithItsLine)
