@@ -37,6 +37,13 @@ bool isCode(const std::string& text)
     return !text.empty() && text.find_first_of("./") == std::string::npos;
 }
 
+bool isCatalogue(const fs::directory_entry& entry)
+{
+    std::error_code error;
+    const fs::path& file = entry.path();
+    return file.extension() == ENDING && isCode(file.stem().string()) && entry.is_regular_file(error);
+}
+
 } // namespace
 
 Languages::Languages(std::string folder) : mFolder(std::move(folder)) {}
@@ -57,12 +64,12 @@ std::vector<Language> Languages::available() const
 {
     std::vector<Language> all;
     std::error_code error;
-    for (const fs::directory_entry& entry : fs::directory_iterator(mFolder, error)) {
-        if (entry.path().extension() != ENDING)
+    for (fs::directory_iterator entry(mFolder, error), end; entry != end; entry.increment(error)) {
+        if (!isCatalogue(*entry))
             continue;
         Catalogue catalogue;
-        readCatalogue(entry.path(), catalogue);
-        all.push_back(describe(entry.path().stem().string(), catalogue));
+        readCatalogue(entry->path(), catalogue);
+        all.push_back(describe(entry->path().stem().string(), catalogue));
     }
     std::ranges::sort(all, {}, &Language::code);
     return all;

@@ -85,6 +85,31 @@ TEST_F(LanguagesTest, BrokenCatalogueIsListedByItsCode)
     EXPECT_EQ(Languages(folder).available().back(), (Language{"xx", "xx", ""}));
 }
 
+TEST_F(LanguagesTest, OnlyFilesAreLanguages)
+{
+    ASSERT_EQ(mkfifo((folder / "pipe.po").c_str(), 0600), 0);
+    fs::create_directory(folder / "folder.po");
+    fs::create_symlink(folder / "nowhere.po", folder / "gone.po");
+    EXPECT_EQ(Languages(folder).available().size(), 2u);
+}
+
+TEST_F(LanguagesTest, LinkToACatalogueIsALanguage)
+{
+    fs::create_symlink(folder / "de.po", folder / "at.po");
+    EXPECT_EQ(Languages(folder).available().front(), (Language{"at", "Deutsch", "de_DE"}));
+}
+
+TEST_F(LanguagesTest, WhatIsNoCodeIsNotListed)
+{
+    write("de.at.po", header("de_AT"));
+    write(".po", header("xx"));
+    write("..po", header("xx"));
+    Languages languages(folder);
+    EXPECT_EQ(languages.available().size(), 2u);
+    for (const Language& language : languages.available())
+        EXPECT_EQ(languages.use(language.code), "");
+}
+
 TEST_F(LanguagesTest, FolderThatIsNotThereHasNoLanguages)
 {
     Languages languages(folder / "nowhere");
