@@ -26,6 +26,21 @@ std::vector<StatusTimeView*>& views()
     return *watching;
 }
 
+bool isWatching(const StatusTimeView& view)
+{
+    return std::find(views().begin(), views().end(), &view) != views().end();
+}
+
+/// Those to which it applies when their turn comes.
+template <typename Applies>
+void tell(Applies applies)
+{
+    for (StatusTimeView* view : std::vector<StatusTimeView*>(views())) {
+        if (isWatching(*view) && applies(*view))
+            view->statusTimeChanged();
+    }
+}
+
 } // namespace
 
 RunningTime::RunningTime(std::int64_t milliseconds) : mStart(Clock::instance().now() - milliseconds) {}
@@ -38,19 +53,18 @@ std::int64_t RunningTime::milliseconds() const
 StatusTime::StatusTime()
 {
     times().push_back(this);
-    currentChanged();
 }
 
 StatusTime::~StatusTime()
 {
     std::erase(times(), this);
-    currentChanged();
+    if (!text().empty())
+        currentChanged();
 }
 
 void StatusTime::currentChanged()
 {
-    for (StatusTimeView* view : views())
-        view->statusTimeChanged();
+    tell([](const StatusTimeView&) { return true; });
     scheduleAll();
 }
 
@@ -62,18 +76,19 @@ void StatusTime::scheduleAll()
 
 const StatusTime* StatusTime::current()
 {
-    return times().empty() ? nullptr : times().back();
+    const auto shown =
+        std::find_if(times().rbegin(), times().rend(), [](const StatusTime* time) { return !time->text().empty(); });
+    return shown == times().rend() ? nullptr : *shown;
 }
 
 void StatusTime::watch(StatusTimeView& view, bool on)
 {
-    const auto found = std::find(views().begin(), views().end(), &view);
-    if (on == (found != views().end()))
+    if (on == isWatching(view))
         return;
     if (on)
         views().push_back(&view);
     else
-        views().erase(found);
+        std::erase(views(), &view);
     scheduleAll();
 }
 
@@ -91,6 +106,8 @@ void StatusTime::change(Change apply)
 {
     const std::string before = text();
     apply();
+    if (text().empty() != before.empty())
+        return currentChanged();
     if (text() != before)
         tellViews();
     schedule();
@@ -139,10 +156,7 @@ bool StatusTime::runs() const
 
 void StatusTime::tellViews() const
 {
-    for (StatusTimeView* view : views()) {
-        if (view->statusTime() == this)
-            view->statusTimeChanged();
-    }
+    tell([this](const StatusTimeView& view) { return view.statusTime() == this; });
 }
 
 bool StatusTime::isWatched() const

@@ -41,10 +41,12 @@ public:
     StatusTime();
     ~StatusTime() override;
 
-    /// The one made last of those that live: what views without one of their own show. Null where none lives.
+    /// The one made last of those that have a text to show: what views without one of their own show. Null where none
+    /// has.
     static const StatusTime* current();
 
-    /// A view that watches is told of changes. One that dies must not watch any more.
+    /// A view that watches is told of changes, and may then let itself or others begin or end to watch. One that dies
+    /// must not watch any more.
     static void watch(StatusTimeView& view, bool on);
 
     int Message(const PegMessage& message) override;

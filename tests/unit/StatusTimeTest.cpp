@@ -1,27 +1,21 @@
 #include "host/widgets/StatusTime.h"
 
 #include "host/clock/Clock.h"
-#include "host/toolkit/Timers.h"
 #include "unit/RunningToolkit.h"
+#include "unit/VirtualTime.h"
 #include "utilities/ICC.h"
 #include "widgets/KestrelApplication.h"
 
+#include <functional>
 #include <gmock/gmock.h>
 
 using namespace host;
+using testing_support::VirtualTime;
 
 namespace {
 
 constexpr int SECOND = 1000;
 constexpr int MINUTE = 60 * SECOND;
-
-class VirtualTime {
-public:
-    VirtualTime() { Clock::instance().makeVirtual(); }
-    VirtualTime(const VirtualTime&) = delete;
-    VirtualTime& operator=(const VirtualTime&) = delete;
-    ~VirtualTime() { Clock::instance().makeReal(); }
-};
 
 /// Counts what it is told; shows one time or the current one.
 class CountingView final : public StatusTimeView {
@@ -32,26 +26,24 @@ public:
     ~CountingView() { StatusTime::watch(*this, false); }
 
     const StatusTime* statusTime() const override { return mOwn != nullptr ? mOwn : StatusTime::current(); }
-    void statusTimeChanged() override { ++changes; }
+    void statusTimeChanged() override
+    {
+        ++changes;
+        if (whenTold)
+            whenTold();
+    }
 
     int changes = 0;
+    std::function<void()> whenTold;
 
 private:
     const StatusTime* mOwn;
 };
 
 /// The test's thread is the GUI thread.
-class StatusTimeTest : public testing::Test {
+class StatusTimeTest : public VirtualTime, public testing::Test {
 protected:
     ~StatusTimeTest() override { KestrelApplication::getCurrentApplication()->setTimeFormat(PegString()); }
-
-    static bool isTimerRunning() { return Clock::instance().timerDue() != Clock::NEVER; }
-
-    static void pass(std::int64_t ms)
-    {
-        Clock::instance().advance(ms);
-        Timers::instance().fireDue();
-    }
 
     static void setTimeFormat(const std::string& format)
     {
@@ -71,7 +63,6 @@ protected:
         return time.text();
     }
 
-    const VirtualTime virtualTime;
     const testing_support::StartedToolkit toolkit;
     StatusTime time;
 };
@@ -234,14 +225,15 @@ TEST_F(StatusTimeTest, whatStaysTheSameIsNotTold)
 
 TEST_F(StatusTimeTest, viewsWithoutAnOwnOneShowTheLastOneMade)
 {
-    EXPECT_EQ(StatusTime::current(), &time);
+    clockAt(9, 0);
     CountingView own(&time);
     CountingView other;
     {
         StatusTime last;
+        last.setTimer("00:42");
         EXPECT_EQ(StatusTime::current(), &last);
         own.changes = other.changes = 0;
-        last.setTimer("00:42");
+        last.setTimer("00:43");
         EXPECT_EQ(other.changes, 1);
         EXPECT_EQ(own.changes, 0);
     }
@@ -249,21 +241,55 @@ TEST_F(StatusTimeTest, viewsWithoutAnOwnOneShowTheLastOneMade)
     EXPECT_EQ(StatusTime::current(), &time);
 }
 
-TEST_F(StatusTimeTest, viewsOfTheFormerOneAreToldOfANewOne)
+TEST_F(StatusTimeTest, oneThatShowsNothingIsNotCurrent)
 {
-    CountingView view;
+    EXPECT_EQ(StatusTime::current(), nullptr);
     clockAt(9, 0);
-    EXPECT_TRUE(isTimerRunning());
-    view.changes = 0;
+    CountingView view;
     StatusTime last;
+    EXPECT_EQ(StatusTime::current(), &time);
+    EXPECT_EQ(view.changes, 0);
+    EXPECT_TRUE(isTimerRunning());
+}
+
+TEST_F(StatusTimeTest, viewsAreToldWhenAnotherOneBeginsOrEndsToShow)
+{
+    clockAt(9, 0);
+    CountingView view;
+    StatusTime last;
+    last.setTimer("on hold");
+    EXPECT_EQ(StatusTime::current(), &last);
     EXPECT_EQ(view.changes, 1);
     EXPECT_FALSE(isTimerRunning());
+    last.stopTimer();
+    EXPECT_EQ(StatusTime::current(), &time);
+    EXPECT_EQ(view.changes, 2);
+    EXPECT_TRUE(isTimerRunning());
+}
+
+TEST_F(StatusTimeTest, viewsMayComeAndGoWhileTheyAreTold)
+{
+    for (const char* text : {"on hold", "on hold again"}) {
+        CountingView first, second, third, late;
+        StatusTime::watch(late, false);
+        first.whenTold = [&] {
+            StatusTime::watch(first, false);
+            StatusTime::watch(second, false);
+            StatusTime::watch(late, true);
+        };
+        time.setTimer(text);
+        EXPECT_EQ(first.changes, 1);
+        EXPECT_EQ(second.changes, 0);
+        EXPECT_EQ(third.changes, 1);
+        EXPECT_EQ(late.changes, 0);
+    }
 }
 
 TEST_F(StatusTimeTest, onlyTheOneThatIsWatchedWakes)
 {
     clockAt(9, 0);
     StatusTime last;
+    last.setTimer("on hold");
     CountingView view;
     EXPECT_FALSE(isTimerRunning());
     last.setTimer("00:42");

@@ -3,6 +3,8 @@
 #include "host/clock/Clock.h"
 #include "host/toolkit/Timers.h"
 
+#include <algorithm>
+
 namespace testing_support {
 
 /// Time stands still while it lives. Base of the tests in which it passes, before the toolkit starts.
@@ -14,10 +16,12 @@ public:
     ~VirtualTime() { host::Clock::instance().makeReal(); }
 
     /// Without a loop: the test's thread is the GUI thread, and fires what becomes due.
-    static void pass(int ms)
+    static void pass(std::int64_t ms)
     {
-        for (int i = 0; i < ms; ++i) {
-            host::Clock::instance().advance(1);
+        host::Clock& clock = host::Clock::instance();
+        const std::int64_t end = clock.now() + ms;
+        while (clock.now() < end) {
+            clock.advance(std::max<std::int64_t>(1, std::min(clock.timerDue(), end) - clock.now()));
             host::Timers::instance().fireDue();
         }
     }
