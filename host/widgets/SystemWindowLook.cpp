@@ -2,6 +2,7 @@
 
 #include "host/lcd/Geometry.h"
 #include "host/widgets/PopupFrame.h"
+#include "host/widgets/Reading.h"
 #include "utilities/ICC.h"
 
 #include <algorithm>
@@ -68,15 +69,20 @@ void drawPopup(PegPainter& painter, const PegRect& area, const SystemWindowState
     draw(cell(CAPTION_HEIGHT, TEXT_HEIGHT), 1, Font::TEXT);
 }
 
+/// Changes sides with the language, as in a list.
+PegRect twoLinesCell(const PegRect& area, int top, int height)
+{
+    const int indent = isReadFromTheRight() ? widthOf(area) - GUTTER - LINE_WIDTH : GUTTER;
+    return rectAt(area.left + indent, area.top + top, LINE_WIDTH, height);
+}
+
 void drawTwoLines(PegPainter& painter, const PegRect& area, const StatusLines& lines, const StatusTime& time)
 {
     const int textHeight = BIG_LINE_HEIGHT - TITLE_RULE;
     painter.fill(rectAt(area.left, area.top, widthOf(area), textHeight), Level::LIGHT);
     drawRule(painter, area, area.top + textHeight);
-    drawStatusLine(painter, rectAt(area.left + GUTTER, area.top, LINE_WIDTH, textHeight), lines.text(0),
-                   Font::FIXED_BOLD, &time);
-    drawStatusLine(painter, rectAt(area.left + GUTTER, area.top + BIG_LINE_HEIGHT, LINE_WIDTH, BIG_LINE_HEIGHT),
-                   lines.text(1), Font::FIXED, nullptr);
+    drawStatusLine(painter, twoLinesCell(area, 0, textHeight), lines.text(0), Font::FIXED_BOLD, &time);
+    drawStatusLine(painter, twoLinesCell(area, BIG_LINE_HEIGHT, BIG_LINE_HEIGHT), lines.text(1), Font::FIXED, nullptr);
 }
 
 /// The separator stands where the screen goes on.

@@ -8,6 +8,8 @@
 #include "unit/RunningToolkit.h"
 #include "utilities/ICC.h"
 #include "widgets/KestrelApplication.h"
+#include "widgets/KestrelListBoxItem.h"
+#include "widgets/KestrelListBoxWP1.h"
 
 #include <gmock/gmock.h>
 
@@ -76,6 +78,14 @@ protected:
         std::vector<std::string> all;
         for (const TextRun& run : runs())
             all.push_back(run.text);
+        return all;
+    }
+
+    static std::vector<PegRect> places()
+    {
+        std::vector<PegRect> all;
+        for (const TextRun& run : runs())
+            all.push_back(run.area);
         return all;
     }
 
@@ -175,6 +185,23 @@ TEST_F(SystemWindowTest, popupOfBlankLinesIsTakenDownWhateverTheTime)
         EXPECT_TRUE(isEmpty(window->Area()));
         EXPECT_THAT(texts(), testing::IsEmpty());
         EXPECT_FALSE(isTimerRunning());
+    }
+}
+
+TEST_F(SystemWindowTest, textsOnTwoLinesStandWhereThoseOfAListDo)
+{
+    begin(Variant::WP1);
+    for (const char* locale : {"en", "he"}) {
+        application.setLocale(ICC::fromUTF8toUNICODE(locale));
+        KestrelListBoxWP1 list;
+        KestrelListBoxItem row(ICC::fromUTF8toUNICODE("line 1"));
+        list.setTitle(ICC::fromUTF8toUNICODE("line 0"));
+        list.append(&row);
+        gpPresent->Add(&list);
+        const auto ofList = places();
+        show(2);
+        EXPECT_EQ(places(), ofList) << locale;
+        gpPresent->Remove(window.get());
     }
 }
 
