@@ -7,6 +7,7 @@
 #include "toolkit/PegScreen.h"
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 using namespace host;
@@ -120,7 +121,8 @@ std::string SystemWindow::getSystemWindowText(int line) const
 
 void SystemWindow::setSystemWindowTop(int top, bool separator, bool redraw)
 {
-    mImpl->top = top;
+    using Coordinate = std::numeric_limits<std::int16_t>;
+    mImpl->top = std::clamp<int>(top, Coordinate::min(), Coordinate::max());
     showLine(separator);
     mImpl->place();
     if (redraw && mpScreen != nullptr)

@@ -29,6 +29,7 @@ public:
     void setSystemWindowText(int line, const std::string& text);
     std::string getSystemWindowText(int line) const;
 
+    /// Cut into the range of the coordinates.
     void setSystemWindowTop(int top, bool separator, bool redraw);
 
     /// A popup stands over the screen, with a frame where the panel has room for one, and shows two lines at most.

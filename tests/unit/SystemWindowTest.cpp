@@ -11,6 +11,7 @@
 #include "widgets/KestrelListBoxItem.h"
 #include "widgets/KestrelListBoxWP1.h"
 
+#include <climits>
 #include <gmock/gmock.h>
 
 using namespace host;
@@ -186,6 +187,16 @@ TEST_F(SystemWindowTest, popupOfBlankLinesIsTakenDownWhateverTheTime)
         EXPECT_THAT(texts(), testing::IsEmpty());
         EXPECT_FALSE(isTimerRunning());
     }
+}
+
+TEST_F(SystemWindowTest, topIsCutIntoTheRangeOfTheCoordinates)
+{
+    show(2);
+    window->setSystemWindowTop(INT_MAX, false, true);
+    EXPECT_EQ(window->Area(), (PegRect{0, 32767, 239, 32767}));
+    window->setSystemWindowTop(INT_MIN, false, true);
+    EXPECT_EQ(window->Area(), (PegRect{0, -32768, 239, -32768 + 31}));
+    EXPECT_THAT(texts(), testing::IsEmpty());
 }
 
 TEST_F(SystemWindowTest, textsOnTwoLinesStandWhereThoseOfAListDo)
