@@ -26,7 +26,6 @@ struct SystemWindow::Impl final : StatusTimeView {
 
     SystemWindow& window;
     ApplicationWatch application;
-    GUIEventIfc* handler = nullptr;
     StatusTime time;
     StatusLines lines;
     int top = 0;
@@ -95,10 +94,8 @@ void SystemWindow::Impl::lineChanged(int line)
         window.Invalidate();
 }
 
-void SystemWindow::setEventHandler(GUIEventIfc* handler)
-{
-    mImpl->handler = handler;
-}
+/// This window never changes by itself: there is nothing to report.
+void SystemWindow::setEventHandler(GUIEventIfc*) {}
 
 void SystemWindow::setSystemWindowSize(int lines)
 {

@@ -19,7 +19,7 @@ public:
     int Message(const PegMessage& message) override;
     void Draw(PegPainter& painter) override;
 
-    /// Not owned; null reports to nobody.
+    /// Told of what the window does by itself. Not owned; null reports to nobody.
     void setEventHandler(GUIEventIfc* handler);
 
     /// Cut to 0 to MAX_LINES.
