@@ -3,6 +3,7 @@
 #include "host/lcd/Geometry.h"
 #include "host/lcd/Lcd.h"
 #include "host/lcd/Painter.h"
+#include "host/widgets/Reading.h"
 #include "widgets/KestrelApplication.h"
 
 #include <utility>
@@ -59,7 +60,11 @@ int TickerWidget::Message(const PegMessage& message)
 void TickerWidget::Draw(PegPainter& painter)
 {
     painter.fill(Area(), Level::BARE);
-    painter.scrolledText(textArea(Area()), mText, {.font = look().font, .runs = true}, mOffset, look().gap);
+    const TextLook text{.font = look().font, .align = startAlign(), .runs = true};
+    if (fits())
+        painter.text(textArea(Area()), mText, text);
+    else
+        painter.scrolledText(textArea(Area()), mText, text, mOffset, look().gap);
 }
 
 void TickerWidget::Resize(const PegRect& area)
@@ -91,6 +96,11 @@ void TickerWidget::VisibilityChanged()
     beginAnew();
 }
 
+bool TickerWidget::fits() const
+{
+    return mTextWidth <= widthOf(textArea(Area()));
+}
+
 /// Whether a thing that stands higher hides all of it.
 bool TickerWidget::isCovered() const
 {
@@ -110,7 +120,7 @@ void TickerWidget::beginAnew()
         return;
     mTextWidth = Lcd::current()->textWidth(look().font, mText);
     Invalidate();
-    if (mTextWidth > widthOf(textArea(Area())))
+    if (!fits())
         rest();
 }
 

@@ -4,8 +4,8 @@
 #include "toolkit/PegThing.h"
 
 /// A line of text that runs from one edge to the other where it is too long for its area, and stands still where it
-/// fits. It rests for a moment each time that its beginning has come to the edge. Costs nothing while it is not
-/// visible, and next to nothing while something covers it. GUI thread only.
+/// fits, where texts of the current language begin. It rests for a moment each time that its beginning has come to the
+/// edge. Costs nothing while it is not visible, and next to nothing while something covers it. GUI thread only.
 class TickerWidget : public PegThing {
 public:
     explicit TickerWidget(PegString text);
@@ -29,6 +29,7 @@ private:
     void beginAnew();
     void rest();
     void step();
+    bool fits() const;
     bool isCovered() const;
 
     PegString mText;

@@ -7,6 +7,7 @@
 #include "unit/RunningToolkit.h"
 #include "unit/VirtualTime.h"
 #include "utilities/ICC.h"
+#include "widgets/KestrelApplication.h"
 
 #include <gmock/gmock.h>
 #include <memory>
@@ -39,7 +40,16 @@ PegString unicode(const std::string& utf8)
 
 class TickerWidgetTest : public VirtualTime, public testing::Test {
 protected:
-    ~TickerWidgetTest() override { ticker.reset(); }
+    ~TickerWidgetTest() override
+    {
+        ticker.reset();
+        setLocale("");
+    }
+
+    static void setLocale(const std::string& locale)
+    {
+        KestrelApplication::getCurrentApplication()->setLocale(unicode(locale));
+    }
 
     void show(const std::string& text)
     {
@@ -212,11 +222,18 @@ TEST_F(TickerWidgetTest, textFromRightToLeftBeginsAtTheRightAndRunsTheOtherWay)
     EXPECT_TRUE(isMoved(columns(), before, 10));
 }
 
-TEST_F(TickerWidgetTest, textFromRightToLeftThatFitsStandsAtTheRight)
+TEST_F(TickerWidgetTest, textThatFitsStandsWhereTextsOfTheLanguageBegin)
 {
-    show("مغلق");
-    EXPECT_FALSE(isTimerRunning());
-    EXPECT_THAT(texts(), ElementsAre(Field(&TextRun::area, Field(&PegRect::right, AREA.right - MARGIN))));
+    for (const char* text : {"مغلق", "Short"}) {
+        setLocale("");
+        show(text);
+        EXPECT_FALSE(isTimerRunning());
+        EXPECT_THAT(texts(), ElementsAre(Field(&TextRun::area, Field(&PegRect::left, AREA.left + MARGIN))));
+        setLocale("ar");
+        show(text);
+        EXPECT_FALSE(isTimerRunning());
+        EXPECT_THAT(texts(), ElementsAre(Field(&TextRun::area, Field(&PegRect::right, AREA.right - MARGIN))));
+    }
 }
 
 TEST_F(TickerWidgetTest, costsNothingWhileItIsNotOnTheScreen)
