@@ -8,6 +8,7 @@
 #include "widgets/KestrelApplication.h"
 #include "widgets/KestrelListBoxItem.h"
 #include "widgets/KestrelListBoxWithTitle.h"
+#include "widgets/TickerWidget.h"
 
 #include <algorithm>
 
@@ -204,6 +205,7 @@ void ListBoxCore::setTicker(TickerPrivateIfc* ticker)
         mFormerTickers.Add(widget);
     else if (tickerOf(*box()) != widget)
         change([&](KestrelListBox& list) { showTicker(list, widget); });
+    dropForgottenTickers();
 }
 
 /// A ticker that stands in another list leaves that one.
@@ -215,6 +217,18 @@ void ListBoxCore::showTicker(KestrelListBox& list, PegThing* ticker)
     list.setTickerShown(ticker != nullptr);
     if (before != nullptr)
         before->setTickerShown(false);
+}
+
+/// Nobody can give back a former ticker that nobody watches.
+void ListBoxCore::dropForgottenTickers()
+{
+    for (PegThing* former = mFormerTickers.First(); former != nullptr;) {
+        PegThing* const next = former->NextSibling();
+        const auto* ticker = dynamic_cast<TickerWidget*>(former);
+        if (ticker != nullptr && !ticker->isWatched())
+            delete ticker;
+        former = next;
+    }
 }
 
 /// The widget of the full panel draws the status lines itself; null for the other.

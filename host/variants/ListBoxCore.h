@@ -95,6 +95,7 @@ private:
     void showTitle();
     void lookUp(const PegString& locale);
     void showTicker(KestrelListBox& list, PegThing* ticker);
+    void dropForgottenTickers();
 
     DisplayablePrivate& mSelf;
     List* mOwner;
@@ -105,7 +106,7 @@ private:
     std::string mTitle;
     TranslationInfo* mTranslatedTitle = nullptr;
     host::ApplicationWatch mApplication{*this};
-    PegThing mFormerTickers; ///< holds them, never on screen: their facades may change them and give them back
+    PegThing mFormerTickers; ///< holds them, never on screen: those with a facade may be changed and come back
 
     // Kept for the parts of a list that are still to be shown.
     PopupDialer* mDialler = nullptr;

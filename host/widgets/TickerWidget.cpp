@@ -91,6 +91,11 @@ void TickerWidget::watchedBy(TickerWidget** pointer)
     mWatcher = pointer;
 }
 
+bool TickerWidget::isWatched() const
+{
+    return mWatcher != nullptr;
+}
+
 void TickerWidget::VisibilityChanged()
 {
     beginAnew();

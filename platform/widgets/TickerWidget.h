@@ -21,6 +21,7 @@ public:
 
     /// Sets `pointer` to null when the widget dies: it belongs to whoever shows it. A null address: nobody watches.
     void watchedBy(TickerWidget** pointer);
+    bool isWatched() const;
 
 protected:
     void VisibilityChanged() override;

@@ -15,6 +15,25 @@ namespace {
 
 const std::string LONG = "The canteen is closed on Friday; sandwiches are to be had at the gate.";
 
+/// Learns of the end of a thing: its child dies with it.
+class WatchedThing {
+public:
+    explicit WatchedThing(PegThing& thing) { thing.Add(new Child(mGone)); }
+    bool isGone() const { return *mGone; }
+
+private:
+    class Child : public PegThing {
+    public:
+        explicit Child(std::shared_ptr<bool> gone) : mGone(std::move(gone)) {}
+        ~Child() override { *mGone = true; }
+
+    private:
+        std::shared_ptr<bool> mGone;
+    };
+
+    std::shared_ptr<bool> mGone = std::make_shared<bool>(false);
+};
+
 /// A list with a title and ten rows, and what may run there.
 template <typename Variant>
 class ListTickerTest : public VirtualTime, public testing_support::ListVariantTest<Variant> {
@@ -235,6 +254,36 @@ TYPED_TEST(ListTickerTest, listWhoseBoxIsGoneTakesTickersWithoutShowingThem)
     EXPECT_EQ(this->other->getText(), "Other");
     this->list.reset();
     EXPECT_EQ(this->other->getText(), "");
+}
+
+TYPED_TEST(ListTickerTest, formerTickersThatNobodyHasAnyMoreAreDropped)
+{
+    std::vector<std::unique_ptr<WatchedThing>> marks;
+    for (int i = 0; i < 100; ++i) {
+        Ticker news("News " + std::to_string(i));
+        this->show(&news);
+        marks.push_back(std::make_unique<WatchedThing>(*this->widgetOf(news)));
+    }
+    this->show(&*this->ticker);
+    for (const auto& mark : marks)
+        EXPECT_TRUE(mark->isGone());
+    EXPECT_EQ(this->ticker->getText(), LONG);
+}
+
+TYPED_TEST(ListTickerTest, droppedOnesLeaveThoseThatCanComeBack)
+{
+    std::optional<Ticker> news(std::in_place, "News");
+    this->show(&*this->other);
+    this->show(&*news);
+    const WatchedThing mark(*this->widgetOf(*news));
+    this->show(&*this->ticker);
+    EXPECT_FALSE(mark.isGone());
+    news.reset();
+    this->show(nullptr);
+    EXPECT_TRUE(mark.isGone());
+    this->show(&*this->other);
+    EXPECT_EQ(this->other->getText(), "Other");
+    EXPECT_EQ(this->ticker->getText(), LONG);
 }
 
 TYPED_TEST(ListTickerTest, movesWithTheList)

@@ -369,4 +369,14 @@ TEST_F(TickerWidgetTest, nobodyIsToldWhenNobodyWatchesAnyMore)
     EXPECT_NE(watched, nullptr);
 }
 
+TEST_F(TickerWidgetTest, knowsWhetherSomebodyWatches)
+{
+    TickerWidget* watched = ticker.get();
+    EXPECT_FALSE(ticker->isWatched());
+    ticker->watchedBy(&watched);
+    EXPECT_TRUE(ticker->isWatched());
+    ticker->watchedBy(nullptr);
+    EXPECT_FALSE(ticker->isWatched());
+}
+
 } // namespace
