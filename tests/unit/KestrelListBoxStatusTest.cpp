@@ -184,6 +184,18 @@ TEST_F(KestrelListBoxStatusTest, clockGoesWithItsSystemWindow)
     EXPECT_EQ(runs().at(1).text, "Title");
 }
 
+TEST_F(KestrelListBoxStatusTest, systemWindowWithoutTimeLeavesTheClockOfAnother)
+{
+    setLines(1);
+    time.setTimer("on hold");
+    SystemWindow last;
+    EXPECT_EQ(runs().at(1).text, "on hold");
+    last.setTimer("00:42");
+    EXPECT_EQ(runs().at(1).text, "00:42");
+    last.stopTimer();
+    EXPECT_EQ(runs().at(1).text, "on hold");
+}
+
 TEST_F(KestrelListBoxStatusTest, rowOutOfViewIsNotPainted)
 {
     list->itemAt(7)->DataSet(text("x"));
