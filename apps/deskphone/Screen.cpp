@@ -52,8 +52,11 @@ void Screen::stopWorking()
         mBuilder.join();
 }
 
+/// Commands arrive later than they are raised: what the user did to a screen that has been left meanwhile is void.
 void Screen::commandAction(Command* command, DisplayAPI::Displayable*)
 {
+    if (mTelephone.display().getCurrent() != mList.get())
+        return;
     if (command == List::BACK_COMMAND() && mParent != nullptr) {
         left();
         mParent->open();

@@ -55,6 +55,23 @@ describe("the page", { timeout: 180_000 }, () => {
     await tab.shows("Desk phone");
   });
 
+  test("a key that comes with another one does not leave the screen that the first one opens", LIMIT, async () => {
+    for (const shown of ["Missed", "Ελένη Ιωάννου"]) {
+      await tab.button("ok").click();
+      await tab.shows(shown);
+    }
+    await tab.page.evaluate(() => {
+      for (const key of ["Enter", "ArrowLeft"])
+        for (const type of ["keydown", "keyup"])
+          document.dispatchEvent(new KeyboardEvent(type, { key, bubbles: true }));
+    });
+    await tab.shows("Hang up");
+    await new Promise((resolve) => setTimeout(resolve, 500));
+    assert.ok((await tab.rows()).includes("Hang up"));
+    await tab.button("ok").click();
+    await tab.shows("Call ended");
+  });
+
   test("presses keys with the keyboard", LIMIT, async () => {
     const before = await tab.levels();
     await tab.page.keyboard.press("ArrowDown");
