@@ -8,11 +8,16 @@ namespace deskphone {
 Choice::Choice(Telephone& telephone, Screen* parent, const std::string& name, const std::vector<std::string>& values,
                Values kind, Effect effect)
     : Screen(telephone, parent, name + ".title", std::make_unique<DisplayAPI::ExclusiveList>()),
-      mSummary(text(name, {[this] { return mValues[mChosen].get(); }})), mSaved(text("Status.saved")),
-      mEffect(std::move(effect))
+      mSummary(text(name, {[this] { return chosenValue(); }})), mSaved(text("Status.saved")), mEffect(std::move(effect))
 {
     for (const std::string& value : values)
         mValues.emplace_back(kind == Values::TRANSLATED ? &telephone.languages() : nullptr, value);
+}
+
+/// There may be none: without catalogues there is no language.
+std::string Choice::chosenValue()
+{
+    return mChosen < mValues.size() ? mValues[mChosen].get() : std::string();
 }
 
 void Choice::build()

@@ -37,6 +37,7 @@ private:
     /// A value that was only looked at is not chosen.
     void left() override;
 
+    std::string chosenValue();
     void accept(std::size_t value);
 
     std::deque<Text> mValues;

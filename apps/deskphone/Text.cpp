@@ -6,10 +6,10 @@ namespace deskphone {
 
 namespace {
 
-void replace(std::string& text, const std::string& mark, const std::string& by)
+void replace(std::string& text, const std::string& mark, const Text::Argument& argument)
 {
     if (const std::size_t at = text.find(mark); at != std::string::npos)
-        text.replace(at, mark.size(), by);
+        text.replace(at, mark.size(), argument());
 }
 
 } // namespace
@@ -23,7 +23,7 @@ std::string Text::translate(const std::string& key)
 {
     std::string text = mTranslator != nullptr ? mTranslator->translate(key) : key;
     for (std::size_t i = 0; i < mArguments.size(); ++i)
-        replace(text, "%" + std::to_string(i + 1), mArguments[i]());
+        replace(text, "%" + std::to_string(i + 1), mArguments[i]);
     return text;
 }
 
