@@ -13,11 +13,15 @@ using host::Clock;
 
 namespace {
 
-std::string minutesAndSeconds(std::int64_t ms)
+/// As the call's timer shows it, without hours that are none.
+std::string durationText(std::int64_t ms)
 {
     const auto seconds = static_cast<int>(ms / 1000);
-    char text[32];
-    std::snprintf(text, sizeof text, "%02d:%02d", seconds / 60, seconds % 60);
+    char text[40];
+    if (seconds < 3600)
+        std::snprintf(text, sizeof text, "%02d:%02d", seconds / 60, seconds % 60);
+    else
+        std::snprintf(text, sizeof text, "%d:%02d:%02d", seconds / 3600, seconds / 60 % 60, seconds % 60);
     return text;
 }
 
@@ -51,7 +55,7 @@ void Call::chosen(int)
 void Call::left()
 {
     mStatus.callEnds();
-    mDuration = minutesAndSeconds(Clock::instance().now() - mStart);
+    mDuration = durationText(Clock::instance().now() - mStart);
     telephone().tell(mEnded.get());
 }
 

@@ -1,6 +1,7 @@
 #include "apps/deskphone/Settings.h"
 
 #include "DisplayAPI/List.h"
+#include "DisplayAPI/ListItem.h"
 #include "apps/deskphone/Telephone.h"
 
 #include <algorithm>
@@ -52,8 +53,11 @@ Settings::Settings(Telephone& telephone, Screen* parent)
 
 void Settings::build()
 {
-    for (std::size_t i = 0; i < mRows.size(); ++i)
-        mRows[i] = append(choices()[i]->summary());
+    for (std::size_t i = 0; i < mRows.size(); ++i) {
+        // The user may choose a row as soon as it is appended.
+        mRows[i] = new DisplayAPI::ListItem(choices()[i]->summary().info(), false);
+        list().append(mRows[i]);
+    }
 }
 
 void Settings::chosen(int row)
