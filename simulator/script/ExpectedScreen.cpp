@@ -10,11 +10,19 @@ bool updatesScreens()
     return value != nullptr && std::string_view(value) == "1";
 }
 
+std::filesystem::path ownScreen(const std::filesystem::path& file, std::string_view panel)
+{
+    const std::string ending = "." + std::string(panel);
+    std::filesystem::path own = file;
+    if (file.stem().extension() != ending)
+        own.replace_extension(ending + file.extension().string());
+    return own;
+}
+
 std::filesystem::path expectedScreen(const std::filesystem::path& folder, std::string_view name, std::string_view panel)
 {
     const std::filesystem::path common = folder / name;
-    std::filesystem::path own = common;
-    own.replace_extension("." + std::string(panel) + common.extension().string());
+    const std::filesystem::path own = ownScreen(common, panel);
     return exists(own) ? own : common;
 }
 

@@ -10,8 +10,11 @@ inline constexpr char UPDATE_SCREENS_VARIABLE[] = "DISPLAYAPI_UPDATE_SCREENS";
 
 bool updatesScreens();
 
-/// The file with which a panel's screen is compared: for `menu.txt` on the panel wp1 `menu.wp1.txt` where there is one,
-/// else `menu.txt`.
+/// The file of a panel's own beside the common one: for `menu.txt` on the panel wp1 `menu.wp1.txt`, and for that
+/// itself.
+std::filesystem::path ownScreen(const std::filesystem::path& file, std::string_view panel);
+
+/// The file with which a panel's screen is compared: its own where there is one, else the common one.
 std::filesystem::path expectedScreen(const std::filesystem::path& folder, std::string_view name,
                                      std::string_view panel);
 

@@ -109,7 +109,7 @@ void ScriptRunner::advance(const Step& step)
 void ScriptRunner::compare(const Step& step)
 {
     if (updatesScreens())
-        return write(step.text, screen());
+        return update(step);
     const std::string expected = read(step.text);
     const auto deadline = steady_clock::now() + mPatience;
     for (;;) {
@@ -120,6 +120,13 @@ void ScriptRunner::compare(const Step& step)
             fail("the screen is not that of " + step.text + " (-), but another (+):\n" + difference);
         mPhone.waitForFrame(milliseconds(20));
     }
+}
+
+void ScriptRunner::update(const Step& step)
+{
+    const std::string shown = screen();
+    const bool isOther = exists(std::filesystem::path(step.text)) && !textDifference(read(step.text), shown).empty();
+    write(isOther ? ownScreen(step.text, nameOf(host::variant())) : std::filesystem::path(step.text), shown);
 }
 
 void ScriptRunner::writePicture(const Step& step)

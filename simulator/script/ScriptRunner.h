@@ -14,7 +14,7 @@ namespace simulator {
 class ScriptRunner {
 public:
     /// Pictures and dumps go into `folder`. An expectation is given `patience` of real time to come true. Where screens
-    /// are updated, comparisons write their files.
+    /// are updated, comparisons write their files, but no panel overwrites what another one shows.
     ScriptRunner(ScriptedPhone& phone, ScriptReport& report, std::filesystem::path folder,
                  std::chrono::milliseconds patience);
 
@@ -28,6 +28,7 @@ private:
     void expect(const Step& step, bool wanted);
     void advance(const Step& step);
     void compare(const Step& step);
+    void update(const Step& step);
     void writePicture(const Step& step);
     std::string screen();
     std::string read(const std::filesystem::path& path);

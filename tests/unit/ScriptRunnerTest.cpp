@@ -230,7 +230,15 @@ protected:
         ScriptRunner(phone, report, "/nowhere", patience).run(script);
     }
 
-    const std::string mFile = folder / "ScriptComparisonTest.txt";
+    void update()
+    {
+        setenv(UPDATE_SCREENS_VARIABLE, "1", 1);
+        compare();
+        unsetenv(UPDATE_SCREENS_VARIABLE);
+        EXPECT_TRUE(report.hasPassed);
+    }
+
+    std::string mFile = folder / "ScriptComparisonTest.txt";
 };
 
 TEST_F(ScriptComparisonTest, SameScreenPasses)
@@ -275,14 +283,38 @@ TEST_F(ScriptComparisonTest, DoesNotWaitForAFileThatIsGone)
     EXPECT_THAT(report.failure, testing::StartsWith("cannot read " + mFile));
 }
 
-TEST_F(ScriptComparisonTest, UpdateMakesWhatIsShownTheExpectedScreen)
+TEST_F(ScriptComparisonTest, UpdateWritesAFileThatDoesNotExist)
+{
+    std::filesystem::remove(mFile);
+    phone.text = "Busy";
+    update();
+    EXPECT_EQ(contentOf("ScriptComparisonTest.txt"), "object:\nname:List\nstring0:Busy\nend:\n");
+}
+
+TEST_F(ScriptComparisonTest, UpdateGivesAPanelThatShowsSomethingElseAFileOfItsOwn)
 {
     phone.text = "Busy";
-    setenv(UPDATE_SCREENS_VARIABLE, "1", 1);
-    compare();
-    unsetenv(UPDATE_SCREENS_VARIABLE);
-    EXPECT_TRUE(report.hasPassed);
-    EXPECT_EQ(contentOf("ScriptComparisonTest.txt"), "object:\nname:List\nstring0:Busy\nend:\n");
+    update();
+    EXPECT_EQ(contentOf("ScriptComparisonTest.txt"), "object:\nname:List\nstring0:Ready\nend:\n");
+    EXPECT_EQ(contentOf("ScriptComparisonTest.plain.txt"), "object:\nname:List\nstring0:Busy\nend:\n");
+}
+
+TEST_F(ScriptComparisonTest, UpdateGivesAPanelThatShowsTheSameNoFileOfItsOwn)
+{
+    phone.text = "Ready";
+    update();
+    EXPECT_FALSE(std::filesystem::exists(folder / "ScriptComparisonTest.plain.txt"));
+}
+
+TEST_F(ScriptComparisonTest, UpdateRenewsAPanelsOwnFile)
+{
+    mFile = folder / "ScriptComparisonTest.plain.txt";
+    std::ofstream(mFile) << "object:\n";
+    phone.text = "Busy";
+    update();
+    EXPECT_EQ(contentOf("ScriptComparisonTest.plain.txt"), "object:\nname:List\nstring0:Busy\nend:\n");
+    EXPECT_EQ(contentOf("ScriptComparisonTest.txt"), "object:\nname:List\nstring0:Ready\nend:\n");
+    EXPECT_FALSE(std::filesystem::exists(folder / "ScriptComparisonTest.plain.plain.txt"));
 }
 
 TEST_F(ScriptRunnerTest, ScreenshotWritesAPicture)
