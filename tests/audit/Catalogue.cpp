@@ -1,7 +1,8 @@
 #include "audit/Catalogue.h"
 
+#include "audit/Lines.h"
+
 #include <cctype>
-#include <fstream>
 
 namespace audit {
 
@@ -25,8 +26,7 @@ std::size_t markLength(const std::string& text)
 std::set<std::string> keysOf(const std::string& fileName)
 {
     std::set<std::string> keys;
-    std::ifstream file(fileName);
-    for (std::string line; std::getline(file, line);) {
+    for (const std::string& line : readLines(fileName)) {
         if (!line.starts_with(KEY) || line.size() <= KEY.size() + 1)
             continue;
         const std::string key = line.substr(KEY.size(), line.rfind('"') - KEY.size());

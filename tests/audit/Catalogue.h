@@ -5,7 +5,8 @@
 
 namespace audit {
 
-/// The keys of a language's catalogue but those of the keypad, which no screen shows.
+/// The keys of a language's catalogue but those of the keypad, which no screen shows. Throws where it cannot be
+/// read.
 std::set<std::string> keysOf(const std::string& fileName);
 
 /// Whether `shown` may be this text with something in the place of %1, %2 and so on.

@@ -1,7 +1,8 @@
 #include "audit/Faults.h"
 
+#include "audit/Lines.h"
+
 #include <algorithm>
-#include <fstream>
 #include <sstream>
 
 namespace audit {
@@ -29,8 +30,7 @@ std::string Fault::line() const
 
 Allowed::Allowed(const std::string& fileName)
 {
-    std::ifstream file(fileName);
-    for (std::string text; std::getline(file, text);) {
+    for (const std::string& text : readLines(fileName)) {
         if (text.empty() || text.starts_with('#'))
             continue;
         constexpr const char* DASH = " -- ";

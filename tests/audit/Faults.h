@@ -21,6 +21,7 @@ struct Fault {
 /// TEXT for any rest; a text that lacks a glyph has to be named whole.
 class Allowed {
 public:
+    /// Throws where the file cannot be read.
     explicit Allowed(const std::string& fileName);
 
     /// Lines that cannot be read, and those without a reason.

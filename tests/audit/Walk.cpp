@@ -1,7 +1,10 @@
 #include "audit/Walk.h"
 
-#include <fstream>
+#include "audit/Lines.h"
+
+#include <charconv>
 #include <sstream>
+#include <stdexcept>
 
 namespace audit {
 
@@ -49,8 +52,7 @@ std::string visit(const Screen& screen)
 std::vector<Screen> readScreens(const std::string& fileName)
 {
     std::vector<Screen> screens;
-    std::ifstream file(fileName);
-    for (std::string line; std::getline(file, line);) {
+    for (const std::string& line : readLines(fileName)) {
         std::istringstream words(line);
         Screen screen;
         if (line.starts_with('#') || !(words >> screen.name >> screen.rows))
@@ -69,6 +71,15 @@ std::string scriptThrough(const std::vector<Screen>& screens, int language)
     for (const Screen& screen : screens)
         script += visit(screen);
     return script;
+}
+
+int toContacts(std::string_view text)
+{
+    int contacts = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), contacts);
+    if (error != std::errc() || end != text.data() + text.size() || contacts < 1)
+        throw std::runtime_error("'" + std::string(text) + "' is no number of contacts");
+    return contacts;
 }
 
 std::string scriptThroughCards(int cards)

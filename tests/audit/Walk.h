@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace audit {
@@ -12,13 +13,16 @@ struct Screen {
     std::vector<int> path;
 };
 
-/// Reads a list of screens: see the file `screens`.
+/// Reads a list of screens: see the file `screens`. Throws where it cannot be read.
 std::vector<Screen> readScreens(const std::string& fileName);
 
 /// A script that chooses the language in row `language` of the settings, and writes what each screen shows with each
 /// row selected, and what the screen shows that it is left for, as NAME.json, NAME.1.json and so on, and
 /// from-NAME.json.
 std::string scriptThrough(const std::vector<Screen>& screens, int language);
+
+/// A number from 1 on; throws where `text` is none.
+int toContacts(std::string_view text);
 
 /// A script that writes all pages of the contacts, `step` rows apart.
 std::string scriptThroughContacts(int contacts, int step);

@@ -138,9 +138,9 @@ int main(int count, char** words)
         std::cerr << "usage: text_audit PHONE APPLICATION PANEL SCREENS ALLOWED OUT [CONTACTS]\n";
         return 2;
     }
-    const Arguments arguments{
-        words[1], words[2], words[3], words[4], words[5], words[6], count > 7 ? std::atoi(words[7]) : 0};
     try {
+        const Arguments arguments{
+            words[1], words[2], words[3], words[4], words[5], words[6], count > 7 ? toContacts(words[7]) : 0};
         const Allowed allowed(arguments.allowed);
         return report(arguments.contacts > 0 ? auditContacts(arguments) : auditLanguages(arguments), allowed, arguments)
                    ? 0

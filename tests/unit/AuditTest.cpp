@@ -6,6 +6,7 @@
 #include <fstream>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <stdexcept>
 
 namespace {
 
@@ -74,6 +75,33 @@ TEST(AuditWalk, VisitsEachScreenAndEachOfItsRows)
     EXPECT_THAT(audit::scriptThrough(screens, 2),
                 HasSubstr("key down\nkey ok\nhold up 1000\nkey ok\nhold up 1000\ndump --json log.json\nkey down\n"
                           "dump --json log.1.json\nkey left\ndump --json from-log.json\nkey left\n"));
+}
+
+TEST(AuditWalk, NumberOfContactsIsAPositiveNumber)
+{
+    EXPECT_EQ(audit::toContacts("10000"), 10000);
+    for (const char* text : {"", "0", "-1", "ten", "10x", " 10", "99999999999"})
+        EXPECT_THROW(audit::toContacts(text), std::runtime_error) << text;
+}
+
+template <class Read>
+std::string complaintOf(Read read)
+{
+    try {
+        read();
+    } catch (const std::runtime_error& error) {
+        return error.what();
+    }
+    return {};
+}
+
+TEST(AuditFiles, MissingFileIsNoEmptyOne)
+{
+    EXPECT_EQ(complaintOf([] { audit::readScreens("/nowhere/screens"); }), "cannot read /nowhere/screens");
+    EXPECT_EQ(complaintOf([] { Allowed("/nowhere/allowed"); }), "cannot read /nowhere/allowed");
+    EXPECT_EQ(complaintOf([] { audit::keysOf("/nowhere/en.po"); }), "cannot read /nowhere/en.po");
+    EXPECT_EQ(complaintOf([] { audit::readScreens("/"); }), "cannot read /");
+    EXPECT_EQ(complaintOf([] { audit::readScreens(fileWith("")); }), "");
 }
 
 } // namespace
