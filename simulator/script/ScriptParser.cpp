@@ -60,6 +60,8 @@ PegKey toDigit(char character)
 
 std::int64_t toMilliseconds(std::string_view text)
 {
+    if (text.empty())
+        throw Mistake("the milliseconds are missing");
     std::int64_t value = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
     if (error != std::errc() || end != text.data() + text.size() || value < 0 || value > LONGEST_WAIT)
@@ -169,6 +171,18 @@ std::string errorAt(const std::string& fileName, int line, const std::string& re
     return fileName + ":" + std::to_string(line) + ": " + reason;
 }
 
+/// Why a screen cannot be compared with `file`; empty where it can.
+std::string obstacleOf(const std::filesystem::path& file)
+{
+    if (is_regular_file(file))
+        return {};
+    if (exists(file))
+        return file.string() + " is no file";
+    if (updatesScreens())
+        return {};
+    return "there is no file " + file.string() + "; " + UPDATE_SCREENS_VARIABLE + "=1 writes it";
+}
+
 /// From names to the paths of files.
 void locateExpectedScreens(Script& script, const std::string& fileName, std::string_view panel)
 {
@@ -177,10 +191,8 @@ void locateExpectedScreens(Script& script, const std::string& fileName, std::str
             continue;
         const std::filesystem::path file =
             expectedScreen(std::filesystem::path(fileName).parent_path(), step.text, panel);
-        if (!exists(file) && !updatesScreens())
-            script.errors.push_back(
-                errorAt(fileName, step.line,
-                        "there is no file " + file.string() + "; " + UPDATE_SCREENS_VARIABLE + "=1 writes it"));
+        if (const std::string obstacle = obstacleOf(file); !obstacle.empty())
+            script.errors.push_back(errorAt(fileName, step.line, obstacle));
         step.text = file.string();
     }
 }
@@ -208,9 +220,10 @@ Script parseScript(const std::string& fileName, std::string_view text)
 Script readScript(const std::string& fileName, std::string_view panel)
 {
     std::ifstream file(fileName);
+    if (file.peek() == std::ifstream::traits_type::eof())
+        return {{}, {fileName + (file.bad() || !file.eof() ? ": the script cannot be read" : ": the script is empty")}};
     std::stringstream text;
-    if (!(text << file.rdbuf()))
-        return {{}, {fileName + ": the script cannot be read, or is empty"}};
+    text << file.rdbuf();
     Script script = parseScript(fileName, text.str());
     locateExpectedScreens(script, fileName, panel);
     return script;

@@ -131,7 +131,8 @@ TEST(ScriptParser, BadNumbers)
     for (const char* number : {"-1", "1.5", "ten", "5s", "86400001", "99999999999999999999", "0x10", "1 2"})
         for (const char* command : {"wait ", "advance "})
             expectMistake(std::string(command) + number, "is no number of milliseconds");
-    expectMistake("hold 5", "'' is no number of milliseconds");
+    expectMistake("hold 5 long", "'long' is no number of milliseconds");
+    expectMistake("hold 5", "the milliseconds are missing");
 }
 
 TEST(ScriptParser, NothingBehindACommand)
@@ -151,8 +152,17 @@ TEST(ScriptParser, OutputStaysInItsFolder)
 
 TEST(ScriptParser, FileThatCannotBeReadIsAMistake)
 {
-    EXPECT_THAT(simulator::readScript("/nowhere/s", "plain").errors, ElementsAre(StartsWith("/nowhere/s: ")));
-    EXPECT_THAT(simulator::readScript("/", "plain").errors, SizeIs(1));
+    EXPECT_THAT(simulator::readScript("/nowhere/s", "plain").errors,
+                ElementsAre("/nowhere/s: the script cannot be read"));
+    EXPECT_THAT(simulator::readScript("/", "plain").errors, ElementsAre("/: the script cannot be read"));
+}
+
+TEST(ScriptParser, EmptyFileIsAMistake)
+{
+    const test::TemporaryFolder folder;
+    const std::string file = folder / "s";
+    std::ofstream{file};
+    EXPECT_THAT(simulator::readScript(file, "plain").errors, ElementsAre(file + ": the script is empty"));
 }
 
 /// A folder with a script that compares the screen with `menu.txt`.
@@ -188,6 +198,13 @@ TEST_F(ComparingScriptTest, MissingFileIsAMistake)
     write("menu.wp1.txt", "");
     const std::string start = (folder / "s").string() + ":2: there is no file " + (folder / "menu.txt").string();
     EXPECT_THAT(read("plain").errors, ElementsAre(StartsWith(start)));
+}
+
+TEST_F(ComparingScriptTest, FolderIsAMistakeAtOnce)
+{
+    std::filesystem::create_directory(folder / "menu.txt");
+    const std::string error = (folder / "s").string() + ":2: " + (folder / "menu.txt").string() + " is no file";
+    EXPECT_THAT(read("plain").errors, ElementsAre(error));
 }
 
 TEST_F(ComparingScriptTest, FileThatIsAboutToBeWrittenMayBeMissing)
