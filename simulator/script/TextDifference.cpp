@@ -9,12 +9,17 @@ namespace {
 
 using Lines = std::vector<std::string_view>;
 
+std::string_view withoutCarriageReturn(std::string_view line)
+{
+    return line.ends_with('\r') ? line.substr(0, line.size() - 1) : line;
+}
+
 Lines linesOf(std::string_view text)
 {
     Lines lines;
     while (!text.empty()) {
         const auto end = std::min(text.find('\n'), text.size());
-        lines.push_back(text.substr(0, end));
+        lines.push_back(withoutCarriageReturn(text.substr(0, end)));
         text.remove_prefix(std::min(end + 1, text.size()));
     }
     return lines;

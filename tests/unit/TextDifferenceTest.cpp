@@ -37,6 +37,14 @@ TEST(TextDifference, BlanksAndEmptyLinesCount)
     EXPECT_EQ(textDifference("a \n", "a\n"), "- a \n+ a\n");
 }
 
+TEST(TextDifference, CarriageReturnsAtTheEndsOfLinesDoNotCount)
+{
+    EXPECT_EQ(textDifference("a\r\nb\r\n", "a\nb\n"), "");
+    EXPECT_EQ(textDifference("a\r\nb\r", "a\nb"), "");
+    EXPECT_EQ(textDifference("a\r\nb\r\n", "a\nx\n"), "- b\n+ x\n");
+    EXPECT_NE(textDifference("a\rb\n", "ab\n"), "");
+}
+
 TEST(TextDifference, VolatileTextsAreSkipped)
 {
     EXPECT_EQ(textDifference("volatile:09:12\n", "volatile:09:13\n"), "");
