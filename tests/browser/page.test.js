@@ -48,35 +48,37 @@ describe("the page", { timeout: 180_000 }, () => {
     const before = await tab.levels();
     await tab.button("down").click();
     await tab.selects("Contacts");
-    assert.notEqual(await tab.levels(), before);
+    await tab.looksOtherThan(before);
     await tab.button("ok").click();
     await tab.shows("Zoë Ångström");
     await tab.button("left").click();
     await tab.shows("Desk phone");
   });
 
-  test("a key that comes with another one does not leave the screen that the first one opens", LIMIT, async () => {
+  test("a key that comes with another one leaves no call behind that nobody can end", LIMIT, async () => {
     for (const shown of ["Missed", "Ελένη Ιωάννου"]) {
       await tab.button("ok").click();
       await tab.shows(shown);
     }
-    await tab.page.evaluate(() => {
-      for (const key of ["Enter", "ArrowLeft"])
-        for (const type of ["keydown", "keyup"])
-          document.dispatchEvent(new KeyboardEvent(type, { key, bubbles: true }));
-    });
-    await tab.shows("Hang up");
-    await new Promise((resolve) => setTimeout(resolve, 500));
-    assert.ok((await tab.rows()).includes("Hang up"));
-    await tab.button("ok").click();
-    await tab.shows("Call ended");
+    for (let round = 0; round < 5; ++round) {
+      await tab.page.evaluate(() => {
+        for (const key of ["Enter", "ArrowLeft"])
+          for (const type of ["keydown", "keyup"])
+            document.dispatchEvent(new KeyboardEvent(type, { key, bubbles: true }));
+      });
+      // Left may come to the call, which it ends, or to the screen before, which has been left.
+      await new Promise((resolve) => setTimeout(resolve, 300));
+      if ((await tab.rows()).includes("Hang up")) await tab.button("ok").click();
+      await tab.shows("Missed calls");
+      assert.match((await tab.rows())[0], /^Line 1  \d\d:\d\d$/);
+    }
   });
 
   test("presses keys with the keyboard", LIMIT, async () => {
     const before = await tab.levels();
     await tab.page.keyboard.press("ArrowDown");
     await tab.selects("Contacts");
-    assert.notEqual(await tab.levels(), before);
+    await tab.looksOtherThan(before);
     await tab.page.keyboard.press("Enter");
     await tab.shows("Zoë Ångström");
     await tab.page.keyboard.press("ArrowLeft");

@@ -67,6 +67,11 @@ export class Tab {
     return this.page.locator(`[data-key="${key}"]`);
   }
 
+  /** The picture comes in a message of its own, before or after the rows. */
+  looksOtherThan(before) {
+    return until(async () => (await this.levels()) !== before, "the picture changes");
+  }
+
   /** The canvas as the panel's levels, 0 to 3, one digit a pixel. */
   levels() {
     return this.page.evaluate(() => {
