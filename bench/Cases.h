@@ -21,7 +21,7 @@ std::vector<Case> listCases();
 std::vector<Case> repaintCases();
 std::vector<Case> screenTextCases();
 std::vector<Case> languageCases();
-std::vector<Case> heapCases();
+std::vector<Case> heapCases(const std::string& directory);
 std::vector<Case> firstFrameCases(const std::string& directory);
 std::vector<Case> futexCases();
 std::vector<Case> mutexLoopCases();
