@@ -116,68 +116,53 @@ void Timer::processImplementationRequest(GuiRequestEvent& request)
     }
 }
 
-void Timer::start(int ms)
+/// At once on the GUI thread, where a listener may delete the timer meanwhile; posted elsewhere.
+void Timer::carryOut(GuiRequestEvent* request)
 {
     if (!isGuiThread())
-        postEventAsync(request(this, START, ms));
-    else if (mImplementation != nullptr)
-        mImplementation->start(ms);
+        return postEventAsync(request);
+    const std::unique_ptr<GuiRequestEvent> done(request);
+    processGuiRequest(*request);
+}
+
+void Timer::start(int ms)
+{
+    carryOut(request(this, START, ms));
 }
 
 void Timer::stop()
 {
-    if (!isGuiThread())
-        postEventAsync(STOP);
-    else if (mImplementation != nullptr)
-        mImplementation->stop();
+    carryOut(request(this, STOP));
 }
 
 void Timer::enableSingleShot(bool on)
 {
-    if (!isGuiThread())
-        postEventAsync(request(this, ENABLE_SINGLE_SHOT, on));
-    else if (mImplementation != nullptr)
-        mImplementation->enableSingleShot(on);
+    carryOut(request(this, ENABLE_SINGLE_SHOT, on));
 }
 
 void Timer::addCommand(Command* command)
 {
-    if (!isGuiThread())
-        postEventAsync(request(this, ADD_COMMAND, command));
-    else if (mImplementation != nullptr)
-        mImplementation->addCommand(command);
+    carryOut(request(this, ADD_COMMAND, command));
 }
 
 void Timer::addCommandListener(CommandListener* listener)
 {
-    if (!isGuiThread())
-        postEventAsync(request(this, ADD_COMMAND_LISTENER, listener));
-    else if (mImplementation != nullptr)
-        mImplementation->addCommandListener(listener);
+    carryOut(request(this, ADD_COMMAND_LISTENER, listener));
 }
 
 void Timer::removeCommandListener(CommandListener* listener)
 {
-    if (!isGuiThread())
-        postEventAsync(request(this, REMOVE_COMMAND_LISTENER, listener));
-    else if (mImplementation != nullptr)
-        mImplementation->removeCommandListener(listener);
+    carryOut(request(this, REMOVE_COMMAND_LISTENER, listener));
 }
 
 void Timer::addEventListener(TimerEvent* listener)
 {
-    if (!isGuiThread())
-        postEventAsync(request(this, ADD_EVENT_LISTENER, listener));
-    else if (mImplementation != nullptr)
-        mImplementation->addEventListener(listener);
+    carryOut(request(this, ADD_EVENT_LISTENER, listener));
 }
 
 void Timer::removeEventListener(TimerEvent* listener)
 {
-    if (!isGuiThread())
-        postEventAsync(request(this, REMOVE_EVENT_LISTENER, listener));
-    else if (mImplementation != nullptr)
-        mImplementation->removeEventListener(listener);
+    carryOut(request(this, REMOVE_EVENT_LISTENER, listener));
 }
 
 TimerPrivateIfc* Timer::getPrivateImpl() const

@@ -57,6 +57,7 @@ private:
     void create(int interval);
     void cleanUp();
     bool dropQueuedRequests();
+    void carryOut(GuiRequestEvent* request);
     void processImplementationRequest(GuiRequestEvent& request);
 
     TimerPrivateIfc* mImplementation = nullptr;
