@@ -29,6 +29,7 @@ void postEventHelper(DisplayRequestEvent* request, DisplayEventFilter* filter, b
 ///
 /// A widget on the presentation manager belongs to the manager: its private side is told by releaseOwnership() after
 /// the add and by gainOwnership() before the removal.
+/// GUI thread only, but for what DisplayPrivateIfc names and execFinished().
 /// Lock: the observer's critical section. It is recursive: an observer may call back into the display.
 class DisplayPrivate : public DisplayPrivateIfc {
 public:

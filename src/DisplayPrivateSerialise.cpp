@@ -136,10 +136,9 @@ std::string DisplayPrivate::serialiseStack(const std::vector<Rects>& visible, co
 /// behind, if it is asked for and the software has one.
 std::string DisplayPrivate::withSystemWindowText(const std::string& screen, bool wanted) const
 {
-    const KestrelApplication* const application = KestrelApplication::getCurrentApplication();
     if (hardwareVariant() == SMALL_PANEL)
         return smallSystemWindowText(screen) + screen;
-    const bool hasPopup = isFullPanel() && application != nullptr && application->getSoftwareType() == KVX;
+    const bool hasPopup = isFullPanel() && softwareType() == KVX;
     return hasPopup && wanted && mPopupShown ? screen + mSystemWindowText : screen;
 }
 

@@ -156,8 +156,7 @@ void DisplayPrivate::showPopup(int lines)
         gpPresent->Add(window, true);
     }
     mContentWidget->setSWCurrentNumLines(lines);
-    const KestrelApplication* const application = KestrelApplication::getCurrentApplication();
-    if (isFullPanel() && application != nullptr && application->getSoftwareType() == KVX)
+    if (isFullPanel() && softwareType() == KVX)
         mPopupLines = SystemWindow::MAX_LINES;
     for (int line = 0; line < mPopupLines; ++line)
         renewLine(line);

@@ -15,6 +15,13 @@ constexpr int SMALL_PANEL = 0; ///< 208 x 42
 
 enum SoftwareType : int { SIP = 0, KVX = 1, UNKNOWN = 2 };
 
+/// The current application's software type; UNKNOWN where there is none.
+inline int softwareType()
+{
+    const KestrelApplication* const application = KestrelApplication::getCurrentApplication();
+    return application != nullptr ? application->getSoftwareType() : UNKNOWN;
+}
+
 inline bool isFullPanel()
 {
     return hardwareVariant() == FULL_PANEL;

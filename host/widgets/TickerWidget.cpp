@@ -3,8 +3,8 @@
 #include "host/lcd/Geometry.h"
 #include "host/lcd/Lcd.h"
 #include "host/lcd/Painter.h"
+#include "host/widgets/PopupFrame.h"
 #include "host/widgets/Reading.h"
-#include "widgets/KestrelApplication.h"
 
 #include <utility>
 
@@ -27,8 +27,7 @@ const Look& look()
 {
     static constexpr Look GRAPHIC{Font::TEXT, 6, 40};
     static constexpr Look TWO_LINES{Font::FIXED, 0, 32};
-    const auto* application = KestrelApplication::getCurrentApplication();
-    return KestrelApplication::getHardwareVariant(application) == 1 ? GRAPHIC : TWO_LINES;
+    return hasTwoLines() ? TWO_LINES : GRAPHIC;
 }
 
 PegRect textArea(const PegRect& area)
