@@ -44,16 +44,6 @@ void append(PegMessage* message)
     pthread_cond_broadcast(&queue.condition);
 }
 
-/// The poster of the message that has just come still holds the mutex, but only for a moment.
-bool lockSoon(std::unique_lock<QueueMutex>& lock)
-{
-    constexpr int TRIES = 64;
-    for (int i = 0; i < TRIES && Spin::hasCompany(); ++i)
-        if (lock.try_lock())
-            return true;
-    return false;
-}
-
 /// Sleeping and waking for every collision with a poster would cost more than the messages.
 bool lockLater(std::unique_lock<QueueMutex>& lock)
 {
@@ -132,7 +122,7 @@ PegMessage* MainQueue::take(Pace pace)
         return nullptr;
     QueueMutex mutex;
     std::unique_lock lock(mutex, std::defer_lock);
-    if (!(pace == Pace::PROMPT ? lockSoon(lock) : lockLater(lock)))
+    if (pace == Pace::PROMPT || !lockLater(lock))
         lock.lock();
     PegMainQueue& queue = *gtPegMainQueue;
     PegMessage* const message = queue.head;
