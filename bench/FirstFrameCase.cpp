@@ -1,7 +1,5 @@
 #include "Cases.h"
 
-#include <cstdio>
-#include <cstdlib>
 #include <string>
 
 namespace bench {
@@ -13,14 +11,7 @@ double firstFrame(const std::string& program)
 {
     const auto now = Clock::now().time_since_epoch();
     const auto started = std::chrono::duration_cast<std::chrono::nanoseconds>(now).count();
-    const std::string command = "exec " + program + " " + std::to_string(started);
-    FILE* output = popen(command.c_str(), "r");
-    double milliseconds = -1;
-    if (output == nullptr || std::fscanf(output, "%lf", &milliseconds) != 1)
-        std::fprintf(stderr, "benchmark broken: %s printed no time\n", program.c_str());
-    if (output != nullptr)
-        pclose(output);
-    return milliseconds;
+    return figuresOf(program + " " + std::to_string(started), 1).front();
 }
 
 } // namespace

@@ -76,4 +76,16 @@ void runProducers(int producers, const std::function<void(int)>& body)
         thread.join();
 }
 
+std::vector<double> figuresOf(const std::string& program, std::size_t count)
+{
+    std::vector<double> figures(count, -1);
+    FILE* const output = popen(("exec " + program).c_str(), "r");
+    for (double& figure : figures)
+        if (output == nullptr || std::fscanf(output, "%lf", &figure) != 1)
+            std::fprintf(stderr, "benchmark broken: %s printed too little\n", program.c_str());
+    if (output != nullptr)
+        pclose(output);
+    return figures;
+}
+
 } // namespace bench

@@ -26,6 +26,9 @@ struct Case {
 /// the minimum, median and maximum of each.
 void measure(const std::vector<Case>& cases, int rounds);
 
+/// The figures that `program` prints, `count` of them; -1 in the place of those that it does not.
+std::vector<double> figuresOf(const std::string& program, std::size_t count);
+
 /// Binds the calling thread to one CPU, or to all.
 void pinTo(int cpu);
 void unpin();
