@@ -3,8 +3,8 @@
 #include "DisplayAPI/ListBoxPrivateIfc.h"
 #include "Request.h"
 #include "Variant.h"
-#include "variants/ExclusiveListPrivate.h"
-#include "variants/ExclusiveListPrivateWP1.h"
+#include "variants/list/ExclusiveListPrivate.h"
+#include "variants/list/ExclusiveListPrivateWP1.h"
 
 namespace DisplayAPI {
 

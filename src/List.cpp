@@ -9,8 +9,8 @@
 #include "Request.h"
 #include "Variant.h"
 #include "utilities/HardwareVersion.h"
-#include "variants/ListBoxPrivate.h"
-#include "variants/ListBoxPrivateWP1.h"
+#include "variants/list/ListBoxPrivate.h"
+#include "variants/list/ListBoxPrivateWP1.h"
 
 #include <algorithm>
 #include <cstddef>

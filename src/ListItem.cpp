@@ -4,8 +4,8 @@
 #include "Request.h"
 #include "Variant.h"
 #include "utilities/ICC.h"
-#include "variants/ListItemPrivate.h"
-#include "variants/ListItemPrivateWP1.h"
+#include "variants/list/ListItemPrivate.h"
+#include "variants/list/ListItemPrivateWP1.h"
 #include "widgets/KestrelListBoxItem.h"
 
 namespace DisplayAPI {

@@ -26,8 +26,8 @@ class Ticker;
 /// and replace() give rows back to the caller. The row pointers that getItems() and getSelected() return stay the
 /// list's. Put a row into one list, once. Listeners, tickers, dialers and translations are not owned and have to live
 /// until the list has let go of them: after removeCommandListener() until a waiting call such as size() has returned.
-/// A class derived from this one may meet its first request before its constructor has ended, and its last one after its
-/// destructor has begun: derive on the GUI thread, or from List(ListBoxPrivateIfc*) as ExclusiveList does.
+/// A class derived from this one may meet its first request before its constructor has ended, and its last one after
+/// its destructor has begun: derive on the GUI thread, or from List(ListBoxPrivateIfc*) as ExclusiveList does.
 class DISPLAYAPI_EXPORT List : public Displayable {
 public:
     /// A list with a way back: on the 240 x 128 panel list types 2 and 3, on the 208 x 42 panel 1 and 3.

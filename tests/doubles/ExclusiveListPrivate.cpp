@@ -1,4 +1,4 @@
-#include "variants/ExclusiveListPrivate.h"
+#include "variants/list/ExclusiveListPrivate.h"
 
 #include "doubles/Answers.h"
 #include "doubles/Recorder.h"

@@ -1,4 +1,4 @@
-#include "variants/ExclusiveListPrivateWP1.h"
+#include "variants/list/ExclusiveListPrivateWP1.h"
 
 #include "doubles/Answers.h"
 #include "doubles/Recorder.h"

@@ -1,4 +1,4 @@
-#include "variants/ListBoxPrivate.h"
+#include "variants/list/ListBoxPrivate.h"
 
 #define LIST_BOX ListBoxPrivate
 #define LIST_BOX_NAME "ListBoxPrivate"

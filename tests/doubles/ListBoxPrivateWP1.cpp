@@ -1,4 +1,4 @@
-#include "variants/ListBoxPrivateWP1.h"
+#include "variants/list/ListBoxPrivateWP1.h"
 
 #define LIST_BOX ListBoxPrivateWP1
 #define LIST_BOX_NAME "ListBoxPrivateWP1"

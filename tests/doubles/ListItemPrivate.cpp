@@ -1,4 +1,4 @@
-#include "variants/ListItemPrivate.h"
+#include "variants/list/ListItemPrivate.h"
 
 #define ROW ListItemPrivate
 #define ROW_NAME "ListItemPrivate"

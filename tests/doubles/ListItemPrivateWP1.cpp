@@ -1,4 +1,4 @@
-#include "variants/ListItemPrivateWP1.h"
+#include "variants/list/ListItemPrivateWP1.h"
 
 #define ROW ListItemPrivateWP1
 #define ROW_NAME "ListItemPrivateWP1"

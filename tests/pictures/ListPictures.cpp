@@ -26,33 +26,33 @@ protected:
     }
 };
 
-TEST_P(ListPictures, fewRows)
+TEST_P(ListPictures, FewRows)
 {
     showList("Main menu", MENU);
     expectScreen("few-rows");
 }
 
-TEST_P(ListPictures, selectionMovesDown)
+TEST_P(ListPictures, SelectionMovesDown)
 {
     showList("Main menu", MENU);
     press(PK_DOWN);
     expectScreen("second-row");
 }
 
-TEST_P(ListPictures, noTitle)
+TEST_P(ListPictures, NoTitle)
 {
     showList("", rooms(9));
     press(PK_DOWN, 2);
     expectScreen("no-title");
 }
 
-TEST_P(ListPictures, emptyList)
+TEST_P(ListPictures, EmptyList)
 {
     showList("Call log", {});
     expectScreen("empty");
 }
 
-TEST_P(ListPictures, emptiedListShowsNothingOfItsRows)
+TEST_P(ListPictures, EmptiedListShowsNothingOfItsRows)
 {
     KestrelListBox& list = showList("Call log", rooms(20));
     press(PK_DOWN, 9);
@@ -60,13 +60,13 @@ TEST_P(ListPictures, emptiedListShowsNothingOfItsRows)
     expectScreen("empty");
 }
 
-TEST_P(ListPictures, manyRowsAtTheTop)
+TEST_P(ListPictures, ManyRowsAtTheTop)
 {
     showList("Rooms", rooms(20));
     expectScreen("many-top");
 }
 
-TEST_P(ListPictures, manyRowsInTheMiddle)
+TEST_P(ListPictures, ManyRowsInTheMiddle)
 {
     showList("Rooms", rooms(20));
     press(PK_DOWN, 12);
@@ -74,14 +74,14 @@ TEST_P(ListPictures, manyRowsInTheMiddle)
     expectScreen("many-middle");
 }
 
-TEST_P(ListPictures, manyRowsAtTheBottom)
+TEST_P(ListPictures, ManyRowsAtTheBottom)
 {
     showList("Rooms", rooms(20));
     press(PK_DOWN, 25);
     expectScreen("many-bottom");
 }
 
-TEST_P(ListPictures, rowsThatGoTakeTheScrollBarAlong)
+TEST_P(ListPictures, RowsThatGoTakeTheScrollBarAlong)
 {
     KestrelListBox& list = showList("Rooms", rooms(20));
     press(PK_DOWN, 2);
@@ -90,13 +90,13 @@ TEST_P(ListPictures, rowsThatGoTakeTheScrollBarAlong)
     expectScreen("three-left");
 }
 
-TEST_P(ListPictures, longTextsEndInAnEllipsis)
+TEST_P(ListPictures, LongTextsEndInAnEllipsis)
 {
     showList(LONG, {"A name that is so long that nobody would read it to its end", LONG, "Short"});
     expectScreen("long-texts");
 }
 
-TEST_P(ListPictures, scripts)
+TEST_P(ListPictures, Scripts)
 {
     KestrelListBox& list = showList("Languages", SCRIPTS);
     expectScreen("scripts-top");
@@ -106,7 +106,7 @@ TEST_P(ListPictures, scripts)
     expectScreen("scripts-bottom");
 }
 
-TEST_P(ListPictures, exclusive)
+TEST_P(ListPictures, Exclusive)
 {
     KestrelListBox& list = showList("Ringing tone", {"Loud", "Gentle", "Rising", "Silent"});
     list.setExclusive(true);
@@ -114,25 +114,25 @@ TEST_P(ListPictures, exclusive)
     expectScreen("exclusive");
 }
 
-TEST_P(ListPictures, backArrow)
+TEST_P(ListPictures, BackArrow)
 {
     showList("Settings", MENU).setBackArrow(true);
     expectScreen("back-arrow");
 }
 
-TEST_P(ListPictures, backArrowWithoutTitle)
+TEST_P(ListPictures, BackArrowWithoutTitle)
 {
     showList("", MENU).setBackArrow(true);
     expectScreen("back-arrow-no-title");
 }
 
-TEST_P(ListPictures, noHighlight)
+TEST_P(ListPictures, NoHighlight)
 {
     showList("Main menu", MENU).setSelectionHighlight(false);
     expectScreen("no-highlight");
 }
 
-TEST_P(ListPictures, changedRowIsPaintedAgain)
+TEST_P(ListPictures, ChangedRowIsPaintedAgain)
 {
     KestrelListBox& list = showList("Main menu", MENU);
     expectScreen("few-rows");
@@ -140,7 +140,7 @@ TEST_P(ListPictures, changedRowIsPaintedAgain)
     expectScreen("changed-row");
 }
 
-TEST_P(ListPictures, partialRepaintsLeaveWhatAFullOneWould)
+TEST_P(ListPictures, PartialRepaintsLeaveWhatAFullOneWould)
 {
     KestrelListBox& list = showList("Rooms", rooms(20));
     press(PK_DOWN, 13);

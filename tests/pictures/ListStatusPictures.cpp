@@ -24,7 +24,7 @@ protected:
     SystemWindow mTime; ///< whose time the lists show
 };
 
-TEST_P(ListStatusPictures, languages)
+TEST_P(ListStatusPictures, Languages)
 {
     for (const Sample& sample : LANGUAGES) {
         KestrelListBox& list = withStatus(showSample(sample), sample, 2);
@@ -33,34 +33,34 @@ TEST_P(ListStatusPictures, languages)
     }
 }
 
-TEST_P(ListStatusPictures, oneLineAndManyRows)
+TEST_P(ListStatusPictures, OneLineAndManyRows)
 {
     withStatus(showList("Rooms", rooms(20)), ENGLISH, 1);
     press(PK_DOWN, 7);
     expectScreen("list-status-line");
 }
 
-TEST_P(ListStatusPictures, noTitle)
+TEST_P(ListStatusPictures, NoTitle)
 {
     withStatus(showList("", rooms(20)), ENGLISH, 1);
     expectScreen("list-status-no-title");
 }
 
-TEST_P(ListStatusPictures, callTimer)
+TEST_P(ListStatusPictures, CallTimer)
 {
     mTime.setTimer("00:42");
     withStatus(showList("Call", rooms(3)), ENGLISH, 1);
     expectScreen("list-status-timer");
 }
 
-TEST_P(ListStatusPictures, twelveHours)
+TEST_P(ListStatusPictures, TwelveHours)
 {
     mApplication.setTimeFormat(text("12h"));
     withStatus(showList("Call", rooms(3)), ENGLISH, 1);
     expectScreen("list-status-twelve-hours");
 }
 
-TEST_P(ListStatusPictures, sixLines)
+TEST_P(ListStatusPictures, SixLines)
 {
     KestrelListBoxWithTitle& list = withStatus(showList("Rooms", rooms(20)), ENGLISH, 6);
     for (int line = 2; line < 6; ++line)
@@ -68,13 +68,13 @@ TEST_P(ListStatusPictures, sixLines)
     expectScreen("list-status-six");
 }
 
-TEST_P(ListStatusPictures, placeOfATicker)
+TEST_P(ListStatusPictures, PlaceOfATicker)
 {
     withStatus(showList("Rooms", rooms(20)), ENGLISH, 1).setTickerShown(true);
     expectScreen("list-status-ticker");
 }
 
-TEST_P(ListStatusPictures, partialRepaintsLeaveWhatAFullOneWould)
+TEST_P(ListStatusPictures, PartialRepaintsLeaveWhatAFullOneWould)
 {
     KestrelListBoxWithTitle& list = withStatus(showList("Rooms", rooms(20)), ENGLISH, 2);
     press(PK_DOWN, 9);

@@ -21,20 +21,20 @@ protected:
     host::Picture mPicture{2, 2, {0, 1, 2, 3}, {}, 0};
 };
 
-TEST_F(ReferencePicturesTest, missingReferenceIsWrong)
+TEST_F(ReferencePicturesTest, MissingReferenceIsWrong)
 {
     EXPECT_THAT(mReferences.compare("screen", mPicture), HasSubstr("There is no reference picture"));
     EXPECT_TRUE(std::filesystem::exists(mFolder / "output/screen.png"));
 }
 
-TEST_F(ReferencePicturesTest, equalPicturesAreRight)
+TEST_F(ReferencePicturesTest, EqualPicturesAreRight)
 {
     ASSERT_EQ(mReferences.update("screen", mPicture), "");
     EXPECT_EQ(mReferences.compare("screen", mPicture), "");
     EXPECT_FALSE(std::filesystem::exists(mFolder / "output"));
 }
 
-TEST_F(ReferencePicturesTest, oneWrongPixelIsFoundAndShown)
+TEST_F(ReferencePicturesTest, OneWrongPixelIsFoundAndShown)
 {
     ASSERT_EQ(mReferences.update("screen", mPicture), "");
     mPicture.pixels[2] = 0;
@@ -44,14 +44,14 @@ TEST_F(ReferencePicturesTest, oneWrongPixelIsFoundAndShown)
     EXPECT_THAT(difference->pixels, testing::ElementsAre(0, 1, 3, 1));
 }
 
-TEST_F(ReferencePicturesTest, anotherSizeIsWrong)
+TEST_F(ReferencePicturesTest, AnotherSizeIsWrong)
 {
     ASSERT_EQ(mReferences.update("screen", mPicture), "");
     const host::Picture wide{4, 1, {0, 1, 2, 3}, {}, 0};
     EXPECT_THAT(mReferences.compare("screen", wide), HasSubstr("The reference is 2 x 2, the screen 4 x 1"));
 }
 
-TEST_F(ReferencePicturesTest, unwritableFolderIsAnError)
+TEST_F(ReferencePicturesTest, UnwritableFolderIsAnError)
 {
     const ReferencePictures nowhere{mFolder / "nowhere", mFolder / "output"};
     EXPECT_THAT(nowhere.update("screen", mPicture), HasSubstr("cannot write"));

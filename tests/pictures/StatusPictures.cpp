@@ -6,42 +6,42 @@ namespace {
 
 using StatusPictures = StatusScreens;
 
-TEST_P(StatusPictures, lines)
+TEST_P(StatusPictures, Lines)
 {
     showSample(ENGLISH);
     showLines(ENGLISH, 2);
     expectScreen("status-lines");
 }
 
-TEST_P(StatusPictures, oneLine)
+TEST_P(StatusPictures, OneLine)
 {
     showSample(ENGLISH);
     showLines(ENGLISH, 1);
     expectScreen("status-line");
 }
 
-TEST_P(StatusPictures, separatorIsOnTheSideOfTheScreen)
+TEST_P(StatusPictures, SeparatorIsOnTheSideOfTheScreen)
 {
     showSample(ENGLISH);
     showLines(ENGLISH, 1).setSystemWindowTop(isTwoLines() ? 21 : 113, true, true);
     expectScreen("status-line-below");
 }
 
-TEST_P(StatusPictures, popupOfTwoLines)
+TEST_P(StatusPictures, PopupOfTwoLines)
 {
     showList("Rooms", rooms(9));
     showPopup(ENGLISH, 2);
     expectScreen("popup");
 }
 
-TEST_P(StatusPictures, popupOfOneLine)
+TEST_P(StatusPictures, PopupOfOneLine)
 {
     showList("Rooms", rooms(9));
     showPopup(ENGLISH, 1);
     expectScreen("popup-line");
 }
 
-TEST_P(StatusPictures, popupThatIsTakenDownLeavesNothing)
+TEST_P(StatusPictures, PopupThatIsTakenDownLeavesNothing)
 {
     showSample(ENGLISH);
     SystemWindow& window = showPopup(ENGLISH, 2);
@@ -51,13 +51,13 @@ TEST_P(StatusPictures, popupThatIsTakenDownLeavesNothing)
     expectScreen("no-popup");
 }
 
-TEST_P(StatusPictures, timerTakesTheClocksPlace)
+TEST_P(StatusPictures, TimerTakesTheClocksPlace)
 {
     showLines(ENGLISH, 1).setTimer("100:00:00");
     expectScreen("call-timer");
 }
 
-TEST_P(StatusPictures, longTexts)
+TEST_P(StatusPictures, LongTexts)
 {
     Sample sample = ENGLISH;
     sample.caption = "A caption that is so long that it meets the clock and ends there";
@@ -66,7 +66,7 @@ TEST_P(StatusPictures, longTexts)
     expectScreen("long-status-lines");
 }
 
-TEST_P(StatusPictures, longPopup)
+TEST_P(StatusPictures, LongPopup)
 {
     Sample sample = ENGLISH;
     sample.caption = "A caption that is so long that nobody would read it";
@@ -75,21 +75,21 @@ TEST_P(StatusPictures, longPopup)
     expectScreen("long-popup");
 }
 
-TEST_P(StatusPictures, message)
+TEST_P(StatusPictures, Message)
 {
     showList("Rooms", rooms(9));
     gpPresent->Add(new StatusMessage("The number has been copied", 1000));
     expectScreen("message");
 }
 
-TEST_P(StatusPictures, longMessage)
+TEST_P(StatusPictures, LongMessage)
 {
     showList("Rooms", rooms(9));
     gpPresent->Add(new StatusMessage("A message that is so long that no panel of this house has room for it", 1000));
     expectScreen("long-message");
 }
 
-TEST_P(StatusPictures, languages)
+TEST_P(StatusPictures, Languages)
 {
     for (const Sample& sample : LANGUAGES) {
         KestrelListBox& list = showSample(sample);
@@ -100,7 +100,7 @@ TEST_P(StatusPictures, languages)
     }
 }
 
-TEST_P(StatusPictures, popupLanguages)
+TEST_P(StatusPictures, PopupLanguages)
 {
     for (const Sample& sample : LANGUAGES) {
         KestrelListBox& list = showSample(sample);
@@ -111,7 +111,7 @@ TEST_P(StatusPictures, popupLanguages)
     }
 }
 
-TEST_P(StatusPictures, messageLanguages)
+TEST_P(StatusPictures, MessageLanguages)
 {
     for (const Sample& sample : LANGUAGES) {
         KestrelListBox& list = showSample(sample);
@@ -123,7 +123,7 @@ TEST_P(StatusPictures, messageLanguages)
     }
 }
 
-TEST_P(StatusPictures, mirroredList)
+TEST_P(StatusPictures, MirroredList)
 {
     KestrelListBox& list = showSample(LANGUAGES[3]);
     list.setExclusive(true);
@@ -132,7 +132,7 @@ TEST_P(StatusPictures, mirroredList)
     expectScreen("mirrored-exclusive");
 }
 
-TEST_P(StatusPictures, mirroredLongList)
+TEST_P(StatusPictures, MirroredLongList)
 {
     mApplication.setLocale(text("he"));
     showList("חדרים", rooms(20));

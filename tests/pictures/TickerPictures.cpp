@@ -1,6 +1,6 @@
 #include "host/lcd/Lcd.h"
 #include "pictures/PictureTest.h"
-#include "unit/VirtualTime.h"
+#include "support/VirtualTime.h"
 #include "widgets/KestrelApplication.h"
 #include "widgets/KestrelListBox.h"
 #include "widgets/TickerWidget.h"
@@ -16,9 +16,7 @@ constexpr int REST = 1500;
 constexpr int STEP = 40;
 
 /// A list with a ticker on every panel.
-class TickerPictures : public testing_support::VirtualTime,
-                       public PictureTest,
-                       public testing::WithParamInterface<host::Variant> {
+class TickerPictures : public test::VirtualTime, public PictureTest, public testing::WithParamInterface<host::Variant> {
 protected:
     TickerPictures()
     {
@@ -56,21 +54,21 @@ private:
     }
 };
 
-TEST_P(TickerPictures, shortTextStands)
+TEST_P(TickerPictures, ShortTextStands)
 {
     showWithTicker("Closed on Friday");
     pass(60000);
     expectScreen("short");
 }
 
-TEST_P(TickerPictures, longTextBeginsAtTheEdge)
+TEST_P(TickerPictures, LongTextBeginsAtTheEdge)
 {
     showWithTicker(NEWS);
     pass(REST - 1);
     expectScreen("long");
 }
 
-TEST_P(TickerPictures, longTextRuns)
+TEST_P(TickerPictures, LongTextRuns)
 {
     showWithTicker(NEWS);
     pass(REST);
@@ -78,7 +76,7 @@ TEST_P(TickerPictures, longTextRuns)
     expectScreen("running");
 }
 
-TEST_P(TickerPictures, endAndBeginningAreSeenTogether)
+TEST_P(TickerPictures, EndAndBeginningAreSeenTogether)
 {
     KestrelListBox& list = showWithTicker(NEWS);
     pass(REST);
@@ -91,7 +89,7 @@ TEST_P(TickerPictures, endAndBeginningAreSeenTogether)
     expectScreen("round");
 }
 
-TEST_P(TickerPictures, arabicRunsTheOtherWay)
+TEST_P(TickerPictures, ArabicRunsTheOtherWay)
 {
     showWithTicker(ARABIC_NEWS);
     expectScreen("arabic");
@@ -100,7 +98,7 @@ TEST_P(TickerPictures, arabicRunsTheOtherWay)
     expectScreen("arabic-running");
 }
 
-TEST_P(TickerPictures, japanese)
+TEST_P(TickerPictures, Japanese)
 {
     showWithTicker(JAPANESE_NEWS);
     pass(REST);

@@ -1,4 +1,4 @@
-#include "variants/ListItemPrivate.h"
+#include "variants/list/ListItemPrivate.h"
 #include "widgets/KestrelListBoxItem.h"
 
 #include <string>

@@ -27,7 +27,7 @@ protected:
     Recorder& recorder = Recorder::instance();
 };
 
-TEST_F(LampTest, blinkRunsAtOnceOnTheGuiThread)
+TEST_F(LampTest, BlinkRunsAtOnceOnTheGuiThread)
 {
     Lamp lamp;
     lamp.blink(500);
@@ -35,7 +35,7 @@ TEST_F(LampTest, blinkRunsAtOnceOnTheGuiThread)
     EXPECT_THAT(recorder.texts(), ElementsAre("LampPrivate()", "LampPrivate::blink(500)"));
 }
 
-TEST_F(LampTest, blinkIsPostedFromAnotherThread)
+TEST_F(LampTest, BlinkIsPostedFromAnotherThread)
 {
     Lamp lamp;
     recorder.clear();
@@ -47,7 +47,7 @@ TEST_F(LampTest, blinkIsPostedFromAnotherThread)
     EXPECT_THAT(recorder.texts(), ElementsAre("LampPrivate::blink(500)"));
 }
 
-TEST_F(LampTest, isLitWaitsForTheGuiThread)
+TEST_F(LampTest, IsLitWaitsForTheGuiThread)
 {
     Lamp lamp;
     bool lit = false;
@@ -62,7 +62,7 @@ TEST_F(LampTest, isLitWaitsForTheGuiThread)
     EXPECT_EQ(recorder.last("LampPrivate::isLit").thread, Threadable::currentThreadId());
 }
 
-TEST_F(LampTest, anotherThreadMakesAndDeletesALamp)
+TEST_F(LampTest, AnotherThreadMakesAndDeletesALamp)
 {
     test::Worker worker([] { Lamp lamp; });
     gui.waitForQueued(2);
@@ -72,7 +72,7 @@ TEST_F(LampTest, anotherThreadMakesAndDeletesALamp)
     EXPECT_THAT(recorder.texts(), ElementsAre("LampPrivate()", "~LampPrivate()"));
 }
 
-TEST_F(LampTest, isDarkWhenItsCreationWasLost)
+TEST_F(LampTest, IsDarkWhenItsCreationWasLost)
 {
     bool lit = true;
     test::Worker worker([&] {
@@ -87,7 +87,7 @@ TEST_F(LampTest, isDarkWhenItsCreationWasLost)
     EXPECT_TRUE(recorder.texts().empty());
 }
 
-TEST_F(LampTest, unknownRequestsAreCompleted)
+TEST_F(LampTest, UnknownRequestsAreCompleted)
 {
     Lamp lamp;
     Wait done;

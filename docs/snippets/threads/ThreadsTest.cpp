@@ -32,7 +32,7 @@ private:
     }
 };
 
-TEST(ThreadsTest, aFenceIsReachedBehindEverythingThatWasQueued)
+TEST(ThreadsTest, AFenceIsReachedBehindEverythingThatWasQueued)
 {
     SlowListener listener;
     Command command("", Command::OK);
@@ -43,7 +43,7 @@ TEST(ThreadsTest, aFenceIsReachedBehindEverythingThatWasQueued)
     EXPECT_EQ(listener.heard, 20);
 }
 
-TEST(ThreadsTest, aRowIsRewrittenInItsPlace)
+TEST(ThreadsTest, ARowIsRewrittenInItsPlace)
 {
     test::GuiLoop gui;
     doubles::Recorder::instance().clear();

@@ -1,0 +1,61 @@
+#include "host/lcd/Geometry.h"
+#include "host/widgets/list/ListBoxImpl.h"
+
+#include <algorithm>
+
+using namespace host;
+
+void KestrelListBox::Impl::setStatusLines(int lines)
+{
+    if (status.setSize(lines))
+        placeStatus();
+}
+
+void KestrelListBox::Impl::setStatusText(int line, const std::string& text)
+{
+    if (!status.setText(line, text))
+        return;
+    placeStatus();
+    if (line < statusShown)
+        box.Invalidate(geometry().statusLine(line));
+}
+
+void KestrelListBox::Impl::statusTimeChanged()
+{
+    placeStatus();
+    if (statusShown > 0)
+        box.Invalidate(geometry().statusLine(0));
+}
+
+/// The time alone keeps line 0 visible. The rows have what the status lines leave.
+void KestrelListBox::Impl::placeStatus()
+{
+    const bool timed = status.size() > 0 && statusTime() != nullptr && !statusTime()->text().empty();
+    const int shown = std::max(status.used(), timed ? 1 : 0);
+    if (shown != statusShown) {
+        statusShown = shown;
+        scrollToCurrent();
+        box.Invalidate();
+    }
+    StatusTime::watch(*this, status.size() > 0 && box.StatusIs(PSF_VISIBLE));
+}
+
+int KestrelListBox::systemWindowLines() const
+{
+    return mImpl->geometry().statusLines();
+}
+
+const std::string& KestrelListBox::systemWindowText(int line) const
+{
+    return mImpl->status.text(line);
+}
+
+PegRect KestrelListBox::systemWindowArea() const
+{
+    return mImpl->geometry().status;
+}
+
+void KestrelListBox::VisibilityChanged()
+{
+    mImpl->placeStatus();
+}

@@ -1,0 +1,105 @@
+#include "host/lcd/Geometry.h"
+#include "host/lcd/Painter.h"
+#include "host/widgets/Reading.h"
+#include "host/widgets/list/ListBoxImpl.h"
+#include "widgets/KestrelListBoxItem.h"
+
+using namespace host;
+
+namespace {
+
+/// The selection bar, its corners rounded by a pixel.
+void drawBar(PegPainter& painter, const PegRect& row)
+{
+    painter.fill(row, Level::DARK);
+    for (const auto x : {row.left, row.right}) {
+        for (const auto y : {row.top, row.bottom})
+            painter.fill({x, y, x, y}, Level::BARE);
+    }
+}
+
+/// The upper or lower end of a scroll mark.
+PegRect arrowCell(const PegRect& scroll, bool upper)
+{
+    constexpr int HEIGHT = 8;
+    return rectAt(scroll.left, upper ? scroll.top : scroll.bottom + 1 - HEIGHT, widthOf(scroll), HEIGHT);
+}
+
+} // namespace
+
+void KestrelListBox::Draw(PegPainter& painter)
+{
+    const ListGeometry parts = mImpl->geometry();
+    painter.fill(Area(), Level::BARE);
+    mImpl->drawStatus(painter, parts);
+    mImpl->drawTitle(painter, parts);
+    for (int slot = 0; slot < parts.visibleRows; ++slot)
+        mImpl->drawRow(painter, parts, slot);
+    mImpl->drawScroll(painter, parts);
+    mImpl->drawTickerRule(painter, parts);
+}
+
+void KestrelListBox::Impl::drawStatus(PegPainter& painter, const ListGeometry& parts) const
+{
+    if (isEmpty(parts.status) || painter.isClippedOut(parts.status))
+        return;
+    for (int line = 0; line < parts.statusLines(); ++line)
+        drawStatusLine(painter, parts.statusLine(line), status.text(line), layout.font,
+                       line == 0 ? statusTime() : nullptr);
+    painter.fill({parts.status.left, parts.status.bottom, parts.status.right, parts.status.bottom}, Level::DARK);
+}
+
+void KestrelListBox::Impl::drawTitle(PegPainter& painter, const ListGeometry& parts) const
+{
+    if (!isEmpty(parts.title) && !painter.isClippedOut(parts.title)) {
+        const PegRect& bar = parts.title;
+        const bool hidden = overlap(parts.ticker, bar);
+        const auto line = static_cast<std::int16_t>(bar.bottom - 1);
+        painter.fill({bar.left, bar.top, bar.right, line}, hidden ? Level::BARE : Level::LIGHT);
+        painter.fill({bar.left, line, bar.right, line}, Level::DARK);
+        if (!hidden)
+            painter.text(parts.titleText, title, {layout.titleFont, startAlign()});
+    }
+    if (!isEmpty(parts.back))
+        painter.icon(icons::BACK, parts.back, Level::DARK);
+}
+
+void KestrelListBox::Impl::drawRow(PegPainter& painter, const ListGeometry& parts, int slot) const
+{
+    const KestrelListBoxItem* item = rows.at(top + slot);
+    const PegRect row = parts.row(slot);
+    if (item == nullptr || painter.isClippedOut(boundsOf(row, parts.mark(slot))))
+        return;
+    const bool inverted = highlight && top + slot == current;
+    if (inverted)
+        drawBar(painter, row);
+    if (exclusive) {
+        const bool onBar = inverted && contains(row, parts.mark(slot));
+        painter.icon(item->isMarked() ? icons::RADIO_CHOSEN : icons::RADIO, parts.mark(slot),
+                     onBar ? Level::BARE : Level::DARK);
+    }
+    painter.text(parts.text(slot), item->DataGet(), {layout.font, startAlign(), inverted});
+}
+
+void KestrelListBox::Impl::drawScroll(PegPainter& painter, const ListGeometry& parts) const
+{
+    if (isEmpty(parts.scroll) || painter.isClippedOut(parts.scroll))
+        return;
+    if (top > 0)
+        painter.icon(layout.scrollBar ? icons::ARROW_UP : icons::SMALL_ARROW_UP, arrowCell(parts.scroll, true),
+                     Level::DARK);
+    if (top < lastTop())
+        painter.icon(layout.scrollBar ? icons::ARROW_DOWN : icons::SMALL_ARROW_DOWN, arrowCell(parts.scroll, false),
+                     Level::DARK);
+    if (isEmpty(parts.track))
+        return;
+    painter.fill(parts.track, Level::LIGHT);
+    painter.fill(parts.thumb, Level::DARK);
+}
+
+void KestrelListBox::Impl::drawTickerRule(PegPainter& painter, const ListGeometry& parts) const
+{
+    const auto line = static_cast<std::int16_t>(parts.ticker.top - 1);
+    if (!isEmpty(parts.ticker) && !layout.tickerInTitle)
+        painter.fill({parts.ticker.left, line, parts.ticker.right, line}, Level::LIGHT);
+}

@@ -1,0 +1,95 @@
+#include "host/input/Keyboard.h"
+
+#include "support/RunningToolkit.h"
+
+#include <gtest/gtest.h>
+#include <thread>
+
+namespace {
+
+using host::Keyboard;
+using test::Gate;
+using test::RecordingThing;
+using test::RunningToolkit;
+using test::StartedToolkit;
+
+TEST(Keyboard, KnowsEachKeyByName)
+{
+    EXPECT_EQ(Keyboard::keyFromName("up"), PK_UP);
+    EXPECT_EQ(Keyboard::keyFromName("down"), PK_DOWN);
+    EXPECT_EQ(Keyboard::keyFromName("left"), PK_LEFT);
+    EXPECT_EQ(Keyboard::keyFromName("right"), PK_RIGHT);
+    EXPECT_EQ(Keyboard::keyFromName("ok"), PK_OK);
+    EXPECT_EQ(Keyboard::keyFromName("star"), PK_STAR);
+    EXPECT_EQ(Keyboard::keyFromName("hash"), PK_HASH);
+    EXPECT_EQ(Keyboard::keyFromName("volume-up"), PK_VOLUME_UP);
+    EXPECT_EQ(Keyboard::keyFromName("volume-down"), PK_VOLUME_DOWN);
+    EXPECT_EQ(Keyboard::keyFromName("hook"), PK_HOOK);
+    EXPECT_EQ(Keyboard::keyFromName("0"), PK_0);
+    EXPECT_EQ(Keyboard::keyFromName("9"), PK_9);
+}
+
+TEST(Keyboard, UnknownNameIsNoKey)
+{
+    for (const char* name : {"", "UP", "10", "a", "*", "#", "/", ":"})
+        EXPECT_EQ(Keyboard::keyFromName(name), std::nullopt) << name;
+}
+
+TEST(Keyboard, KeyIsDroppedWhileTheToolkitDoesNotRun)
+{
+    EXPECT_FALSE(Keyboard::instance().press(PK_OK));
+    {
+        const StartedToolkit toolkit;
+        EXPECT_TRUE(Keyboard::instance().press(PK_OK));
+    }
+    EXPECT_FALSE(Keyboard::instance().press(PK_OK));
+    EXPECT_FALSE(Keyboard::instance().release(PK_OK));
+}
+
+TEST(Keyboard, FloodIsDroppedPastTheLimit)
+{
+    const StartedToolkit toolkit;
+    for (int key = 0; key < Keyboard::MAX_PENDING; ++key)
+        ASSERT_TRUE(Keyboard::instance().press(PK_DOWN));
+    EXPECT_FALSE(Keyboard::instance().press(PK_DOWN));
+    EXPECT_FALSE(Keyboard::instance().release(PK_DOWN));
+    EXPECT_EQ(gtPegMainQueue->count, Keyboard::MAX_PENDING);
+    Keyboard::instance().handled();
+    EXPECT_TRUE(Keyboard::instance().press(PK_DOWN));
+}
+
+TEST(Keyboard, PressAndReleaseReachTheFocusInOrder)
+{
+    RunningToolkit toolkit;
+    auto* focused = new RecordingThing;
+    toolkit.run([&] {
+        gpPresent->Add(focused);
+        gpPresent->MoveFocusTree(focused);
+    });
+    EXPECT_TRUE(Keyboard::instance().press(PK_STAR));
+    EXPECT_TRUE(Keyboard::instance().release(PK_STAR));
+    ASSERT_TRUE(toolkit.waitUntilIdle());
+    toolkit.run([&] {
+        ASSERT_EQ(focused->messages.size(), 2u);
+        EXPECT_EQ(focused->messages[0].wType, PM_KEY);
+        EXPECT_EQ(focused->messages[0].iData, PK_STAR);
+        EXPECT_EQ(focused->messages[1].wType, PM_KEYRELEASE);
+    });
+}
+
+TEST(Keyboard, HandledKeysMakeRoomForMore)
+{
+    RunningToolkit toolkit;
+    for (int burst = 0; burst < 5; ++burst) {
+        Gate release;
+        toolkit.post([&] { EXPECT_TRUE(release.wait()); });
+        int accepted = 0;
+        for (int key = 0; key < 1'000; ++key)
+            accepted += Keyboard::instance().press(PK_DOWN);
+        EXPECT_EQ(accepted, Keyboard::MAX_PENDING);
+        release.open();
+        ASSERT_TRUE(toolkit.waitUntilIdle());
+    }
+}
+
+} // namespace
