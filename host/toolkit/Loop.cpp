@@ -31,6 +31,11 @@ bool Loop::isRunning()
     return LoopStatus::instance().threadId != 0;
 }
 
+std::chrono::milliseconds Loop::busyFor()
+{
+    return LoopStatus::instance().busyFor();
+}
+
 void Loop::quit()
 {
     LoopStatus::instance().askForExit();

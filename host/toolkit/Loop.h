@@ -14,6 +14,15 @@ public:
     /// Whether Execute() is running.
     static bool isRunning();
 
+    /// How long the GUI thread has been at one thing: a message, a timer, a frame, or what the program does while the
+    /// toolkit is up and no loop runs. Zero while it waits for work, and without a toolkit. In real time, to some
+    /// milliseconds.
+    static std::chrono::milliseconds busyFor();
+
+    /// Who is busy for that long stands still: nothing is shown, and no key is taken.
+    static constexpr std::chrono::milliseconds STANDSTILL{2000};
+    static bool standsStill() { return busyFor() >= STANDSTILL; }
+
     /// Asks the loop to end, as Display::shutdown() does.
     static void quit();
 };

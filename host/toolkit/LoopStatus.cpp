@@ -3,7 +3,23 @@
 #include "host/clock/Clock.h"
 #include "host/toolkit/MainQueue.h"
 
+#include <time.h>
+
 namespace host {
+
+namespace {
+
+constexpr std::int64_t RESTS = 0;
+
+/// A tick of some milliseconds, at a tenth of what an exact time costs: the loop reads it for each message.
+std::int64_t coarseNow()
+{
+    timespec now;
+    clock_gettime(CLOCK_MONOTONIC_COARSE, &now);
+    return now.tv_sec * 1000LL + now.tv_nsec / 1'000'000;
+}
+
+} // namespace
 
 LoopStatus& LoopStatus::instance()
 {
@@ -11,7 +27,7 @@ LoopStatus& LoopStatus::instance()
     return *status;
 }
 
-LoopStatus::LoopStatus()
+LoopStatus::LoopStatus() : mBusySince(RESTS)
 {
     pthread_condattr_t attributes;
     pthread_condattr_init(&attributes);
@@ -25,8 +41,25 @@ bool LoopStatus::isIdle() const
     return restsWithoutWork && MainQueue::isEmpty() && !Clock::instance().isTimerDue();
 }
 
+void LoopStatus::beginWork()
+{
+    mBusySince.store(coarseNow(), std::memory_order_relaxed);
+}
+
+void LoopStatus::beginRest()
+{
+    mBusySince.store(RESTS, std::memory_order_relaxed);
+}
+
+std::chrono::milliseconds LoopStatus::busyFor() const
+{
+    const std::int64_t since = mBusySince.load(std::memory_order_relaxed);
+    return std::chrono::milliseconds(since == RESTS ? 0 : coarseNow() - since);
+}
+
 void LoopStatus::setRoot(PegThing* root)
 {
+    root != nullptr ? beginWork() : beginRest();
     std::lock_guard lock(mRootMutex);
     mRoot = root;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <atomic>
+#include <chrono>
 #include <mutex>
 #include <pthread.h>
 
@@ -20,6 +21,13 @@ struct LoopStatus {
     std::atomic<int> watchers{0};          ///< threads that wait for becameIdle
     bool restsWithoutWork = false;
 
+    /// The GUI thread begins with something new, or waits for it. GUI thread only.
+    void beginWork();
+    void beginRest();
+
+    /// How long ago it has begun; zero while it rests.
+    std::chrono::milliseconds busyFor() const;
+
     /// Who ends the loop; null while the toolkit does not run.
     void setRoot(PegThing* root);
 
@@ -29,6 +37,7 @@ struct LoopStatus {
 private:
     LoopStatus();
 
+    std::atomic<std::int64_t> mBusySince; ///< milliseconds of real time
     std::mutex mRootMutex; ///< held while the message is pushed, so that the root cannot die meanwhile
     PegThing* mRoot = nullptr;
 };

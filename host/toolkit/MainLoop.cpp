@@ -73,6 +73,7 @@ void MainLoop::end()
 
 PegMessage* MainLoop::take()
 {
+    LoopStatus::instance().beginWork();
     PegMessage* const message =
         MainQueue::take(mMessagesInARow < MESSAGES_BEFORE_A_BURST ? MainQueue::Pace::PROMPT : MainQueue::Pace::BURST);
     mMessagesInARow = message ? mMessagesInARow + 1 : 0;
@@ -115,12 +116,14 @@ void MainLoop::sleep()
     status.restsWithoutWork = isPainted();
     if (status.watchers > 0)
         pthread_cond_broadcast(&status.becameIdle);
+    status.beginRest();
     if (wait == Clock::NEVER) {
         pthread_cond_wait(&gtPegMainQueue->condition, &gtPegMainQueue->mutex);
     } else {
         const timespec deadline = realTimeAhead(wait);
         pthread_cond_timedwait(&gtPegMainQueue->condition, &gtPegMainQueue->mutex, &deadline);
     }
+    status.beginWork();
     status.restsWithoutWork = false;
 }
 

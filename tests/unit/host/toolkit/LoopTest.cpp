@@ -107,6 +107,35 @@ TEST(Loop, EndOfTheLoopEndsTheWait)
     EXPECT_FALSE(result);
 }
 
+TEST(Loop, BusyForGrowsWhileOneMessageIsHandled)
+{
+    RunningToolkit toolkit;
+    Gate release;
+    toolkit.post([&] { EXPECT_TRUE(release.wait()); });
+    EXPECT_TRUE(becomesTrue([] { return Loop::busyFor() >= 50ms; }));
+    EXPECT_FALSE(Loop::standsStill());
+    release.open();
+    EXPECT_TRUE(becomesTrue([] { return Loop::busyFor() == 0ms; }));
+}
+
+TEST(Loop, BusyForCountsEachMessageAnew)
+{
+    RunningToolkit toolkit;
+    const auto takeTheirTime = [] { EXPECT_TRUE(becomesTrue([] { return Loop::busyFor() >= 500ms; })); };
+    toolkit.post(takeTheirTime);
+    toolkit.run([] { EXPECT_LT(Loop::busyFor(), 500ms); });
+}
+
+TEST(Loop, ProgramThatDoesNotRunItStandsStill)
+{
+    EXPECT_EQ(Loop::busyFor(), 0ms);
+    {
+        const StartedToolkit toolkit;
+        EXPECT_TRUE(becomesTrue([] { return Loop::standsStill(); }));
+    }
+    EXPECT_EQ(Loop::busyFor(), 0ms);
+}
+
 TEST(Loop, SeveralThreadsMayWait)
 {
     RunningToolkit toolkit;
