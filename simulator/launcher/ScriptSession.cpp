@@ -46,17 +46,28 @@ std::string preparationError(const Options& options)
     return text;
 }
 
+/// Tells what there is to tell beyond the first `told` notes. Returns how many there are.
+std::size_t tellNotes(const std::string& fileName, const ScriptOutcome& outcome, std::size_t told)
+{
+    for (; told < outcome.notes.size(); ++told)
+        std::cerr << fileName << ':' << outcome.notes[told].line << ": " << outcome.notes[told].text << std::endl;
+    return told;
+}
+
 /// Follows the report until the application has ended.
-Ending follow(ApplicationRun& run, ReportPipe& pipe)
+Ending follow(ApplicationRun& run, ReportPipe& pipe, const std::string& fileName)
 {
     auto lastNews = steady_clock::now();
+    std::size_t told = 0;
     for (;;) {
         const auto ending = run.wait(seconds(1), pipe.descriptor());
         if (pipe.readAvailable())
             lastNews = steady_clock::now();
+        const ScriptOutcome outcome = readOutcome(pipe.text());
+        told = tellNotes(fileName, outcome, told);
         if (ending)
             return *ending;
-        if (readOutcome(pipe.text()).isDecided())
+        if (outcome.isDecided())
             run.limitTo(TIME_TO_END);
         if (steady_clock::now() - lastNews > LONGEST_SILENCE)
             run.limitTo(milliseconds(0));
@@ -78,7 +89,7 @@ int runScript(const Options& options)
         return CANNOT_START;
     }
     pipe.closeWriteEnd();
-    const Ending ending = follow(run, pipe);
+    const Ending ending = follow(run, pipe, *options.script);
     const ScriptVerdict verdict = judge(*options.script, readOutcome(pipe.text()), ending, run.wasKilled());
     (verdict.passed ? std::cout : std::cerr) << verdict.text << std::endl;
     return verdict.passed ? 0 : FAILED;

@@ -24,6 +24,9 @@ constexpr seconds PATIENCE(10);
 /// An application may have a thread that never rests.
 constexpr seconds PATIENCE_WITH_THREADS(2);
 
+/// How often it is looked what the GUI thread is about.
+constexpr milliseconds GLANCE(200);
+
 /// How often it is looked whether the telephone is still there, in real and virtual time.
 constexpr milliseconds SLICE(1000);
 constexpr std::chrono::minutes ADVANCED_SLICE(1);
@@ -87,17 +90,21 @@ void HostPhone::sleep(std::chrono::milliseconds time)
     mChanged.wait_for(lock, time, [this] { return !mIsThere; });
 }
 
-bool HostPhone::settle()
+bool HostPhone::settle(const std::function<void()>& standsStill)
 {
-    return becomeIdle() && (waitForThreads(), becomeIdle());
+    std::function<void()> untold = standsStill;
+    return becomeIdle(untold) && (waitForThreads(), becomeIdle(untold));
 }
 
-bool HostPhone::becomeIdle()
+/// Calls `standsStill` at most once, and empties it then.
+bool HostPhone::becomeIdle(std::function<void()>& standsStill)
 {
     const auto deadline = steady_clock::now() + PATIENCE;
     while (isThere() && steady_clock::now() < deadline) {
-        if (host::Loop::waitUntilIdle(SLICE))
+        if (host::Loop::waitUntilIdle(GLANCE))
             return true;
+        if (standsStill && host::Loop::standsStill())
+            std::exchange(standsStill, {})();
         waitForFrame(milliseconds(5));
     }
     return false;

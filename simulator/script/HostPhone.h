@@ -22,7 +22,7 @@ public:
     bool release(PegKey key) override;
     void pass(std::int64_t milliseconds) override;
     bool advance(std::int64_t milliseconds) override;
-    bool settle() override;
+    bool settle(const std::function<void()>& standsStill) override;
     host::Picture picture() override;
     std::string displayables() override;
     void waitForFrame(std::chrono::milliseconds limit) override;
@@ -40,7 +40,7 @@ private:
         HostPhone& mPhone;
     };
 
-    bool becomeIdle();
+    bool becomeIdle(std::function<void()>& standsStill);
     void moveClock(std::int64_t milliseconds, std::int64_t slice);
     void sleep(std::chrono::milliseconds time);
     void waitForThreads();

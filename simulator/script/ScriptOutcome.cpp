@@ -1,5 +1,6 @@
 #include "simulator/script/ScriptOutcome.h"
 
+#include <algorithm>
 #include <charconv>
 
 namespace simulator {
@@ -14,6 +15,13 @@ int numberBehind(std::string_view word, std::string_view line)
     return number;
 }
 
+ScriptOutcome::Note noteIn(std::string_view line)
+{
+    line.remove_prefix(std::string_view("note ").size());
+    const auto end = std::min(line.find(' '), line.size());
+    return {numberBehind("", line), std::string(line.substr(std::min(end + 1, line.size())))};
+}
+
 } // namespace
 
 ScriptOutcome readOutcome(std::string_view report)
@@ -24,6 +32,8 @@ ScriptOutcome readOutcome(std::string_view report)
         report.remove_prefix(end + 1);
         if (line.starts_with("at "))
             outcome.lastLine = numberBehind("at ", line);
+        if (line.starts_with("note "))
+            outcome.notes.push_back(noteIn(line));
         if (line == "passed")
             outcome.passed = true;
         if (line.starts_with("failed ")) {

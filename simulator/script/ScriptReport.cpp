@@ -15,6 +15,11 @@ void PipeReport::at(int line)
     write("at " + std::to_string(line) + '\n');
 }
 
+void PipeReport::note(int line, const std::string& text)
+{
+    write("note " + std::to_string(line) + ' ' + text + '\n');
+}
+
 void PipeReport::passed()
 {
     write("passed\n");
@@ -33,6 +38,11 @@ void PipeReport::write(const std::string& text) const
             return;
         done += static_cast<std::size_t>(count);
     }
+}
+
+void TerminalReport::note(int line, const std::string& text)
+{
+    std::cerr << mFileName << ':' << line << ": " << text << '\n';
 }
 
 void TerminalReport::failed(int line, const std::string& reason)

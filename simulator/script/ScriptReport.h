@@ -12,6 +12,9 @@ public:
     /// The step of this line is about to run.
     virtual void at(int line) = 0;
 
+    /// Something that the user wants to know while the script goes on.
+    virtual void note(int line, const std::string& text) = 0;
+
     virtual void passed() = 0;
     virtual void failed(int line, const std::string& reason) = 0;
 };
@@ -22,8 +25,8 @@ inline constexpr char SCRIPT_REPORT_VARIABLE[] = "DISPLAYAPI_SCRIPT_FD";
 /// Where screenshots and dumps go.
 inline constexpr char SCRIPT_OUT_VARIABLE[] = "DISPLAYAPI_SCRIPT_OUT";
 
-/// Writes the report down a pipe, for ScriptOutcome at its other end: a line `at N` before each step, then `passed`, or
-/// `failed N` and the reason.
+/// Writes the report down a pipe, for ScriptOutcome at its other end: a line `at N` before each step, `note N` and a
+/// text in one line on the way, then `passed`, or `failed N` and the reason.
 class PipeReport final : public ScriptReport {
 public:
     explicit PipeReport(int descriptor) : mDescriptor(descriptor) {}
@@ -32,6 +35,7 @@ public:
     ~PipeReport() override;
 
     void at(int line) override;
+    void note(int line, const std::string& text) override;
     void passed() override;
     void failed(int line, const std::string& reason) override;
 
@@ -41,12 +45,13 @@ private:
     int mDescriptor;
 };
 
-/// For a person at the terminal, where there is no launcher: only a failure is worth a word.
+/// For a person at the terminal, where there is no launcher: only what goes wrong is worth a word.
 class TerminalReport final : public ScriptReport {
 public:
     explicit TerminalReport(std::string fileName) : mFileName(std::move(fileName)) {}
 
     void at(int) override {}
+    void note(int line, const std::string& text) override;
     void passed() override {}
     void failed(int line, const std::string& reason) override;
 

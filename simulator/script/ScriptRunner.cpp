@@ -2,6 +2,7 @@
 
 #include "host/Phone.h"
 #include "host/lcd/Png.h"
+#include "host/toolkit/Loop.h"
 #include "simulator/screen/KeyRepeatRule.h"
 #include "simulator/screen/ScreenJson.h"
 #include "simulator/screen/ScreenRows.h"
@@ -20,6 +21,9 @@ namespace {
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
+constexpr char STANDSTILL_NOTE[] = "the GUI thread stands still: for 2 seconds it has been at one thing";
+static_assert(host::Loop::STANDSTILL == std::chrono::seconds(2));
+
 struct StepFailed : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
@@ -35,7 +39,8 @@ ScriptRunner::ScriptRunner(ScriptedPhone& phone, ScriptReport& report, std::file
 void ScriptRunner::run(const Script& script)
 {
     for (const Step& step : script.steps) {
-        mReport.at(step.line);
+        mLine = step.line;
+        mReport.at(mLine);
         try {
             settle();
             perform(step);
@@ -174,8 +179,16 @@ void ScriptRunner::up(PegKey key)
 
 void ScriptRunner::settle()
 {
-    if (!mPhone.settle())
-        fail(mPhone.isThere() ? "the application does not come to rest" : "the application has ended");
+    bool stoodStill = false;
+    const auto standsStill = [&] {
+        stoodStill = true;
+        mReport.note(mLine, STANDSTILL_NOTE);
+    };
+    if (mPhone.settle(standsStill))
+        return;
+    if (!mPhone.isThere())
+        fail("the application has ended");
+    fail(std::string("the application does not come to rest") + (stoodStill ? ": its GUI thread stands still" : ""));
 }
 
 void ScriptRunner::fail(const std::string& reason)

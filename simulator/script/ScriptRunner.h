@@ -42,6 +42,7 @@ private:
     ScriptReport& mReport;
     std::filesystem::path mFolder;
     std::chrono::milliseconds mPatience;
+    int mLine = 0;
 };
 
 } // namespace simulator

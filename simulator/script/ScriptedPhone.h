@@ -5,6 +5,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <functional>
 #include <string>
 
 namespace simulator {
@@ -26,8 +27,9 @@ public:
     virtual bool advance(std::int64_t milliseconds) = 0;
 
     /// Waits until nothing moves any more: neither the loop nor the application's threads, which run in real time.
-    /// False when the loop does not come to rest.
-    virtual bool settle() = 0;
+    /// False when the loop does not come to rest. `standsStill` is called once if the GUI thread has meanwhile been at
+    /// one thing for so long that somebody at the keys would wonder.
+    virtual bool settle(const std::function<void()>& standsStill) = 0;
 
     virtual host::Picture picture() = 0;
 

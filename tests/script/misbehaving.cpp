@@ -1,11 +1,13 @@
-// An application that does one thing wrong when the user chooses the first row: `misbehaving crash|exit|leave|linger`.
-// `deaf` never runs its loop, `never` does all well.
+// An application that does one thing wrong when the user chooses the first row: `misbehaving
+// crash|exit|leave|linger|stall`. `deaf` never runs its loop, `never` does all well.
 
 #include "DisplayAPI/CommandListener.h"
 #include "DisplayAPI/Display.h"
 #include "DisplayAPI/List.h"
 #include "host/Phone.h"
 #include "host/toolkit/Loop.h"
+#include "utilities/TranslationInfo.h"
+#include "utilities/TranslatorIfc.h"
 
 #include <chrono>
 #include <cstdlib>
@@ -17,11 +19,20 @@ using namespace DisplayAPI;
 
 namespace {
 
+/// Keeps the GUI thread, which asks it for a text, waiting for seconds.
+class SlowTranslator : public TranslatorIfc {
+    std::string translate(const std::string&) override
+    {
+        std::this_thread::sleep_for(std::chrono::seconds(3));
+        return "It took its time";
+    }
+};
+
 class Wrongdoer : public CommandListener {
 public:
     explicit Wrongdoer(std::string_view way) : mWay(way) {}
 
-    void commandAction(Command*, Displayable*) override
+    void commandAction(Command*, Displayable* screen) override
     {
         if (mWay == "crash")
             std::abort();
@@ -29,6 +40,8 @@ public:
             std::_Exit(3);
         if (mWay == "leave")
             leaveSoon();
+        if (mWay == "stall")
+            static_cast<List*>(screen)->append(&mSlow);
     }
 
 private:
@@ -40,6 +53,8 @@ private:
     }
 
     std::string_view mWay;
+    SlowTranslator mTranslator;
+    TranslationInfo mSlow{"Slow", &mTranslator};
 };
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "doubles/DisplayPrivateDouble.h"
 #include "doubles/Recorder.h"
 #include "host/clock/Clock.h"
+#include "host/toolkit/Loop.h"
 #include "support/GuiLoop.h"
 #include "support/SteppedLoop.h"
 #include "support/Worker.h"
@@ -69,6 +70,16 @@ TEST_F(HostPhoneTest, DisplayMayComeAndGoWhileItIsAskedFor)
         gui.call([] { const Display display(new DisplayPrivateDouble); });
     isOver = true;
     script.join();
+}
+
+TEST_F(HostPhoneTest, GuiThreadThatStandsStillIsToldOnce)
+{
+    int told = 0;
+    gui.post([] { test::waitUntil([] { return host::Loop::busyFor() > 3 * host::Loop::STANDSTILL / 2; }); });
+    EXPECT_TRUE(phone->settle([&] { ++told; }));
+    EXPECT_EQ(told, 1);
+    EXPECT_TRUE(phone->settle([&] { ++told; }));
+    EXPECT_EQ(told, 1);
 }
 
 TEST_F(HostPhoneTest, WhoIsGoneIsNotAsked)

@@ -37,6 +37,17 @@ TEST(ScriptOutcome, ReasonMayLookLikeAReport)
     EXPECT_EQ(outcome.lastLine, 3);
 }
 
+TEST(ScriptOutcome, NotesComeOnTheWay)
+{
+    const auto outcome = readOutcome("at 3\nnote 3 it takes its time\nat 4\nnote 4 again\npassed\n");
+    ASSERT_EQ(outcome.notes.size(), 2u);
+    EXPECT_EQ(outcome.notes[0].line, 3);
+    EXPECT_EQ(outcome.notes[0].text, "it takes its time");
+    EXPECT_EQ(outcome.notes[1].text, "again");
+    EXPECT_EQ(outcome.lastLine, 4);
+    EXPECT_TRUE(outcome.passed);
+}
+
 TEST(ScriptOutcome, ReadsWhatAPipeReportWrites)
 {
     simulator::ReportPipe pipe;
@@ -46,6 +57,9 @@ TEST(ScriptOutcome, ReadsWhatAPipeReportWrites)
         report.at(7);
         EXPECT_TRUE(pipe.readAvailable());
         EXPECT_EQ(readOutcome(pipe.text()).lastLine, 7);
+        report.note(7, "slow");
+        EXPECT_TRUE(pipe.readAvailable());
+        EXPECT_EQ(readOutcome(pipe.text()).notes.at(0).text, "slow");
         report.failed(7, "expected 'x'");
     }
     pipe.closeWriteEnd();

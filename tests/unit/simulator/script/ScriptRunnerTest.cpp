@@ -27,8 +27,8 @@ public:
     void pass(std::int64_t time) override { note("pass " + std::to_string(time)); }
     bool advance(std::int64_t time) override { return note("advance " + std::to_string(time)), hasVirtualClock; }
     std::string displayables() override { return "object:\nname:List\nstring0:" + text + "\nend:\n"; }
-    bool settle() override { return comesToRest; }
-    bool isThere() override { return comesToRest && !isGone; }
+    bool settle(const std::function<void()>& tell) override { return (standsStill ? tell() : void()), comesToRest; }
+    bool isThere() override { return !isGone; }
 
     host::Picture picture() override
     {
@@ -51,6 +51,7 @@ public:
     bool takesKeys = true;
     bool hasVirtualClock = true;
     bool comesToRest = true;
+    bool standsStill = false;
     bool isGone = false;
     std::function<void()> nextFrame;
 };
@@ -58,6 +59,7 @@ public:
 class FakeReport : public ScriptReport {
 public:
     void at(int line) override { lines.push_back(line); }
+    void note(int line, const std::string& text) override { notes.push_back(std::to_string(line) + ": " + text); }
     void passed() override { hasPassed = true; }
 
     void failed(int line, const std::string& reason) override
@@ -67,6 +69,7 @@ public:
     }
 
     std::vector<int> lines;
+    std::vector<std::string> notes;
     bool hasPassed = false;
     int failedLine = 0;
     std::string failure;
@@ -201,9 +204,35 @@ TEST_F(ScriptRunnerTest, RefusedKeyFails)
 TEST_F(ScriptRunnerTest, EndOfTheApplicationFails)
 {
     phone.comesToRest = false;
+    phone.isGone = true;
     run("wait 5");
     EXPECT_THAT(report.failure, testing::StartsWith("the application has ended"));
     EXPECT_THAT(phone.notes, IsEmpty());
+}
+
+TEST_F(ScriptRunnerTest, UnrestFails)
+{
+    phone.comesToRest = false;
+    run("wait 5");
+    EXPECT_THAT(report.failure, testing::StartsWith("the application does not come to rest\n"));
+    EXPECT_THAT(report.notes, IsEmpty());
+}
+
+TEST_F(ScriptRunnerTest, GuiThreadThatStandsStillForAWhileIsNoted)
+{
+    phone.standsStill = true;
+    run("\nwait 5");
+    EXPECT_TRUE(report.hasPassed);
+    EXPECT_THAT(report.notes, ElementsAre("2: the GUI thread stands still: for 2 seconds it has been at one thing"));
+}
+
+TEST_F(ScriptRunnerTest, GuiThreadThatStandsStillForGoodFails)
+{
+    phone.standsStill = true;
+    phone.comesToRest = false;
+    run("wait 5");
+    EXPECT_THAT(report.failure,
+                testing::StartsWith("the application does not come to rest: its GUI thread stands still\n"));
 }
 
 TEST_F(ScriptRunnerTest, DumpWritesTheScreenAsText)
