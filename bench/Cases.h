@@ -12,6 +12,7 @@ constexpr const char* UNPINNED = "Synchronous call with a result, two CPUs";
 constexpr const char* ONE_PRODUCER = "Asynchronous posts until carried out, one producer";
 constexpr const char* TWO_PRODUCERS = "Asynchronous posts until carried out, two producers";
 constexpr const char* NOTIFICATIONS = "Notifications in order through the executor";
+constexpr const char* OBSERVING = "Observers of the application";
 constexpr const char* SCREEN = "Screen";
 constexpr const char* HEAP = "Heap";
 
@@ -21,6 +22,7 @@ std::vector<Case> listCases();
 std::vector<Case> repaintCases();
 std::vector<Case> screenTextCases();
 std::vector<Case> languageCases();
+std::vector<Case> observerCases();
 std::vector<Case> heapCases(const std::string& directory);
 std::vector<Case> firstFrameCases(const std::string& directory);
 std::vector<Case> futexCases();

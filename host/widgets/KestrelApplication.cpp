@@ -1,9 +1,9 @@
 #include "widgets/KestrelApplication.h"
 
-#include "toolkit/PegThing.h"
+#include "host/widgets/ApplicationObservers.h"
+#include "toolkit/PegMessage.h"
 
-#include <algorithm>
-#include <vector>
+using host::ApplicationObservers;
 
 namespace {
 
@@ -16,26 +16,6 @@ constinit std::atomic<KestrelApplication*> gCurrent{nullptr};
     return application;
 }();
 
-struct Observation {
-    const KestrelApplication* application;
-    PegThing* observer;
-
-    bool operator==(const Observation&) const = default;
-};
-
-/// Of all applications, in the order in which they were added. Never destroyed: a static widget leaves them as late as
-/// at process exit.
-std::vector<Observation>& observations()
-{
-    static auto* const living = new std::vector<Observation>;
-    return *living;
-}
-
-bool isObserved(const Observation& wanted)
-{
-    return std::find(observations().begin(), observations().end(), wanted) != observations().end();
-}
-
 } // namespace
 
 KestrelApplication::KestrelApplication() = default;
@@ -44,7 +24,7 @@ KestrelApplication::~KestrelApplication()
 {
     KestrelApplication* self = this;
     gCurrent.compare_exchange_strong(self, nullptr);
-    std::erase_if(observations(), [this](const Observation& one) { return one.application == this; });
+    ApplicationObservers::instance().remove(*this);
 }
 
 KestrelApplication* KestrelApplication::getCurrentApplication()
@@ -117,13 +97,14 @@ const PegString& KestrelApplication::getTimeFormat() const
 
 void KestrelApplication::addObserver(PegThing* observer)
 {
-    if (observer != nullptr && !isObserved({this, observer}))
-        observations().push_back({this, observer});
+    if (observer != nullptr)
+        ApplicationObservers::instance().add(*this, *observer);
 }
 
 void KestrelApplication::removeObserver(PegThing* observer)
 {
-    std::erase_if(observations(), [observer](const Observation& one) { return one.observer == observer; });
+    if (observer != nullptr)
+        ApplicationObservers::instance().remove(*observer);
 }
 
 void KestrelApplication::notifyObservers(Change change)
@@ -132,10 +113,5 @@ void KestrelApplication::notifyObservers(Change change)
     message.wType = PM_APPLICATION_CHANGED;
     message.iData = change;
     message.pData = &mLocale;
-    for (const Observation& one : std::vector<Observation>(observations())) {
-        if (one.application != this || !isObserved(one))
-            continue;
-        message.pTarget = one.observer;
-        one.observer->Message(message);
-    }
+    ApplicationObservers::instance().tell(*this, message);
 }

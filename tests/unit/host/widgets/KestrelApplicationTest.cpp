@@ -4,6 +4,7 @@
 #include "toolkit/PegThing.h"
 #include "utilities/ICC.h"
 
+#include <ctime>
 #include <functional>
 #include <gmock/gmock.h>
 #include <memory>
@@ -189,6 +190,82 @@ TEST_F(KestrelApplicationTest, ApplicationMayDieWhileItTells)
     application->addObserver(&second);
     application->setLocale(text("x"));
     EXPECT_THAT(log, ElementsAre("a:x"));
+}
+
+TEST_F(KestrelApplicationTest, ObserverThatComesBackWhileOthersAreToldHearsOfTheNextChange)
+{
+    KestrelApplication application;
+    std::vector<std::string> log;
+    Observer first("a", log), second("b", log);
+    first.whenTold = [&] {
+        KestrelApplication::removeObserver(&second);
+        application.addObserver(&second);
+    };
+    application.addObserver(&first);
+    application.addObserver(&second);
+    application.setLocale(text("x"));
+    EXPECT_THAT(log, ElementsAre("a:x"));
+    first.whenTold = nullptr;
+    application.setLocale(text("y"));
+    EXPECT_THAT(log, ElementsAre("a:x", "a:y", "b:y"));
+}
+
+TEST_F(KestrelApplicationTest, ChangesThatAnObserverMakesAreToldWithinItsOwn)
+{
+    KestrelApplication application;
+    std::vector<std::string> log;
+    Observer first("a", log), second("b", log), third("c", log);
+    first.whenTold = [&] {
+        if (application.getLocale() == text("y"))
+            return;
+        application.setLocale(text("y"));
+        KestrelApplication::removeObserver(&second);
+    };
+    for (PegThing* observer : {&first, &second, &third})
+        application.addObserver(observer);
+    application.setLocale(text("x"));
+    EXPECT_THAT(log, ElementsAre("a:x", "a:y", "b:y", "c:y", "c:y"));
+}
+
+TEST_F(KestrelApplicationTest, TheLastObserverMayLeaveWithItsApplicationWhileItIsTold)
+{
+    auto application = std::make_unique<KestrelApplication>();
+    KestrelApplication other;
+    std::vector<std::string> log;
+    Observer observer("a", log);
+    observer.whenTold = [&] {
+        KestrelApplication::removeObserver(&observer);
+        application.reset();
+        other.addObserver(&observer);
+    };
+    application->addObserver(&observer);
+    application->setLocale(text("x"));
+    EXPECT_THAT(log, ElementsAre("a:x"));
+}
+
+/// What the calling thread has had of the processor.
+double secondsUsed()
+{
+    timespec time;
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
+}
+
+struct SilentObserver : PegThing {
+    int Message(const PegMessage&) override { return 0; }
+};
+
+TEST_F(KestrelApplicationTest, ManyObserversCostLittleEach)
+{
+    KestrelApplication application;
+    std::vector<SilentObserver> observers(100'000);
+    const double start = secondsUsed();
+    for (SilentObserver& observer : observers)
+        application.addObserver(&observer);
+    application.setLocale(text("x"));
+    for (SilentObserver& observer : observers)
+        KestrelApplication::removeObserver(&observer);
+    EXPECT_LT(secondsUsed() - start, 2);
 }
 
 } // namespace
