@@ -81,6 +81,12 @@ Displayable* ListBoxCore::owner() const
     return mOwner;
 }
 
+void ListBoxCore::followLanguage()
+{
+    if (!mApplication)
+        mApplication.emplace(*this);
+}
+
 bool ListBoxCore::hasTitle() const
 {
     return box() != nullptr && !box()->title().empty();
@@ -141,6 +147,7 @@ void ListBoxCore::select(ListItemPrivateIfc* row)
 
 void ListBoxCore::insert(ListItemPrivateIfc* row, int index)
 {
+    followLanguage();
     changeRows([&](KestrelListBox& list) { list.insert(itemOf(row), std::min(index, size())); });
 }
 
@@ -166,6 +173,7 @@ void ListBoxCore::setTitle(const std::string& title)
 
 void ListBoxCore::setTitle(TranslationInfo* title)
 {
+    followLanguage();
     mTitle.clear();
     mTranslatedTitle = title;
     showTitle();

@@ -7,6 +7,7 @@
 #include "widgets/KestrelListBox.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 
 class KestrelListBoxItem;
@@ -56,6 +57,10 @@ public:
     KestrelListBox* box() const { return *mSlot; }
     Displayable* owner() const;
     OwnershipIfc& ownership() { return mOwnership; }
+
+    /// Follows the language from now on. A list that has neither rows nor title nor a place on screen does not: an
+    /// exclusive list leaves one behind, which outlives its facade.
+    void followLanguage();
     bool hasTitle() const;
 
     /// Rows, without the one that goes back.
@@ -105,7 +110,7 @@ private:
     std::unique_ptr<KestrelListBoxItem> mBackRow; ///< null where there is none
     std::string mTitle;
     TranslationInfo* mTranslatedTitle = nullptr;
-    host::ApplicationWatch mApplication{*this};
+    std::optional<host::ApplicationWatch> mApplication;
     PegThing mFormerTickers; ///< holds them, never on screen: those with a facade may be changed and come back
 
     // Kept for the parts of a list that are still to be shown.

@@ -223,6 +223,7 @@ TYPED_TEST(ListBoxPrivateTest, rowsFollowTheLocale)
     TranslationInfo text("Calls", &translator);
     auto* const row = new ListItem(&text, true);
     this->owner.append(row);
+    this->list.append(row->getPrivateImplemetation());
     KestrelApplication::getCurrentApplication()->setLocale(ICC::fromUTF8toUNICODE("de"));
     EXPECT_EQ(row->getText(), "Anrufe");
 }
