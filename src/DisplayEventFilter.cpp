@@ -4,7 +4,7 @@
 #include "DisplayAPI/DisplayRequestEvent.h"
 #include "DisplayAPI/GuiRequestEvent.h"
 #include "DisplayAPI/Widget.h"
-#include "MainQueue.h"
+#include "RequestQueue.h"
 #include "presentation/PRESCPresentationManager.h"
 #include "toolkit/PegScreen.h"
 

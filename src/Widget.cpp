@@ -3,7 +3,7 @@
 #include "DisplayAPI/GuiRequestEvent.h"
 #include "DisplayEventFilter.h"
 #include "Log.h"
-#include "MainQueue.h"
+#include "RequestQueue.h"
 #include "toolkit/PegThing.h"
 #include "utilities/Semaphore.h"
 #include "utilities/Threadable.h"

@@ -1,4 +1,4 @@
-#include "MainQueue.h"
+#include "RequestQueue.h"
 
 #include "host/toolkit/MessagePool.h"
 #include "support/Replaced.h"
@@ -14,7 +14,7 @@ using testing::ElementsAre;
 
 namespace {
 
-class MainQueueTest : public test::SteppedTest {
+class RequestQueueTest : public test::SteppedTest {
 protected:
     void add(std::int32_t data, Place place = Place::TAIL)
     {
@@ -41,7 +41,7 @@ protected:
 
 // The free pool
 
-TEST_F(MainQueueTest, AMessageIsTakenFromTheHeadOfTheFreePool)
+TEST_F(RequestQueueTest, AMessageIsTakenFromTheHeadOfTheFreePool)
 {
     PegMessage* const head = gpFreePool->head;
     PegMessage* const second = head->Next;
@@ -53,7 +53,7 @@ TEST_F(MainQueueTest, AMessageIsTakenFromTheHeadOfTheFreePool)
     giveBackMessage(message);
 }
 
-TEST_F(MainQueueTest, TheLastMessageOfThePoolTakesTheTailWithIt)
+TEST_F(RequestQueueTest, TheLastMessageOfThePoolTakesTheTailWithIt)
 {
     PegMessage last;
     PegFreePool pool{&last, &last};
@@ -65,7 +65,7 @@ TEST_F(MainQueueTest, TheLastMessageOfThePoolTakesTheTailWithIt)
     EXPECT_EQ(pool.tail, nullptr);
 }
 
-TEST_F(MainQueueTest, AnEmptyPoolGetsANewMessageWithEmptyLinks)
+TEST_F(RequestQueueTest, AnEmptyPoolGetsANewMessageWithEmptyLinks)
 {
     const host::MessagePool::Drained drained;
     host::MessagePool::failAllocations(0);
@@ -79,13 +79,13 @@ TEST_F(MainQueueTest, AnEmptyPoolGetsANewMessageWithEmptyLinks)
     giveBackMessage(message);
 }
 
-TEST_F(MainQueueTest, AMessageIsNullWhenThereIsNoMemory)
+TEST_F(RequestQueueTest, AMessageIsNullWhenThereIsNoMemory)
 {
     const host::MessagePool::Drained drained;
     EXPECT_EQ(DisplayAPI::takeMessage(), nullptr);
 }
 
-TEST_F(MainQueueTest, AMessageIsGivenBackToTheTailOfThePool)
+TEST_F(RequestQueueTest, AMessageIsGivenBackToTheTailOfThePool)
 {
     PegMessage* const oldTail = gpFreePool->tail;
     PegMessage* const message = DisplayAPI::takeMessage();
@@ -97,7 +97,7 @@ TEST_F(MainQueueTest, AMessageIsGivenBackToTheTailOfThePool)
     EXPECT_EQ(message->Next, nullptr);
 }
 
-TEST_F(MainQueueTest, AMessageGivenToAnEmptyPoolIsItsHeadAndTail)
+TEST_F(RequestQueueTest, AMessageGivenToAnEmptyPoolIsItsHeadAndTail)
 {
     PegMessage message;
     PegFreePool pool;
@@ -109,7 +109,7 @@ TEST_F(MainQueueTest, AMessageGivenToAnEmptyPoolIsItsHeadAndTail)
     EXPECT_EQ(pool.tail, &message);
 }
 
-TEST_F(MainQueueTest, ThePoolIsOnlyTouchedUnderItsLock)
+TEST_F(RequestQueueTest, ThePoolIsOnlyTouchedUnderItsLock)
 {
     LockMessageQueue();
     PegMessage* taken = nullptr;
@@ -126,7 +126,7 @@ TEST_F(MainQueueTest, ThePoolIsOnlyTouchedUnderItsLock)
 
 // Putting in
 
-TEST_F(MainQueueTest, TheTailIsBehindEverythingThatIsQueued)
+TEST_F(RequestQueueTest, TheTailIsBehindEverythingThatIsQueued)
 {
     add(1);
     EXPECT_EQ(gtPegMainQueue->head, gtPegMainQueue->tail);
@@ -139,7 +139,7 @@ TEST_F(MainQueueTest, TheTailIsBehindEverythingThatIsQueued)
     gui.runAll();
 }
 
-TEST_F(MainQueueTest, TheHeadIsBeforeEverythingThatIsQueued)
+TEST_F(RequestQueueTest, TheHeadIsBeforeEverythingThatIsQueued)
 {
     add(1, Place::HEAD);
     EXPECT_EQ(gtPegMainQueue->head, gtPegMainQueue->tail);
@@ -151,7 +151,7 @@ TEST_F(MainQueueTest, TheHeadIsBeforeEverythingThatIsQueued)
     gui.runAll();
 }
 
-TEST_F(MainQueueTest, APooledLinkDoesNotLeakIntoTheQueue)
+TEST_F(RequestQueueTest, APooledLinkDoesNotLeakIntoTheQueue)
 {
     PegMessage* const message = DisplayAPI::takeMessage();
     ASSERT_NE(message->Next, nullptr) << "it still names its neighbour in the pool";
@@ -161,7 +161,7 @@ TEST_F(MainQueueTest, APooledLinkDoesNotLeakIntoTheQueue)
     gui.takeMessage();
 }
 
-TEST_F(MainQueueTest, TheLastWordIsSaidUnderTheMutex)
+TEST_F(RequestQueueTest, TheLastWordIsSaidUnderTheMutex)
 {
     bool mutexWasHeld = false;
     const auto admit = [&] {
@@ -175,7 +175,7 @@ TEST_F(MainQueueTest, TheLastWordIsSaidUnderTheMutex)
     gui.takeMessage();
 }
 
-TEST_F(MainQueueTest, AMessageThatIsRefusedStaysTheCallers)
+TEST_F(RequestQueueTest, AMessageThatIsRefusedStaysTheCallers)
 {
     add(1);
     PegMessage* const message = DisplayAPI::takeMessage();
@@ -191,7 +191,7 @@ TEST_F(MainQueueTest, AMessageThatIsRefusedStaysTheCallers)
 
 // Taking out
 
-TEST_F(MainQueueTest, UnlinkingTheHeadMovesTheHead)
+TEST_F(RequestQueueTest, UnlinkingTheHeadMovesTheHead)
 {
     add(1);
     add(2);
@@ -205,7 +205,7 @@ TEST_F(MainQueueTest, UnlinkingTheHeadMovesTheHead)
     gui.runAll();
 }
 
-TEST_F(MainQueueTest, UnlinkingTheTailMovesTheTail)
+TEST_F(RequestQueueTest, UnlinkingTheTailMovesTheTail)
 {
     add(1);
     add(2);
@@ -220,7 +220,7 @@ TEST_F(MainQueueTest, UnlinkingTheTailMovesTheTail)
     gui.runAll();
 }
 
-TEST_F(MainQueueTest, RemovingTakesEveryMatchAndKeepsTheRestInOrder)
+TEST_F(RequestQueueTest, RemovingTakesEveryMatchAndKeepsTheRestInOrder)
 {
     for (const int data : {7, 1, 7, 7, 2, 7})
         add(data);
@@ -238,7 +238,7 @@ TEST_F(MainQueueTest, RemovingTakesEveryMatchAndKeepsTheRestInOrder)
     gui.runAll();
 }
 
-TEST_F(MainQueueTest, RemovingTheFirstMatchLeavesTheOthers)
+TEST_F(RequestQueueTest, RemovingTheFirstMatchLeavesTheOthers)
 {
     for (const int data : {1, 7, 7})
         add(data);
@@ -250,7 +250,7 @@ TEST_F(MainQueueTest, RemovingTheFirstMatchLeavesTheOthers)
     gui.runAll();
 }
 
-TEST_F(MainQueueTest, AMissingQueueHasNothingToRemove)
+TEST_F(RequestQueueTest, AMissingQueueHasNothingToRemove)
 {
     const test::Replaced<PegMainQueue*> noQueue(gtPegMainQueue, nullptr);
     const auto any = [](const PegMessage&) { return true; };

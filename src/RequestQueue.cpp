@@ -1,4 +1,4 @@
-#include "MainQueue.h"
+#include "RequestQueue.h"
 
 namespace DisplayAPI {
 
