@@ -4,21 +4,50 @@
 
 namespace DisplayAPI {
 
-/// The log as one source file writes it: module and file are the same for all its lines.
+/// A text that is its own format: it takes no arguments, and a '%' of its own is doubled.
+class PlainText {
+public:
+    consteval PlainText(const char* text) : mText(text)
+    {
+        if (!isPlain(text))
+            throw "a text that takes arguments";
+    }
+
+    constexpr const char* text() const { return mText; }
+
+    static constexpr bool isPlain(const char* text)
+    {
+        for (; *text != '\0'; ++text)
+            if (*text == '%' && *++text != '%')
+                return false;
+        return true;
+    }
+
+private:
+    const char* mText;
+};
+
+/// The log as one source file writes it: module and file are the same for all its lines. Line numbers are part of the
+/// log's text: they stay when code moves.
 struct Log {
     const char* module;
     const char* file;
 
-    /// Line numbers are part of the log's text: they stay when code moves.
-    template <typename... Args>
-    void operator()(int level, int line, const char* text, Args... args) const
+    void operator()(int level, int line, PlainText text) const
     {
-        if (!loggingOnUni())
-            return;
-        if constexpr (sizeof...(args) == 0)
-            logAppUni(module, file, level, line, "%s", text);
-        else
-            logAppUni(module, file, level, line, text, args...);
+        // A compiler that cannot see the text warns of what PlainText has ruled out.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wformat-security"
+        if (loggingOnUni())
+            logAppUni(module, file, level, line, text.text());
+#pragma GCC diagnostic pop
+    }
+
+    template <typename First, typename... Rest>
+    void operator()(int level, int line, const char* text, First first, Rest... rest) const
+    {
+        if (loggingOnUni())
+            logAppUni(module, file, level, line, text, first, rest...);
     }
 };
 

@@ -28,7 +28,7 @@ std::atomic<unsigned int> WidgetImpl::m_GuiThreadId{0};
 struct Operation {
     Place place;
     int logLine;
-    const char* lost;
+    PlainText lost;
 };
 
 constexpr Operation POST{Place::TAIL, 247,
