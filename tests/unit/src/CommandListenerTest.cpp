@@ -2,6 +2,7 @@
 
 #include "CommandExecutor.h"
 #include "DisplayAPI/Command.h"
+#include "DisplayAPI/DisplayThreadPool.h"
 #include "host/utilities/Log.h"
 #include "utilities/Threadable.h"
 
@@ -35,6 +36,9 @@ public:
 
 class CommandListenerTest : public testing::Test {
 protected:
+    /// A thread that still ends a delivery would be the only one to deliver.
+    ~CommandListenerTest() override { delete DisplayAPI::DisplayThreadPool::instance(1); }
+
     /// Queues without delivering.
     void queue(CommandListener& target, Command& command, Displayable* displayable)
     {

@@ -1,6 +1,7 @@
 #include "DisplayAPI/ItemStateListener.h"
 
 #include "CommandExecutor.h"
+#include "DisplayAPI/DisplayThreadPool.h"
 #include "host/utilities/Log.h"
 #include "utilities/Threadable.h"
 
@@ -29,6 +30,9 @@ public:
 
 class ItemStateListenerTest : public testing::Test {
 protected:
+    /// A thread that still ends a delivery would be the only one to deliver.
+    ~ItemStateListenerTest() override { delete DisplayAPI::DisplayThreadPool::instance(1); }
+
     static void queue(Listener& target, Item* item) { CommandExecutor::postCommand(&target, item, false); }
     static void deliver() { CommandExecutor().run(); }
 
