@@ -7,7 +7,7 @@ set(HEADERS ${CMAKE_INSTALL_INCLUDEDIR}/displayapi-${PROJECT_VERSION_MAJOR})
 set(PACKAGE ${CMAKE_INSTALL_LIBDIR}/cmake/DisplayAPI)
 
 set_target_properties(displayapi PROPERTIES EXPORT_NAME DisplayAPI)
-foreach(part platform host languages variants phone)
+foreach(part platform host languages variants phone kit)
     set_target_properties(displayapi_${part} PROPERTIES EXPORT_NAME ${part})
 endforeach()
 
@@ -18,12 +18,13 @@ file(RELATIVE_PATH FROM_BIN_TO_LIB ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_
 set_target_properties(phone PROPERTIES INSTALL_RPATH $ORIGIN/${FROM_BIN_TO_LIB})
 
 install(TARGETS
-    displayapi displayapi_platform displayapi_host displayapi_languages displayapi_variants displayapi_phone
+    displayapi displayapi_platform displayapi_host displayapi_languages displayapi_variants displayapi_phone displayapi_kit
     EXPORT DisplayAPI
     INCLUDES DESTINATION ${HEADERS})
 install(TARGETS displayapi_web displayapi_script phone LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/ DESTINATION ${HEADERS} FILES_MATCHING PATTERN *.h)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/platform/ DESTINATION ${HEADERS} FILES_MATCHING PATTERN *.h)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/kit DESTINATION ${HEADERS} FILES_MATCHING PATTERN *.h)
 install(FILES ${PROJECT_SOURCE_DIR}/host/Phone.h DESTINATION ${HEADERS}/host)
 install(FILES ${PROJECT_SOURCE_DIR}/host/languages/Languages.h DESTINATION ${HEADERS}/host/languages)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/languages

@@ -8,8 +8,9 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 PUBLIC = ROOT / "include"
 PLATFORM = ROOT / "platform"
 SOURCE = ROOT / "src"
+KIT = ROOT / "kit"
 
-INCLUDE_OPTIONS = [f"-I{folder}" for folder in (PUBLIC, PLATFORM, SOURCE)]
+INCLUDE_OPTIONS = [f"-I{folder}" for folder in (PUBLIC, PLATFORM, SOURCE, ROOT)]
 
 
 def public_headers():
@@ -24,8 +25,12 @@ def source_headers():
     return [path.relative_to(SOURCE) for path in sorted(SOURCE.glob("*.h"))]
 
 
+def kit_headers():
+    return [path.relative_to(ROOT) for path in sorted(KIT.glob("*.h"))]
+
+
 def all_headers():
-    return public_headers() + platform_headers() + source_headers()
+    return public_headers() + platform_headers() + source_headers() + kit_headers()
 
 
 def compile_text(compiler, text, options, folder=None):

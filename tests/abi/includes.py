@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """The library depends on the standard library, POSIX threads and platform/ alone: looks at each #include of src/ and
-include/DisplayAPI, and of platform/, which may not know the host either."""
+include/DisplayAPI, of platform/, which may not know the host either, and of kit/, which knows what is public."""
 
 import re
 import sys
@@ -20,20 +20,22 @@ STANDARD = set("""
     variant vector version""".split())
 
 
-def is_allowed(quoted, name):
+def is_allowed(path, quoted, name):
     if not quoted:
         return name in STANDARD or name in SYSTEM
+    if compiler.KIT in path.parents:
+        return name.startswith("kit/") or any((folder / name).is_file() for folder in (compiler.PUBLIC, compiler.PLATFORM))
     return any((folder / name).is_file() for folder in (compiler.PUBLIC, compiler.SOURCE, compiler.PLATFORM))
 
 
 def offences(path):
     for number, line in enumerate(path.read_text().splitlines(), 1):
-        if (found := INCLUDE.match(line)) and not is_allowed(found.group(1) == '"', found.group(2)):
+        if (found := INCLUDE.match(line)) and not is_allowed(path, found.group(1) == '"', found.group(2)):
             yield f"{path.relative_to(compiler.ROOT)}:{number}: {line.strip()}"
 
 
 def main():
-    folders = (compiler.PUBLIC, compiler.SOURCE, compiler.PLATFORM)
+    folders = (compiler.PUBLIC, compiler.SOURCE, compiler.PLATFORM, compiler.KIT)
     paths = sorted(path for folder in folders for path in folder.rglob("*") if path.suffix in (".h", ".cpp", ".inc"))
     lines = [line for path in paths for line in offences(path)]
     print("\n".join(lines + [f"{len(paths)} files looked at"]))
