@@ -4,12 +4,14 @@
 #include "apps/deskphone/StatusLines.h"
 #include "apps/deskphone/Telephone.h"
 #include "host/clock/Clock.h"
+#include "kit/WayBack.h"
 
 #include <cstdio>
 
 namespace deskphone {
 
 using host::Clock;
+namespace kit = DisplayAPI::kit;
 
 namespace {
 
@@ -28,7 +30,8 @@ std::string durationText(std::int64_t ms)
 } // namespace
 
 Call::Call(Telephone& telephone, StatusLines& status)
-    : Screen(telephone, nullptr, "Call.title", std::make_unique<DisplayAPI::List>(LIST_WITH_A_WAY_BACK)),
+    : Screen(telephone, nullptr, "Call.title",
+             std::make_unique<DisplayAPI::List>(kit::listType(kit::WayBack::EVERYWHERE))),
       mStatus(status), mEnded(text("Call.ended", {[this] { return mDuration; }}))
 {
 }

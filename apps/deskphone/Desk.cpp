@@ -1,33 +1,11 @@
 #include "apps/deskphone/Desk.h"
 
-#include "DisplayAPI/Command.h"
 #include "apps/deskphone/WallClock.h"
-
-#include <semaphore>
+#include "kit/OffGuiThread.h"
 
 namespace deskphone {
 
 namespace {
-
-/// Waits until all commands that have been raised so far are dealt with: they are delivered one by one, in order.
-class Fence : public DisplayAPI::CommandListener {
-public:
-    void wait()
-    {
-        DisplayAPI::Command anything(std::string(), DisplayAPI::Command::ITEM);
-        postCommandAction(&anything, nullptr);
-        mReached->acquire();
-    }
-
-private:
-    void commandAction(DisplayAPI::Command*, DisplayAPI::Displayable*) override
-    {
-        const auto reached = mReached;
-        reached->release();
-    }
-
-    std::shared_ptr<std::binary_semaphore> mReached = std::make_shared<std::binary_semaphore>(0);
-};
 
 std::time_t ago(int days, int minutes)
 {
@@ -58,6 +36,11 @@ Desk::Desk(DisplayAPI::Display& display, const std::string& language)
     mTelephone.addLanguageListener([this] { mNews.setText(mNewsText.get()); });
 }
 
+Desk::~Desk()
+{
+    DisplayAPI::kit::offGuiThread([this] { close(); });
+}
+
 void Desk::open()
 {
     mMainMenu.open();
@@ -70,7 +53,6 @@ void Desk::close()
 {
     for (Screen* screen : screens())
         screen->stopListening();
-    Fence().wait();
     for (Screen* screen : screens())
         screen->stopWorking();
 }

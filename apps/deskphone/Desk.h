@@ -21,13 +21,14 @@ public:
     /// Begins in the language with this code.
     Desk(DisplayAPI::Display& display, const std::string& language);
 
+    /// First ends all that the screens do on other threads. REQUIRES: the display's loop does not run.
+    ~Desk();
+
     /// Shows the main menu. REQUIRES: the display is shown.
     void open();
 
-    /// Ends all that the screens do on other threads. Not on the GUI thread; its loop has to run meanwhile.
-    void close();
-
 private:
+    void close();
     std::vector<Screen*> screens();
 
     Telephone mTelephone;

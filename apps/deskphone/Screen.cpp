@@ -1,9 +1,11 @@
 #include "apps/deskphone/Screen.h"
 
+#include "DisplayAPI/Command.h"
 #include "DisplayAPI/Display.h"
 #include "DisplayAPI/List.h"
 #include "DisplayAPI/ListItem.h"
 #include "apps/deskphone/Telephone.h"
+#include "kit/WayBack.h"
 
 #include <utility>
 
@@ -12,24 +14,27 @@ namespace deskphone {
 using DisplayAPI::Command;
 using DisplayAPI::List;
 using DisplayAPI::ListItem;
+namespace kit = DisplayAPI::kit;
 
 namespace {
 
-constexpr int LIST_WITHOUT_A_WAY_BACK = 0;
+kit::WayBack wayBackTo(const Screen* parent)
+{
+    return parent != nullptr ? kit::WayBack::EVERYWHERE : kit::WayBack::NOWHERE;
+}
 
 } // namespace
 
 Screen::Screen(Telephone& telephone, Screen* parent, const std::string& title)
-    : Screen(telephone, parent, title,
-             std::make_unique<List>(parent != nullptr ? LIST_WITH_A_WAY_BACK : LIST_WITHOUT_A_WAY_BACK))
+    : Screen(telephone, parent, title, std::make_unique<List>(kit::listType(wayBackTo(parent))))
 {
 }
 
 Screen::Screen(Telephone& telephone, Screen* parent, const std::string& title, std::unique_ptr<List> list)
-    : mTelephone(telephone), mParent(parent), mList(std::move(list))
+    : mTelephone(telephone), mParent(parent), mList(std::move(list)),
+      mCommands(*mList, [this](Command* command) { answer(command); })
 {
     mList->setTitle(text(title).info());
-    mList->addCommandListener(this);
 }
 
 Screen::~Screen() = default;
@@ -40,12 +45,6 @@ void Screen::open()
     mTelephone.display().setCurrent(mList.get());
 }
 
-void Screen::stopListening()
-{
-    mList->removeCommandListener(this);
-    mList->size();
-}
-
 void Screen::stopWorking()
 {
     if (mBuilder.joinable())
@@ -53,7 +52,7 @@ void Screen::stopWorking()
 }
 
 /// Commands arrive later than they are raised: what the user did to a screen that has been left meanwhile is void.
-void Screen::commandAction(Command* command, DisplayAPI::Displayable*)
+void Screen::answer(Command* command)
 {
     if (mTelephone.display().getCurrent() != mList.get())
         return;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "DisplayAPI/CommandListener.h"
-#include "apps/deskphone/Text.h"
+#include "kit/Subscription.h"
+#include "kit/Text.h"
 
 #include <deque>
 #include <memory>
@@ -11,39 +11,38 @@
 #include <vector>
 
 namespace DisplayAPI {
+class Command;
 class List;
 class ListItem;
 } // namespace DisplayAPI
 
 namespace deskphone {
 
+using DisplayAPI::kit::Text;
+
 class Telephone;
 
 /// One screen of the telephone: a list, the thread that fills it, and what happens when the user chooses a row.
 ///
 /// Make and delete screens on the GUI thread. They answer the user on a thread of the library's.
-class Screen : public DisplayAPI::CommandListener {
+class Screen {
 public:
     /// `parent` is where left leads back to; null for the first screen. `title` is the key of a text.
     Screen(Telephone& telephone, Screen* parent, const std::string& title);
     Screen(const Screen&) = delete;
     Screen& operator=(const Screen&) = delete;
-    ~Screen() override;
+    virtual ~Screen();
 
     /// Shows the screen. The first time a thread of its own begins to fill it.
     void open();
 
-    /// From here on the user's commands are not heard. Not on the GUI thread.
-    void stopListening();
+    /// The user's commands are not heard after this. Not on the GUI thread.
+    void stopListening() { mCommands.end(); }
 
     /// Ends the thread that fills the screen. Not on the GUI thread, which the other one may be waiting for.
     virtual void stopWorking();
 
-    void commandAction(DisplayAPI::Command* command, DisplayAPI::Displayable* displayable) override;
-
 protected:
-    static constexpr int LIST_WITH_A_WAY_BACK = 3;
-
     /// For screens with another kind of list.
     Screen(Telephone& telephone, Screen* parent, const std::string& title, std::unique_ptr<DisplayAPI::List> list);
 
@@ -71,10 +70,13 @@ private:
     /// The user goes back.
     virtual void left() {}
 
+    void answer(DisplayAPI::Command* command);
+
     Telephone& mTelephone;
     Screen* mParent;
     std::deque<Text> mTexts; ///< before the list, whose rows show them
     std::unique_ptr<DisplayAPI::List> mList;
+    DisplayAPI::kit::Subscription mCommands;
     std::once_flag mIsBuilt;
     std::thread mBuilder;
 };

@@ -1,8 +1,10 @@
 #pragma once
 
-#include "apps/deskphone/Text.h"
+#include "kit/Text.h"
 
 namespace deskphone {
+
+using DisplayAPI::kit::Text;
 
 class Telephone;
 

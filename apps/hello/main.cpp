@@ -1,41 +1,25 @@
-#include "DisplayAPI/CommandListener.h"
-#include "DisplayAPI/Display.h"
 #include "DisplayAPI/List.h"
 #include "DisplayAPI/ListItem.h"
 #include "host/Phone.h"
-
-#include <thread>
+#include "kit/Phone.h"
+#include "kit/Subscription.h"
+#include "kit/WayBack.h"
 
 using namespace DisplayAPI;
 
-/// Answers the row that the user chooses. Called on a thread of the library's.
-class Greeter : public CommandListener {
-    void commandAction(Command* command, Displayable* screen) override
-    {
-        auto* list = static_cast<List*>(screen);
-        if (command == List::SELECT_COMMAND())
-            list->setTitle("Hello, " + list->getSelected()->getText() + "!");
-    }
-};
-
 int main()
 {
-    Widget::setGuiThreadId();
-    Display display(host::hardwareName(), "en_GB", "dd.mm.yyyy", "24h", host::isNarrow(), nullptr);
+    kit::Phone phone({.hardware = host::hardwareName(), .narrow = host::isNarrow()});
 
-    Greeter greeter;
-    List list(2);
-    list.addCommandListener(&greeter);
-    std::jthread builder([&list] {
+    List list(kit::listType(kit::WayBack::NOWHERE));
+    const kit::Subscription greeter(list, [&list](Command* command) {
+        if (command == List::SELECT_COMMAND())
+            list.setTitle("Hello, " + list.getSelected()->getText() + "!");
+    });
+
+    phone.run(list, [&list] {
         list.setTitle("Whom shall I greet?");
         for (const char* name : {"Ada", "Αλέξανδρος", "Zoë", "Мария", "日本"})
             list.append(name);
     });
-
-    display.show();
-    display.setCurrent(&list);
-    display.exec();
-
-    display.setCurrent(nullptr);
-    return 0;
 }

@@ -1,47 +1,15 @@
-#include "Fence.h"
 #include "Rows.h"
 
-#include "DisplayAPI/Command.h"
 #include "doubles/Answers.h"
 #include "doubles/Recorder.h"
 #include "support/GuiLoop.h"
 
-#include <gmock/gmock.h>
-
-#include <atomic>
-#include <chrono>
-#include <thread>
+#include <gtest/gtest.h>
 
 namespace {
 
-using DisplayAPI::Command;
-using DisplayAPI::CommandListener;
-using DisplayAPI::Displayable;
 using DisplayAPI::List;
 using DisplayAPI::ListItem;
-
-class SlowListener : public CommandListener {
-public:
-    std::atomic<int> heard{0};
-
-private:
-    void commandAction(Command*, Displayable*) override
-    {
-        std::this_thread::sleep_for(std::chrono::milliseconds(2));
-        ++heard;
-    }
-};
-
-TEST(ThreadsTest, AFenceIsReachedBehindEverythingThatWasQueued)
-{
-    SlowListener listener;
-    Command command("", Command::OK);
-    Fence fence;
-    for (int i = 0; i < 20; ++i)
-        listener.postCommandAction(&command, nullptr);
-    fence.wait();
-    EXPECT_EQ(listener.heard, 20);
-}
 
 TEST(ThreadsTest, ARowIsRewrittenInItsPlace)
 {
