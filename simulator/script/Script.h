@@ -22,6 +22,7 @@ struct Step {
 struct Script {
     std::vector<Step> steps;
     std::vector<std::string> errors; ///< one sentence each, with file and line
+    std::string name = "script";     ///< the file's, without folder and ending
 };
 
 } // namespace simulator

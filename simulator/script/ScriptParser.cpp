@@ -13,6 +13,7 @@ namespace simulator {
 
 namespace {
 
+constexpr std::string_view BYTE_ORDER_MARK = "\xEF\xBB\xBF";
 constexpr std::int64_t LONGEST_WAIT = 24 * 60 * 60 * 1000;
 
 struct Mistake : std::runtime_error {
@@ -202,6 +203,9 @@ void locateExpectedScreens(Script& script, const std::string& fileName, std::str
 Script parseScript(const std::string& fileName, std::string_view text)
 {
     Script script;
+    script.name = std::filesystem::path(fileName).stem();
+    if (text.starts_with(BYTE_ORDER_MARK))
+        text.remove_prefix(BYTE_ORDER_MARK.size());
     for (int line = 1; !text.empty(); ++line) {
         const auto end = std::min(text.find('\n'), text.size());
         const std::string_view content = trimmed(text.substr(0, end));

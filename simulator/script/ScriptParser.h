@@ -8,7 +8,8 @@
 namespace simulator {
 
 /// Reads the whole script before any of it runs. One command a line; empty lines and lines that begin with # are
-/// nothing:
+/// nothing,
+/// nor is a byte order mark:
 ///
 ///     key NAME             press and release a key
 ///     hold NAME MS         keep it down for that long

@@ -38,18 +38,42 @@ ScriptRunner::ScriptRunner(ScriptedPhone& phone, ScriptReport& report, std::file
 
 void ScriptRunner::run(const Script& script)
 {
-    for (const Step& step : script.steps) {
-        mLine = step.line;
-        mReport.at(mLine);
-        try {
-            settle();
-            perform(step);
-        } catch (const StepFailed& failure) {
-            mReport.failed(step.line, failure.what());
-            return;
-        }
+    try {
+        for (const Step& step : script.steps)
+            runStep(step);
+    } catch (const StepFailed& failure) {
+        if (!hasEndedProgram(script))
+            return mReport.failed(mLine, failure.what() + keepScreen(script.name));
     }
     mReport.passed();
+}
+
+void ScriptRunner::runStep(const Step& step)
+{
+    mLine = step.line;
+    mKeysAreThrough = false;
+    mReport.at(mLine);
+    settle();
+    perform(step);
+}
+
+bool ScriptRunner::hasEndedProgram(const Script& script) const
+{
+    return mKeysAreThrough && mLine == script.steps.back().line && !mPhone.isThere();
+}
+
+/// Returns the sentence that says where it is.
+std::string ScriptRunner::keepScreen(const std::string& name)
+{
+    const std::filesystem::path picture = mFolder / (name + "-failed.png");
+    const std::filesystem::path text = mFolder / (name + "-failed.txt");
+    try {
+        writePicture(picture);
+        write(text, mStandsStill ? screenText({}, mPhone.picture().texts) : screen());
+    } catch (const StepFailed&) {
+        return "the screen cannot be kept in " + mFolder.string();
+    }
+    return "the screen is kept as " + picture.string() + " and " + text.string();
 }
 
 void ScriptRunner::perform(const Step& step)
@@ -62,7 +86,7 @@ void ScriptRunner::perform(const Step& step)
     case ADVANCE: return advance(step);
     case EXPECT: return expect(step, true);
     case EXPECT_NOT: return expect(step, false);
-    case SCREENSHOT: return writePicture(step);
+    case SCREENSHOT: return writePicture(mFolder / step.text);
     case DUMP: return write(mFolder / step.text, screen());
     case DUMP_JSON: return write(mFolder / step.text, screenJson(mPhone.picture(), nameOf(host::variant())));
     case COMPARE: return compare(step);
@@ -71,8 +95,9 @@ void ScriptRunner::perform(const Step& step)
 
 void ScriptRunner::pressAll(const Step& step)
 {
-    for (const PegKey key : step.keys) {
+    for (const PegKey& key : step.keys) {
         down(key);
+        mKeysAreThrough = &key == &step.keys.back();
         up(key);
         settle();
     }
@@ -91,6 +116,7 @@ void ScriptRunner::hold(const Step& step)
         }
     }
     mPhone.pass(left);
+    mKeysAreThrough = true;
     up(key);
     settle();
 }
@@ -134,9 +160,9 @@ void ScriptRunner::update(const Step& step)
     write(isOther ? ownScreen(step.text, nameOf(host::variant())) : std::filesystem::path(step.text), shown);
 }
 
-void ScriptRunner::writePicture(const Step& step)
+void ScriptRunner::writePicture(const std::filesystem::path& path)
 {
-    const std::string error = host::writePng(mPhone.picture(), mFolder / step.text);
+    const std::string error = host::writePng(mPhone.picture(), path);
     if (!error.empty())
         fail(error);
 }
@@ -179,22 +205,24 @@ void ScriptRunner::up(PegKey key)
 
 void ScriptRunner::settle()
 {
-    bool stoodStill = false;
-    const auto standsStill = [&] {
-        stoodStill = true;
+    const auto standsStill = [this] {
+        mStandsStill = true;
         mReport.note(mLine, STANDSTILL_NOTE);
     };
-    if (mPhone.settle(standsStill))
+    mStandsStill = false;
+    if (mPhone.settle(standsStill)) {
+        mStandsStill = false;
         return;
+    }
     if (!mPhone.isThere())
         fail("the application has ended");
-    fail(std::string("the application does not come to rest") + (stoodStill ? ": its GUI thread stands still" : ""));
+    fail(std::string("the application does not come to rest") + (mStandsStill ? ": its GUI thread stands still" : ""));
 }
 
 void ScriptRunner::fail(const std::string& reason)
 {
     const std::string rows = describe(rowsOf(mPhone.picture().texts));
-    throw StepFailed(reason + (rows.empty() ? "\nthe screen shows no text" : "\nthe screen shows:\n" + rows));
+    throw StepFailed(reason + (rows.empty() ? "\nthe screen shows no text\n" : "\nthe screen shows:\n" + rows));
 }
 
 } // namespace simulator

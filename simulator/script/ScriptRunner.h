@@ -14,14 +14,18 @@ namespace simulator {
 class ScriptRunner {
 public:
     /// Pictures and dumps go into `folder`. An expectation is given `patience` of real time to come true. Where screens
-    /// are updated, comparisons write their files, but no panel overwrites what another one shows.
+    /// are updated, comparisons write their files, but no panel overwrites what another one shows. A script that fails
+    /// leaves the screen in `folder` as NAME-failed.png and NAME-failed.txt.
     ScriptRunner(ScriptedPhone& phone, ScriptReport& report, std::filesystem::path folder,
                  std::chrono::milliseconds patience);
 
-    /// Stops at the first step that fails.
+    /// Stops at the first step that fails. The last step's keys may end the program.
     void run(const Script& script);
 
 private:
+    void runStep(const Step& step);
+    bool hasEndedProgram(const Script& script) const;
+    std::string keepScreen(const std::string& name);
     void perform(const Step& step);
     void pressAll(const Step& step);
     void hold(const Step& step);
@@ -29,7 +33,7 @@ private:
     void advance(const Step& step);
     void compare(const Step& step);
     void update(const Step& step);
-    void writePicture(const Step& step);
+    void writePicture(const std::filesystem::path& path);
     std::string screen();
     std::string read(const std::filesystem::path& path);
     void write(const std::filesystem::path& path, const std::string& text);
@@ -43,6 +47,8 @@ private:
     std::filesystem::path mFolder;
     std::chrono::milliseconds mPatience;
     int mLine = 0;
+    bool mKeysAreThrough = false; ///< all keys of the present step have gone down
+    bool mStandsStill = false;    ///< the GUI thread has not come back
 };
 
 } // namespace simulator

@@ -43,6 +43,13 @@ TEST(ScriptParser, KeyIsPressedOnce)
     EXPECT_THAT(step.keys, ElementsAre(PK_VOLUME_UP));
 }
 
+TEST(ScriptParser, ByteOrderMarkIsNothing)
+{
+    EXPECT_THAT(onlyStep("\xEF\xBB\xBFkey ok").keys, ElementsAre(PK_OK));
+    EXPECT_THAT(onlyStep("\xEF\xBB\xBF# comment\nkey ok").keys, ElementsAre(PK_OK));
+    expectMistake("key \xEF\xBB\xBFok", "there is no key");
+}
+
 TEST(ScriptParser, HoldHasAKeyAndATime)
 {
     const Step step = onlyStep("hold 5 800");
