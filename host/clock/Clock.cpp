@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstdio>
 #include <cstdlib>
 #include <string_view>
 #include <time.h>
@@ -23,6 +24,15 @@ std::int64_t realNow()
     timespec now;
     clock_gettime(CLOCK_MONOTONIC, &now);
     return now.tv_sec * 1000LL + now.tv_nsec / 1'000'000;
+}
+
+bool isVirtualWanted()
+{
+    const char* const variable = std::getenv("DISPLAYAPI_CLOCK");
+    const std::string_view wanted = variable != nullptr ? variable : "";
+    if (wanted != "virtual" && wanted != "real" && !wanted.empty())
+        std::fprintf(stderr, "DISPLAYAPI_CLOCK is '%s'; it may be real or virtual\n", variable);
+    return wanted == "virtual";
 }
 
 } // namespace
@@ -58,11 +68,7 @@ Clock& Clock::instance()
     return *clock;
 }
 
-Clock::Clock()
-{
-    const char* wanted = std::getenv("DISPLAYAPI_CLOCK");
-    mVirtual = wanted && std::string_view(wanted) == "virtual";
-}
+Clock::Clock() : mVirtual(isVirtualWanted()) {}
 
 std::int64_t Clock::now() const
 {

@@ -23,7 +23,7 @@ public:
     std::int64_t now() const;
 
     /// Stops real time: from here on only advance() moves it. Before the toolkit starts. The environment variable
-    /// DISPLAYAPI_CLOCK=virtual does the same at process start.
+    /// DISPLAYAPI_CLOCK=virtual does the same at process start; what is neither that nor "real" is told on stderr.
     void makeVirtual();
     void makeReal();
     bool isVirtual() const;
@@ -78,7 +78,7 @@ private:
     mutable std::mutex mMutex;
     std::condition_variable mMoved;
     std::condition_variable mSettled;
-    std::atomic<bool> mVirtual{false};
+    std::atomic<bool> mVirtual;
     std::atomic<std::int64_t> mVirtualNow{0};
     std::atomic<std::int64_t> mTimerDue{NEVER};
     std::atomic<std::int64_t> mLeftToLoop{0}; ///< timers up to this moment are the loop's to go to

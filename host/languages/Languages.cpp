@@ -4,6 +4,7 @@
 #include "utilities/Logging.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 #include <dlfcn.h>
 #include <filesystem>
@@ -44,6 +45,16 @@ bool isCatalogue(const fs::directory_entry& entry)
     return file.extension() == ENDING && isCode(file.stem().string()) && entry.is_regular_file(error);
 }
 
+void tellIfUseless(const char* folder)
+{
+    std::error_code error;
+    const fs::directory_iterator entries(folder, error);
+    if (error)
+        std::fprintf(stderr, "DISPLAYAPI_LANGUAGES is '%s'; there is no such folder\n", folder);
+    else if (std::none_of(begin(entries), end(entries), isCatalogue))
+        std::fprintf(stderr, "DISPLAYAPI_LANGUAGES is '%s'; that folder has no catalogue\n", folder);
+}
+
 } // namespace
 
 Languages::Languages(std::string folder) : mFolder(std::move(folder)) {}
@@ -52,8 +63,10 @@ Languages::~Languages() = default;
 
 std::string Languages::folder()
 {
-    if (const char* const asked = std::getenv("DISPLAYAPI_LANGUAGES"); asked != nullptr && *asked != '\0')
+    if (const char* const asked = std::getenv("DISPLAYAPI_LANGUAGES"); asked != nullptr && *asked != '\0') {
+        tellIfUseless(asked);
         return asked;
+    }
     Dl_info info;
     if (dladdr(reinterpret_cast<void*>(&Languages::folder), &info) == 0)
         return BESIDE;

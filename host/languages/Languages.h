@@ -30,7 +30,7 @@ public:
     ~Languages() override;
 
     /// Where the telephone's own catalogues lie: DISPLAYAPI_LANGUAGES of the environment, else beside this shared
-    /// object.
+    /// object. A folder of the environment that has no catalogue is told on stderr.
     static std::string folder();
 
     /// In the order of their codes. Reads all catalogues.

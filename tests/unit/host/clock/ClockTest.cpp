@@ -30,6 +30,19 @@ TEST(Clock, EnvironmentMakesItVirtual)
     unsetenv("DISPLAYAPI_CLOCK");
 }
 
+TEST(Clock, MistypedEnvironmentIsTold)
+{
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    setenv("DISPLAYAPI_CLOCK", "virtaul", 1);
+    EXPECT_EXIT(std::_Exit(Clock::instance().isVirtual() ? 0 : 1), testing::ExitedWithCode(1),
+                "DISPLAYAPI_CLOCK is 'virtaul'; it may be real or virtual");
+    for (const char* fine : {"", "real"}) {
+        setenv("DISPLAYAPI_CLOCK", fine, 1);
+        EXPECT_EXIT(std::_Exit(Clock::instance().isVirtual() ? 0 : 1), testing::ExitedWithCode(1), "^$");
+    }
+    unsetenv("DISPLAYAPI_CLOCK");
+}
+
 class VirtualClockTest : public testing::Test {
 protected:
     VirtualClockTest()

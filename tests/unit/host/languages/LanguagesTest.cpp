@@ -307,6 +307,22 @@ TEST_F(LanguagesTest, EnvironmentNamesTheFolder)
     EXPECT_EQ(Languages().available().size(), 5u);
 }
 
+TEST_F(LanguagesTest, FolderOfTheEnvironmentWithoutCataloguesIsTold)
+{
+    const auto saidOf = [](const std::string& asked) {
+        setenv("DISPLAYAPI_LANGUAGES", asked.c_str(), 1);
+        testing::internal::CaptureStderr();
+        EXPECT_EQ(Languages::folder(), asked);
+        unsetenv("DISPLAYAPI_LANGUAGES");
+        return testing::internal::GetCapturedStderr();
+    };
+    EXPECT_EQ(saidOf("/nowhere"), "DISPLAYAPI_LANGUAGES is '/nowhere'; there is no such folder\n");
+    const std::string empty = folder / "empty";
+    fs::create_directory(empty);
+    EXPECT_EQ(saidOf(empty), "DISPLAYAPI_LANGUAGES is '" + empty + "'; that folder has no catalogue\n");
+    EXPECT_EQ(saidOf(folder), "");
+}
+
 TEST_F(LanguagesTest, ThreadsLookUpWhileTheLanguageChanges)
 {
     Languages languages(folder);
