@@ -2,10 +2,20 @@
 
 #include <algorithm>
 #include <array>
+#include <cctype>
+#include <string>
 
 namespace simulator {
 
 namespace {
+
+/// Names of machines are the same in capitals.
+std::string lowered(std::string_view text)
+{
+    std::string lower(text);
+    std::ranges::transform(lower, lower.begin(), [](unsigned char c) { return c < 0x80 ? std::tolower(c) : c; });
+    return lower;
+}
 
 std::string_view withoutPort(std::string_view host)
 {
@@ -17,7 +27,7 @@ std::string_view withoutPort(std::string_view host)
 bool isThisMachine(std::string_view host)
 {
     static constexpr std::array<std::string_view, 3> NAMES = {"127.0.0.1", "localhost", "[::1]"};
-    return std::ranges::find(NAMES, withoutPort(host)) != NAMES.end();
+    return std::ranges::find(NAMES, lowered(withoutPort(host))) != NAMES.end();
 }
 
 std::string_view tokenIn(std::string_view query)
@@ -47,7 +57,7 @@ bool Admission::allowsPage(const Caller& caller) const
 
 bool Admission::allowsSocket(const Caller& caller) const
 {
-    return allowsPage(caller) && caller.origin == "http://" + std::string(caller.host);
+    return allowsPage(caller) && lowered(caller.origin) == "http://" + lowered(caller.host);
 }
 
 } // namespace simulator

@@ -21,10 +21,10 @@ int toPort(std::string_view text)
     return isPort ? port : 0;
 }
 
-bool isAddress(const std::string& text)
+bool isAddress(int family, const std::string& text)
 {
     in6_addr parsed;
-    return inet_pton(AF_INET, text.c_str(), &parsed) == 1 || inet_pton(AF_INET6, text.c_str(), &parsed) == 1;
+    return inet_pton(family, text.c_str(), &parsed) == 1;
 }
 
 /// Characters that need no escape in an address of the web.
@@ -34,22 +34,16 @@ bool isToken(const std::string& text)
     return text.size() >= SHORTEST_TOKEN && text.size() <= LONGEST_TOKEN && std::ranges::all_of(text, isPlain);
 }
 
-bool isAnyAddress(const std::string& address)
-{
-    return address == "0.0.0.0" || address == "::";
-}
-
 } // namespace
 
 std::string Endpoint::addressAndPort() const
 {
-    const bool isV6 = address.find(':') != std::string::npos;
-    return (isV6 ? "[" + address + "]" : address) + ":" + std::to_string(port);
+    return address + ":" + std::to_string(port);
 }
 
 std::string Endpoint::url() const
 {
-    const Endpoint visible{isAnyAddress(address) ? "127.0.0.1" : address, port, token};
+    const Endpoint visible{address == "0.0.0.0" ? "127.0.0.1" : address, port, token};
     return "http://" + visible.addressAndPort() + "/" + (token.empty() ? "" : "?token=" + token);
 }
 
@@ -60,7 +54,9 @@ std::string endpointError(const std::string& port, const std::optional<std::stri
         return "The port must be a number from 1 to 65535, not '" + port + "'.";
     if (listen.has_value() != token.has_value())
         return "--listen ADDRESS and --token TOKEN go together: who else may press the keys needs to know a secret.";
-    if (listen && !isAddress(*listen))
+    if (listen && isAddress(AF_INET6, *listen))
+        return "'" + *listen + "' is an IPv6 address; the page's server knows IPv4 only, such as 0.0.0.0.";
+    if (listen && !isAddress(AF_INET, *listen))
         return "'" + *listen + "' is no IP address to listen on.";
     if (token && !isToken(*token))
         return "The token must have 8 to 128 letters, digits, - or _.";

@@ -8,10 +8,10 @@ namespace simulator {
 /// Where the page is served, and to whom. Without a token only to this machine.
 struct Endpoint {
     std::string address = "127.0.0.1";
-    int port = 8080;
+    int port = 8080; ///< 0 while it has not been chosen
     std::string token;
 
-    /// "127.0.0.1:8080", "[::]:8080"
+    /// "127.0.0.1:8080"
     std::string addressAndPort() const;
 
     /// What the user opens.
@@ -22,7 +22,7 @@ struct Endpoint {
 std::string endpointError(const std::string& port, const std::optional<std::string>& listen,
                           const std::optional<std::string>& token);
 
-/// REQUIRES: endpointError() of the same arguments is empty.
+/// REQUIRES: endpointError() of the same arguments is empty, but for a port 0.
 Endpoint makeEndpoint(const std::string& port, const std::optional<std::string>& listen,
                       const std::optional<std::string>& token);
 

@@ -13,6 +13,7 @@ namespace {
 
 constexpr std::size_t MOST_PAGES = 16;
 constexpr std::size_t LONGEST_MESSAGE = 64;
+constexpr std::size_t LONGEST_PING = 125;
 constexpr int KIND_OF_MESSAGE = 0x0F;
 constexpr int LAST_PIECE = 0x80;
 
@@ -48,8 +49,8 @@ std::vector<const char*> optionsFor(const std::string& addressAndPort)
             "2000",
             "websocket_timeout_ms",
             "5000",
-            "enable_websocket_ping_pong",
-            "yes",
+            "access_control_allow_origin",
+            "",
             "tcp_nodelay",
             "1",
             nullptr};
@@ -72,8 +73,9 @@ void visitUntil(const std::stop_token& stop, const Endpoint& endpoint)
 
 } // namespace
 
-WebServer::WebServer(const Endpoint& endpoint, Broadcaster& broadcaster, KeyPad& keys)
-    : mEndpoint(endpoint), mAdmission(endpoint), mBroadcaster(broadcaster), mKeys(keys)
+WebServer::WebServer(const Endpoint& endpoint, Broadcaster& broadcaster, KeyPad& keys,
+                     std::chrono::milliseconds heartbeat)
+    : mEndpoint(endpoint), mAdmission(endpoint), mBroadcaster(broadcaster), mKeys(keys), mHeartbeat(heartbeat)
 {
     const std::string addressAndPort = endpoint.addressAndPort();
     const auto options = optionsFor(addressAndPort);
@@ -127,14 +129,19 @@ void WebServer::connected(mg_connection* connection, void* self)
 {
     auto page = std::make_shared<PageConnection>(connection);
     mg_set_user_connection_data(connection, page.get());
-    static_cast<WebServer*>(self)->mBroadcaster.add(std::move(page));
+    auto* server = static_cast<WebServer*>(self);
+    server->mHeartbeat.add(connection);
+    server->mBroadcaster.add(std::move(page));
 }
 
 int WebServer::received(mg_connection* connection, int bits, char* data, std::size_t size, void* self)
 {
     const int kind = bits & KIND_OF_MESSAGE;
-    if (kind == MG_WEBSOCKET_OPCODE_PING || kind == MG_WEBSOCKET_OPCODE_PONG)
+    static_cast<WebServer*>(self)->mHeartbeat.heard(connection);
+    if (kind == MG_WEBSOCKET_OPCODE_PONG)
         return 1;
+    if (kind == MG_WEBSOCKET_OPCODE_PING)
+        return size <= LONGEST_PING && mg_websocket_write(connection, MG_WEBSOCKET_OPCODE_PONG, data, size) > 0 ? 1 : 0;
     auto* page = static_cast<PageConnection*>(mg_get_user_connection_data(connection));
     const bool isWhole = kind == MG_WEBSOCKET_OPCODE_TEXT && (bits & LAST_PIECE) != 0;
     const bool isGood = page != nullptr && !page->isBroken() && isWhole && size <= LONGEST_MESSAGE;
@@ -164,6 +171,7 @@ void WebServer::closed(const mg_connection* connection, void* self)
     if (page == nullptr)
         return;
     page->detach();
+    server->mHeartbeat.remove(connection);
     server->mKeys.leave(page);
     server->mBroadcaster.remove(page);
 }

@@ -3,6 +3,7 @@
 #include "simulator/web/Admission.h"
 #include "simulator/web/Broadcaster.h"
 #include "simulator/web/Endpoint.h"
+#include "simulator/web/Heartbeat.h"
 #include "simulator/web/KeyPad.h"
 
 #include <string>
@@ -15,7 +16,9 @@ namespace simulator {
 /// Serves the page and its socket. The broadcaster and the key pad have to outlive it.
 class WebServer {
 public:
-    WebServer(const Endpoint& endpoint, Broadcaster& broadcaster, KeyPad& keys);
+    /// `heartbeat`: between two pings.
+    WebServer(const Endpoint& endpoint, Broadcaster& broadcaster, KeyPad& keys,
+              std::chrono::milliseconds heartbeat = Heartbeat::PAUSE);
     WebServer(const WebServer&) = delete;
     WebServer& operator=(const WebServer&) = delete;
 
@@ -38,6 +41,7 @@ private:
     Admission mAdmission;
     Broadcaster& mBroadcaster;
     KeyPad& mKeys;
+    Heartbeat mHeartbeat;
     mg_context* mContext = nullptr;
     std::string mError;
 };

@@ -13,7 +13,8 @@ const Admission WITH_TOKEN(Endpoint{"0.0.0.0", 8080, "secret_42"});
 
 TEST(Admission, PageIsForNamesOfThisMachine)
 {
-    for (const char* host : {"127.0.0.1:8080", "localhost:8080", "localhost", "[::1]:8080", "[::1]", "localhost:9000"})
+    for (const char* host : {"127.0.0.1:8080", "localhost:8080", "localhost", "[::1]:8080", "[::1]", "localhost:9000",
+                             "LOCALHOST:8080", "LocalHost"})
         EXPECT_TRUE(LOCAL.allowsPage({host, "", ""})) << host;
 }
 
@@ -27,6 +28,7 @@ TEST(Admission, PageIsNotForOtherNamesThatPointHere)
 TEST(Admission, SocketIsForThePageFromHere)
 {
     EXPECT_TRUE(LOCAL.allowsSocket({"localhost:8080", "http://localhost:8080", ""}));
+    EXPECT_TRUE(LOCAL.allowsSocket({"LOCALHOST:8080", "http://localhost:8080", ""}));
 }
 
 TEST(Admission, SocketIsNotForPagesFromElsewhere)

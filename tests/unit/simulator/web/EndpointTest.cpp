@@ -49,7 +49,6 @@ TEST(Endpoint, OtherAddressCarriesItsToken)
 {
     EXPECT_EQ(makeEndpoint("80", "10.0.0.7", "secret_42").url(), "http://10.0.0.7:80/?token=secret_42");
     EXPECT_EQ(makeEndpoint("80", "0.0.0.0", "secret_42").url(), "http://127.0.0.1:80/?token=secret_42");
-    EXPECT_EQ(makeEndpoint("80", "::1", "secret_42").addressAndPort(), "[::1]:80");
 }
 
 TEST(Endpoint, PortIsANumberFrom1To65535)
@@ -69,14 +68,20 @@ TEST(Endpoint, AddressAndTokenGoTogether)
 
 TEST(Endpoint, AddressIsNumeric)
 {
-    for (const char* address : {"", "localhost", "1.2.3", "1.2.3.4.5", "[::1]"})
+    for (const char* address : {"", "localhost", "1.2.3", "1.2.3.4.5", "[::1]", "::1::"})
         EXPECT_THAT(endpointError("80", address, "secret_42"), HasSubstr("is no IP address")) << address;
+}
+
+TEST(Endpoint, AddressThatCannotBeServedIsRefused)
+{
+    for (const char* address : {"::", "::1", "fe80::1", "::ffff:127.0.0.1"})
+        EXPECT_THAT(endpointError("80", address, "secret_42"), HasSubstr("knows IPv4 only")) << address;
 }
 
 TEST(Endpoint, TokenNeedsNoEscape)
 {
     for (const char* token : {"", "short", "with space", "with&ersand", "mit-ümlaut"})
-        EXPECT_THAT(endpointError("80", "::1", token), HasSubstr("The token must have")) << token;
+        EXPECT_THAT(endpointError("80", "0.0.0.0", token), HasSubstr("The token must have")) << token;
 }
 
 TEST(PortCheck, BusyPortIsTold)
@@ -93,6 +98,21 @@ TEST(PortCheck, FreePortIsFine)
     const Endpoint endpoint = makeEndpoint(std::to_string(port), {}, {});
     EXPECT_EQ(portProblem(endpoint), "");
     EXPECT_FALSE(isServed(endpoint));
+}
+
+TEST(PortCheck, FreePortCanBeServed)
+{
+    Endpoint endpoint = makeEndpoint("0", {}, {});
+    endpoint.port = freePort(endpoint);
+    EXPECT_GT(endpoint.port, 0);
+    EXPECT_EQ(portProblem(endpoint), "");
+}
+
+TEST(PortCheck, FreePortOfAForeignAddressIsNone)
+{
+    const Endpoint endpoint = makeEndpoint("0", "192.0.2.1", "secret_42");
+    EXPECT_EQ(freePort(endpoint), 0);
+    EXPECT_THAT(portProblem(endpoint), HasSubstr("does not have the address"));
 }
 
 TEST(PortCheck, ForeignAddressIsTold)

@@ -1,0 +1,81 @@
+#include "simulator/web/PeerSocket.h"
+
+#include <charconv>
+#include <civetweb.h>
+#include <fcntl.h>
+#include <filesystem>
+#include <netdb.h>
+#include <netinet/in.h>
+#include <string>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace simulator {
+
+namespace {
+
+constexpr int NONE = -1;
+
+using GetName = int (*)(int, sockaddr*, socklen_t*);
+
+/// "127.0.0.1 8080", as the server library has it; empty where the descriptor is no connected socket.
+std::string nameOf(int descriptor, GetName getName)
+{
+    sockaddr_storage address{};
+    socklen_t size = sizeof address;
+    char host[NI_MAXHOST];
+    char port[NI_MAXSERV];
+    auto* const any = reinterpret_cast<sockaddr*>(&address);
+    if (getName(descriptor, any, &size) != 0 ||
+        getnameinfo(any, size, host, sizeof host, port, sizeof port, NI_NUMERICHOST | NI_NUMERICSERV) != 0)
+        return {};
+    return std::string(host) + ' ' + port;
+}
+
+bool belongsTo(int descriptor, const mg_request_info& request)
+{
+    return nameOf(descriptor, getpeername) == request.remote_addr + (' ' + std::to_string(request.remote_port)) &&
+           nameOf(descriptor, getsockname).ends_with(' ' + std::to_string(request.server_port));
+}
+
+/// Looks again at the copy: meanwhile the number may have become another one's.
+int copyIfOf(int descriptor, const mg_request_info& request)
+{
+    const int copy = belongsTo(descriptor, request) ? fcntl(descriptor, F_DUPFD_CLOEXEC, 0) : NONE;
+    if (copy == NONE || belongsTo(copy, request))
+        return copy;
+    close(copy);
+    return NONE;
+}
+
+int numberOf(const std::filesystem::path& entry)
+{
+    const std::string name = entry.filename();
+    int number = NONE;
+    std::from_chars(name.data(), name.data() + name.size(), number);
+    return number;
+}
+
+} // namespace
+
+PeerSocket::PeerSocket(const mg_connection* connection)
+{
+    const mg_request_info& request = *mg_get_request_info(connection);
+    std::error_code error;
+    for (const auto& entry : std::filesystem::directory_iterator("/proc/self/fd", error))
+        if ((mDescriptor = copyIfOf(numberOf(entry.path()), request)) != NONE)
+            return;
+}
+
+PeerSocket::~PeerSocket()
+{
+    if (mDescriptor != NONE)
+        close(mDescriptor);
+}
+
+void PeerSocket::cut() const
+{
+    shutdown(mDescriptor, SHUT_RDWR);
+}
+
+} // namespace simulator
