@@ -27,7 +27,12 @@ std::optional<Ending> ApplicationRun::wait(milliseconds limit, int descriptor)
     poll(events, 2, static_cast<int>(std::min(limit, LONGEST_NAP).count()));
     handleSignals();
     killWhenOverdue();
-    return mChild.ending();
+    const auto ending = mChild.ending();
+    if (!ending || mChild.groupIsGone())
+        return ending;
+    if (!mWasAsked)
+        askToEnd(SIGTERM);
+    return {};
 }
 
 void ApplicationRun::limitTo(milliseconds limit)
@@ -39,20 +44,33 @@ void ApplicationRun::limitTo(milliseconds limit)
 void ApplicationRun::handleSignals()
 {
     while (const auto signal = mSignals.take()) {
-        if (signal->ssi_signo == SIGCHLD)
-            continue;
-        limitTo(TIME_TO_END);
-        if (!isFromTerminal(*signal))
-            mChild.send(static_cast<int>(signal->ssi_signo));
+        if (signal->ssi_signo == SIGTSTP)
+            stop();
+        else if (signal->ssi_signo != SIGCHLD)
+            askToEnd(static_cast<int>(signal->ssi_signo));
     }
+}
+
+void ApplicationRun::stop()
+{
+    mChild.send(SIGTSTP);
+    raise(SIGSTOP);
+    mChild.send(SIGCONT);
+}
+
+void ApplicationRun::askToEnd(int signal)
+{
+    mWasAsked = true;
+    limitTo(TIME_TO_END);
+    mChild.send(signal);
 }
 
 void ApplicationRun::killWhenOverdue()
 {
-    if (mDeadline && steady_clock::now() >= *mDeadline && !mChild.ending()) {
-        mWasKilled = true;
-        mChild.send(SIGKILL);
-    }
+    if (!mDeadline || steady_clock::now() < *mDeadline)
+        return;
+    mWasKilled = mWasKilled || !mChild.ending();
+    mChild.send(SIGKILL);
 }
 
 } // namespace simulator

@@ -19,6 +19,7 @@ namespace {
     sigset_t none;
     sigemptyset(&none);
     sigprocmask(SIG_SETMASK, &none, nullptr);
+    setpgid(0, 0);
     prctl(PR_SET_PDEATHSIG, SIGTERM);
     if (getppid() != launcher)
         _exit(1);
@@ -62,6 +63,7 @@ Child::Child(const std::vector<std::string>& command, const Environment& added, 
         return;
     }
     const pid_t launcher = getpid();
+    prctl(PR_SET_CHILD_SUBREAPER, 1); // what the application leaves behind is the launcher's to wait for
     mPid = fork();
     if (mPid == 0)
         become(command, added, kept, errorPipe[1], launcher);
@@ -76,24 +78,48 @@ Child::Child(const std::vector<std::string>& command, const Environment& added, 
 
 Child::~Child()
 {
-    if (mPid > 0 && !ending()) {
-        kill(mPid, SIGKILL);
+    send(SIGKILL);
+    if (mPid > 0 && !mEnding)
         waitpid(mPid, nullptr, 0);
-    }
 }
 
 std::optional<Ending> Child::ending()
 {
     int status = 0;
-    if (mPid > 0 && !mEnding && waitpid(mPid, &status, WNOHANG) == mPid)
+    if (mPid <= 0 || mEnding || waitpid(mPid, &status, WNOHANG | WUNTRACED) != mPid)
+        return mEnding;
+    const bool wantsTerminal = WIFSTOPPED(status) && (WSTOPSIG(status) == SIGTTIN || WSTOPSIG(status) == SIGTTOU);
+    if (wantsTerminal)
+        lendTerminal();
+    else if (!WIFSTOPPED(status))
         mEnding = WIFSIGNALED(status) ? Ending{0, WTERMSIG(status)} : Ending{WEXITSTATUS(status), 0};
     return mEnding;
 }
 
+/// The launcher is in the terminal's foreground, its application is not. A debugger wants to be.
+void Child::lendTerminal()
+{
+    if (tcsetpgrp(STDIN_FILENO, mPid) == 0)
+        send(SIGCONT);
+}
+
+/// The number of a group that is gone may become another one's: it is not looked for again.
+bool Child::groupIsGone()
+{
+    if (mPid <= 0 || mGroupIsGone)
+        return true;
+    if (!ending())
+        return false;
+    while (waitpid(-mPid, nullptr, WNOHANG) > 0)
+        ;
+    mGroupIsGone = kill(-mPid, 0) != 0;
+    return mGroupIsGone;
+}
+
 void Child::send(int signal)
 {
-    if (mPid > 0 && !mEnding)
-        kill(mPid, signal);
+    if (!groupIsGone())
+        kill(-mPid, signal);
 }
 
 } // namespace simulator

@@ -23,7 +23,8 @@ struct Ending {
     int status() const { return signal == 0 ? exitCode : 128 + signal; }
 };
 
-/// The application's process. It ends with the launcher.
+/// The application's process, at the head of a process group of its own: what it starts belongs to it, and ends with
+/// the launcher as it does.
 class Child {
 public:
     using Environment = std::map<std::string, std::string>;
@@ -33,19 +34,26 @@ public:
     Child(const Child&) = delete;
     Child& operator=(const Child&) = delete;
 
-    /// Kills it if it still runs.
+    /// Kills what still runs of the group.
     ~Child();
 
     /// A sentence for the user when it could not be started; empty otherwise.
     const std::string& error() const { return mError; }
 
-    /// How it ended; nothing while it runs.
+    /// How it ended; nothing while it runs. One that wants the launcher's terminal gets it.
     std::optional<Ending> ending();
 
+    /// Whether nothing runs any more of what it has started.
+    bool groupIsGone();
+
+    /// To the whole group.
     void send(int signal);
 
 private:
+    void lendTerminal();
+
     pid_t mPid = -1;
+    bool mGroupIsGone = false;
     std::optional<Ending> mEnding;
     std::string mError;
 };

@@ -13,7 +13,7 @@ const char* const USAGE = R"(Usage: phone [--variant plain|narrow|wp1] [--port 8
        phone [--variant ...] --script FILE [--out DIR] APP [ARGS]
 
 Runs APP as a telephone. Its panel and keys are a page for the browser, or a script presses the keys and looks at the
-panel. The page is for this machine only unless --listen and --token say otherwise.
+panel. The page is for this machine only unless --listen and --token say otherwise; --port 0 takes a free port.
 
 A script has one command a line:
   key NAME, hold NAME MS, type DIGITS      press keys
@@ -88,7 +88,8 @@ void check(const Options& options)
         throw Mistake("Which application shall run? Its name is missing.");
     if (options.script)
         return;
-    const std::string error = endpointError(options.port, options.listen, options.token);
+    const std::string port = options.port == ANY_PORT ? Options().port : options.port;
+    const std::string error = endpointError(port, options.listen, options.token);
     if (!error.empty())
         throw Mistake(error);
 }

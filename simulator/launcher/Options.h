@@ -6,10 +6,13 @@
 
 namespace simulator {
 
+/// The option that leaves the choice of the port to the launcher.
+inline constexpr char ANY_PORT[] = "0";
+
 /// What the user asks the launcher for.
 struct Options {
     std::string variant = "plain";
-    std::string port = "8080";
+    std::string port = "8080"; ///< ANY_PORT: one that is free
     std::optional<std::string> listen;
     std::optional<std::string> token;
     std::optional<std::string> script;

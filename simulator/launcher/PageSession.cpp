@@ -1,6 +1,7 @@
 #include "simulator/launcher/PageSession.h"
 
 #include "simulator/launcher/ApplicationRun.h"
+#include "simulator/launcher/DisplayReminder.h"
 #include "simulator/web/PortCheck.h"
 
 #include <iostream>
@@ -13,9 +14,9 @@ using std::chrono::milliseconds;
 
 constexpr int CANNOT_START = 2;
 
-Child::Environment environmentFor(const Options& options)
+Child::Environment environmentFor(const Options& options, const Endpoint& endpoint)
 {
-    return {{"DISPLAYAPI_HOST", "web:" + options.port},
+    return {{"DISPLAYAPI_HOST", "web:" + std::to_string(endpoint.port)},
             {"DISPLAYAPI_VARIANT", options.variant},
             {LISTEN_VARIABLE, options.listen.value_or("")},
             {TOKEN_VARIABLE, options.token.value_or("")}};
@@ -24,9 +25,12 @@ Child::Environment environmentFor(const Options& options)
 /// The address is worth printing once somebody answers there.
 std::optional<Ending> waitUntilServed(ApplicationRun& run, const Endpoint& endpoint)
 {
-    while (!isServed(endpoint))
+    DisplayReminder reminder;
+    while (!isServed(endpoint)) {
         if (const auto ending = run.wait(milliseconds(20)))
             return ending;
+        reminder.stillWaiting();
+    }
     std::cout << "The telephone is at " << endpoint.url() << " (Ctrl-C ends it)" << std::endl;
     return {};
 }
@@ -48,10 +52,12 @@ int complain(const std::string& sentence)
 
 int runBehindPage(const Options& options)
 {
-    const Endpoint endpoint = makeEndpoint(options.port, options.listen, options.token);
+    Endpoint endpoint = makeEndpoint(options.port, options.listen, options.token);
+    if (options.port == ANY_PORT)
+        endpoint.port = freePort(endpoint);
     if (const std::string problem = portProblem(endpoint); !problem.empty())
         return complain(problem);
-    ApplicationRun run(options.application, environmentFor(options));
+    ApplicationRun run(options.application, environmentFor(options, endpoint));
     if (!run.error().empty())
         return complain(run.error());
     const auto early = waitUntilServed(run, endpoint);

@@ -1,6 +1,7 @@
 #include "simulator/launcher/ScriptSession.h"
 
 #include "simulator/launcher/ApplicationRun.h"
+#include "simulator/launcher/DisplayReminder.h"
 #include "simulator/launcher/ReportPipe.h"
 #include "simulator/launcher/ScriptVerdict.h"
 #include "simulator/script/ScriptParser.h"
@@ -58,6 +59,7 @@ std::size_t tellNotes(const std::string& fileName, const ScriptOutcome& outcome,
 Ending follow(ApplicationRun& run, ReportPipe& pipe, const std::string& fileName)
 {
     auto lastNews = steady_clock::now();
+    DisplayReminder reminder;
     std::size_t told = 0;
     for (;;) {
         const auto ending = run.wait(seconds(1), pipe.descriptor());
@@ -67,6 +69,8 @@ Ending follow(ApplicationRun& run, ReportPipe& pipe, const std::string& fileName
         told = tellNotes(fileName, outcome, told);
         if (ending)
             return *ending;
+        if (outcome.lastLine == 0)
+            reminder.stillWaiting();
         if (outcome.isDecided())
             run.limitTo(TIME_TO_END);
         if (steady_clock::now() - lastNews > LONGEST_SILENCE)

@@ -6,12 +6,22 @@ namespace simulator {
 
 namespace {
 
+/// As under nohup, or in the background of a script.
+bool isIgnored(int signal)
+{
+    struct sigaction present {};
+    sigaction(signal, nullptr, &present);
+    return present.sa_handler == SIG_IGN;
+}
+
 sigset_t ourSignals()
 {
     sigset_t signals;
     sigemptyset(&signals);
-    for (const int signal : {SIGCHLD, SIGINT, SIGTERM, SIGHUP})
-        sigaddset(&signals, signal);
+    sigaddset(&signals, SIGCHLD);
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGTSTP})
+        if (!isIgnored(signal))
+            sigaddset(&signals, signal);
     return signals;
 }
 
@@ -35,11 +45,6 @@ std::optional<signalfd_siginfo> Signals::take()
     if (read(mDescriptor, &signal, sizeof signal) != sizeof signal)
         return {};
     return signal;
-}
-
-bool isFromTerminal(const signalfd_siginfo& signal)
-{
-    return signal.ssi_code == SI_KERNEL;
 }
 
 } // namespace simulator

@@ -8,7 +8,7 @@
 namespace simulator {
 
 /// The signals that are the launcher's business, taken one at a time instead of interrupting it: a child's end, and
-/// what asks the launcher to end. Make it before the child.
+/// what asks the launcher to end or to stop. What it has been started to ignore it ignores. Make it before the child.
 class Signals {
 public:
     Signals();
@@ -25,8 +25,5 @@ public:
 private:
     int mDescriptor;
 };
-
-/// Whether the terminal has sent it: then the application has got it as well.
-bool isFromTerminal(const signalfd_siginfo& signal);
 
 } // namespace simulator

@@ -10,7 +10,7 @@ namespace simulator {
 
 namespace {
 
-constexpr int SIGNALS[] = {SIGINT, SIGTERM};
+constexpr int SIGNALS[] = {SIGINT, SIGTERM, SIGHUP};
 
 sem_t gArrived;
 std::atomic<bool> gStopping;

@@ -1,5 +1,5 @@
 // An application that does one thing wrong when the user chooses the first row: `misbehaving
-// crash|exit|leave|linger|stall`. `deaf` never runs its loop, `never` does all well.
+// crash|exit|leave|linger|quit|stall`. `deaf` never runs its loop, `never` does all well.
 
 #include "DisplayAPI/CommandListener.h"
 #include "DisplayAPI/Display.h"
@@ -40,6 +40,8 @@ public:
             std::_Exit(3);
         if (mWay == "leave")
             leaveSoon();
+        if (mWay == "quit")
+            host::Loop::quit();
         if (mWay == "stall")
             static_cast<List*>(screen)->append(&mSlow);
     }

@@ -41,6 +41,13 @@ TEST(Options, ScriptNeedsNoPort)
     EXPECT_EQ(options.out, "pictures");
 }
 
+TEST(Options, PortMayBeAnyThatIsFree)
+{
+    EXPECT_EQ(parseOptions({"--port", "0", "app"}).error, "");
+    EXPECT_THAT(parseOptions({"--port", "00", "app"}).error, HasSubstr("not '00'"));
+    EXPECT_THAT(parseOptions({"--port", "0", "--listen", "0.0.0.0", "app"}).error, HasSubstr("go together"));
+}
+
 TEST(Options, HelpAsksForNothingElse)
 {
     EXPECT_TRUE(parseOptions({"--help"}).wantsHelp);
