@@ -23,6 +23,12 @@ int DisplayablePrivate::widgetPosition()
     return 0;
 }
 
+/// Only those that are on its stack at its end are told that a display goes.
+DisplayPrivateIfc* DisplayablePrivate::display() const
+{
+    return DisplayPrivateIfc::lives(mDisplay) ? mDisplay : nullptr;
+}
+
 void DisplayablePrivate::connectDisplayChangedSignal(DisplayPrivateIfc* display)
 {
     mDisplay = display;
@@ -40,8 +46,8 @@ std::string DisplayablePrivate::serialise(const std::vector<DisplayAPIUtils::Rec
 
 void DisplayablePrivate::widgetDismissed(DisplayablePrivate* dismissed)
 {
-    if (mDisplay != nullptr)
-        mDisplay->widgetDismissed(dismissed);
+    if (DisplayPrivateIfc* attachedTo = display())
+        attachedTo->widgetDismissed(dismissed);
 }
 
 void DisplayablePrivate::enable(bool) {}
@@ -61,7 +67,7 @@ void DisplayablePrivate::removeCommandListener(CommandListener* listener)
 void DisplayablePrivate::join(DisplayablePrivate* other)
 {
     if (other != nullptr)
-        mDisplay = other->mDisplay;
+        mDisplay = other->display();
 }
 
 void DisplayablePrivate::disjoin()
@@ -93,8 +99,8 @@ void DisplayablePrivate::postCommand(Command* command, Displayable* displayable)
 
 void DisplayablePrivate::generateDisplayChangedEvent()
 {
-    if (mDisplay != nullptr)
-        mDisplay->displayChanged();
+    if (DisplayPrivateIfc* attachedTo = display())
+        attachedTo->displayChanged();
 }
 
 } // namespace DisplayAPI

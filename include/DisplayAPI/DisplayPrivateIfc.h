@@ -23,7 +23,13 @@ class DisplayablePrivateIfc;
 /// getDisplayArea().
 class DISPLAYAPI_EXPORT DisplayPrivateIfc {
 public:
-    virtual ~DisplayPrivateIfc() = default;
+    DisplayPrivateIfc();
+    DisplayPrivateIfc(const DisplayPrivateIfc&) = delete;
+    DisplayPrivateIfc& operator=(const DisplayPrivateIfc&) = delete;
+    virtual ~DisplayPrivateIfc();
+
+    /// Whether `display` is one that has been made and is not gone. Null is not.
+    static bool lives(const DisplayPrivateIfc* display);
 
     virtual void setCurrent(Displayable* displayable) = 0;
     virtual Displayable* getCurrent() = 0;

@@ -60,10 +60,11 @@ public:
     static std::atomic<TranslatorIfc*> commonTranslator;
 
 protected:
-    DisplayPrivateIfc* display() const { return mDisplay; }
+    /// The display that it is attached to; null where there is none, or none any more.
+    DisplayPrivateIfc* display() const;
 
 private:
-    DisplayPrivateIfc* mDisplay = nullptr;
+    DisplayPrivateIfc* mDisplay = nullptr; ///< may be gone: ask display()
     std::vector<CommandListener*> mCommandListeners;
     [[maybe_unused]] PegRect mRect{-1, -1, -1, -1};
     [[maybe_unused]] unsigned int mWord = 0;

@@ -229,3 +229,18 @@ TEST_F(DisplayPrivateLifeTest, DeletingAListOnTwoDisplaysForgetsItOnBoth)
     EXPECT_EQ(display->getCurrent(), nullptr);
     EXPECT_EQ(another->getCurrent(), nullptr);
 }
+
+TEST_F(DisplayPrivateLifeTest, DisplayablesThatHaveLeftTheStackOutliveTheirDisplay)
+{
+    given({&menu, &popup});
+    second.getPrivateImpl()->join(popup.getPrivateImpl());
+    display->widgetDismissed(popup.getPrivateImpl());
+    display->setCurrent(nullptr);
+    display.reset();
+    for (Screen* screen : {&menu, &popup, &second}) {
+        EXPECT_EQ(screen->getPrivateImpl()->attachedTo(), nullptr);
+        screen->getPrivateImpl()->generateDisplayChangedEvent();
+        screen->getPrivateImpl()->widgetDismissed(screen->getPrivateImpl());
+    }
+    EXPECT_EQ(observer.notifications, 1) << "of the cleared screen";
+}

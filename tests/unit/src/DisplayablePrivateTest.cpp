@@ -128,3 +128,40 @@ TEST_F(DisplayablePrivateTest, JoiningTakesOverTheOthersDisplay)
     EXPECT_EQ(side.display(), &display);
     EXPECT_EQ(attached.display(), &display);
 }
+
+TEST_F(DisplayablePrivateTest, ADisplayThatIsGoneIsToldNothing)
+{
+    auto gone = std::make_unique<doubles::DisplayPrivateDouble>();
+    side.connectDisplayChangedSignal(gone.get());
+    gone.reset();
+    Recorder::instance().clear();
+    side.generateDisplayChangedEvent();
+    side.widgetDismissed(&side);
+    EXPECT_EQ(side.display(), nullptr);
+    EXPECT_THAT(Recorder::instance().texts(), IsEmpty());
+}
+
+TEST_F(DisplayablePrivateTest, OneThatHasJoinedAnotherTellsNothingToADisplayThatIsGone)
+{
+    auto gone = std::make_unique<doubles::DisplayPrivateDouble>();
+    PlainSide attached;
+    PlainSide late;
+    attached.connectDisplayChangedSignal(gone.get());
+    side.join(&attached);
+    attached.disjoin();
+    gone.reset();
+    Recorder::instance().clear();
+    side.generateDisplayChangedEvent();
+    late.join(&side);
+    late.widgetDismissed(&late);
+    EXPECT_EQ(late.display(), nullptr);
+    EXPECT_THAT(Recorder::instance().texts(), IsEmpty());
+}
+
+TEST_F(DisplayablePrivateTest, TheEndOfAnotherDisplayChangesNothing)
+{
+    side.connectDisplayChangedSignal(&display);
+    doubles::DisplayPrivateDouble().displayChanged();
+    side.generateDisplayChangedEvent();
+    EXPECT_THAT(Recorder::instance().textsOf(&display), ElementsAre("display: displayChanged()"));
+}
