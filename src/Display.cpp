@@ -38,7 +38,18 @@ void call(DisplayPrivateIfc& implementation, Display* display, Request::DisplayR
 constinit std::atomic<Display*> gLatest{nullptr};
 
 constexpr bool NO_FLAG = false;
+
+// What a reader's mark says.
+constexpr const char* AWAITED = "awaited";
 constexpr const char* SERVED = "served";
+
+/// The result's lock. The GUI thread takes it, who has read the result gives it back: nobody does for a request that no
+/// reader has made.
+struct ResultLock final : Semaphore {
+    ResultLock() : Semaphore(AVAILABLE, 1, false) {}
+
+    bool isHeldForReader = false; ///< the GUI thread's
+};
 
 std::string formatTime(int hours, int minutes, int seconds)
 {
@@ -85,7 +96,7 @@ Display::Display(DisplayPrivateIfc* implementation) : mSoftwareType("softwareUnk
 void Display::init(DisplayPrivateIfc* implementation)
 {
     mImplementation = implementation;
-    mResultLock = new Semaphore(Semaphore::AVAILABLE, 1, false);
+    mResultLock = new ResultLock;
     gLatest = this;
 }
 
@@ -95,6 +106,8 @@ Display::~Display()
     delete mImplementation;
     Display* self = this;
     gLatest.compare_exchange_strong(self, nullptr);
+    if (static_cast<ResultLock*>(mResultLock)->isHeldForReader)
+        mResultLock->take(-1);
     delete mResultLock;
 }
 
@@ -249,14 +262,17 @@ std::vector<DisplayAPIUtils::Rect>* Display::getDisplayedRects()
 void Display::giveResult(DisplayRequestEvent& request, std::string result)
 {
     mResult = std::move(result);
-    if (std::string* mark = request.getStringReturnValue())
+    std::string* const mark = request.getStringReturnValue();
+    static_cast<ResultLock*>(mResultLock)->isHeldForReader = mark != nullptr && *mark == AWAITED;
+    if (mark != nullptr)
         *mark = SERVED;
 }
 
-/// The caller gives the result's lock when it has read the result. A request that was lost leaves no mark, and no lock.
+/// The caller gives the result's lock when it has read the result. A request that was lost is still awaited, and its
+/// lock has not been taken.
 std::string Display::takeResult(const std::string& mark)
 {
-    if (mark.empty())
+    if (mark != SERVED)
         return {};
     std::string result = std::move(mResult);
     mResultLock->give();
@@ -267,7 +283,7 @@ std::string Display::serialise()
 {
     if (Widget::isGuiThread())
         return mImplementation->serialise();
-    std::string mark;
+    std::string mark = AWAITED;
     callPrepared(
         *mImplementation, this, Request::SERIALISE, [&](Request& r) { r.setStringReturnValue(&mark); }, NO_FLAG);
     return takeResult(mark);
@@ -277,7 +293,7 @@ std::string Display::serialiseByRect(const std::vector<DisplayAPIUtils::Rect>& r
 {
     if (Widget::isGuiThread())
         return mImplementation->serialiseByRect(rects, withSystemWindow);
-    std::string mark;
+    std::string mark = AWAITED;
     callPrepared(
         *mImplementation, this, Request::SERIALISE_BY_RECT, [&](Request& r) { r.setStringReturnValue(&mark); }, &rects,
         withSystemWindow);

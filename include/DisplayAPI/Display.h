@@ -45,7 +45,8 @@ public:
     Display& operator=(const Display&) = delete;
 
     /// Stops the toolkit and hands the widgets back to their displayables. GUI thread only, after exec() has returned.
-    /// Calls of other threads that still wait return with neutral values; no thread may begin one meanwhile.
+    /// Calls of other threads that still wait return with neutral values, those that have been carried out with their
+    /// results: it waits for the reader of a text. No thread may begin a call meanwhile.
     virtual ~Display();
 
     /// The display that was made last, for tools that look at a screen they have not made; null when it is gone. From

@@ -20,6 +20,12 @@ public:
         mOpened.notify_all();
     }
 
+    bool isOpen()
+    {
+        std::lock_guard lock(mMutex);
+        return mOpen;
+    }
+
     bool wait()
     {
         std::unique_lock lock(mMutex);

@@ -121,6 +121,105 @@ TEST_F(DisplayResultLockTest, TheRequesterGivesTheLock)
 
 namespace {
 
+/// Holds callers up as HoldingDouble does, at a gate that outlives it.
+class MortalDouble : public doubles::DisplayPrivateDouble {
+public:
+    MortalDouble(Gate& gate, std::atomic<int>& served) : mGate(gate), mServed(served) {}
+
+    void postEvent(Record* request) override
+    {
+        Gate& gate = mGate;
+        std::atomic<int>& served = mServed;
+        DisplayPrivateDouble::postEvent(request);
+        ++served;
+        gate.wait();
+    }
+
+private:
+    Gate& mGate;
+    std::atomic<int>& mServed;
+};
+
+/// A display that ends after the requests of readers.
+class DisplayEndTest : public test::SteppedTest {
+protected:
+    std::unique_ptr<Worker> reader()
+    {
+        auto worker = std::make_unique<Worker>([this] { text = display->serialise(); });
+        gui.waitForQueued(1);
+        gui.step();
+        test::waitUntil([this] { return served == 1; });
+        return worker;
+    }
+
+    void carryOut(std::string* mark)
+    {
+        Record record(display.get(), Record::SERIALISE, nullptr, false);
+        record.setStringReturnValue(mark);
+        display->processDisplayRequest(&record);
+    }
+
+    Gate gate;
+    std::atomic<int> served{0};
+    std::string text;
+    std::unique_ptr<Display> display = std::make_unique<Display>(new MortalDouble(gate, served));
+};
+
+} // namespace
+
+TEST_F(DisplayEndTest, WaitsForTheReaderWhoseResultIsThere)
+{
+    const auto worker = reader();
+    Worker opener([this] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+        gate.open();
+    });
+    display.reset();
+    EXPECT_TRUE(gate.isOpen()) << "the reader had not read yet";
+    worker->join();
+    EXPECT_EQ(text, "1");
+}
+
+TEST_F(DisplayEndTest, WaitsForNobodyWhoHasRead)
+{
+    gate.open();
+    reader()->join();
+    display.reset();
+    EXPECT_EQ(text, "1");
+}
+
+TEST_F(DisplayEndTest, WaitsForNobodyWhereNoReaderHasAsked)
+{
+    std::string mark;
+    carryOut(&mark);
+    display.reset();
+    EXPECT_NE(mark, "") << "served all the same";
+}
+
+TEST_F(DisplayEndTest, AResultThatNobodyReadsAfterOneThatWasReadHoldsNothingUp)
+{
+    gate.open();
+    reader()->join();
+    carryOut(nullptr);
+    display.reset();
+}
+
+TEST_F(DisplayEndTest, WaitsForNobodyWhoseRequestWasNotCarriedOut)
+{
+    Worker worker([this] { text = display->serialise(); });
+    gui.waitForQueued(1);
+    const PegMessage message = gui.takeMessage();
+    display.reset();
+    gate.open();
+    auto* const request = static_cast<Record*>(message.pData);
+    request->requestCompleted();
+    delete request;
+    worker.join();
+    EXPECT_EQ(text, "");
+}
+
+namespace {
+
 /// A real display whose screens read as long texts of one letter each.
 class DisplayOfManyRequestersTest : public testing::Test {
 protected:
