@@ -1,5 +1,6 @@
 #include "ContentWidget.h"
 
+#include "DisplayAPI/Rectangles.h"
 #include "DisplayPrivate.h"
 #include "toolkit/PegWindow.h"
 #include "widgets/SystemWindow.h"
@@ -42,12 +43,12 @@ void ContentWidget::activateWindow() {}
 
 int ContentWidget::width() const
 {
-    return mWindow->Area().right - mWindow->Area().left + 1;
+    return toRect(mWindow->Area()).width();
 }
 
 int ContentWidget::height() const
 {
-    return mWindow->Area().bottom - mWindow->Area().top + 1;
+    return toRect(mWindow->Area()).height();
 }
 
 PegThing* ContentWidget::getPegWidget()

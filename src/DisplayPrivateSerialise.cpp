@@ -1,11 +1,11 @@
 #include "DisplayPrivate.h"
 
 #include "ContentWidget.h"
+#include "DisplayAPI/ScreenText.h"
 #include "Log.h"
 #include "StackEntry.h"
 #include "SystemWindowText.h"
 #include "Variant.h"
-#include "utilities/ICC.h"
 
 namespace DisplayAPI {
 
@@ -16,20 +16,9 @@ using Rects = std::vector<Rect>;
 
 constexpr Log gLog{"DisplayAPI::DisplayPrivate", "./src/DisplayPrivate"};
 
-std::string toAscii(const std::string& text)
-{
-    return ICC::fromUNICODEtoASCII(ICC::fromUTF8toUNICODE(text));
-}
-
 void logRect(int line, const char* text, const Rect& rect)
 {
     gLog(TRACE, line, text, rect.left(), rect.top(), rect.right(), rect.bottom());
-}
-
-bool contains(const Rect& outer, const Rect& inner)
-{
-    return outer.left() <= inner.left() && outer.top() <= inner.top() && inner.right() <= outer.right() &&
-           inner.bottom() <= outer.bottom();
 }
 
 /// Adds what `requested` shows of `visible`: all of it once where one rectangle contains it, otherwise its share of
@@ -96,7 +85,7 @@ std::string DisplayPrivate::serialise()
         if (DisplayablePrivateIfc* side = displayable->getPrivateImpl())
             text += side->serialise();
     }
-    return toAscii(text);
+    return screen::toAscii(text);
 }
 
 std::string DisplayPrivate::serialiseByRect(const Rects& rects, bool withSystemWindow)
@@ -112,7 +101,7 @@ std::string DisplayPrivate::serialiseByRect(const Rects& rects, bool withSystemW
         text = serialiseStack(visible, rects);
     text = withSystemWindowText(text, withSystemWindow);
     gLog(TRACE, 969, "serialiseByRect() returning = \"%s\"", text.c_str());
-    return toAscii(text);
+    return screen::toAscii(text);
 }
 
 std::string DisplayPrivate::serialiseStack(const std::vector<Rects>& visible, const Rects& requested)

@@ -2,6 +2,7 @@
 
 #include "DisplayAPI/CommandListener.h"
 #include "DisplayAPI/DisplayPrivateIfc.h"
+#include "DisplayAPI/ScreenText.h"
 
 #include <algorithm>
 
@@ -36,7 +37,7 @@ void DisplayablePrivate::connectDisplayChangedSignal(DisplayPrivateIfc* display)
 
 std::string DisplayablePrivate::serialise()
 {
-    return "object:\nname:Not Implemented\nend:\n";
+    return screen::object("Not Implemented", {});
 }
 
 std::string DisplayablePrivate::serialise(const std::vector<DisplayAPIUtils::Rect>&)

@@ -2,8 +2,8 @@
 
 #include "DisplayAPI/Displayable.h"
 #include "DisplayAPI/DisplayablePrivateIfc.h"
+#include "DisplayAPI/Rectangles.h"
 #include "presentation/PRESCPresentationManager.h"
-#include "utilities/Rect.h"
 
 /// What the display asks of a displayable on its stack, which may have no private side, or one without a widget.
 namespace DisplayAPI {
@@ -31,8 +31,7 @@ inline PegThing* widgetOf(Displayable* displayable)
 
 inline DisplayAPIUtils::Rect rectOf(const PegThing& widget)
 {
-    const PegRect& area = widget.Area();
-    return {area.left, area.top, area.right - area.left + 1, area.bottom - area.top + 1};
+    return toRect(widget.Area());
 }
 
 inline bool isOnScreen(const PegThing* widget)

@@ -1,6 +1,7 @@
 #include "SystemWindowText.h"
 
-#include <algorithm>
+#include "DisplayAPI/ScreenText.h"
+
 #include <string_view>
 
 namespace DisplayAPI {
@@ -8,25 +9,22 @@ namespace DisplayAPI {
 namespace {
 
 constexpr std::string_view BLANK_LINE = "                        ";
-constexpr std::string_view SMALL_CONTEXT_MENU = "object:\nname:ContextMenu20Line2\n";
 constexpr std::string_view FIRST_TEXT = "string0:";
-constexpr std::string_view CLOSING = "\nend:\n";
 
-/// A line break of the application's would begin a keyword.
-std::string onOneLine(std::string text)
+std::string object(const std::string& caption, const std::string& contents)
 {
-    std::replace(text.begin(), text.end(), '\n', ' ');
-    return text;
-}
-
-std::string opening(const std::string& caption)
-{
-    return "object:\nname:PopupTextField\ncaption:" + onOneLine(caption);
+    return screen::object("PopupTextField", screen::caption(caption) + contents);
 }
 
 std::string subItem(const std::string& line)
 {
-    return "\nsubitem:\nname:KestrelListBoxItem\nstring0:" + onOneLine(line) + "\nendsubitem:";
+    return screen::subItem("KestrelListBoxItem", screen::textLine(0, line));
+}
+
+/// Observers expect the line break before it and none behind.
+std::string standingAlone(const std::string& subItem)
+{
+    return '\n' + subItem.substr(0, subItem.size() - 1);
 }
 
 bool isPresent(const std::string& line)
@@ -38,33 +36,29 @@ bool isPresent(const std::string& line)
 
 std::string systemWindowObject(const std::string& caption, const std::string& line)
 {
-    return (opening(caption) + subItem(line)).append(CLOSING);
+    return object(caption, subItem(line));
 }
 
 std::string presentSystemWindowObject(const std::string& caption, const std::string& line)
 {
-    std::string object;
+    const std::string contents = isPresent(line) ? subItem(line) : std::string();
     if (isPresent(caption))
-        object += opening(caption);
-    if (isPresent(line))
-        object += subItem(line);
-    if (isPresent(caption))
-        object += CLOSING;
-    return object;
+        return object(caption, contents);
+    return contents.empty() ? contents : standingAlone(contents);
 }
 
-std::string firstMenuLine(const std::string& screen)
+std::string firstMenuLine(const std::string& text)
 {
-    const auto found = screen.find(FIRST_TEXT);
+    const auto found = text.find(FIRST_TEXT);
     if (found == std::string::npos)
         return {};
     const auto start = found + FIRST_TEXT.size();
-    return screen.substr(start, screen.find('\n', start) - start);
+    return text.substr(start, text.find('\n', start) - start);
 }
 
-bool holdsSmallContextMenu(const std::string& screen)
+bool holdsSmallContextMenu(const std::string& text)
 {
-    return screen.find(SMALL_CONTEXT_MENU) != std::string::npos;
+    return text.find(screen::objectStart("ContextMenu20Line2")) != std::string::npos;
 }
 
 } // namespace DisplayAPI

@@ -12,10 +12,10 @@ std::string systemWindowObject(const std::string& caption, const std::string& li
 /// sub-item stands alone, without an object around it: observers rely on that.
 std::string presentSystemWindowObject(const std::string& caption, const std::string& line);
 
-/// The first sub-item's text in `screen`, which holds a context menu of the small panel; empty where there is none.
-std::string firstMenuLine(const std::string& screen);
+/// The first sub-item's text in the screen's, which holds a context menu of the small panel; empty where there is none.
+std::string firstMenuLine(const std::string& text);
 
-/// Whether `screen` holds a context menu of the small panel.
-bool holdsSmallContextMenu(const std::string& screen);
+/// Whether the screen's text holds a context menu of the small panel.
+bool holdsSmallContextMenu(const std::string& text);
 
 } // namespace DisplayAPI

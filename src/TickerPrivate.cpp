@@ -5,18 +5,15 @@
 
 namespace DisplayAPI {
 
-TickerPrivate::TickerPrivate(const std::string& text) : mWidget(new TickerWidget(ICC::fromUTF8toUNICODE(text)))
+TickerPrivate::TickerPrivate(const std::string& text)
+    : mWidget(std::in_place_type<TickerWidget>, ICC::fromUTF8toUNICODE(text))
 {
-    mWidget->watchedBy(&mWidget);
 }
 
 TickerPrivate::~TickerPrivate()
 {
-    if (mWidget == nullptr)
-        return;
-    mWidget->watchedBy(nullptr);
     if (mOwnsWidget)
-        delete mWidget;
+        delete mWidget.get();
 }
 
 void TickerPrivate::setText(std::string text)
@@ -33,7 +30,7 @@ std::string TickerPrivate::getText()
 PegThing* TickerPrivate::getWidget()
 {
     mOwnsWidget = false;
-    return mWidget;
+    return mWidget.get();
 }
 
 std::string TickerPrivate::serialise() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "DisplayAPI/TickerPrivateIfc.h"
+#include "DisplayAPI/WatchedWidget.h"
 
 class TickerWidget;
 
@@ -24,7 +25,7 @@ public:
 
 private:
     bool mOwnsWidget = true;
-    TickerWidget* mWidget; ///< null when its new owner has deleted it
+    WatchedWidget<TickerWidget> mWidget; ///< null when its new owner has deleted it
 };
 
 } // namespace DisplayAPI

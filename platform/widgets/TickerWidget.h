@@ -9,7 +9,6 @@
 class TickerWidget : public PegThing {
 public:
     explicit TickerWidget(PegString text);
-    ~TickerWidget() override;
 
     int Message(const PegMessage& message) override;
     void Draw(PegPainter& painter) override;
@@ -18,10 +17,6 @@ public:
     /// The text begins anew.
     void setText(PegString text);
     const PegString& getText() const;
-
-    /// Sets `pointer` to null when the widget dies: it belongs to whoever shows it. A null address: nobody watches.
-    void watchedBy(TickerWidget** pointer);
-    bool isWatched() const;
 
 protected:
     void VisibilityChanged() override;
@@ -34,7 +29,6 @@ private:
     bool isCovered() const;
 
     PegString mText;
-    TickerWidget** mWatcher = nullptr;
     int mTextWidth = 0;
     int mOffset = 0; ///< how many pixels have gone out at the edge
 };

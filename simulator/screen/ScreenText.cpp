@@ -1,7 +1,7 @@
 #include "simulator/screen/ScreenText.h"
 
+#include "DisplayAPI/ScreenText.h"
 #include "simulator/screen/WidgetNames.h"
-#include "utilities/ICC.h"
 
 #include <algorithm>
 #include <set>
@@ -13,15 +13,13 @@ namespace {
 
 using Texts = std::vector<host::TextRun>;
 
-constexpr char VOLATILE[] = "volatile:";
+using DisplayAPI::screen::onOneLine;
+using DisplayAPI::screen::toAscii;
 
-/// On one line, whatever the text is made of.
-std::string ascii(const std::string& text)
+/// Stands where a text changes by itself.
+std::string volatileLine(const std::string& text)
 {
-    std::string line = ICC::fromUNICODEtoASCII(ICC::fromUTF8toUNICODE(text));
-    std::ranges::replace_if(
-        line, [](char c) { return c < ' '; }, ' ');
-    return line;
+    return DisplayAPI::screen::line("volatile", text);
 }
 
 std::set<std::string> runningTextsOfLists(const Texts& texts)
@@ -29,7 +27,7 @@ std::set<std::string> runningTextsOfLists(const Texts& texts)
     std::set<std::string> running;
     for (const host::TextRun& run : texts)
         if (run.runs && isList(run.widget))
-            running.insert(ascii(run.text));
+            running.insert(toAscii(onOneLine(run.text)));
     return running;
 }
 
@@ -38,8 +36,8 @@ std::string marked(const std::string& line, const std::set<std::string>& running
     const auto colon = line.find(':');
     const bool isText = line.starts_with("string") || line.starts_with("caption");
     if (colon == std::string::npos || !isText || !running.contains(line.substr(colon + 1)))
-        return line;
-    return VOLATILE + line.substr(colon + 1);
+        return line + '\n';
+    return volatileLine(line.substr(colon + 1));
 }
 
 std::string withMarks(const std::string& displayables, const std::set<std::string>& running)
@@ -49,7 +47,7 @@ std::string withMarks(const std::string& displayables, const std::set<std::strin
     std::istringstream lines(displayables);
     std::string text;
     for (std::string line; std::getline(lines, line);)
-        text += marked(line, running) + '\n';
+        text += marked(line, running);
     return text;
 }
 
@@ -57,10 +55,12 @@ std::string object(const std::string& name, const Texts& texts)
 {
     if (texts.empty())
         return {};
-    std::string lines = "object:\nname:" + name + '\n';
-    for (std::size_t i = 0; i < texts.size(); ++i)
-        lines += (texts[i].runs ? VOLATILE : "string" + std::to_string(i) + ':') + ascii(texts[i].text) + '\n';
-    return lines + "end:\n";
+    std::string lines;
+    for (int i = 0; const host::TextRun& run : texts) {
+        lines += run.runs ? volatileLine(run.text) : DisplayAPI::screen::textLine(i, run.text);
+        ++i;
+    }
+    return toAscii(DisplayAPI::screen::object(name, lines));
 }
 
 Texts textsOf(PegType widget, const Texts& texts)
@@ -75,7 +75,7 @@ Texts untoldTexts(const Texts& texts, const std::string& told)
 {
     Texts untold;
     for (const host::TextRun& run : texts)
-        if (run.runs && isList(run.widget) && told.find(VOLATILE + ascii(run.text) + '\n') == std::string::npos)
+        if (run.runs && isList(run.widget) && told.find(toAscii(volatileLine(run.text))) == std::string::npos)
             untold.push_back(run);
     return untold;
 }

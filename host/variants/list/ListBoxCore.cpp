@@ -4,11 +4,8 @@
 #include "DisplayAPI/ListItemPrivateIfc.h"
 #include "DisplayAPI/TickerPrivateIfc.h"
 #include "utilities/ICC.h"
-#include "utilities/TranslationInfo.h"
 #include "widgets/KestrelApplication.h"
-#include "widgets/KestrelListBoxItem.h"
 #include "widgets/KestrelListBoxWithTitle.h"
-#include "widgets/TickerWidget.h"
 
 #include <algorithm>
 
@@ -33,10 +30,16 @@ PegThing* tickerOf(const KestrelListBox& box)
     return child;
 }
 
+/// Nobody can give back a former ticker that nobody watches.
+bool isForgotten(const PegThing& ticker)
+{
+    const auto* watched = dynamic_cast<const Watched*>(&ticker);
+    return watched == nullptr || !watched->isWatched();
+}
+
 } // namespace
 
-ListBoxCore::ListBoxCore(DisplayablePrivate& self, List* owner, std::shared_ptr<KestrelListBox*> slot, Back back)
-    : mSelf(self), mOwner(owner), mGoesBack(back != Back::NONE), mSlot(std::move(slot)), mOwnership(mSlot.get(), true)
+void ListBoxCore::attach(Back back)
 {
     box()->setMessageTarget(this);
     box()->setBackArrow(back == Back::KEY);
@@ -164,25 +167,17 @@ void ListBoxCore::clear()
     });
 }
 
-void ListBoxCore::setTitle(const std::string& title)
+void ListBoxCore::setTitle(TranslatedText title)
 {
-    mTitle = title;
-    mTranslatedTitle = nullptr;
-    showTitle();
-}
-
-void ListBoxCore::setTitle(TranslationInfo* title)
-{
-    followLanguage();
-    mTitle.clear();
-    mTranslatedTitle = title;
+    if (title.isTranslated())
+        followLanguage();
+    mTitle = std::move(title);
     showTitle();
 }
 
 void ListBoxCore::showTitle()
 {
-    const std::string text = mTranslatedTitle != nullptr ? mTranslatedTitle->getCompleteString() : mTitle;
-    change([&](KestrelListBox& list) { list.setTitle(ICC::fromUTF8toUNICODE(text)); });
+    change([this](KestrelListBox& list) { list.setTitle(mTitle.shown()); });
 }
 
 /// Rows and title, also while the list is not on screen. The display is told once, when all of it is done.
@@ -227,14 +222,12 @@ void ListBoxCore::showTicker(KestrelListBox& list, PegThing* ticker)
         before->setTickerShown(false);
 }
 
-/// Nobody can give back a former ticker that nobody watches.
 void ListBoxCore::dropForgottenTickers()
 {
     for (PegThing* former = mFormerTickers.First(); former != nullptr;) {
         PegThing* const next = former->NextSibling();
-        const auto* ticker = dynamic_cast<TickerWidget*>(former);
-        if (ticker != nullptr && !ticker->isWatched())
-            delete ticker;
+        if (isForgotten(*former))
+            delete former;
         former = next;
     }
 }

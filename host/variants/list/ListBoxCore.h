@@ -2,17 +2,18 @@
 
 #include "DisplayAPI/DisplayablePrivate.h"
 #include "DisplayAPI/OwnershipDelegate.h"
-#include "host/widgets/ApplicationWatch.h"
+#include "DisplayAPI/TranslatedText.h"
+#include "DisplayAPI/WatchedWidget.h"
 #include "toolkit/PegThing.h"
+#include "widgets/ApplicationWatch.h"
 #include "widgets/KestrelListBox.h"
+#include "widgets/KestrelListBoxItem.h"
 
 #include <memory>
 #include <optional>
 #include <string>
 
-class KestrelListBoxItem;
 class KestrelListBoxWithTitle;
-class TranslationInfo;
 
 namespace DisplayAPI {
 
@@ -20,26 +21,6 @@ class List;
 class ListItemPrivateIfc;
 class PopupDialer;
 class TickerPrivateIfc;
-
-/// A list box that empties `slot`, the one pointer to it, when it dies: while it is on screen the presentation manager
-/// owns it and may be gone before the list is.
-template <typename Box>
-class WatchedBox final : public Box {
-public:
-    explicit WatchedBox(std::shared_ptr<KestrelListBox*> slot) : mSlot(std::move(slot)) {}
-    ~WatchedBox() override { *mSlot = nullptr; }
-
-private:
-    std::shared_ptr<KestrelListBox*> mSlot;
-};
-
-template <typename Box>
-std::shared_ptr<KestrelListBox*> makeWatched()
-{
-    auto slot = std::make_shared<KestrelListBox*>(nullptr);
-    *slot = new WatchedBox<Box>(slot);
-    return slot;
-}
 
 /// What the lists of all panels do: rows and title go to the widget, what the user does there becomes commands. It is
 /// the widget's message target.
@@ -49,12 +30,17 @@ public:
     enum class Back { NONE, KEY, KEY_AND_ROW };
 
     /// `self` and `owner` outlive the core.
-    ListBoxCore(DisplayablePrivate& self, List* owner, std::shared_ptr<KestrelListBox*> slot, Back back);
+    template <typename Box>
+    ListBoxCore(DisplayablePrivate& self, List* owner, std::in_place_type_t<Box> box, Back back)
+        : mSelf(self), mOwner(owner), mGoesBack(back != Back::NONE), mBox(box)
+    {
+        attach(back);
+    }
     ~ListBoxCore() override;
 
     int Message(const PegMessage& message) override;
 
-    KestrelListBox* box() const { return *mSlot; }
+    KestrelListBox* box() const { return mBox.get(); }
     Displayable* owner() const;
     OwnershipIfc& ownership() { return mOwnership; }
 
@@ -72,8 +58,7 @@ public:
     void remove(ListItemPrivateIfc* row);
     void clear();
 
-    void setTitle(const std::string& title);
-    void setTitle(TranslationInfo* title);
+    void setTitle(TranslatedText title);
     void setHighlight(bool on);
     void hide();
 
@@ -91,6 +76,7 @@ public:
     void showDialler(bool onInitialKey) { mDiallerOnInitialKey = onInitialKey; }
 
 private:
+    void attach(Back back);
     template <typename Change>
     void change(Change apply);
     template <typename Change>
@@ -105,12 +91,11 @@ private:
     DisplayablePrivate& mSelf;
     List* mOwner;
     bool mGoesBack;
-    std::shared_ptr<KestrelListBox*> mSlot;
-    OwnershipDelegate<KestrelListBox> mOwnership;
+    WatchedWidget<KestrelListBox> mBox;
+    OwnershipDelegate<KestrelListBox> mOwnership{mBox.slot(), true};
     std::unique_ptr<KestrelListBoxItem> mBackRow; ///< null where there is none
-    std::string mTitle;
-    TranslationInfo* mTranslatedTitle = nullptr;
-    std::optional<host::ApplicationWatch> mApplication;
+    TranslatedText mTitle;
+    std::optional<ApplicationWatch> mApplication;
     PegThing mFormerTickers; ///< holds them, never on screen: those with a facade may be changed and come back
 
     // Kept for the parts of a list that are still to be shown.

@@ -10,7 +10,7 @@ namespace DisplayAPI {
 #include "host/variants/list/ListBoxForwarding.inc"
 
 ListBoxPrivate::ListBoxPrivate(List* owner, bool backItem)
-    : mImpl(std::make_unique<Impl>(*this, owner, makeWatched<KestrelListBoxWithTitle>(),
+    : mImpl(std::make_unique<Impl>(*this, owner, std::in_place_type<KestrelListBoxWithTitle>,
                                    backItem ? Impl::Back::KEY : Impl::Back::NONE))
 {
 }

@@ -10,7 +10,7 @@ namespace DisplayAPI {
 #include "host/variants/list/ListBoxForwarding.inc"
 
 ListBoxPrivateWP1::ListBoxPrivateWP1(List* owner, bool backItem)
-    : mImpl(std::make_unique<Impl>(*this, owner, makeWatched<KestrelListBoxWP1>(),
+    : mImpl(std::make_unique<Impl>(*this, owner, std::in_place_type<KestrelListBoxWP1>,
                                    backItem ? Impl::Back::KEY_AND_ROW : Impl::Back::NONE))
 {
 }

@@ -1,11 +1,9 @@
 #include "host/variants/list/ListBoxText.h"
 
-#include "utilities/ICC.h"
-#include "utilities/Rect.h"
+#include "DisplayAPI/Rectangles.h"
+#include "DisplayAPI/ScreenText.h"
 #include "widgets/KestrelListBox.h"
 #include "widgets/KestrelListBoxItem.h"
-
-#include <algorithm>
 
 namespace DisplayAPI {
 
@@ -13,41 +11,22 @@ namespace {
 
 using DisplayAPIUtils::Rect;
 
-Rect toRect(const PegRect& area)
-{
-    return {area.left, area.top, area.right - area.left + 1, area.bottom - area.top + 1};
-}
-
-bool isVisible(const PegRect& area, const std::vector<Rect>& visible)
-{
-    return std::any_of(visible.begin(), visible.end(), [&](const Rect& part) { return part.Overlap(toRect(area)); });
-}
-
-/// What ends a line of the text may not stand within one.
-std::string onOneLine(std::string text)
-{
-    std::replace_if(
-        text.begin(), text.end(), [](unsigned char c) { return c < ' ' || c == 0x7F; }, ' ');
-    return text;
-}
-
 std::string captionOf(const KestrelListBox& list)
 {
-    return list.title().empty() ? std::string() : "caption:" + onOneLine(ICC::fromUNICODEtoUTF8(list.title())) + "\n";
+    return list.title().empty() ? std::string() : screen::caption(ICC::fromUNICODEtoUTF8(list.title()));
 }
 
 std::string subItem(const KestrelListBoxItem& item)
 {
-    return "subitem:\nname:KestrelListBoxItem\nstring0:" + onOneLine(ICC::fromUNICODEtoUTF8(item.DataGet())) +
-           "\nendsubitem:\n";
+    return screen::subItem("KestrelListBoxItem", screen::textLine(0, ICC::fromUNICODEtoUTF8(item.DataGet())));
 }
 
 std::string systemWindowOf(const KestrelListBox& list)
 {
-    std::string text = "subitem:\nname:SystemWindow\n";
+    std::string lines;
     for (int line = 0; line < list.systemWindowLines(); ++line)
-        text += "string" + std::to_string(line) + ":" + onOneLine(list.systemWindowText(line)) + "\n";
-    return text + "endsubitem:\n";
+        lines += screen::textLine(line, list.systemWindowText(line));
+    return screen::subItem("SystemWindow", lines);
 }
 
 bool isInView(const PegRect& area)
@@ -66,14 +45,14 @@ std::string listAsText(const KestrelListBox& list, const std::vector<Rect>& visi
 {
     if (!isVisible(list.Area(), visible))
         return {};
-    std::string text = "object:\nname:KestrelListBox\n" + captionOf(list);
+    std::string contents = captionOf(list);
     if (isInView(list.systemWindowArea()) && isVisible(list.systemWindowArea(), visible))
-        text += systemWindowOf(list);
+        contents += systemWindowOf(list);
     for (int row = list.topRow(); isInView(list.rowArea(row)); ++row) {
         if (isVisible(list.rowArea(row), visible))
-            text += subItem(*list.itemAt(row));
+            contents += subItem(*list.itemAt(row));
     }
-    return text + "end:\n";
+    return screen::object("KestrelListBox", contents);
 }
 
 } // namespace DisplayAPI

@@ -8,9 +8,12 @@ struct ListItemPrivate::Impl : RowCore {
     using RowCore::RowCore;
 };
 
-ListItemPrivate::ListItemPrivate(std::string text, bool) : mImpl(std::make_unique<Impl>(text)) {}
+ListItemPrivate::ListItemPrivate(std::string text, bool)
+    : mImpl(std::make_unique<Impl>(TranslatedText(std::move(text))))
+{
+}
 
-ListItemPrivate::ListItemPrivate(TranslationInfo* text, bool) : mImpl(std::make_unique<Impl>(text)) {}
+ListItemPrivate::ListItemPrivate(TranslationInfo* text, bool) : mImpl(std::make_unique<Impl>(TranslatedText(text))) {}
 
 ListItemPrivate::~ListItemPrivate() = default;
 

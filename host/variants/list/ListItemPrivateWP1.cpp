@@ -8,9 +8,15 @@ struct ListItemPrivateWP1::Impl : RowCore {
     using RowCore::RowCore;
 };
 
-ListItemPrivateWP1::ListItemPrivateWP1(std::string text, bool) : mImpl(std::make_unique<Impl>(text)) {}
+ListItemPrivateWP1::ListItemPrivateWP1(std::string text, bool)
+    : mImpl(std::make_unique<Impl>(TranslatedText(std::move(text))))
+{
+}
 
-ListItemPrivateWP1::ListItemPrivateWP1(TranslationInfo* text, bool) : mImpl(std::make_unique<Impl>(text)) {}
+ListItemPrivateWP1::ListItemPrivateWP1(TranslationInfo* text, bool)
+    : mImpl(std::make_unique<Impl>(TranslatedText(text)))
+{
+}
 
 ListItemPrivateWP1::~ListItemPrivateWP1() = default;
 

@@ -1,25 +1,15 @@
 #include "host/variants/list/RowCore.h"
 
-#include "utilities/ICC.h"
-#include "utilities/TranslationInfo.h"
+#include <utility>
 
 namespace DisplayAPI {
 
-RowCore::RowCore(const std::string& text)
-    : mItem(new KestrelListBoxItem(ICC::fromUTF8toUNICODE(text))), mOwnership(&mItem, true)
-{
-}
-
-RowCore::RowCore(TranslationInfo* text) : RowCore(std::string())
-{
-    mTranslation = text;
-    lookUp();
-}
+RowCore::RowCore(TranslatedText text) : mText(std::move(text)), mItem(new KestrelListBoxItem(mText.shown())) {}
 
 void RowCore::lookUp()
 {
-    if (mTranslation != nullptr)
-        mItem->DataSet(ICC::fromUTF8toUNICODE(mTranslation->getCompleteString()));
+    if (mText.isTranslated())
+        mItem->DataSet(mText.shown());
 }
 
 } // namespace DisplayAPI

@@ -1,23 +1,15 @@
 #pragma once
 
 #include "DisplayAPI/OwnershipDelegate.h"
+#include "DisplayAPI/TranslatedText.h"
 #include "widgets/KestrelListBoxItem.h"
-
-#include <string>
-
-class TranslationInfo;
 
 namespace DisplayAPI {
 
 /// What the rows of all panels are: a toolkit row with a text that may have to be looked up. GUI thread only.
 class RowCore {
 public:
-    /// The text is UTF-8.
-    explicit RowCore(const std::string& text);
-
-    /// The translation is not owned; null is an empty text.
-    explicit RowCore(TranslationInfo* text);
-
+    explicit RowCore(TranslatedText text);
     RowCore(const RowCore&) = delete;
     RowCore& operator=(const RowCore&) = delete;
 
@@ -28,9 +20,9 @@ public:
     void lookUp();
 
 private:
+    TranslatedText mText;
     KestrelListBoxItem* mItem;
-    OwnershipDelegate<KestrelListBoxItem> mOwnership;
-    TranslationInfo* mTranslation = nullptr;
+    OwnershipDelegate<KestrelListBoxItem> mOwnership{&mItem, true};
 };
 
 } // namespace DisplayAPI

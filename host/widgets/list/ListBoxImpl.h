@@ -1,10 +1,10 @@
 #pragma once
 
-#include "host/widgets/ApplicationWatch.h"
 #include "host/widgets/list/ListGeometry.h"
 #include "host/widgets/list/ListRows.h"
 #include "host/widgets/status/StatusLines.h"
 #include "host/widgets/status/StatusTime.h"
+#include "widgets/ApplicationWatch.h"
 
 /// The state of a list box, and what each change of it means for the screen.
 struct KestrelListBox::Impl final : host::StatusTimeView {
@@ -46,7 +46,7 @@ struct KestrelListBox::Impl final : host::StatusTimeView {
 
     KestrelListBox& box;
     const Layout& layout;
-    host::ApplicationWatch application;
+    ApplicationWatch application;
     host::StatusLines status;
     int statusShown = 0; ///< status lines that take room where there is any
     host::ListRows rows;

@@ -1,10 +1,10 @@
 #include "widgets/StatusMessage.h"
 
 #include "host/lcd/Geometry.h"
-#include "host/widgets/ApplicationWatch.h"
 #include "host/widgets/Reading.h"
 #include "host/widgets/popup/PopupFrame.h"
 #include "utilities/ICC.h"
+#include "widgets/ApplicationWatch.h"
 
 #include <algorithm>
 #include <limits>

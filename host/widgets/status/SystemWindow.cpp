@@ -1,10 +1,10 @@
 #include "widgets/SystemWindow.h"
 
 #include "host/lcd/Geometry.h"
-#include "host/widgets/ApplicationWatch.h"
 #include "host/widgets/status/StatusTime.h"
 #include "host/widgets/status/SystemWindowLook.h"
 #include "toolkit/PegScreen.h"
+#include "widgets/ApplicationWatch.h"
 
 #include <algorithm>
 #include <limits>

@@ -42,12 +42,6 @@ TickerWidget::TickerWidget(PegString text) : mText(std::move(text))
     Type(TYPE_TICKER);
 }
 
-TickerWidget::~TickerWidget()
-{
-    if (mWatcher != nullptr)
-        *mWatcher = nullptr;
-}
-
 int TickerWidget::Message(const PegMessage& message)
 {
     if (message.wType != PM_TIMER)
@@ -83,16 +77,6 @@ void TickerWidget::setText(PegString text)
 const PegString& TickerWidget::getText() const
 {
     return mText;
-}
-
-void TickerWidget::watchedBy(TickerWidget** pointer)
-{
-    mWatcher = pointer;
-}
-
-bool TickerWidget::isWatched() const
-{
-    return mWatcher != nullptr;
 }
 
 void TickerWidget::VisibilityChanged()

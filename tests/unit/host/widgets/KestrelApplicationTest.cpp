@@ -1,8 +1,8 @@
 #include "widgets/KestrelApplication.h"
 
-#include "host/widgets/ApplicationWatch.h"
 #include "toolkit/PegThing.h"
 #include "utilities/ICC.h"
+#include "widgets/ApplicationWatch.h"
 
 #include <ctime>
 #include <functional>
@@ -160,7 +160,7 @@ TEST_F(KestrelApplicationTest, WatchEndsWhicheverApplicationIsCurrent)
     Observer observer("a", log);
     for (KestrelApplication* current : {&next, static_cast<KestrelApplication*>(nullptr)}) {
         KestrelApplication::setCurrentApplication(&former);
-        const auto watch = std::make_unique<host::ApplicationWatch>(observer);
+        const auto watch = std::make_unique<ApplicationWatch>(observer);
         KestrelApplication::setCurrentApplication(current);
         former.setLocale(text("x"));
     }

@@ -352,31 +352,4 @@ TEST_F(TickerWidgetTest, DeletedWhileItRunsLeavesNothingBehind)
     EXPECT_THAT(texts(), IsEmpty());
 }
 
-TEST_F(TickerWidgetTest, WatcherLearnsOfItsDeath)
-{
-    TickerWidget* watched = ticker.get();
-    watched->watchedBy(&watched);
-    ticker.reset();
-    EXPECT_EQ(watched, nullptr);
-}
-
-TEST_F(TickerWidgetTest, NobodyIsToldWhenNobodyWatchesAnyMore)
-{
-    TickerWidget* watched = ticker.get();
-    watched->watchedBy(&watched);
-    watched->watchedBy(nullptr);
-    ticker.reset();
-    EXPECT_NE(watched, nullptr);
-}
-
-TEST_F(TickerWidgetTest, KnowsWhetherSomebodyWatches)
-{
-    TickerWidget* watched = ticker.get();
-    EXPECT_FALSE(ticker->isWatched());
-    ticker->watchedBy(&watched);
-    EXPECT_TRUE(ticker->isWatched());
-    ticker->watchedBy(nullptr);
-    EXPECT_FALSE(ticker->isWatched());
-}
-
 } // namespace
