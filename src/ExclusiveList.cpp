@@ -1,7 +1,7 @@
 #include "DisplayAPI/ExclusiveList.h"
 
 #include "DisplayAPI/ListBoxPrivateIfc.h"
-#include "Request.h"
+#include "Operations.h"
 #include "Variant.h"
 #include "variants/list/ExclusiveListPrivate.h"
 #include "variants/list/ExclusiveListPrivateWP1.h"
@@ -14,20 +14,30 @@ enum Request { CREATE_BASE = 0, CREATE = 40, GET_SELECTED_INDEX = 41, IS_SELECTE
 
 constexpr int LIST_TYPE = 1;
 
+bool isChosen(ListBoxPrivateIfc& list, int index)
+{
+    if (auto* full = dynamic_cast<ExclusiveListPrivate*>(&list))
+        return full->isSelected(index);
+    if (auto* small = dynamic_cast<ExclusiveListPrivateWP1*>(&list))
+        return small->isSelected(index);
+    return false;
+}
+
 } // namespace
+
+// Off the GUI thread isSelected() does not wait for its answer.
+struct ExclusiveList::Ops
+    : Operations<Posts<CREATE_BASE, &ExclusiveList::createBase>, Waits<CREATE, &ExclusiveList::createExclusive>,
+                 Waits<GET_SELECTED_INDEX, &ListBoxPrivateIfc::getSelectedIndex, -1>,
+                 Posts<IS_SELECTED, &isChosen, false>,
+                 Waits<SET_SELECTED_INDEX, &ListBoxPrivateIfc::setSelectedIndex>> {};
 
 // The base is created from here and not by its own constructor: the GUI thread must not meet the object before it is an
 // ExclusiveList.
 ExclusiveList::ExclusiveList() : List(nullptr)
 {
-    const bool backFlag = backFlagFor(LIST_TYPE);
-    if (isGuiThread()) {
-        createBase(backFlag);
-        createExclusive();
-    } else {
-        postEventAsync(request(this, CREATE_BASE, backFlag));
-        postEvent(CREATE);
-    }
+    Ops::call<CREATE_BASE>(*this, implementation(), backFlagFor(LIST_TYPE));
+    Ops::call<CREATE>(*this, implementation());
 }
 
 // What is queued runs while the object is still an ExclusiveList.
@@ -53,14 +63,8 @@ void ExclusiveList::createExclusive()
 
 void ExclusiveList::processGuiRequest(GuiRequestEvent& request)
 {
-    switch (request.getType()) {
-    case CREATE_BASE: createBase(request.boolParam1); break;
-    case CREATE: createExclusive(); break;
-    case GET_SELECTED_INDEX: answer<int>(request, chosenIndex()); break;
-    case IS_SELECTED: isChosen(request.intParam1); break;
-    case SET_SELECTED_INDEX: choose(request.intParam1); break;
-    default: return List::processGuiRequest(request);
-    }
+    if (!Ops::carryOut(*this, implementation(), request))
+        return List::processGuiRequest(request);
     signalComplete(request);
 }
 
@@ -68,46 +72,17 @@ void ExclusiveList::cleanup() {}
 
 void ExclusiveList::setSelectedIndex(int index)
 {
-    if (isGuiThread())
-        return choose(index);
-    postEvent(request(this, SET_SELECTED_INDEX, index));
+    Ops::call<SET_SELECTED_INDEX>(*this, implementation(), index);
 }
 
 int ExclusiveList::getSelectedIndex()
 {
-    if (isGuiThread())
-        return chosenIndex();
-    int index = -1;
-    postEvent(request(this, GET_SELECTED_INDEX, into(index)));
-    return index;
+    return Ops::call<GET_SELECTED_INDEX>(*this, implementation());
 }
 
 bool ExclusiveList::isSelected(int index)
 {
-    if (isGuiThread())
-        return isChosen(index);
-    postEventAsync(request(this, IS_SELECTED, index));
-    return false;
-}
-
-void ExclusiveList::choose(int index)
-{
-    if (implementation() != nullptr)
-        implementation()->setSelectedIndex(index);
-}
-
-int ExclusiveList::chosenIndex()
-{
-    return implementation() != nullptr ? implementation()->getSelectedIndex() : -1;
-}
-
-bool ExclusiveList::isChosen(int index)
-{
-    if (auto* list = dynamic_cast<ExclusiveListPrivate*>(implementation()))
-        return list->isSelected(index);
-    if (auto* list = dynamic_cast<ExclusiveListPrivateWP1*>(implementation()))
-        return list->isSelected(index);
-    return false;
+    return Ops::call<IS_SELECTED>(*this, implementation(), index);
 }
 
 void ExclusiveList::addCommand(Command*) {}

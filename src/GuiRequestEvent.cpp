@@ -1,7 +1,6 @@
 #include "DisplayAPI/GuiRequestEvent.h"
 
 #include "RecordPool.h"
-#include "Request.h"
 #include "utilities/Wait.h"
 
 namespace DisplayAPI {
@@ -34,11 +33,6 @@ void GuiRequestEvent::operator delete(void* record, std::size_t size) noexcept
         RecordPool<GuiRequestEvent>::release(record);
     else
         ::operator delete(record);
-}
-
-GuiRequestEvent* newHelperRecord(Widget* requester, int code)
-{
-    return new GuiRequestEvent(requester, code);
 }
 
 } // namespace DisplayAPI

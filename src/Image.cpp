@@ -1,7 +1,7 @@
 #include "DisplayAPI/Image.h"
 
 #include "ImagePrivate.h"
-#include "Request.h"
+#include "Operations.h"
 
 namespace DisplayAPI {
 
@@ -11,14 +11,14 @@ enum Request { DESTROY = 1, CREATE_BLANK = 2, WIDTH = 10, HEIGHT = 11 };
 
 } // namespace
 
-Image::Image()
-{
-    createBlank(0, 0);
-}
+struct Image::Ops : Operations<Waits<DESTROY, &Image::destroy>, Waits<CREATE_BLANK, &Image::createBlank>,
+                               Waits<WIDTH, &Image::width>, Waits<HEIGHT, &Image::height>> {};
+
+Image::Image() : Image(0u, 0u) {}
 
 Image::Image(unsigned int width, unsigned int height)
 {
-    createBlank(width, height);
+    Ops::call<CREATE_BLANK>(*this, mImplementation, width, height);
 }
 
 Image::Image(ImageSkinElement) {}
@@ -31,17 +31,11 @@ Image::Image(const char*, int) {}
 
 Image::~Image()
 {
-    if (isGuiThread())
-        destroy();
-    else
-        postEvent(DESTROY);
+    Ops::call<DESTROY>(*this, mImplementation);
 }
 
-void Image::createBlank(unsigned int width, unsigned int height)
-{
-    if (!isGuiThread())
-        postEvent(request(this, CREATE_BLANK, static_cast<int>(width), static_cast<int>(height)));
-}
+/// This telephone makes no pictures.
+void Image::createBlank(unsigned int, unsigned int) {}
 
 void Image::destroy()
 {
@@ -49,14 +43,19 @@ void Image::destroy()
     mImplementation = nullptr;
 }
 
+int Image::width() const
+{
+    return mImplementation != nullptr ? mImplementation->width() : 0;
+}
+
+int Image::height() const
+{
+    return mImplementation != nullptr ? mImplementation->height() : 0;
+}
+
 void Image::processGuiRequest(GuiRequestEvent& request)
 {
-    switch (request.getType()) {
-    case DESTROY: destroy(); break;
-    case WIDTH: answer<int>(request, mImplementation != nullptr ? mImplementation->width() : 0); break;
-    case HEIGHT: answer<int>(request, mImplementation != nullptr ? mImplementation->height() : 0); break;
-    default: break;
-    }
+    Ops::carryOut(*this, mImplementation, request);
     signalComplete(request);
 }
 

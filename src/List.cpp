@@ -6,7 +6,7 @@
 #include "DisplayAPI/ListItemPrivateIfc.h"
 #include "DisplayAPI/Ticker.h"
 #include "Log.h"
-#include "Request.h"
+#include "Operations.h"
 #include "Variant.h"
 #include "utilities/HardwareVersion.h"
 #include "variants/list/ListBoxPrivate.h"
@@ -54,15 +54,10 @@ enum Request {
     SET_SELECTION_HIGHLIGHT = 32
 };
 
-constexpr bool POST = true;
-constexpr bool WAIT = false;
-
-/// What a clear makes pointless.
-std::set<int>* supersededByClear()
+void select(ListBoxPrivateIfc& list, ListItem* item)
 {
-    static std::set<int> codes{APPEND_TEXT, APPEND_TRANSLATED, APPEND_ITEM, CLEAR, SET_SELECTED, INSERT_AT,
-                               REMOVE,      REMOVE_ALL,        REPLACE};
-    return &codes;
+    if (item != nullptr)
+        list.setSelected(item->getPrivateImplemetation());
 }
 
 /// The panel's sub-variant with a key that goes back.
@@ -70,16 +65,45 @@ constexpr int NO_BACK_SUB_VARIANT = 3;
 
 } // namespace
 
+// GET_TICKER, GET_DIALER and GET_ITEMS have no row: their round trip puts the call behind the caller's earlier
+// requests.
+struct List::Ops
+    : HelperOperations<Posts<CREATE, &List::create>, Waits<CLEAN_UP, &List::cleanup>,
+                       Posts<APPEND_TEXT, taking<const std::string&>(&List::createAndAppendItem)>,
+                       Posts<APPEND_TRANSLATED, taking<TranslationInfo*>(&List::createAndAppendItem)>,
+                       Posts<APPEND_ITEM, &List::privateAppend>, Waits<GET_SELECTED, &List::findSelectedItem>,
+                       Posts<SET_SELECTED, &select>,
+                       Waits<GET_SELECTED_INDEX, &ListBoxPrivateIfc::getSelectedIndex, -1>,
+                       Posts<SET_SELECTED_INDEX, &ListBoxPrivateIfc::setSelectedIndex>,
+                       Posts<INSERT_AT, &List::privateInsertAt>, Waits<REMOVE_AT, &List::privateRemoveAt>,
+                       Posts<REMOVE, &List::privateRemove>, Posts<REMOVE_ALL, &List::privateRemoveAll>,
+                       Posts<REPLACE, &List::privateReplace>, Waits<SIZE, &ListBoxPrivateIfc::size, -1>,
+                       Posts<HIDE, &ListBoxPrivateIfc::hide>, Posts<SET_TICKER, &List::privateSetTicker>,
+                       Posts<SET_TITLE, taking<const std::string&>(&ListBoxPrivateIfc::setTitle)>,
+                       Posts<SET_TITLE_TRANSLATED, taking<TranslationInfo*>(&ListBoxPrivateIfc::setTitle)>,
+                       Posts<SET_SYSTEM_WINDOW_SIZE, &ListBoxPrivateIfc::setSystemWindowSize>,
+                       Posts<SET_SYSTEM_WINDOW_TEXT, &ListBoxPrivateIfc::setSystemWindowText>,
+                       Posts<REMOVE_COMMAND_LISTENER, &ListBoxPrivateIfc::removeCommandListener>,
+                       Posts<ADD_COMMAND_LISTENER, &ListBoxPrivateIfc::addCommandListener>,
+                       Posts<SHOW_DIALLER_ON_INITIAL_KEY_EVENT, &ListBoxPrivateIfc::showDiallerOnInitialKeyEvent>,
+                       Posts<ADD_DIALER, &List::privateAddDialer>,
+                       Posts<SET_SELECTION_HIGHLIGHT, &ListBoxPrivateIfc::setSelectionHighlight>> {};
+
+/// Clearing makes queued changes pointless, and leaves no record behind on the GUI thread.
+struct List::ClearOps
+    : Operations<Superseding<Posts<CLEAR, &List::privateClear>, APPEND_TEXT, APPEND_TRANSLATED, APPEND_ITEM, CLEAR,
+                             SET_SELECTED, INSERT_AT, REMOVE, REMOVE_ALL, REPLACE>> {};
+
 List::List(int listType)
 {
-    postEventHelper(POST, helperRequest(this, CREATE, backFlagFor(listType)));
+    Ops::call<CREATE>(*this, mImplementation, backFlagFor(listType));
 }
 
 List::List(ListBoxPrivateIfc* implementation) : mImplementation(implementation) {}
 
 List::~List()
 {
-    postEventHelper(WAIT, helperRequest(this, CLEAN_UP));
+    Ops::call<CLEAN_UP>(*this, mImplementation);
 }
 
 bool List::backFlagFor(int listType)
@@ -102,53 +126,9 @@ void List::create(bool backFlag)
 
 void List::processGuiRequest(GuiRequestEvent& request)
 {
-    switch (request.getType()) {
-    case CREATE: create(request.boolParam1); break;
-    case CLEAN_UP: cleanup(); break;
-    case APPEND_TEXT: createAndAppendItem(request.stringParam1); break;
-    case APPEND_TRANSLATED: createAndAppendItem(pointer<TranslationInfo>(request.ptrParam1)); break;
-    case APPEND_ITEM: privateAppend(pointer<ListItem>(request.ptrParam1)); break;
-    case CLEAR: privateClear(); break;
-    case GET_SELECTED: answer<ListItem*>(request, findSelectedItem()); break;
-    case INSERT_AT: privateInsertAt(pointer<ListItem>(request.ptrParam1), request.intParam1); break;
-    case REMOVE_AT: answer<ListItem*>(request, privateRemoveAt(request.intParam1)); break;
-    case REMOVE: privateRemove(pointer<ListItem>(request.ptrParam1)); break;
-    case REMOVE_ALL: privateRemoveAll(); break;
-    case REPLACE: privateReplace(pointer<ListItem>(request.ptrParam1), pointer<ListItem>(request.ptrParam2)); break;
-    case SET_TICKER: privateSetTicker(pointer<Ticker>(request.ptrParam1)); break;
-    case ADD_DIALER: privateAddDialer(pointer<PopupDialer>(request.ptrParam1)); break;
-    default:
-        if (mImplementation != nullptr)
-            processImplementationRequest(request);
-        break;
-    }
+    if (!Ops::carryOut(*this, mImplementation, request))
+        ClearOps::carryOut(*this, mImplementation, request);
     signalComplete(request);
-}
-
-/// The requests that only the implementation has a part in. GET_TICKER, GET_DIALER and GET_ITEMS have none at all:
-/// their round trip puts the call behind the caller's earlier requests.
-void List::processImplementationRequest(GuiRequestEvent& request)
-{
-    ListBoxPrivateIfc& list = *mImplementation;
-    switch (request.getType()) {
-    case SET_SELECTED:
-        if (auto* item = pointer<ListItem>(request.ptrParam1))
-            list.setSelected(item->getPrivateImplemetation());
-        break;
-    case GET_SELECTED_INDEX: answer<int>(request, list.getSelectedIndex()); break;
-    case SET_SELECTED_INDEX: list.setSelectedIndex(request.intParam1); break;
-    case SIZE: answer<int>(request, list.size()); break;
-    case HIDE: list.hide(); break;
-    case SET_TITLE: list.setTitle(request.stringParam1); break;
-    case SET_TITLE_TRANSLATED: list.setTitle(pointer<TranslationInfo>(request.ptrParam1)); break;
-    case SET_SYSTEM_WINDOW_SIZE: list.setSystemWindowSize(request.intParam1); break;
-    case SET_SYSTEM_WINDOW_TEXT: list.setSystemWindowText(request.intParam1, request.stringParam1); break;
-    case REMOVE_COMMAND_LISTENER: list.removeCommandListener(pointer<CommandListener>(request.ptrParam1)); break;
-    case ADD_COMMAND_LISTENER: list.addCommandListener(pointer<CommandListener>(request.ptrParam1)); break;
-    case SHOW_DIALLER_ON_INITIAL_KEY_EVENT: list.showDiallerOnInitialKeyEvent(request.boolParam1); break;
-    case SET_SELECTION_HIGHLIGHT: list.setSelectionHighlight(request.boolParam1); break;
-    default: break;
-    }
 }
 
 DisplayablePrivateIfc* List::getPrivateImpl()
@@ -175,13 +155,13 @@ void List::unalign() {}
 void List::append(const std::string& text)
 {
     gLog(TRACE, 176, "DAPI::List::append() this: %p , text %s\n", static_cast<void*>(this), text.c_str());
-    postEventHelper(POST, helperRequest(this, APPEND_TEXT, text));
+    Ops::call<APPEND_TEXT>(*this, mImplementation, text);
 }
 
 void List::append(TranslationInfo* text)
 {
     gLog(TRACE, 186, "DAPI::List::append() this: %p tinfo: %p\n", static_cast<void*>(this), static_cast<void*>(text));
-    postEventHelper(POST, helperRequest(this, APPEND_TRANSLATED, text));
+    Ops::call<APPEND_TRANSLATED>(*this, mImplementation, text);
 }
 
 void List::append(ListItem* item)
@@ -190,7 +170,7 @@ void List::append(ListItem* item)
     if (loggingOnUni())
         gLog(TRACE, 196, "DAPI::List::append() this: %p listItem: %p, %s\n", static_cast<void*>(this),
              static_cast<void*>(item), item != nullptr ? item->getText().c_str() : "");
-    postEventHelper(POST, helperRequest(this, APPEND_ITEM, item));
+    Ops::call<APPEND_ITEM>(*this, mImplementation, item);
 }
 
 void List::appendItems(const std::string&) {}
@@ -200,10 +180,7 @@ void List::appendItems(TranslationInfo*) {}
 void List::clear()
 {
     gLog(TRACE, 222, "DAPI::List::clear() this: %p\n", static_cast<void*>(this));
-    if (isGuiThread())
-        return privateClear();
-    purgeOwnMessage(supersededByClear());
-    postEventAsync(CLEAR);
+    ClearOps::call<CLEAR>(*this, mImplementation);
 }
 
 std::vector<ListItem*> List::getItems() const
@@ -215,8 +192,7 @@ std::vector<ListItem*> List::getItems() const
 
 ListItem* List::getSelected()
 {
-    ListItem* selected = nullptr;
-    postEventHelper(WAIT, helperRequest(this, GET_SELECTED, into(selected)));
+    ListItem* const selected = Ops::call<GET_SELECTED>(*this, mImplementation);
     gLog(TRACE, 258, "*** DAPI::List::getSelected() this: %p returns %p\n", static_cast<void*>(this),
          static_cast<void*>(selected));
     return selected;
@@ -226,19 +202,18 @@ void List::setSelected(ListItem* item)
 {
     gLog(TRACE, 266, "*** DAPI::List::setSelected() this: %p item %p\n", static_cast<void*>(this),
          static_cast<void*>(item));
-    postEventHelper(POST, helperRequest(this, SET_SELECTED, item));
+    Ops::call<SET_SELECTED>(*this, mImplementation, item);
 }
 
 void List::setSelectedIndex(int index)
 {
     gLog(TRACE, 276, "DAPI::List::setSelectedIndex() this: %p index %d\n", static_cast<void*>(this), index);
-    postEventHelper(POST, helperRequest(this, SET_SELECTED_INDEX, index));
+    Ops::call<SET_SELECTED_INDEX>(*this, mImplementation, index);
 }
 
 int List::getSelectedIndex()
 {
-    int index = -1;
-    postEventHelper(WAIT, helperRequest(this, GET_SELECTED_INDEX, into(index)));
+    const int index = Ops::call<GET_SELECTED_INDEX>(*this, mImplementation);
     gLog(TRACE, 290, "*** DAPI::List::getSelectedIndex() this: %p returns %d\n", static_cast<void*>(this), index);
     return index;
 }
@@ -247,74 +222,71 @@ void List::insertAt(ListItem* item, int index)
 {
     gLog(TRACE, 298, "DAPI::List::insertAt() this: %p item %p index %d\n", static_cast<void*>(this),
          static_cast<void*>(item), index);
-    postEventHelper(POST, helperRequest(this, INSERT_AT, item, index));
+    Ops::call<INSERT_AT>(*this, mImplementation, item, index);
 }
 
 ListItem* List::removeAt(int index)
 {
     gLog(TRACE, 308, "DAPI::List::removeAt() this: %p index %d\n", static_cast<void*>(this), index);
-    ListItem* removed = nullptr;
-    postEventHelper(WAIT, helperRequest(this, REMOVE_AT, index, into(removed)));
-    return removed;
+    return Ops::call<REMOVE_AT>(*this, mImplementation, index);
 }
 
 void List::remove(ListItem* item)
 {
     gLog(TRACE, 320, "DAPI::List::remove() this: %p item %p\n", static_cast<void*>(this), static_cast<void*>(item));
-    postEventHelper(POST, helperRequest(this, REMOVE, item));
+    Ops::call<REMOVE>(*this, mImplementation, item);
 }
 
 void List::removeAll()
 {
-    postEventHelper(POST, helperRequest(this, REMOVE_ALL));
+    Ops::call<REMOVE_ALL>(*this, mImplementation);
 }
 
 void List::replace(ListItem* oldItem, ListItem* newItem)
 {
-    postEventHelper(POST, helperRequest(this, REPLACE, oldItem, newItem));
+    Ops::call<REPLACE>(*this, mImplementation, oldItem, newItem);
 }
 
 int List::size()
 {
-    int rows = -1;
-    postEventHelper(WAIT, helperRequest(this, SIZE, into(rows)));
+    const int rows = Ops::call<SIZE>(*this, mImplementation);
     gLog(TRACE, 352, "DAPI::List::size() this: %p returns %d\n", static_cast<void*>(this), rows);
     return rows;
 }
 
 void List::setTitle(const std::string& title)
 {
-    postEventHelper(POST, helperRequest(this, SET_TITLE, title));
+    Ops::call<SET_TITLE>(*this, mImplementation, title);
 }
 
 void List::setTitle(TranslationInfo* title)
 {
-    postEventHelper(POST, helperRequest(this, SET_TITLE_TRANSLATED, title));
+    Ops::call<SET_TITLE_TRANSLATED>(*this, mImplementation, title);
 }
 
 void List::setSystemWindowSize(int lines)
 {
-    postEventHelper(POST, helperRequest(this, SET_SYSTEM_WINDOW_SIZE, lines));
+    Ops::call<SET_SYSTEM_WINDOW_SIZE>(*this, mImplementation, lines);
 }
 
 void List::setSystemWindowText(int line, const std::string& text)
 {
-    postEventHelper(POST, helperRequest(this, SET_SYSTEM_WINDOW_TEXT, line, text));
+    Ops::call<SET_SYSTEM_WINDOW_TEXT>(*this, mImplementation, line, text);
 }
 
 void List::addCommandListener(CommandListener* listener)
 {
-    postEventHelper(POST, helperRequest(this, ADD_COMMAND_LISTENER, listener));
+    Ops::call<ADD_COMMAND_LISTENER>(*this, mImplementation, listener);
 }
 
 void List::removeCommandListener(CommandListener* listener)
 {
-    postEventHelper(POST, helperRequest(this, REMOVE_COMMAND_LISTENER, listener));
+    Ops::call<REMOVE_COMMAND_LISTENER>(*this, mImplementation, listener);
 }
 
 void List::hide()
 {
-    postEventHelper(POST, helperRequest(this, HIDE));
+    Ops::call<HIDE>(*this, mImplementation);
 }
 
 void List::localeChanged(std::string locale)
@@ -328,7 +300,7 @@ void List::localeChanged(std::string locale)
 
 void List::setTicker(Ticker* ticker)
 {
-    postEventHelper(POST, helperRequest(this, SET_TICKER, ticker));
+    Ops::call<SET_TICKER>(*this, mImplementation, ticker);
 }
 
 Ticker* List::getTicker()
@@ -339,17 +311,17 @@ Ticker* List::getTicker()
 
 void List::showDiallerOnInitialKeyEvent(bool on)
 {
-    postEventHelper(POST, helperRequest(this, SHOW_DIALLER_ON_INITIAL_KEY_EVENT, on));
+    Ops::call<SHOW_DIALLER_ON_INITIAL_KEY_EVENT>(*this, mImplementation, on);
 }
 
 void List::setSelectionHighlight(bool on)
 {
-    postEventHelper(POST, helperRequest(this, SET_SELECTION_HIGHLIGHT, on));
+    Ops::call<SET_SELECTION_HIGHLIGHT>(*this, mImplementation, on);
 }
 
 void List::addDialer(PopupDialer* dialer)
 {
-    postEventHelper(POST, helperRequest(this, ADD_DIALER, dialer));
+    Ops::call<ADD_DIALER>(*this, mImplementation, dialer);
 }
 
 PopupDialer* List::getDialer()

@@ -1,7 +1,7 @@
 #include "DisplayAPI/ListItem.h"
 
 #include "DisplayAPI/ListItemPrivateIfc.h"
-#include "Request.h"
+#include "Operations.h"
 #include "Variant.h"
 #include "utilities/ICC.h"
 #include "variants/list/ListItemPrivate.h"
@@ -14,30 +14,34 @@ namespace {
 
 enum Request { CREATE = 0, CREATE_TRANSLATED = 1, DESTROY = 2, SET_TEXT = 3, GET_TEXT = 6 };
 
+/// A row's text is fixed.
+void leaveText(ListItemPrivateIfc&, TranslationInfo*, const std::string&) {}
+
+std::string textOf(ListItemPrivateIfc& row)
+{
+    return ICC::fromUNICODEtoUTF8(row.getKestrelListItem()->DataGet());
+}
+
 } // namespace
+
+struct ListItem::Ops
+    : Operations<Posts<CREATE, taking<std::string, bool>(&ListItem::create)>,
+                 Posts<CREATE_TRANSLATED, taking<TranslationInfo*, bool>(&ListItem::create)>,
+                 Waits<DESTROY, &ListItem::destroy>, Posts<SET_TEXT, &leaveText>, Waits<GET_TEXT, &textOf>> {};
 
 ListItem::ListItem()
 {
-    if (isGuiThread())
-        create(std::string(), true);
-    else
-        postEventAsync(request(this, CREATE, std::string(), false));
+    createEmpty();
 }
 
 ListItem::ListItem(std::string text, bool flag)
 {
-    if (isGuiThread())
-        create(text, flag);
-    else
-        postEventAsync(request(this, CREATE, std::move(text), flag));
+    Ops::call<CREATE>(*this, mImplementation, std::move(text), flag);
 }
 
 ListItem::ListItem(TranslationInfo* text, bool flag)
 {
-    if (isGuiThread())
-        create(text, flag);
-    else
-        postEventAsync(request(this, CREATE_TRANSLATED, text, flag));
+    Ops::call<CREATE_TRANSLATED>(*this, mImplementation, text, flag);
 }
 
 ListItem::ListItem(ListItemPrivateIfc* implementation) : mImplementation(implementation)
@@ -47,20 +51,32 @@ ListItem::ListItem(ListItemPrivateIfc* implementation) : mImplementation(impleme
 
 ListItem::~ListItem()
 {
-    if (isGuiThread())
-        destroy();
-    else
-        postEvent(DESTROY);
+    Ops::call<DESTROY>(*this, mImplementation);
+}
+
+void ListItem::createEmpty()
+{
+    Ops::call<CREATE>(*this, mImplementation, std::string(), isGuiThread());
+}
+
+void ListItem::create(std::string text, bool flag)
+{
+    createRow(std::move(text), flag);
+}
+
+void ListItem::create(TranslationInfo* text, bool flag)
+{
+    createRow(text, flag);
 }
 
 template <typename Text>
-void ListItem::create(const Text& text, bool flag)
+void ListItem::createRow(Text text, bool flag)
 {
     name = "ListItem";
     if (isFullPanel())
-        mImplementation = new ListItemPrivate(text, flag);
+        mImplementation = new ListItemPrivate(std::move(text), flag);
     else
-        mImplementation = new ListItemPrivateWP1(text, flag);
+        mImplementation = new ListItemPrivateWP1(std::move(text), flag);
 }
 
 void ListItem::destroy()
@@ -71,17 +87,7 @@ void ListItem::destroy()
 
 void ListItem::processGuiRequest(GuiRequestEvent& request)
 {
-    switch (request.getType()) {
-    case CREATE: create(request.stringParam1, request.boolParam1); break;
-    case CREATE_TRANSLATED: create(pointer<TranslationInfo>(request.ptrParam1), request.boolParam1); break;
-    case DESTROY: destroy(); break;
-    case SET_TEXT: break; // a row's text is fixed
-    case GET_TEXT:
-        if (mImplementation != nullptr)
-            answer<std::string>(request, currentText());
-        break;
-    default: break;
-    }
+    Ops::carryOut(*this, mImplementation, request);
     signalComplete(request);
 }
 
@@ -92,29 +98,17 @@ ListItemPrivateIfc* ListItem::getPrivateImplemetation()
 
 std::string ListItem::getText()
 {
-    if (isGuiThread())
-        return currentText();
-    std::string text;
-    postEvent(request(this, GET_TEXT, into(text)));
-    return text;
-}
-
-std::string ListItem::currentText()
-{
-    return mImplementation != nullptr ? ICC::fromUNICODEtoUTF8(mImplementation->getKestrelListItem()->DataGet())
-                                      : std::string();
+    return Ops::call<GET_TEXT>(*this, mImplementation);
 }
 
 void ListItem::setText(std::string text)
 {
-    if (!isGuiThread())
-        postEventAsync(request(this, SET_TEXT, std::move(text)));
+    Ops::call<SET_TEXT>(*this, mImplementation, nullptr, text);
 }
 
 void ListItem::setText(TranslationInfo* text)
 {
-    if (!isGuiThread())
-        postEventAsync(request(this, SET_TEXT, text));
+    Ops::call<SET_TEXT>(*this, mImplementation, text, std::string());
 }
 
 void ListItem::enableContextMenuArrow(bool) {}

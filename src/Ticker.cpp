@@ -1,6 +1,6 @@
 #include "DisplayAPI/Ticker.h"
 
-#include "Request.h"
+#include "Operations.h"
 #include "TickerPrivate.h"
 
 namespace DisplayAPI {
@@ -11,12 +11,12 @@ enum Request { CREATE = 0, SET_TEXT = 1, GET_TEXT = 2 };
 
 } // namespace
 
+struct Ticker::Ops : Operations<Waits<CREATE, &Ticker::create>, Waits<SET_TEXT, &TickerPrivateIfc::setText>,
+                                Waits<GET_TEXT, &TickerPrivateIfc::getText>> {};
+
 Ticker::Ticker(std::string text)
 {
-    if (isGuiThread())
-        create(text);
-    else
-        postEvent(request(this, CREATE, std::move(text)));
+    Ops::call<CREATE>(*this, mImplementation, text);
 }
 
 Ticker::~Ticker()
@@ -33,40 +33,18 @@ void Ticker::create(const std::string& text)
 
 void Ticker::processGuiRequest(GuiRequestEvent& request)
 {
-    switch (request.getType()) {
-    case CREATE: create(request.stringParam1); break;
-    case SET_TEXT: changeText(request.stringParam1); break;
-    case GET_TEXT: answer<std::string>(request, currentText()); break;
-    default: break;
-    }
+    Ops::carryOut(*this, mImplementation, request);
     signalComplete(request);
 }
 
 void Ticker::setText(std::string text)
 {
-    if (isGuiThread())
-        return changeText(text);
-    postEvent(request(this, SET_TEXT, std::move(text)));
+    Ops::call<SET_TEXT>(*this, mImplementation, std::move(text));
 }
 
 std::string Ticker::getText()
 {
-    if (isGuiThread())
-        return currentText();
-    std::string text;
-    postEvent(request(this, GET_TEXT, into(text)));
-    return text;
-}
-
-void Ticker::changeText(const std::string& text)
-{
-    if (mImplementation != nullptr)
-        mImplementation->setText(text);
-}
-
-std::string Ticker::currentText()
-{
-    return mImplementation != nullptr ? mImplementation->getText() : std::string();
+    return Ops::call<GET_TEXT>(*this, mImplementation);
 }
 
 TickerPrivateIfc* Ticker::getPrivateImpl() const

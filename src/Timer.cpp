@@ -1,6 +1,6 @@
 #include "DisplayAPI/Timer.h"
 
-#include "Request.h"
+#include "Operations.h"
 #include "TimerPrivate.h"
 
 #include <memory>
@@ -40,13 +40,19 @@ std::set<int>* followers()
 
 } // namespace
 
+struct Timer::Ops
+    : Operations<Posts<CREATE, &Timer::create>, Waits<CLEAN_UP, &Timer::cleanUp>, Posts<START, &TimerPrivateIfc::start>,
+                 Posts<STOP, &TimerPrivateIfc::stop>, Posts<ENABLE_SINGLE_SHOT, &TimerPrivateIfc::enableSingleShot>,
+                 Posts<ADD_COMMAND_LISTENER, &TimerPrivateIfc::addCommandListener>,
+                 Posts<REMOVE_COMMAND_LISTENER, &TimerPrivateIfc::removeCommandListener>,
+                 Posts<ADD_EVENT_LISTENER, &TimerPrivateIfc::addEventListener>,
+                 Posts<REMOVE_EVENT_LISTENER, &TimerPrivateIfc::removeEventListener>,
+                 Posts<ADD_COMMAND, &TimerPrivateIfc::addCommand>> {};
+
 Timer::Timer(int interval)
 {
     name = "Timer";
-    if (isGuiThread())
-        create(interval);
-    else
-        postEventAsync(request(this, CREATE, interval));
+    Ops::call<CREATE>(*this, mImplementation, interval);
 }
 
 Timer::Timer(TimerPrivateIfc* implementation) : mImplementation(implementation)
@@ -56,10 +62,8 @@ Timer::Timer(TimerPrivateIfc* implementation) : mImplementation(implementation)
 
 Timer::~Timer()
 {
-    if (isGuiThread())
-        cleanUp();
-    else if (!dropQueuedRequests())
-        postEvent(CLEAN_UP);
+    if (isGuiThread() || !dropQueuedRequests())
+        Ops::call<CLEAN_UP>(*this, mImplementation);
 }
 
 void Timer::create(int interval)
@@ -89,80 +93,48 @@ bool Timer::dropQueuedRequests()
 /// A listener may delete the timer, so nothing of it is used after its handler has run.
 void Timer::processGuiRequest(GuiRequestEvent& request)
 {
-    switch (request.getType()) {
-    case CREATE: create(request.intParam1); break;
-    case CLEAN_UP: cleanUp(); break;
-    default:
-        if (mImplementation != nullptr)
-            processImplementationRequest(request);
-        break;
-    }
+    Ops::carryOut(*this, mImplementation, request);
     request.signalComplete();
-}
-
-void Timer::processImplementationRequest(GuiRequestEvent& request)
-{
-    TimerPrivateIfc& timer = *mImplementation;
-    switch (request.getType()) {
-    case START: timer.start(request.intParam1); break;
-    case STOP: timer.stop(); break;
-    case ENABLE_SINGLE_SHOT: timer.enableSingleShot(request.boolParam1); break;
-    case ADD_COMMAND_LISTENER: timer.addCommandListener(pointer<CommandListener>(request.ptrParam1)); break;
-    case REMOVE_COMMAND_LISTENER: timer.removeCommandListener(pointer<CommandListener>(request.ptrParam1)); break;
-    case ADD_EVENT_LISTENER: timer.addEventListener(pointer<TimerEvent>(request.ptrParam1)); break;
-    case REMOVE_EVENT_LISTENER: timer.removeEventListener(pointer<TimerEvent>(request.ptrParam1)); break;
-    case ADD_COMMAND: timer.addCommand(pointer<Command>(request.ptrParam1)); break;
-    default: break;
-    }
-}
-
-/// At once on the GUI thread, where a listener may delete the timer meanwhile; posted elsewhere.
-void Timer::carryOut(GuiRequestEvent* request)
-{
-    if (!isGuiThread())
-        return postEventAsync(request);
-    const std::unique_ptr<GuiRequestEvent> done(request);
-    processGuiRequest(*request);
 }
 
 void Timer::start(int ms)
 {
-    carryOut(request(this, START, ms));
+    Ops::call<START>(*this, mImplementation, ms);
 }
 
 void Timer::stop()
 {
-    carryOut(request(this, STOP));
+    Ops::call<STOP>(*this, mImplementation);
 }
 
 void Timer::enableSingleShot(bool on)
 {
-    carryOut(request(this, ENABLE_SINGLE_SHOT, on));
+    Ops::call<ENABLE_SINGLE_SHOT>(*this, mImplementation, on);
 }
 
 void Timer::addCommand(Command* command)
 {
-    carryOut(request(this, ADD_COMMAND, command));
+    Ops::call<ADD_COMMAND>(*this, mImplementation, command);
 }
 
 void Timer::addCommandListener(CommandListener* listener)
 {
-    carryOut(request(this, ADD_COMMAND_LISTENER, listener));
+    Ops::call<ADD_COMMAND_LISTENER>(*this, mImplementation, listener);
 }
 
 void Timer::removeCommandListener(CommandListener* listener)
 {
-    carryOut(request(this, REMOVE_COMMAND_LISTENER, listener));
+    Ops::call<REMOVE_COMMAND_LISTENER>(*this, mImplementation, listener);
 }
 
 void Timer::addEventListener(TimerEvent* listener)
 {
-    carryOut(request(this, ADD_EVENT_LISTENER, listener));
+    Ops::call<ADD_EVENT_LISTENER>(*this, mImplementation, listener);
 }
 
 void Timer::removeEventListener(TimerEvent* listener)
 {
-    carryOut(request(this, REMOVE_EVENT_LISTENER, listener));
+    Ops::call<REMOVE_EVENT_LISTENER>(*this, mImplementation, listener);
 }
 
 TimerPrivateIfc* Timer::getPrivateImpl() const

@@ -28,11 +28,10 @@ public:
     void setWaitAnimation(bool on);
 
 private:
+    struct Ops;
+
     void createBase(bool backFlag);
     void createExclusive();
-    void choose(int index);
-    int chosenIndex();
-    bool isChosen(int index);
 };
 
 } // namespace DisplayAPI

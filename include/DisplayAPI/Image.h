@@ -39,8 +39,12 @@ public:
     ImagePrivate* getPrivateImpl() const;
 
 private:
+    struct Ops;
+
     void createBlank(unsigned int width, unsigned int height);
     void destroy();
+    int width() const;
+    int height() const;
 
     ImagePrivate* mImplementation = nullptr;
 };

@@ -142,11 +142,15 @@ protected:
     /// Returns when the GUI thread has carried out what the caller has posted so far; at once on the GUI thread.
     void waitForEarlierRequests() const;
 
-    /// For derived lists with an implementation of their own. GUI thread only.
-    ListBoxPrivateIfc* implementation() const { return mImplementation; }
+    /// For derived lists with an implementation of their own. GUI thread only; elsewhere only to be named, unread, in a
+    /// call.
+    ListBoxPrivateIfc* const& implementation() const { return mImplementation; }
     void setImplementation(ListBoxPrivateIfc* implementation) { mImplementation = implementation; }
 
 private:
+    struct Ops;
+    struct ClearOps;
+
     ListItem* find(int index) const;
     void createAndAppendItem(const std::string& text);
     void createAndAppendItem(TranslationInfo* text);
@@ -160,7 +164,6 @@ private:
     void privateClear();
     void privateSetTicker(Ticker* ticker);
     void privateAddDialer(PopupDialer* dialer);
-    void processImplementationRequest(GuiRequestEvent& request);
     void waitForEarlierRequests(int code) const;
     ListItem* findSelectedItem();
     void deleteItems();

@@ -46,11 +46,26 @@ public:
     /// Rows have no such arrow: does nothing.
     void enableContextMenuArrow(bool on);
 
+protected:
+    // For derived rows. Such a class starts from ListItem(nullptr), so that the GUI thread does not meet the object
+    // before it is complete, and deletes its own private side by a request that its destructor waits for.
+
+    /// What ListItem() does: makes a row with an empty text. Posts off the GUI thread, and returns at once.
+    void createEmpty();
+
+    /// GUI thread only; elsewhere only to be named, unread, in a call. The row owns the one that was set last; the one
+    /// before is the caller's.
+    ListItemPrivateIfc* const& implementation() const { return mImplementation; }
+    void setImplementation(ListItemPrivateIfc* implementation) { mImplementation = implementation; }
+
 private:
+    struct Ops;
+
+    void create(std::string text, bool flag);
+    void create(TranslationInfo* text, bool flag);
     template <typename Text>
-    void create(const Text& text, bool flag);
+    void createRow(Text text, bool flag);
     void destroy();
-    std::string currentText();
 
     ListItemPrivateIfc* mImplementation = nullptr;
 };

@@ -32,9 +32,9 @@ public:
     TickerPrivateIfc* getPrivateImpl() const;
 
 private:
+    struct Ops;
+
     void create(const std::string& text);
-    void changeText(const std::string& text);
-    std::string currentText();
 
     TickerPrivateIfc* mImplementation = nullptr;
 };

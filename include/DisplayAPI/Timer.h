@@ -54,11 +54,11 @@ public:
     TimerPrivateIfc* getPrivateImpl() const;
 
 private:
+    struct Ops;
+
     void create(int interval);
     void cleanUp();
     bool dropQueuedRequests();
-    void carryOut(GuiRequestEvent* request);
-    void processImplementationRequest(GuiRequestEvent& request);
 
     TimerPrivateIfc* mImplementation = nullptr;
 };

@@ -1,6 +1,6 @@
 // Widgets are destroyed while requests for them are queued and callers wait.
 
-#include "Request.h"
+#include "Operations.h"
 #include "support/Application.h"
 #include "support/GuiLoop.h"
 #include "support/TestWidget.h"
@@ -10,7 +10,6 @@
 #include <memory>
 
 using DisplayAPI::GuiRequestEvent;
-using DisplayAPI::request;
 using DisplayAPI::Widget;
 using test::Chance;
 using test::CountedRequest;
@@ -30,36 +29,34 @@ INSTANTIATE_SEEDED(DestroyingTest);
 /// Written as facades are: off the GUI thread its destructor lets the GUI thread delete the private side.
 class Facade : public Widget {
 public:
-    Facade() { postEventAsync(request(this, CREATE)); }
+    Facade() { Ops::call<CREATE>(*this, mPrivate); }
 
     ~Facade() override
     {
         purgeOwnMessage(SET);
-        postEvent(request(this, DESTROY));
+        Ops::call<DESTROY>(*this, mPrivate);
     }
 
-    void set(int value) { postEventAsync(request(this, SET, value)); }
-
-    int value()
-    {
-        int value = -1;
-        postEvent(request(this, GET, DisplayAPI::into(value)));
-        return value;
-    }
+    void set(int value) { Ops::call<SET>(*this, mPrivate, value); }
+    int value() { return Ops::call<GET>(*this, mPrivate); }
 
     void processGuiRequest(GuiRequestEvent& request) override
     {
-        switch (request.getType()) {
-        case CREATE: mPrivate = std::make_unique<int>(0); break;
-        case DESTROY: mPrivate.reset(); break;
-        case SET: *mPrivate = request.intParam1; break;
-        case GET: answer<int>(request, *mPrivate); break;
-        }
+        Ops::carryOut(*this, mPrivate, request);
         signalComplete(request);
     }
 
 private:
     enum { CREATE, DESTROY, SET, GET };
+
+    void create() { mPrivate = std::make_unique<int>(0); }
+    void destroy() { mPrivate.reset(); }
+    static void write(int& stored, int value) { stored = value; }
+    static int read(int& stored) { return stored; }
+
+    using Ops =
+        DisplayAPI::Operations<DisplayAPI::Posts<CREATE, &Facade::create>, DisplayAPI::Waits<DESTROY, &Facade::destroy>,
+                               DisplayAPI::Posts<SET, &write>, DisplayAPI::Waits<GET, &read, -1>>;
 
     std::unique_ptr<int> mPrivate; ///< GUI thread only
 };

@@ -1,6 +1,5 @@
 // Several application threads post to several widgets while the loop runs.
 
-#include "Request.h"
 #include "host/toolkit/MessagePool.h"
 #include "support/Application.h"
 #include "support/GuiLoop.h"
@@ -13,8 +12,6 @@
 #include <numeric>
 
 using DisplayAPI::GuiRequestEvent;
-using DisplayAPI::into;
-using DisplayAPI::request;
 using DisplayAPI::Widget;
 using test::Chance;
 using test::CountedRequest;
@@ -77,7 +74,7 @@ TEST_P(PostingTest, CallsOfOneThreadOnOneWidgetKeepTheirOrder)
         std::array<int, 3> next{};
         for (int call = 0; call < CALLS; ++call) {
             const auto widget = static_cast<std::size_t>(chance.below(3));
-            postInOrder(widgets[widget], request(&widgets[widget], CODE, thread, next[widget]++), chance);
+            postInOrder(widgets[widget], test::numbered(widgets[widget], CODE, thread, next[widget]++), chance);
         }
     });
     gui.settle();
@@ -105,13 +102,11 @@ TEST_P(PostingTest, EveryRequestIsCarriedOutOnceOnTheGuiThread)
 TEST_P(PostingTest, QueriesFromManyThreadsGetTheirOwnAnswers)
 {
     GuiLoop gui;
-    TestWidget widget([](GuiRequestEvent& request) { answer<int>(request, request.intParam1 * 2); });
+    TestWidget widget([](GuiRequestEvent& request) { test::answer(request, request.intParam1 * 2); });
     test::onThreads(THREADS, [&](int thread) {
         for (int call = 0; call < CALLS; ++call) {
             const int question = thread * CALLS + call;
-            int result = -1;
-            widget.postEvent(request(&widget, CODE, question, into(result)));
-            ASSERT_EQ(result, 2 * question);
+            ASSERT_EQ(test::ask(widget, CODE, question), 2 * question);
         }
     });
 }

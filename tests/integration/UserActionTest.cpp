@@ -3,7 +3,6 @@
 #include "DisplayAPI/Command.h"
 #include "DisplayAPI/CommandListener.h"
 #include "DisplayAPI/ItemStateListener.h"
-#include "Request.h"
 #include "support/GuiLoop.h"
 #include "support/TestWidget.h"
 #include "support/Worker.h"
@@ -17,10 +16,8 @@ using DisplayAPI::Command;
 using DisplayAPI::CommandListener;
 using DisplayAPI::Displayable;
 using DisplayAPI::GuiRequestEvent;
-using DisplayAPI::into;
 using DisplayAPI::Item;
 using DisplayAPI::ItemStateListener;
-using DisplayAPI::request;
 using DisplayAPI::Widget;
 using test::GuiLoop;
 using test::TestWidget;
@@ -44,9 +41,7 @@ private:
     void ask()
     {
         EXPECT_FALSE(Widget::isGuiThread());
-        int result = -1;
-        mWidget.postEvent(request(&mWidget, 1, mAnswers, into(result)));
-        EXPECT_EQ(result, mAnswers + 1);
+        EXPECT_EQ(test::ask(mWidget, 1, mAnswers), mAnswers + 1);
         if (++mAnswers == ACTIONS)
             mFinished.count_down();
     }
@@ -65,7 +60,7 @@ TEST(UserActionTest, AListenerMayWaitForAFacadeWhileTheGuiThreadRaisesTheNextCom
     Command command("Call", Command::OK);
     CommandListener* listener = nullptr;
     TestWidget widget([&](GuiRequestEvent& request) {
-        answer<int>(request, request.intParam1 + 1);
+        test::answer(request, request.intParam1 + 1);
         if (request.intParam1 + 1 < ACTIONS)
             listener->postCommandAction(&command, nullptr);
     });
@@ -79,7 +74,7 @@ TEST(UserActionTest, AListenerMayWaitForAFacadeWhileTheGuiThreadRaisesTheNextCom
 TEST(UserActionTest, ManyActionsAtOnceAreAnsweredOneAfterAnother)
 {
     GuiLoop gui;
-    TestWidget widget([&](GuiRequestEvent& request) { answer<int>(request, request.intParam1 + 1); });
+    TestWidget widget([&](GuiRequestEvent& request) { test::answer(request, request.intParam1 + 1); });
     Application application(widget);
     gui.call([&] {
         for (int action = 1; action <= ACTIONS; ++action)

@@ -32,4 +32,26 @@ std::vector<unsigned int> TestWidget::threads() const
     return mThreads;
 }
 
+DisplayAPI::GuiRequestEvent* numbered(DisplayAPI::Widget& widget, int code, int first, int second)
+{
+    auto* const record = new DisplayAPI::GuiRequestEvent(&widget, code);
+    record->intParam1 = first;
+    record->intParam2 = second;
+    return record;
+}
+
+int ask(DisplayAPI::Widget& widget, int code, int question)
+{
+    int result = -1;
+    DisplayAPI::GuiRequestEvent* const record = numbered(widget, code, question);
+    record->returnValue3 = &result;
+    widget.postEvent(record);
+    return result;
+}
+
+void answer(DisplayAPI::GuiRequestEvent& question, int number)
+{
+    *static_cast<int*>(question.returnValue3) = number;
+}
+
 } // namespace test

@@ -48,4 +48,13 @@ private:
     std::atomic<int>& mLive;
 };
 
+/// A record with numbers in its fields.
+DisplayAPI::GuiRequestEvent* numbered(DisplayAPI::Widget& widget, int code, int first, int second = -1);
+
+/// Posts a number to `widget`, waits, and returns the number that its handler answers; -1 where it does not.
+int ask(DisplayAPI::Widget& widget, int code, int question);
+
+/// What such a handler says.
+void answer(DisplayAPI::GuiRequestEvent& question, int number);
+
 } // namespace test

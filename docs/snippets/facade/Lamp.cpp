@@ -1,7 +1,7 @@
 #include "Lamp.h"
 
 #include "LampPrivate.h"
-#include "Request.h"
+#include "Operations.h"
 
 namespace DisplayAPI {
 
@@ -11,48 +11,17 @@ enum Request { CREATE = 0, DESTROY = 1, BLINK = 2, IS_LIT = 3 };
 
 } // namespace
 
+struct Lamp::Ops : Operations<Posts<CREATE, &Lamp::create>, Waits<DESTROY, &Lamp::destroy>,
+                              Posts<BLINK, &LampPrivateIfc::blink>, Waits<IS_LIT, &LampPrivateIfc::isLit>> {};
+
 Lamp::Lamp()
 {
-    if (isGuiThread())
-        create();
-    else
-        postEventAsync(CREATE);
+    Ops::call<CREATE>(*this, mImplementation);
 }
 
 Lamp::~Lamp()
 {
-    if (isGuiThread())
-        destroy();
-    else
-        postEvent(DESTROY);
-}
-
-void Lamp::blink(int milliseconds)
-{
-    if (isGuiThread())
-        return startBlinking(milliseconds);
-    postEventAsync(request(this, BLINK, milliseconds));
-}
-
-bool Lamp::isLit()
-{
-    if (isGuiThread())
-        return blinks();
-    bool lit = false;
-    postEvent(request(this, IS_LIT, into(lit)));
-    return lit;
-}
-
-void Lamp::processGuiRequest(GuiRequestEvent& request)
-{
-    switch (request.getType()) {
-    case CREATE: create(); break;
-    case DESTROY: destroy(); break;
-    case BLINK: startBlinking(request.intParam1); break;
-    case IS_LIT: answer<bool>(request, blinks()); break;
-    default: break;
-    }
-    signalComplete(request);
+    Ops::call<DESTROY>(*this, mImplementation);
 }
 
 void Lamp::create()
@@ -67,15 +36,20 @@ void Lamp::destroy()
     mImplementation = nullptr;
 }
 
-void Lamp::startBlinking(int milliseconds)
+void Lamp::blink(int milliseconds)
 {
-    if (mImplementation != nullptr)
-        mImplementation->blink(milliseconds);
+    Ops::call<BLINK>(*this, mImplementation, milliseconds);
 }
 
-bool Lamp::blinks() const
+bool Lamp::isLit()
 {
-    return mImplementation != nullptr && mImplementation->isLit();
+    return Ops::call<IS_LIT>(*this, mImplementation);
+}
+
+void Lamp::processGuiRequest(GuiRequestEvent& request)
+{
+    Ops::carryOut(*this, mImplementation, request);
+    signalComplete(request);
 }
 
 } // namespace DisplayAPI

@@ -27,10 +27,10 @@ public:
     bool isLit();
 
 private:
+    struct Ops;
+
     void create();
     void destroy();
-    void startBlinking(int milliseconds);
-    bool blinks() const;
 
     LampPrivateIfc* mImplementation = nullptr;
 };
