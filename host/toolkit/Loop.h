@@ -14,9 +14,9 @@ public:
     /// Whether Execute() is running.
     static bool isRunning();
 
-    /// How long the GUI thread has been at one thing: a message, a timer, a frame, or what the program does while the
-    /// toolkit is up and no loop runs. Zero while it waits for work, and without a toolkit. In real time, to some
-    /// milliseconds.
+    /// How long the GUI thread has been at one thing: messages without a turn for timers and frames in between, a
+    /// timer, a frame, or what the program does while the toolkit is up and no loop runs. Zero while it waits for work,
+    /// and without a toolkit. In real time, to some milliseconds.
     static std::chrono::milliseconds busyFor();
 
     /// Who is busy for that long stands still: nothing is shown, and no key is taken.

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::int64_t RESTS = 0;
 
-/// A tick of some milliseconds, at a tenth of what an exact time costs: the loop reads it for each message.
+/// A tick of some milliseconds, at a fraction of what an exact time costs: the loop reads it for each waiting call.
 std::int64_t coarseNow()
 {
     timespec now;

@@ -38,7 +38,7 @@ private:
     LoopStatus();
 
     std::atomic<std::int64_t> mBusySince; ///< milliseconds of real time
-    std::mutex mRootMutex; ///< held while the message is pushed, so that the root cannot die meanwhile
+    std::mutex mRootMutex;                ///< held while the message is pushed, so that the root cannot die meanwhile
     PegThing* mRoot = nullptr;
 };
 

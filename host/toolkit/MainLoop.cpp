@@ -73,10 +73,11 @@ void MainLoop::end()
 
 PegMessage* MainLoop::take()
 {
-    LoopStatus::instance().beginWork();
     PegMessage* const message =
         MainQueue::take(mMessagesInARow < MESSAGES_BEFORE_A_BURST ? MainQueue::Pace::PROMPT : MainQueue::Pace::BURST);
     mMessagesInARow = message ? mMessagesInARow + 1 : 0;
+    if (isTurnOfOthers())
+        LoopStatus::instance().beginWork();
     return message;
 }
 

@@ -118,12 +118,28 @@ TEST(Loop, BusyForGrowsWhileOneMessageIsHandled)
     EXPECT_TRUE(becomesTrue([] { return Loop::busyFor() == 0ms; }));
 }
 
-TEST(Loop, BusyForCountsEachMessageAnew)
+TEST(Loop, BusyForBeginsAnewWhenOthersHaveHadTheirTurn)
 {
     RunningToolkit toolkit;
     const auto takeTheirTime = [] { EXPECT_TRUE(becomesTrue([] { return Loop::busyFor() >= 500ms; })); };
     toolkit.post(takeTheirTime);
+    EXPECT_TRUE(toolkit.waitUntilIdle());
     toolkit.run([] { EXPECT_LT(Loop::busyFor(), 500ms); });
+}
+
+TEST(Loop, BusyForDoesNotGrowThroughABurst)
+{
+    RunningToolkit toolkit;
+    std::atomic<bool> isOver = false;
+    std::function<void()> again = [&] {
+        if (!isOver)
+            toolkit.post(again);
+    };
+    toolkit.post(again);
+    for (const auto end = std::chrono::steady_clock::now() + 1200ms; std::chrono::steady_clock::now() < end;)
+        EXPECT_LT(Loop::busyFor(), 1s);
+    isOver = true;
+    EXPECT_TRUE(toolkit.waitUntilIdle());
 }
 
 TEST(Loop, ProgramThatDoesNotRunItStandsStill)
