@@ -27,8 +27,9 @@ install(DIRECTORY ${PROJECT_SOURCE_DIR}/platform/ DESTINATION ${HEADERS} FILES_M
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/kit DESTINATION ${HEADERS} FILES_MATCHING PATTERN *.h)
 install(FILES ${PROJECT_SOURCE_DIR}/host/Phone.h DESTINATION ${HEADERS}/host)
 install(FILES ${PROJECT_SOURCE_DIR}/host/languages/Languages.h DESTINATION ${HEADERS}/host/languages)
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/languages
-    DESTINATION ${CMAKE_INSTALL_LIBDIR}/displayapi-${PROJECT_VERSION_MAJOR} FILES_MATCHING PATTERN *.po)
+# What lies beside the shared objects: catalogues.
+install(DIRECTORY ${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/displayapi-${PROJECT_VERSION_MAJOR}
+    DESTINATION ${CMAKE_INSTALL_LIBDIR})
 
 install(EXPORT DisplayAPI NAMESPACE DisplayAPI:: DESTINATION ${PACKAGE} FILE DisplayAPITargets.cmake)
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/DisplayAPIConfig.cmake.in DisplayAPIConfig.cmake

@@ -1,10 +1,11 @@
 #include "host/frontend/FrontEnd.h"
 
+#include "host/utilities/Beside.h"
+
 #include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <dlfcn.h>
-#include <filesystem>
 #include <memory>
 #include <string_view>
 
@@ -29,15 +30,6 @@ std::unique_ptr<FrontEnd> gFrontEnd;
     std::fprintf(stderr, "%s\n", reason.c_str());
     std::fflush(stderr);
     std::_Exit(EXIT_FAILURE);
-}
-
-/// The path of a file that lies beside this shared object.
-std::string besideTheHost(const char* file)
-{
-    Dl_info info;
-    if (dladdr(reinterpret_cast<void*>(&besideTheHost), &info) == 0)
-        return file;
-    return std::filesystem::path(info.dli_fname).replace_filename(file).string();
 }
 
 /// The shared object stays loaded: its threads may still be on their way out.

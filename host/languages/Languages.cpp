@@ -1,12 +1,12 @@
 #include "host/languages/Languages.h"
 
 #include "host/languages/Catalogue.h"
+#include "host/utilities/Beside.h"
 #include "utilities/Logging.h"
 
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <dlfcn.h>
 #include <filesystem>
 
 namespace host {
@@ -17,7 +17,6 @@ namespace fs = std::filesystem;
 
 constexpr int REFUSED = 3;
 constexpr const char* BESIDE = "displayapi-1/languages";
-constexpr const char* ENDING = ".po";
 constexpr const char* OWN_NAME = "Language.name";
 
 Language describe(const std::string& code, const Catalogue& catalogue)
@@ -42,7 +41,8 @@ bool isCatalogue(const fs::directory_entry& entry)
 {
     std::error_code error;
     const fs::path& file = entry.path();
-    return file.extension() == ENDING && isCode(file.stem().string()) && entry.is_regular_file(error);
+    const bool isNamedSo = file.extension() == SOURCE_ENDING || file.extension() == COMPILED_ENDING;
+    return isNamedSo && isCode(file.stem().string()) && entry.is_regular_file(error);
 }
 
 void tellIfUseless(const char* folder)
@@ -67,24 +67,17 @@ std::string Languages::folder()
         tellIfUseless(asked);
         return asked;
     }
-    Dl_info info;
-    if (dladdr(reinterpret_cast<void*>(&Languages::folder), &info) == 0)
-        return BESIDE;
-    return fs::absolute(info.dli_fname).replace_filename(BESIDE).string();
+    return besideTheHost(BESIDE);
 }
 
 std::vector<Language> Languages::available() const
 {
     std::vector<Language> all;
-    std::error_code error;
-    for (fs::directory_iterator entry(mFolder, error), end; entry != end; entry.increment(error)) {
-        if (!isCatalogue(*entry))
-            continue;
+    for (const std::string& code : codes()) {
         Catalogue catalogue;
-        readCatalogue(entry->path(), catalogue);
-        all.push_back(describe(entry->path().stem().string(), catalogue));
+        readCatalogue(fileOf(code), catalogue);
+        all.push_back(describe(code, catalogue));
     }
-    std::ranges::sort(all, {}, &Language::code);
     return all;
 }
 
@@ -93,12 +86,13 @@ std::string Languages::use(const std::string& code)
     if (!isCode(code))
         return "There is no language '" + code + "'.";
     auto catalogue = std::make_shared<Catalogue>();
-    if (std::string complaint = readCatalogue(pathOf(code), *catalogue); !complaint.empty()) {
+    const fs::path file = fileOf(code);
+    if (std::string complaint = readCatalogue(file, *catalogue); !complaint.empty()) {
         log(__LINE__, complaint);
         return complaint;
     }
     const std::lock_guard lock(mMutex);
-    mInUse = {std::move(catalogue), code};
+    mInUse = {std::move(catalogue), code, file.filename()};
     return {};
 }
 
@@ -116,7 +110,7 @@ std::string Languages::translate(const std::string& key)
     const auto found = now.catalogue->texts.find(key);
     if (found != now.catalogue->texts.end())
         return found->second;
-    reportMissing(now.code, key);
+    reportMissing(now, key);
     return key;
 }
 
@@ -126,21 +120,35 @@ Languages::InUse Languages::inUse() const
     return mInUse;
 }
 
-void Languages::reportMissing(const std::string& code, const std::string& key)
+void Languages::reportMissing(const InUse& now, const std::string& key)
 {
     if (!loggingOnUni())
         return;
     {
         const std::lock_guard lock(mMutex);
-        if (!mReported.insert(code + ' ' + key).second)
+        if (!mReported.insert(now.code + ' ' + key).second)
             return;
     }
-    log(__LINE__, code + ENDING + " has no text for '" + key + "'");
+    log(__LINE__, now.file + " has no text for '" + key + "'");
 }
 
-std::string Languages::pathOf(const std::string& code) const
+std::set<std::string> Languages::codes() const
 {
-    return (fs::path(mFolder) / (code + ENDING)).string();
+    std::set<std::string> found;
+    std::error_code error;
+    for (fs::directory_iterator entry(mFolder, error), end; entry != end; entry.increment(error))
+        if (isCatalogue(*entry))
+            found.insert(entry->path().stem());
+    return found;
+}
+
+/// A source goes before what has been compiled of it: whoever has put both there has changed the source.
+std::string Languages::fileOf(const std::string& code) const
+{
+    std::error_code error;
+    const fs::path source = fs::path(mFolder) / (code + SOURCE_ENDING);
+    const fs::path compiled = fs::path(mFolder) / (code + COMPILED_ENDING);
+    return !fs::exists(source, error) && fs::exists(compiled, error) ? compiled : source;
 }
 
 } // namespace host

@@ -20,8 +20,9 @@ struct Language {
     friend bool operator==(const Language&, const Language&) = default;
 };
 
-/// The languages of the telephone: a folder with a catalogue for each, of which one is in use. Until then, and where a
-/// text is missing, a text is its key; each missing one is logged once per language.
+/// The languages of the telephone: a folder with a catalogue for each, of which one is in use. "de.mo" is what msgfmt
+/// has compiled of "de.po"; where both are, the source counts, and reading it takes the program msgfmt. Until then, and
+/// where a text is missing, a text is its key; each missing one is logged once per language.
 ///
 /// Safe from any thread. Lock: a leaf, held for a moment; nothing is read or logged under it.
 class Languages : public TranslatorIfc {
@@ -29,8 +30,8 @@ public:
     explicit Languages(std::string folder = Languages::folder());
     ~Languages() override;
 
-    /// Where the telephone's own catalogues lie: DISPLAYAPI_LANGUAGES of the environment, else beside this shared
-    /// object. A folder of the environment that has no catalogue is told on stderr.
+    /// Where the telephone's own catalogues lie: DISPLAYAPI_LANGUAGES of the environment, else beside the shared
+    /// objects. A folder of the environment that has no catalogue is told on stderr.
     static std::string folder();
 
     /// In the order of their codes. Reads all catalogues.
@@ -49,11 +50,13 @@ private:
     struct InUse {
         std::shared_ptr<const Catalogue> catalogue;
         std::string code;
+        std::string file; ///< its name: "de.mo"
     };
 
     InUse inUse() const;
-    void reportMissing(const std::string& code, const std::string& key);
-    std::string pathOf(const std::string& code) const;
+    void reportMissing(const InUse& now, const std::string& key);
+    std::set<std::string> codes() const;
+    std::string fileOf(const std::string& code) const;
 
     const std::string mFolder;
     mutable std::mutex mMutex;

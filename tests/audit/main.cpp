@@ -78,7 +78,7 @@ void lookForUnseen(const std::string& language, const std::string& panel, Findin
     host::Languages languages;
     if (const std::string error = languages.use(language); !error.empty())
         throw std::runtime_error(error);
-    for (const std::string& key : keysOf((fs::path(host::Languages::folder()) / (language + ".po")).string()))
+    for (const std::string& key : keysOf((fs::path(CATALOGUES) / (language + ".po")).string()))
         if (!isSeen(languages.translate(key), findings.seen))
             findings.faults.push_back({"unseen", language, panel, key, languages.translate(key)});
 }

@@ -29,7 +29,7 @@ std::string contentOf(const fs::path& file)
 
 fs::path pathOf(const std::string& code)
 {
-    return fs::path(host::Languages::folder()) / (code + ".po");
+    return fs::path(CATALOGUES) / (code + ".po");
 }
 
 host::Catalogue catalogueOf(const std::string& code)

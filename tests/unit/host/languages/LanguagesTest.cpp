@@ -1,14 +1,17 @@
 #include "host/languages/Languages.h"
 
+#include "host/languages/Msgfmt.h"
 #include "support/LogLines.h"
 #include "support/TemporaryFolder.h"
 #include "utilities/TranslationInfo.h"
 
 #include <atomic>
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <sstream>
 #include <sys/stat.h>
 #include <thread>
 
@@ -48,6 +51,25 @@ protected:
     }
 
     void write(const std::string& file, const std::string& content) { std::ofstream(folder / file) << content; }
+
+    void compile(const std::string& file, const std::string& content)
+    {
+        std::string compiled;
+        EXPECT_EQ(host::compileWithMsgfmt(content, compiled), "");
+        write(file, compiled);
+    }
+
+    /// Reading is quicker then.
+    void compileAll()
+    {
+        for (const char* code : {"de", "ja"}) {
+            const fs::path source = folder / (std::string(code) + ".po");
+            std::ostringstream content;
+            content << std::ifstream(source).rdbuf();
+            compile(std::string(code) + ".mo", content.str());
+            fs::remove(source);
+        }
+    }
 
     /// What is said of a catalogue with this content while German is in use; it stays in use.
     std::string complaintOf(const std::string& content)
@@ -108,6 +130,56 @@ TEST_F(LanguagesTest, WhatIsNoCodeIsNotListed)
     EXPECT_EQ(languages.available().size(), 2u);
     for (const Language& language : languages.available())
         EXPECT_EQ(languages.use(language.code), "");
+}
+
+TEST_F(LanguagesTest, CompiledCatalogueIsALanguage)
+{
+    compile("fr.mo", header("fr_FR") + text("Language.name", "Français") + text("Menu.title", "Menu"));
+    Languages languages(folder);
+    EXPECT_EQ(languages.available()[1], (Language{"fr", "Français", "fr_FR"}));
+    EXPECT_EQ(languages.use("fr"), "");
+    EXPECT_EQ(languages.translate("Menu.title"), "Menu");
+}
+
+TEST_F(LanguagesTest, SourceGoesBeforeWhatHasBeenCompiledOfIt)
+{
+    compile("de.mo", header("de_DE") + text("Menu.title", "Früher"));
+    Languages languages(folder);
+    EXPECT_EQ(languages.available().size(), 2u);
+    EXPECT_EQ(languages.use("de"), "");
+    EXPECT_EQ(languages.translate("Menu.title"), "Menü");
+    fs::remove(folder / "de.po");
+    EXPECT_EQ(languages.use("de"), "");
+    EXPECT_EQ(languages.translate("Menu.title"), "Früher");
+}
+
+TEST_F(LanguagesTest, WithoutMsgfmtCompiledCataloguesAreReadAndSourcesAreRefused)
+{
+    compile("fr.mo", header("fr_FR"));
+    const std::string path = std::getenv("PATH");
+    setenv("PATH", folder.c_str(), 1);
+    Languages languages(folder);
+    EXPECT_EQ(languages.use("fr"), "");
+    EXPECT_EQ(languages.use("de"), "de.po: Reading it takes msgfmt, of the Debian package gettext; what msgfmt has "
+                                   "compiled (.mo) takes nothing.");
+    setenv("PATH", path.c_str(), 1);
+}
+
+TEST_F(LanguagesTest, ApplicationMayIgnoreTheEndOfItsChildren)
+{
+    const auto former = std::signal(SIGCHLD, SIG_IGN);
+    EXPECT_EQ(Languages(folder).use("ja"), "");
+    EXPECT_EQ(complaintOf(header("xx") + "msgid \"a\"\n"), "xx.po:6: missing 'msgstr' section");
+    std::signal(SIGCHLD, former);
+}
+
+TEST_F(LanguagesTest, BrokenCompiledCatalogueIsRefused)
+{
+    write("fr.mo", "\xDE\x12\x04\x95 and nothing more");
+    compile("xx.mo", "msgid \"\"\nmsgstr \"Language: xx\\n\"\n");
+    Languages languages(folder);
+    EXPECT_EQ(languages.use("fr"), "fr.mo: This is no catalogue that msgfmt has compiled.");
+    EXPECT_EQ(languages.use("xx"), "xx.mo: The header names no charset.");
 }
 
 TEST_F(LanguagesTest, FolderThatIsNotThereHasNoLanguages)
@@ -246,10 +318,9 @@ TEST_F(LanguagesTest, SyntaxErrorIsRefusedWithItsLine)
     EXPECT_THAT(complaintOf(std::string("\x7f"
                                         "ELF\0\1\2",
                                         7)),
-                StartsWith("xx.po:1: "));
+                StartsWith("xx.po:1:1: "));
 }
 
-/// The parser means to end the process then.
 TEST_F(LanguagesTest, FileThatCannotBeReadToItsEndIsRefused)
 {
     fs::create_symlink("/proc/self/mem", folder / "fr.po");
@@ -266,14 +337,14 @@ TEST_F(LanguagesTest, ManyErrorsDoNotEndTheProcess)
 
 TEST_F(LanguagesTest, DuplicateKeyIsRefusedWithItsLine)
 {
-    EXPECT_EQ(complaintOf(header("xx") + text("a", "b") + text("a", "c")), "xx.po:9: duplicate message definition");
+    EXPECT_EQ(complaintOf(header("xx") + text("a", "b") + text("a", "c")), "xx.po:9: duplicate message definition...");
 }
 
 TEST_F(LanguagesTest, InvalidUtf8IsRefusedWithItsLine)
 {
     EXPECT_EQ(complaintOf(header("xx") + text("a", "b") + text("c", "\xff\xfe")),
-              "xx.po:10: invalid multibyte sequence");
-    EXPECT_EQ(complaintOf(header("xx") + text("c", "\xed\xa0\x80")), "xx.po:7: invalid multibyte sequence");
+              "xx.po:10:9: invalid multibyte sequence");
+    EXPECT_EQ(complaintOf(header("xx") + text("c", "\xed\xa0\x80")), "xx.po:7:9: invalid multibyte sequence");
 }
 
 TEST_F(LanguagesTest, HeaderHasToNameUtf8AndALanguage)
@@ -325,6 +396,7 @@ TEST_F(LanguagesTest, FolderOfTheEnvironmentWithoutCataloguesIsTold)
 
 TEST_F(LanguagesTest, ThreadsLookUpWhileTheLanguageChanges)
 {
+    compileAll();
     Languages languages(folder);
     languages.use("de");
     std::atomic<bool> stop = false;
