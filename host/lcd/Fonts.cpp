@@ -1,6 +1,7 @@
 #include "host/lcd/Fonts.h"
 
 #include "host/lcd/PangoThreads.h"
+#include "host/utilities/Beside.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -16,35 +17,37 @@ namespace {
 struct Face {
     const char* family;
     const char* file;
-    const char* package;
+    const char* cure;
 };
 
 constexpr char16_t REPLACEMENT = 0xFFFD;
 
-enum FaceIndex : std::size_t { DEJAVU, DEJAVU_BOLD, TERMINUS, TERMINUS_BOLD, UNIFONT, FACE_COUNT };
+enum FaceIndex : std::size_t { DEJAVU, DEJAVU_BOLD, TERMINUS, TERMINUS_BOLD, BIWIDTH, UNIFONT, FACE_COUNT };
 
 constexpr std::array<Face, FACE_COUNT> FACES{
-    {{"DejaVu Sans Condensed", "DejaVuSansCondensed.ttf", "fonts-dejavu-extra"},
-     {"DejaVu Sans Condensed Bold", "DejaVuSansCondensed-Bold.ttf", "fonts-dejavu-extra"},
-     {"Terminus", "terminus-normal.otb", "fonts-terminus-otb"},
-     {"Terminus Bold", "terminus-bold.otb", "fonts-terminus-otb"},
-     {"Unifont", "unifont.otf", "fonts-unifont"}}};
+    {{"DejaVu Sans Condensed", "DejaVuSansCondensed.ttf", "install the Debian package fonts-dejavu-extra"},
+     {"DejaVu Sans Condensed Bold", "DejaVuSansCondensed-Bold.ttf", "install the Debian package fonts-dejavu-extra"},
+     {"Terminus", "terminus-normal.otb", "install the Debian package fonts-terminus-otb"},
+     {"Terminus Bold", "terminus-bold.otb", "install the Debian package fonts-terminus-otb"},
+     {"Biwidth", "efont-biwidth-14.otb", "it belongs beside the shared objects, build or install them again"},
+     {"Unifont", "unifont.otf", "install the Debian package fonts-unifont"}}};
 
-/// A look: its own face and the one that helps out before Unifont does.
+/// A look: its own face and the one that helps out before the large ones do.
 struct Style {
     const char* description;
     FaceIndex face;
     FaceIndex helper;
 };
 
-/// By Font. DejaVu joins Arabic letters, Unifont does not; so it helps out in the fixed looks as well.
+/// By Font. DejaVu joins Arabic letters, the bitmap fonts do not; so it helps out in the fixed looks as well. Biwidth
+/// has Chinese, Japanese and Korean in 14 dots, which leaves air in a line of 16 pixels; Unifont has everything, in 16.
 constexpr std::array<Style, 4> STYLES{
-    {{"DejaVu Sans Condensed,Unifont 13px", DEJAVU, DEJAVU},
-     {"DejaVu Sans Condensed,Unifont Bold 14px", DEJAVU_BOLD, DEJAVU_BOLD},
-     {"Terminus,DejaVu Sans Condensed,Unifont 16px", TERMINUS, DEJAVU},
-     {"Terminus,DejaVu Sans Condensed,Unifont Bold 16px", TERMINUS_BOLD, DEJAVU_BOLD}}};
+    {{"DejaVu Sans Condensed,Biwidth,Unifont 13px", DEJAVU, DEJAVU},
+     {"DejaVu Sans Condensed,Biwidth,Unifont Bold 14px", DEJAVU_BOLD, DEJAVU_BOLD},
+     {"Terminus,DejaVu Sans Condensed,Biwidth,Unifont 16px", TERMINUS, DEJAVU},
+     {"Terminus,DejaVu Sans Condensed,Biwidth,Unifont Bold 16px", TERMINUS_BOLD, DEJAVU_BOLD}}};
 
-/// Unifont is drawn on a grid of 16 pixels and is legible at that size only.
+/// A bitmap font is there in one size only.
 constexpr auto RENDERING = R"(
 <cachedir>/var/cache/fontconfig</cachedir>
 <cachedir prefix="xdg">displayapi</cachedir>
@@ -57,6 +60,10 @@ constexpr auto RENDERING = R"(
 <match target="font">
   <test name="family"><string>Unifont</string></test>
   <edit name="pixelsize" mode="assign"><double>16</double></edit>
+</match>
+<match target="font">
+  <test name="family"><string>Biwidth</string></test>
+  <edit name="pixelsize" mode="assign"><double>14</double></edit>
 </match>)";
 
 std::string configText(const std::vector<std::string>& folders, std::size_t faces)
@@ -206,10 +213,11 @@ bool Fonts::Set::has(std::size_t face, char16_t character) const
     return characters[face] != nullptr && FcCharSetHasChar(characters[face], character);
 }
 
-const std::vector<std::string>& Fonts::debianFolders()
+const std::vector<std::string>& Fonts::folders()
 {
     static const std::vector<std::string> folders{
-        "/usr/share/fonts/truetype/dejavu", "/usr/share/fonts/opentype/terminus", "/usr/share/fonts/opentype/unifont"};
+        "/usr/share/fonts/truetype/dejavu", "/usr/share/fonts/opentype/terminus", "/usr/share/fonts/opentype/unifont",
+        besideTheHost("displayapi-1/fonts")};
     return folders;
 }
 
@@ -227,8 +235,10 @@ _PangoLayout* Fonts::layoutFor(Font font, std::u16string& text)
     if (look.covers(style, text))
         return look.layouts[index];
     const Set& complete = load(mComplete, true);
-    if (complete.characters[UNIFONT] == nullptr)
-        reportMissing(UNIFONT);
+    for (const std::size_t face : {BIWIDTH, UNIFONT}) {
+        if (complete.characters[face] == nullptr)
+            reportMissing(face);
+    }
     complete.replaceUnknown(text);
     return complete.layouts[index];
 }
@@ -236,7 +246,7 @@ _PangoLayout* Fonts::layoutFor(Font font, std::u16string& text)
 Fonts::Set& Fonts::load(std::unique_ptr<Set>& set, bool complete)
 {
     if (!set)
-        set = std::make_unique<Set>(mFolders, complete ? FACE_COUNT : UNIFONT);
+        set = std::make_unique<Set>(mFolders, complete ? FACE_COUNT : BIWIDTH);
     return *set;
 }
 
@@ -245,8 +255,8 @@ void Fonts::reportMissing(std::size_t face)
     if (mReported[face])
         return;
     mReported[face] = true;
-    std::fprintf(stderr, "displayapi: the font %s is missing; install the Debian package %s. Going on without it.\n",
-                 FACES[face].family, FACES[face].package);
+    std::fprintf(stderr, "displayapi: the font %s is missing; %s. Going on without it.\n", FACES[face].family,
+                 FACES[face].cure);
 }
 
 } // namespace host

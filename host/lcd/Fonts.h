@@ -14,15 +14,15 @@ namespace host {
 enum class Font : unsigned char { TEXT, TEXT_BOLD, FIXED, FIXED_BOLD };
 
 /// The fonts of the panel: only the project's own, whatever else the machine has, so that pictures are the same
-/// everywhere. Nothing is loaded before the first text; Unifont not before a text needs it.
+/// everywhere. Nothing is loaded before the first text; the large bitmap fonts not before a text needs one.
 ///
 /// A missing font is reported once on stderr and replaced by what there is.
 class Fonts {
 public:
-    /// Where Debian's packages put them.
-    static const std::vector<std::string>& debianFolders();
+    /// Where Debian's packages put them, and the build the one that it makes.
+    static const std::vector<std::string>& folders();
 
-    explicit Fonts(std::vector<std::string> folders = debianFolders());
+    explicit Fonts(std::vector<std::string> folders = Fonts::folders());
     ~Fonts();
 
     /// A layout set up for `text`, without antialiasing, on one line. The caller sets text and width and does not keep
@@ -38,7 +38,7 @@ private:
     std::vector<std::string> mFolders;
     std::unique_ptr<Set> mLook;
     std::unique_ptr<Set> mComplete;
-    std::array<bool, 5> mReported{};
+    std::array<bool, 6> mReported{};
 };
 
 } // namespace host

@@ -68,6 +68,15 @@ std::string toUtf8(std::u16string_view text)
     return utf8;
 }
 
+/// Where digits and ideographs follow each other Pango moves one font against the other, by a pixel here: every look
+/// has one base line.
+PangoLayoutLine* onOneBaseLine(PangoLayoutLine* line)
+{
+    for (GSList* run = line->runs; run != nullptr; run = run->next)
+        static_cast<PangoLayoutRun*>(run->data)->y_offset = 0;
+    return line;
+}
+
 /// Without any font a text is a row of boxes: something is there, and how long it is.
 TextMask boxes(std::size_t count, int width)
 {
@@ -107,7 +116,7 @@ struct TextRenderer::Canvas {
     Canvas& operator=(const Canvas&) = delete;
 
     /// Draws what lies in the first `columns` pixels; what is to the right of them is undefined.
-    void draw(PangoLayout* layout, int columns) const;
+    void draw(PangoLayoutLine* line, int columns) const;
     void copyTo(TextMask& mask) const;
 
     int width;
@@ -115,14 +124,14 @@ struct TextRenderer::Canvas {
     cairo_t* context;
 };
 
-void TextRenderer::Canvas::draw(PangoLayout* layout, int columns) const
+void TextRenderer::Canvas::draw(PangoLayoutLine* line, int columns) const
 {
     cairo_set_operator(context, CAIRO_OPERATOR_CLEAR);
     cairo_rectangle(context, 0, 0, columns, TextMask::HEIGHT);
     cairo_fill(context);
     cairo_set_operator(context, CAIRO_OPERATOR_OVER);
     cairo_move_to(context, 0, TextMask::ASCENT);
-    pango_cairo_show_layout_line(context, pango_layout_get_line_readonly(layout, 0));
+    pango_cairo_show_layout_line(context, line);
 }
 
 void TextRenderer::Canvas::copyTo(TextMask& mask) const
@@ -189,7 +198,7 @@ TextMask TextRenderer::render(const Key& key)
     const std::string utf8 = toUtf8(text);
     pango_layout_set_width(layout, key.width * PANGO_SCALE);
     pango_layout_set_text(layout, utf8.data(), static_cast<int>(utf8.size()));
-    PangoLayoutLine* const line = pango_layout_get_line_readonly(layout, 0);
+    PangoLayoutLine* const line = onOneBaseLine(pango_layout_get_line(layout, 0));
     PangoRectangle extents;
     pango_layout_line_get_pixel_extents(line, nullptr, &extents);
     TextMask mask{.width = std::clamp(extents.width, 0, key.width),
@@ -199,7 +208,7 @@ TextMask TextRenderer::render(const Key& key)
                   .ink = {}};
     if (!mCanvas || mCanvas->width < mask.width)
         mCanvas = std::make_unique<Canvas>(mask.width);
-    mCanvas->draw(layout, mask.width);
+    mCanvas->draw(line, mask.width);
     mCanvas->copyTo(mask);
     return mask;
 }

@@ -27,7 +27,7 @@ struct TextMask {
 /// Turns texts into stencils and keeps those used last, so that painting a text again is a copy. GUI thread only.
 class TextRenderer {
 public:
-    explicit TextRenderer(std::vector<std::string> fontFolders = Fonts::debianFolders());
+    explicit TextRenderer(std::vector<std::string> fontFolders = Fonts::folders());
     ~TextRenderer();
     TextRenderer(const TextRenderer&) = delete;
     TextRenderer& operator=(const TextRenderer&) = delete;

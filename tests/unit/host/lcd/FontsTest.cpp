@@ -81,10 +81,38 @@ TEST_F(FontsTest, FixedFontHasEightPixelsACharacter)
     EXPECT_TRUE(mask("1234567890123456789012345", Font::FIXED, 192).cut);
 }
 
-TEST_F(FontsTest, IdeographsHaveSixteenPixelsInEveryFont)
+TEST_F(FontsTest, IdeographsHaveFourteenPixelsInEveryFont)
 {
-    EXPECT_EQ(mask("你好世界").width, 64);
-    EXPECT_EQ(mask("你好世界", Font::FIXED).width, 64);
+    EXPECT_EQ(mask("你好世界").width, 56);
+    EXPECT_EQ(mask("你好世界", Font::FIXED).width, 56);
+}
+
+TEST_F(FontsTest, EastAsianTextLeavesAirAboveAndBelowInALineOfSixteen)
+{
+    constexpr int TOP = TextMask::ASCENT - 12;
+    constexpr int BOTTOM = TextMask::ASCENT + 2;
+    for (Font font : {Font::TEXT, Font::TEXT_BOLD, Font::FIXED, Font::FIXED_BOLD}) {
+        for (const char* words : {"不在着信", "4711へ転送中", "サンドイッチ", "你们说这龜", "한국어 뷁"}) {
+            const TextMask some = mask(words, font);
+            const auto inRows = [&](int from, int to) {
+                return std::count(some.ink.begin() + from * some.width, some.ink.begin() + to * some.width, 1);
+            };
+            EXPECT_EQ(inRows(TOP, BOTTOM), inkOf(some)) << words;
+            EXPECT_FALSE(some.lacksGlyph) << words;
+        }
+    }
+}
+
+TEST_F(FontsTest, DigitsBesideIdeographsStandOnTheBaseLine)
+{
+    const TextMask both = mask("中4");
+    const TextMask digit = mask("4");
+    const int before = both.width - digit.width;
+    for (int y = 0; y < TextMask::HEIGHT; ++y) {
+        for (int x = 0; x < digit.width; ++x)
+            EXPECT_EQ(both.ink[static_cast<std::size_t>(y * both.width + before + x)],
+                      digit.ink[static_cast<std::size_t>(y * digit.width + x)]);
+    }
 }
 
 TEST_F(FontsTest, ArabicLettersAreJoined)
