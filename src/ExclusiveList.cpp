@@ -4,7 +4,6 @@
 #include "Operations.h"
 #include "Variant.h"
 #include "variants/list/ExclusiveListPrivate.h"
-#include "variants/list/ExclusiveListPrivateWP1.h"
 
 namespace DisplayAPI {
 
@@ -16,11 +15,8 @@ constexpr int LIST_TYPE = 1;
 
 bool isChosen(ListBoxPrivateIfc& list, int index)
 {
-    if (auto* full = dynamic_cast<ExclusiveListPrivate*>(&list))
-        return full->isSelected(index);
-    if (auto* small = dynamic_cast<ExclusiveListPrivateWP1*>(&list))
-        return small->isSelected(index);
-    return false;
+    auto* const exclusive = dynamic_cast<ExclusiveListSide*>(&list);
+    return exclusive != nullptr && exclusive->isSelected(index);
 }
 
 } // namespace

@@ -10,7 +10,6 @@
 #include "Variant.h"
 #include "utilities/HardwareVersion.h"
 #include "variants/list/ListBoxPrivate.h"
-#include "variants/list/ListBoxPrivateWP1.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -5,7 +5,6 @@
 #include "Variant.h"
 #include "utilities/ICC.h"
 #include "variants/list/ListItemPrivate.h"
-#include "variants/list/ListItemPrivateWP1.h"
 #include "widgets/KestrelListBoxItem.h"
 
 namespace DisplayAPI {

@@ -2,6 +2,7 @@
 
 #include "DisplayAPI/Export.h"
 
+#include <cstddef>
 #include <utility>
 
 namespace DisplayAPI {
@@ -11,7 +12,6 @@ class DISPLAYAPI_EXPORT Watched {
 public:
     /// False once the watcher is gone: nobody can ask for the widget any more.
     virtual bool isWatched() const = 0;
-    virtual void unwatch() = 0;
 
 protected:
     ~Watched() = default;
@@ -27,17 +27,17 @@ public:
     /// Makes the widget: a `Concrete`, which is a `Widget` or derived from it.
     template <typename Concrete, typename... Args>
     explicit WatchedWidget(std::in_place_type_t<Concrete>, Args&&... args)
-        : mWidget(new WatchedBy<Concrete>(mWidget, std::forward<Args>(args)...))
+        : mWidget(new WatchedBy<Concrete>(&mWidget, std::forward<Args>(args)...))
     {
     }
-    WatchedWidget(const WatchedWidget&) = delete;
-    WatchedWidget& operator=(const WatchedWidget&) = delete;
 
-    ~WatchedWidget()
+    /// Watches in the place of `other`, which is null from then on.
+    WatchedWidget(WatchedWidget&& other) noexcept : mWidget(std::exchange(other.mWidget, nullptr))
     {
-        if (auto* watched = dynamic_cast<Watched*>(mWidget))
-            watched->unwatch();
+        watchFrom(&mWidget);
     }
+    WatchedWidget& operator=(WatchedWidget&&) = delete;
+    ~WatchedWidget() { watchFrom(nullptr); }
 
     Widget* get() const { return mWidget; }
     Widget* operator->() const { return mWidget; }
@@ -48,25 +48,33 @@ public:
     Widget** slot() { return &mWidget; }
 
 private:
-    template <typename Concrete>
-    class WatchedBy final : public Concrete, public Watched {
-    public:
-        template <typename... Args>
-        explicit WatchedBy(Widget*& slot, Args&&... args) : Concrete(std::forward<Args>(args)...), mSlot(&slot)
-        {
-        }
-        ~WatchedBy() override
-        {
-            if (mSlot != nullptr)
-                *mSlot = nullptr;
-        }
+    struct Watch : Watched {
+        explicit Watch(Widget** watcher) : slot(watcher) {}
+        bool isWatched() const override { return slot != nullptr; }
 
-        bool isWatched() const override { return mSlot != nullptr; }
-        void unwatch() override { mSlot = nullptr; }
+        Widget** slot; ///< null once nobody watches
 
-    private:
-        Widget** mSlot;
+    protected:
+        ~Watch()
+        {
+            if (slot != nullptr)
+                *slot = nullptr;
+        }
     };
+
+    template <typename Concrete>
+    struct WatchedBy final : Concrete, Watch {
+        template <typename... Args>
+        explicit WatchedBy(Widget** watcher, Args&&... args) : Concrete(std::forward<Args>(args)...), Watch(watcher)
+        {
+        }
+    };
+
+    void watchFrom(Widget** slot)
+    {
+        if (auto* watch = dynamic_cast<Watch*>(mWidget))
+            watch->slot = slot;
+    }
 
     Widget* mWidget;
 };

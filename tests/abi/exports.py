@@ -44,8 +44,9 @@ def has_source(name):
 
 def not_left_open(library):
     undefined = symbols(library, "--undefined-only")
-    return [f"not left to the platform: the constructor of {name}"
-            for name in sorted(declared(CLASS, VARIANTS))
+    # What the classes of the panels have in common is not made itself.
+    made = [name for name in sorted(declared(CLASS, VARIANTS)) if not name.endswith("Side")]
+    return [f"not left to the platform: the constructor of {name}" for name in made
             if not any(symbol.startswith(f"DisplayAPI::{name}::{name}(") for symbol in undefined)]
 
 

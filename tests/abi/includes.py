@@ -36,7 +36,7 @@ def offences(path):
 
 def main():
     folders = (compiler.PUBLIC, compiler.SOURCE, compiler.PLATFORM, compiler.KIT)
-    paths = sorted(path for folder in folders for path in folder.rglob("*") if path.suffix in (".h", ".cpp", ".inc"))
+    paths = sorted(path for folder in folders for path in folder.rglob("*") if path.suffix in (".h", ".cpp"))
     lines = [line for path in paths for line in offences(path)]
     print("\n".join(lines + [f"{len(paths)} files looked at"]))
     return int(bool(lines) or not paths)

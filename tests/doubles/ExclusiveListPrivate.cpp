@@ -5,14 +5,25 @@
 
 namespace DisplayAPI {
 
-ExclusiveListPrivate::ExclusiveListPrivate(List* owner) : ListBoxPrivate(owner, false)
+using doubles::Recorder;
+
+ExclusiveListSide::ExclusiveListSide(List* owner, Panel panel) : ListBoxSide(owner, false, panel) {}
+
+ExclusiveListPrivate::ExclusiveListPrivate(List* owner) : ExclusiveListSide(owner, Panel::FULL)
 {
-    doubles::Recorder::instance().note(this, "ExclusiveListPrivate", owner);
+    Recorder::instance().note(this, "ExclusiveListPrivate", owner);
 }
 
-bool ExclusiveListPrivate::isSelected(int index)
+ExclusiveListPrivateWP1::ExclusiveListPrivateWP1(List* owner) : ExclusiveListSide(owner, Panel::SMALL)
 {
-    doubles::Recorder::instance().note(this, "ExclusiveListPrivate::isSelected", index);
+    Recorder::instance().note(this, "ExclusiveListPrivateWP1", owner);
+}
+
+bool ExclusiveListSide::isSelected(int index)
+{
+    const bool isFull = dynamic_cast<ExclusiveListPrivate*>(this) != nullptr;
+    Recorder::instance().note(this, isFull ? "ExclusiveListPrivate::isSelected" : "ExclusiveListPrivateWP1::isSelected",
+                              index);
     return doubles::Answers::instance().isSelected;
 }
 

@@ -4,12 +4,16 @@
 
 namespace DisplayAPI {
 
-ExclusiveListPrivate::ExclusiveListPrivate(List* owner) : ListBoxPrivate(owner, true)
+ExclusiveListSide::ExclusiveListSide(List* owner, Panel panel) : ListBoxSide(owner, true, panel)
 {
     static_cast<KestrelListBox*>(getWidget())->setExclusive(true);
 }
 
-bool ExclusiveListPrivate::isSelected(int index)
+ExclusiveListPrivate::ExclusiveListPrivate(List* owner) : ExclusiveListSide(owner, Panel::FULL) {}
+
+ExclusiveListPrivateWP1::ExclusiveListPrivateWP1(List* owner) : ExclusiveListSide(owner, Panel::SMALL) {}
+
+bool ExclusiveListSide::isSelected(int index)
 {
     return index >= 0 && index == getSelectedIndex();
 }

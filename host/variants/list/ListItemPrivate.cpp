@@ -1,40 +1,55 @@
 #include "variants/list/ListItemPrivate.h"
 
-#include "host/variants/list/RowCore.h"
+#include "DisplayAPI/OwnershipDelegate.h"
+#include "widgets/KestrelListBoxItem.h"
+
+#include <utility>
 
 namespace DisplayAPI {
 
-struct ListItemPrivate::Impl : RowCore {
-    using RowCore::RowCore;
+struct ListItemSide::Impl {
+    TranslatedText text;
+    KestrelListBoxItem* item = new KestrelListBoxItem(text.shown());
+    OwnershipDelegate<KestrelListBoxItem> ownership{&item, true};
 };
 
-ListItemPrivate::ListItemPrivate(std::string text, bool)
-    : mImpl(std::make_unique<Impl>(TranslatedText(std::move(text))))
+/// Text rows look alike on both panels; what differs is the list's.
+ListItemSide::ListItemSide(TranslatedText text, Panel) : mImpl(new Impl{.text = std::move(text)}) {}
+
+ListItemSide::~ListItemSide() = default;
+
+ListItemPrivate::ListItemPrivate(std::string text, bool) : ListItemSide(TranslatedText(std::move(text)), Panel::FULL) {}
+
+ListItemPrivate::ListItemPrivate(TranslationInfo* text, bool) : ListItemSide(TranslatedText(text), Panel::FULL) {}
+
+ListItemPrivateWP1::ListItemPrivateWP1(std::string text, bool)
+    : ListItemSide(TranslatedText(std::move(text)), Panel::SMALL)
 {
 }
 
-ListItemPrivate::ListItemPrivate(TranslationInfo* text, bool) : mImpl(std::make_unique<Impl>(TranslatedText(text))) {}
-
-ListItemPrivate::~ListItemPrivate() = default;
-
-void ListItemPrivate::localeChanged(std::string)
+ListItemPrivateWP1::ListItemPrivateWP1(TranslationInfo* text, bool) : ListItemSide(TranslatedText(text), Panel::SMALL)
 {
-    mImpl->lookUp();
 }
 
-void ListItemPrivate::releaseOwnership()
+void ListItemSide::localeChanged(std::string)
 {
-    mImpl->ownership().releaseOwnership();
+    if (mImpl->text.isTranslated())
+        mImpl->item->DataSet(mImpl->text.shown());
 }
 
-void ListItemPrivate::gainOwnership()
+void ListItemSide::releaseOwnership()
 {
-    mImpl->ownership().gainOwnership();
+    mImpl->ownership.releaseOwnership();
 }
 
-KestrelListBoxItem* ListItemPrivate::getKestrelListItem()
+void ListItemSide::gainOwnership()
 {
-    return mImpl->item();
+    mImpl->ownership.gainOwnership();
+}
+
+KestrelListBoxItem* ListItemSide::getKestrelListItem()
+{
+    return mImpl->item;
 }
 
 } // namespace DisplayAPI

@@ -2,6 +2,7 @@
 
 #include "DisplayAPI/DisplayablePrivate.h"
 #include "DisplayAPI/ListBoxPrivateIfc.h"
+#include "variants/Panel.h"
 
 #include <memory>
 
@@ -9,12 +10,10 @@ namespace DisplayAPI {
 
 class List;
 
-/// The list of the 240 x 128 panel and its narrow form.
-class DISPLAYAPI_EXPORT ListBoxPrivate : public DisplayablePrivate, public ListBoxPrivateIfc {
+/// The GUI-thread side of a list, whatever the panel.
+class DISPLAYAPI_EXPORT ListBoxSide : public DisplayablePrivate, public ListBoxPrivateIfc {
 public:
-    /// `owner` is the facade, not owned. `backItem`: the left key goes back.
-    ListBoxPrivate(List* owner, bool backItem);
-    ~ListBoxPrivate() override;
+    ~ListBoxSide() override;
 
     PegThing* getWidget() override;
     void releaseOwnership() override;
@@ -55,8 +54,26 @@ public:
     void setSelectionHighlight(bool on) override;
 
 protected:
+    ListBoxSide(List* owner, bool backItem, Panel panel);
+
+private:
     struct Impl;
     std::unique_ptr<Impl> mImpl;
+};
+
+/// The list of the 240 x 128 panel and its narrow form.
+class DISPLAYAPI_EXPORT ListBoxPrivate : public ListBoxSide {
+public:
+    /// `owner` is the facade, not owned. `backItem`: the left key goes back.
+    ListBoxPrivate(List* owner, bool backItem);
+};
+
+/// The list of the 208 x 42 panel.
+class DISPLAYAPI_EXPORT ListBoxPrivateWP1 : public ListBoxSide {
+public:
+    /// `owner` is the facade, not owned. `backItem`: the list ends with a row that goes back. It counts as no row:
+    /// selected, the index is -1.
+    ListBoxPrivateWP1(List* owner, bool backItem);
 };
 
 } // namespace DisplayAPI

@@ -59,6 +59,16 @@ TEST_F(WatchedWidgetTest, WidgetOutlivesItsWatcher)
     EXPECT_FALSE(isWatched(*widget));
 }
 
+TEST_F(WatchedWidgetTest, WatchGoesOnInAnotherPlace)
+{
+    WatchedWidget<Bell> other(std::move(*bell));
+    EXPECT_TRUE(*bell == nullptr);
+    bell.reset();
+    EXPECT_TRUE(isWatched(*other));
+    delete other.get();
+    EXPECT_TRUE(other == nullptr);
+}
+
 TEST_F(WatchedWidgetTest, OwnershipLiesOverItsSlot)
 {
     {

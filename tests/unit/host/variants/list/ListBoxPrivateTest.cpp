@@ -160,6 +160,12 @@ TYPED_TEST(ListBoxPrivateTest, changesOfAListOffScreenDoNot)
     EXPECT_EQ(this->display.changes, 0);
 }
 
+TYPED_TEST(ListBoxPrivateTest, ListThatIsShownTellsTheDisplay)
+{
+    this->list.show();
+    EXPECT_EQ(this->display.changes, 1);
+}
+
 TYPED_TEST(ListBoxPrivateTest, hideTakesTheWidgetOffTheScreenAndBack)
 {
     this->putOnScreen(this->list);

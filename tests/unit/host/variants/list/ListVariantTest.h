@@ -9,11 +9,8 @@
 #include "support/RunningToolkit.h"
 #include "unit/host/variants/list/ChangeCounter.h"
 #include "variants/list/ExclusiveListPrivate.h"
-#include "variants/list/ExclusiveListPrivateWP1.h"
 #include "variants/list/ListBoxPrivate.h"
-#include "variants/list/ListBoxPrivateWP1.h"
 #include "variants/list/ListItemPrivate.h"
-#include "variants/list/ListItemPrivateWP1.h"
 
 #include <gmock/gmock.h>
 

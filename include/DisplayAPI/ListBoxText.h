@@ -1,5 +1,7 @@
 #pragma once
 
+#include "DisplayAPI/Export.h"
+
 #include <string>
 #include <vector>
 
@@ -12,9 +14,9 @@ class Rect;
 namespace DisplayAPI {
 
 /// The list as text: its title and the rows in view.
-std::string listAsText(const KestrelListBox& list);
+DISPLAYAPI_EXPORT std::string listAsText(const KestrelListBox& list);
 
 /// The same, with the rows that share a pixel with one of `visible`; empty where nothing of the list does.
-std::string listAsText(const KestrelListBox& list, const std::vector<DisplayAPIUtils::Rect>& visible);
+DISPLAYAPI_EXPORT std::string listAsText(const KestrelListBox& list, const std::vector<DisplayAPIUtils::Rect>& visible);
 
 } // namespace DisplayAPI

@@ -1,4 +1,4 @@
-#include "host/variants/list/ListBoxText.h"
+#include "DisplayAPI/ListBoxText.h"
 
 #include "DisplayAPI/Rectangles.h"
 #include "DisplayAPI/ScreenText.h"
