@@ -5,7 +5,8 @@
 
 /// A line of text that runs from one edge to the other where it is too long for its area, and stands still where it
 /// fits, where texts of the current language begin. It rests for a moment each time that its beginning has come to the
-/// edge. Costs nothing while it is not visible, and next to nothing while something covers it. GUI thread only.
+/// edge; where the user wants less motion, it turns page by page. Costs nothing while it is not visible, and next to
+/// nothing while something covers it. GUI thread only.
 class TickerWidget : public PegThing {
 public:
     explicit TickerWidget(PegString text);
@@ -23,8 +24,9 @@ protected:
 
 private:
     void beginAnew();
-    void rest();
     void step();
+    int nextOffset() const;
+    int timeHere() const;
     bool fits() const;
     bool isCovered() const;
 

@@ -1,5 +1,7 @@
 #include "simulator/screen/ScreenRows.h"
 
+#include "toolkit/PegThing.h"
+
 #include <algorithm>
 
 namespace simulator {
@@ -12,6 +14,17 @@ bool isBeside(const host::TextRun& run, const PegRect& row)
     return row.top <= middle && middle <= row.bottom;
 }
 
+/// A ticker's text stays what it is while it runs.
+std::string lastingPart(const host::TextRun& run)
+{
+    return run.runs && run.widget != TYPE_TICKER ? std::string() : run.text;
+}
+
+std::string joined(const std::string& left, const std::string& right)
+{
+    return left + (left.empty() || right.empty() ? "" : "  ") + right;
+}
+
 } // namespace
 
 std::vector<ScreenRow> rowsOf(const std::vector<host::TextRun>& texts)
@@ -22,9 +35,10 @@ std::vector<ScreenRow> rowsOf(const std::vector<host::TextRun>& texts)
         if (!rows.empty() && isBeside(run, current)) {
             rows.back().text += "  " + run.text;
             rows.back().selected |= run.inverted;
+            rows.back().lasting = joined(rows.back().lasting, lastingPart(run));
             continue;
         }
-        rows.push_back({run.text, run.inverted});
+        rows.push_back({run.text, run.inverted, lastingPart(run)});
         current = run.area;
     }
     return rows;

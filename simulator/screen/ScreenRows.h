@@ -11,6 +11,7 @@ namespace simulator {
 struct ScreenRow {
     std::string text;
     bool selected = false;
+    std::string lasting = {}; ///< without what changes by itself as time passes: the clock in a status line, say
 
     friend bool operator==(const ScreenRow&, const ScreenRow&) = default;
 };

@@ -1,12 +1,29 @@
 #include "simulator/web/Broadcaster.h"
 
+#include "simulator/web/ServerMessages.h"
+
 #include <algorithm>
 #include <pthread.h>
 
 namespace simulator {
 
-Broadcaster::Broadcaster(std::function<host::Picture()> takePicture)
-    : mTakePicture(std::move(takePicture)), mSender([this] { run(); })
+namespace {
+
+/// How often it is looked whether the GUI thread stands still, while somebody wants to know.
+constexpr std::chrono::milliseconds GLANCE(250);
+
+template <typename Predicate>
+Broadcaster::Pages chosen(const Broadcaster::Pages& pages, Predicate predicate)
+{
+    Broadcaster::Pages result;
+    std::ranges::copy_if(pages, std::back_inserter(result), predicate);
+    return result;
+}
+
+} // namespace
+
+Broadcaster::Broadcaster(std::function<host::Picture()> takePicture, std::function<bool()> standsStill)
+    : mTakePicture(std::move(takePicture)), mStandsStill(std::move(standsStill)), mSender([this] { run(); })
 {
     pthread_setname_np(mSender.native_handle(), "page-sender");
 }
@@ -16,11 +33,14 @@ Broadcaster::~Broadcaster()
     end();
 }
 
-void Broadcaster::add(std::shared_ptr<PageConnection> page)
+bool Broadcaster::add(std::shared_ptr<PageConnection> page)
 {
     std::lock_guard lock(mMutex);
+    if (mPages.size() >= MOST_PAGES)
+        return false;
     mPages.push_back(std::move(page));
     mChanged.notify_all();
+    return true;
 }
 
 void Broadcaster::remove(const PageConnection* page)
@@ -29,16 +49,11 @@ void Broadcaster::remove(const PageConnection* page)
     std::erase_if(mPages, [page](const auto& each) { return each.get() == page; });
 }
 
-std::size_t Broadcaster::pageCount() const
-{
-    std::lock_guard lock(mMutex);
-    return mPages.size();
-}
-
-void Broadcaster::frameReady()
+void Broadcaster::frameReady(std::string language)
 {
     std::lock_guard lock(mMutex);
     ++mFrame;
+    mLanguage = std::move(language);
     mChanged.notify_all();
 }
 
@@ -61,36 +76,41 @@ void Broadcaster::end()
 
 void Broadcaster::run()
 {
-    std::unique_lock lock(mMutex);
-    while (!mEnding) {
-        const Pages pages = pagesInNeed();
-        if (pages.empty()) {
-            mChanged.wait(lock);
-            continue;
-        }
-        const std::uint32_t frame = mFrame;
-        lock.unlock();
-        sendTo(pages, frame);
-        lock.lock();
-    }
+    Lock lock(mMutex);
+    while (!mEnding)
+        serve(lock, mStandsStill());
     const Pages pages = mPages;
     lock.unlock();
     for (const auto& page : pages)
-        page->sendEnd();
+        page->sendLast(endedMessage());
 }
 
-Broadcaster::Pages Broadcaster::pagesInNeed() const
+/// What a page hears goes first: a GUI thread that stands still while it paints lets the picture wait.
+void Broadcaster::serve(Lock& lock, bool standsStill)
 {
-    Pages pages;
-    std::ranges::copy_if(mPages, std::back_inserter(pages), [this](const auto& page) { return page->wants(mFrame); });
-    return pages;
+    const std::uint32_t frame = mFrame;
+    const std::string language = mLanguage;
+    const Pages unaware = chosen(mPages, [=](const auto& page) { return page->needsToHear(standsStill); });
+    const Pages ready = chosen(mPages, [=](const auto& page) { return page->wants(frame); });
+    if (unaware.empty() && ready.empty())
+        return waitForChange(lock);
+    lock.unlock();
+    for (const auto& page : unaware)
+        page->tell(standsStill);
+    if (!ready.empty()) {
+        const FrameMessage message = makeFrameMessage(mTakePicture(), frame, language);
+        for (const auto& page : ready)
+            page->send(message);
+    }
+    lock.lock();
 }
 
-void Broadcaster::sendTo(const Pages& pages, std::uint32_t frame)
+void Broadcaster::waitForChange(Lock& lock)
 {
-    const FrameMessage message = makeFrameMessage(mTakePicture(), frame);
-    for (const auto& page : pages)
-        page->send(message);
+    if (mPages.empty())
+        mChanged.wait(lock);
+    else
+        mChanged.wait_for(lock, GLANCE);
 }
 
 } // namespace simulator

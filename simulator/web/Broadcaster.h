@@ -6,30 +6,34 @@
 #include <functional>
 #include <memory>
 #include <mutex>
+#include <string>
 #include <thread>
 #include <vector>
 
 namespace simulator {
 
 /// Sends frames to all open pages from a thread of its own: each page gets the latest frame when it can take one, and
-/// none that lies between. Whoever reports a frame is never held up by a page.
+/// none that lies between. Whoever reports a frame is never held up by a page. That thread also looks whether the GUI
+/// thread stands still, which cannot say so itself.
 /// Safe from any thread.
 class Broadcaster {
 public:
     using Pages = std::vector<std::shared_ptr<PageConnection>>;
 
     /// `takePicture` is called on the sending thread, for what is to be sent.
-    explicit Broadcaster(std::function<host::Picture()> takePicture);
+    Broadcaster(std::function<host::Picture()> takePicture, std::function<bool()> standsStill);
     Broadcaster(const Broadcaster&) = delete;
     Broadcaster& operator=(const Broadcaster&) = delete;
     ~Broadcaster();
 
-    void add(std::shared_ptr<PageConnection> page);
-    void remove(const PageConnection* page);
-    std::size_t pageCount() const;
+    static constexpr std::size_t MOST_PAGES = 16;
 
-    /// There is a new frame.
-    void frameReady();
+    /// Returns whether there was room for it.
+    bool add(std::shared_ptr<PageConnection> page);
+    void remove(const PageConnection* page);
+
+    /// There is a new frame, in a telephone of this language.
+    void frameReady(std::string language);
 
     /// Looks again at who can take a frame.
     void pageChanged();
@@ -38,15 +42,19 @@ public:
     void end();
 
 private:
+    using Lock = std::unique_lock<std::mutex>;
+
     void run();
-    Pages pagesInNeed() const;
-    void sendTo(const Pages& pages, std::uint32_t frame);
+    void serve(Lock& lock, bool standsStill);
+    void waitForChange(Lock& lock);
 
     std::function<host::Picture()> mTakePicture;
-    mutable std::mutex mMutex;
+    std::function<bool()> mStandsStill;
+    std::mutex mMutex;
     std::condition_variable mChanged;
     Pages mPages;
     std::uint32_t mFrame = 1;
+    std::string mLanguage;
     bool mEnding = false;
     std::thread mSender;
 };

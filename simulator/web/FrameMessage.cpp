@@ -1,19 +1,13 @@
 #include "simulator/web/FrameMessage.h"
 
 #include "simulator/screen/ScreenRows.h"
-#include "utilities/ICC.h"
-
-#include <algorithm>
-#include <cstdio>
+#include "simulator/web/ServerMessages.h"
 
 namespace simulator {
 
 namespace {
 
 constexpr int PIXELS_IN_A_BYTE = 4;
-
-/// More of a row than anybody wants to hear.
-constexpr std::size_t LONGEST_TEXT = 400;
 
 void appendNumber(std::string& message, std::uint32_t number, int bytes)
 {
@@ -43,38 +37,11 @@ std::string packed(const host::Picture& picture, std::uint32_t number)
     return message;
 }
 
-/// As a JSON string in ASCII, whatever the text is made of.
-std::string quoted(const std::string& text)
-{
-    const PegString characters = ICC::fromUTF8toUNICODE(text);
-    const std::size_t length = std::min(characters.length(), LONGEST_TEXT);
-    std::string json = "\"";
-    for (std::size_t i = 0; i < length; ++i) {
-        const PegChar c = characters.data()[i];
-        const bool isPlain = c >= ' ' && c < 0x7F && c != '"' && c != '\\';
-        char escape[8] = {static_cast<char>(c), '\0'};
-        if (!isPlain)
-            std::snprintf(escape, sizeof escape, "\\u%04X", static_cast<unsigned int>(c));
-        json += escape;
-    }
-    return json + '"';
-}
-
-std::string toJson(const std::vector<ScreenRow>& rows)
-{
-    std::string json = R"({"rows":[)";
-    for (const ScreenRow& row : rows) {
-        json += json.back() == '[' ? "" : ",";
-        json += R"({"text":)" + quoted(row.text) + R"(,"selected":)" + (row.selected ? "true" : "false") + '}';
-    }
-    return json + "]}";
-}
-
 } // namespace
 
-FrameMessage makeFrameMessage(const host::Picture& picture, std::uint32_t number)
+FrameMessage makeFrameMessage(const host::Picture& picture, std::uint32_t number, std::string_view language)
 {
-    return {number, packed(picture, number), toJson(rowsOf(picture.texts))};
+    return {number, packed(picture, number), rowsMessage(rowsOf(picture.texts), language)};
 }
 
 } // namespace simulator

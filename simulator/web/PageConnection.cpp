@@ -1,5 +1,7 @@
 #include "simulator/web/PageConnection.h"
 
+#include "simulator/web/ServerMessages.h"
+
 #include <civetweb.h>
 
 namespace simulator {
@@ -8,6 +10,12 @@ bool PageConnection::wants(std::uint32_t frame) const
 {
     std::lock_guard lock(mMutex);
     return !mIsBroken && mSent == mSeen && mSent != frame;
+}
+
+bool PageConnection::needsToHear(bool standsStill) const
+{
+    std::lock_guard lock(mMutex);
+    return !mIsBroken && mToldStandsStill != standsStill;
 }
 
 void PageConnection::send(const FrameMessage& message)
@@ -23,10 +31,25 @@ void PageConnection::send(const FrameMessage& message)
     mRows = message.rows;
 }
 
-void PageConnection::sendEnd()
+void PageConnection::sendText(const std::string& message)
 {
     std::lock_guard writing(mWriting);
-    write(MG_WEBSOCKET_OPCODE_TEXT, ENDED_MESSAGE);
+    write(MG_WEBSOCKET_OPCODE_TEXT, message);
+}
+
+void PageConnection::tell(bool standsStill)
+{
+    {
+        std::lock_guard lock(mMutex);
+        mToldStandsStill = standsStill;
+    }
+    sendText(standingMessage(standsStill));
+}
+
+void PageConnection::sendLast(const std::string& message)
+{
+    std::lock_guard writing(mWriting);
+    write(MG_WEBSOCKET_OPCODE_TEXT, message);
     write(MG_WEBSOCKET_OPCODE_CONNECTION_CLOSE, {});
 }
 

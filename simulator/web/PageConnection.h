@@ -20,10 +20,15 @@ public:
     /// Whether it could take a frame of that number now.
     bool wants(std::uint32_t frame) const;
 
-    void send(const FrameMessage& message);
+    /// Whether it has not been told yet that the GUI thread stands still, or that it goes on.
+    bool needsToHear(bool standsStill) const;
 
-    /// Tells the page that the application has ended in order, and closes it.
-    void sendEnd();
+    void send(const FrameMessage& message);
+    void sendText(const std::string& message);
+    void tell(bool standsStill);
+
+    /// Tells the page why there is nothing more for it, and closes it.
+    void sendLast(const std::string& message);
 
     /// The page has drawn the frame.
     void seen(std::uint32_t frame);
@@ -43,6 +48,7 @@ private:
     bool mIsBroken = false;
     std::uint32_t mSent = 0;
     std::uint32_t mSeen = 0;
+    bool mToldStandsStill = false;
     std::string mRows;
 };
 

@@ -15,16 +15,23 @@ std::optional<PageMessage> keyMessage(Kind kind, std::string_view name)
     const auto key = host::Keyboard::keyFromName(name);
     if (!key)
         return {};
-    return PageMessage{kind, *key, 0};
+    return PageMessage{kind, *key};
 }
 
 std::optional<PageMessage> seenMessage(std::string_view text)
 {
-    PageMessage message{Kind::SEEN, {}, 0};
+    PageMessage message{Kind::SEEN};
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), message.frame);
     if (error != std::errc() || end != text.data() + text.size())
         return {};
     return message;
+}
+
+std::optional<PageMessage> motionMessage(std::string_view text)
+{
+    if (text != "less" && text != "full")
+        return {};
+    return PageMessage{.kind = Kind::MOTION, .wantsLessMotion = text == "less"};
 }
 
 } // namespace
@@ -37,6 +44,8 @@ std::optional<PageMessage> parsePageMessage(std::string_view text)
         return keyMessage(Kind::UP, text.substr(3));
     if (text.starts_with("seen "))
         return seenMessage(text.substr(5));
+    if (text.starts_with("motion "))
+        return motionMessage(text.substr(7));
     return {};
 }
 

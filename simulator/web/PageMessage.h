@@ -8,13 +8,15 @@
 
 namespace simulator {
 
-/// What a page says: `down KEY`, `up KEY`, or `seen N` when it has drawn frame N.
+/// What a page says: `down KEY`, `up KEY`, `seen N` when it has drawn frame N, or `motion less` and `motion full` for
+/// what its user can bear.
 struct PageMessage {
-    enum class Kind { DOWN, UP, SEEN };
+    enum class Kind { DOWN, UP, SEEN, MOTION };
 
     Kind kind;
     PegKey key{};
     std::uint32_t frame = 0;
+    bool wantsLessMotion = false;
 };
 
 /// Nothing where the text is none of these.

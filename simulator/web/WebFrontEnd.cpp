@@ -1,9 +1,15 @@
 #include "simulator/web/WebFrontEnd.h"
 
+#include "host/Phone.h"
 #include "host/lcd/Lcd.h"
+#include "host/toolkit/Loop.h"
 #include "simulator/web/QuitOnSignal.h"
+#include "simulator/web/ServerMessages.h"
 #include "simulator/web/WebServer.h"
+#include "utilities/ICC.h"
+#include "widgets/KestrelApplication.h"
 
+#include <cerrno>
 #include <cstdlib>
 
 namespace simulator {
@@ -18,14 +24,27 @@ std::optional<std::string> fromEnvironment(const char* name)
     return value;
 }
 
+std::string greeting()
+{
+    return applicationMessage(program_invocation_short_name, host::nameOf(host::variant()));
+}
+
+/// GUI thread only.
+std::string language()
+{
+    const auto* application = KestrelApplication::getCurrentApplication();
+    return application != nullptr ? languageTag(ICC::fromUNICODEtoUTF8(application->getLocale())) : std::string();
+}
+
 } // namespace
 
 /// In the order in which the parts stand on each other.
 struct WebFrontEnd::Session {
     Session(host::Lcd& panel, const Endpoint& endpoint)
-        : lcd(panel), broadcaster([&panel] { return panel.picture(); }), server(endpoint, broadcaster, keys)
+        : lcd(panel), broadcaster([&panel] { return panel.picture(); }, host::Loop::standsStill),
+          server(endpoint, greeting(), broadcaster, keys)
     {
-        lcd.setFrameListener([this] { broadcaster.frameReady(); });
+        lcd.setFrameListener([this] { broadcaster.frameReady(language()); });
     }
 
     ~Session()

@@ -3,6 +3,7 @@
 #include "simulator/web/Page.h"
 #include "simulator/web/PageMessage.h"
 #include "simulator/web/PortCheck.h"
+#include "simulator/web/ServerMessages.h"
 
 #include <civetweb.h>
 #include <thread>
@@ -11,7 +12,7 @@ namespace simulator {
 
 namespace {
 
-constexpr std::size_t MOST_PAGES = 16;
+constexpr int MOST_TURNED_AWAY = 4;
 constexpr std::size_t LONGEST_MESSAGE = 64;
 constexpr std::size_t LONGEST_PING = 125;
 constexpr int KIND_OF_MESSAGE = 0x0F;
@@ -38,7 +39,7 @@ Caller callerOf(const mg_connection* connection)
             orEmpty(mg_get_request_info(connection)->query_string)};
 }
 
-/// A page is served by a thread of its own while it is open; some more serve the document itself.
+/// A page is served by a thread of its own while it is open; some more turn pages away, and serve the document itself.
 std::vector<const char*> optionsFor(const std::string& addressAndPort)
 {
     return {"listening_ports",
@@ -73,9 +74,10 @@ void visitUntil(const std::stop_token& stop, const Endpoint& endpoint)
 
 } // namespace
 
-WebServer::WebServer(const Endpoint& endpoint, Broadcaster& broadcaster, KeyPad& keys,
+WebServer::WebServer(const Endpoint& endpoint, std::string greeting, Broadcaster& broadcaster, KeyPad& keys,
                      std::chrono::milliseconds heartbeat)
-    : mEndpoint(endpoint), mAdmission(endpoint), mBroadcaster(broadcaster), mKeys(keys), mHeartbeat(heartbeat)
+    : mEndpoint(endpoint), mAdmission(endpoint), mGreeting(std::move(greeting)), mBroadcaster(broadcaster), mKeys(keys),
+      mHeartbeat(heartbeat)
 {
     const std::string addressAndPort = endpoint.addressAndPort();
     const auto options = optionsFor(addressAndPort);
@@ -121,17 +123,28 @@ int WebServer::servePage(mg_connection* connection, void* self)
 int WebServer::connecting(const mg_connection* connection, void* self)
 {
     const auto* server = static_cast<const WebServer*>(self);
-    const bool isFull = server->mBroadcaster.pageCount() >= MOST_PAGES;
-    return isFull || !server->mAdmission.allowsSocket(callerOf(connection)) ? 1 : 0;
+    const bool isFlooded = server->mTurnedAway >= MOST_TURNED_AWAY;
+    return isFlooded || !server->mAdmission.allowsSocket(callerOf(connection)) ? 1 : 0;
 }
 
 void WebServer::connected(mg_connection* connection, void* self)
 {
-    auto page = std::make_shared<PageConnection>(connection);
-    mg_set_user_connection_data(connection, page.get());
     auto* server = static_cast<WebServer*>(self);
+    auto page = std::make_shared<PageConnection>(connection);
+    page->sendText(server->mGreeting);
+    mg_set_user_connection_data(connection, page.get());
     server->mHeartbeat.add(connection);
-    server->mBroadcaster.add(std::move(page));
+    if (server->mBroadcaster.add(page))
+        return;
+    mg_set_user_connection_data(connection, nullptr);
+    server->turnAway(*page);
+}
+
+/// It learns why: to the page a connection that is refused looks like a telephone that is not there.
+void WebServer::turnAway(PageConnection& page)
+{
+    ++mTurnedAway;
+    page.sendLast(fullMessage(Broadcaster::MOST_PAGES));
 }
 
 int WebServer::received(mg_connection* connection, int bits, char* data, std::size_t size, void* self)
@@ -156,6 +169,7 @@ bool WebServer::handle(PageConnection& page, std::string_view text)
     switch (message->kind) {
     case PageMessage::Kind::DOWN: mKeys.down(&page, message->key); break;
     case PageMessage::Kind::UP: mKeys.up(&page, message->key); break;
+    case PageMessage::Kind::MOTION: mMotion.wish(&page, message->wantsLessMotion); break;
     case PageMessage::Kind::SEEN:
         page.seen(message->frame);
         mBroadcaster.pageChanged();
@@ -167,12 +181,15 @@ bool WebServer::handle(PageConnection& page, std::string_view text)
 void WebServer::closed(const mg_connection* connection, void* self)
 {
     auto* server = static_cast<WebServer*>(self);
-    auto* page = static_cast<PageConnection*>(mg_get_user_connection_data(connection));
-    if (page == nullptr)
-        return;
-    page->detach();
     server->mHeartbeat.remove(connection);
+    auto* page = static_cast<PageConnection*>(mg_get_user_connection_data(connection));
+    if (page == nullptr) {
+        --server->mTurnedAway;
+        return;
+    }
+    page->detach();
     server->mKeys.leave(page);
+    server->mMotion.leave(page);
     server->mBroadcaster.remove(page);
 }
 

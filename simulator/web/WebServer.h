@@ -5,7 +5,9 @@
 #include "simulator/web/Endpoint.h"
 #include "simulator/web/Heartbeat.h"
 #include "simulator/web/KeyPad.h"
+#include "simulator/web/MotionWishes.h"
 
+#include <atomic>
 #include <string>
 
 struct mg_connection;
@@ -16,8 +18,8 @@ namespace simulator {
 /// Serves the page and its socket. The broadcaster and the key pad have to outlive it.
 class WebServer {
 public:
-    /// `heartbeat`: between two pings.
-    WebServer(const Endpoint& endpoint, Broadcaster& broadcaster, KeyPad& keys,
+    /// `greeting` is what each page is told first; `heartbeat`: between two pings.
+    WebServer(const Endpoint& endpoint, std::string greeting, Broadcaster& broadcaster, KeyPad& keys,
               std::chrono::milliseconds heartbeat = Heartbeat::PAUSE);
     WebServer(const WebServer&) = delete;
     WebServer& operator=(const WebServer&) = delete;
@@ -35,13 +37,17 @@ private:
     static int received(mg_connection* connection, int bits, char* data, std::size_t size, void* self);
     static void closed(const mg_connection* connection, void* self);
 
+    void turnAway(PageConnection& page);
     bool handle(PageConnection& page, std::string_view text);
 
     Endpoint mEndpoint;
     Admission mAdmission;
+    std::string mGreeting;
     Broadcaster& mBroadcaster;
     KeyPad& mKeys;
     Heartbeat mHeartbeat;
+    MotionWishes mMotion;
+    std::atomic<int> mTurnedAway{0}; ///< connections that hear that there is no room, and have not closed yet
     mg_context* mContext = nullptr;
     std::string mError;
 };

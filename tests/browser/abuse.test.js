@@ -58,8 +58,9 @@ describe("the socket", { timeout: 300_000 }, () => {
     const client = socket();
     const messages = [];
     client.on("message", (data) => messages.push(data));
-    await until(() => messages.length === 2, "the rows and the frame arrive");
-    const [rows, frame] = messages;
+    await until(() => messages.length === 3, "the greeting, the rows and the frame arrive");
+    const [greeting, rows, frame] = messages;
+    assert.deepEqual(JSON.parse(greeting), { application: { program: "deskphone", panel: "plain" } });
     assert.equal(JSON.parse(rows).rows[1].text, "Desk phone");
     assert.equal(frame.length, 8 + 240 * 128 / 4);
     assert.deepEqual([frame.readUInt16LE(0), frame.readUInt16LE(2)], [240, 128]);
@@ -89,7 +90,7 @@ describe("the socket", { timeout: 300_000 }, () => {
   });
 
   test("closes on whoever talks nonsense", LIMIT, async () => {
-    const nonsense = ["", "hello", "down", "down middle", "up \u0000", "seen x", '{"key":"ok"}', "x".repeat(1_000_000),
+    const nonsense = ["", "hello", "down", "down middle", "up \u0000", "seen x", "motion", '{"key":"ok"}', "x".repeat(1_000_000),
                       randomBytes(64), randomBytes(1_000_000)];
     for (const message of nonsense) {
       const client = await opened();
@@ -146,9 +147,32 @@ describe("the socket", { timeout: 300_000 }, () => {
   test("has room for sixteen pages, and again when they have gone", LIMIT, async () => {
     const clients = [];
     for (let i = 0; i < 15; ++i) clients.push(await opened());
-    assert.equal(await outcome(socket()), "refused");
+    const full = socket();
+    const messages = [];
+    full.on("message", (data) => messages.push(String(data)));
+    await once(full, "close");
+    assert.equal(messages.at(-1), '{"full":16}');
     clients.forEach((client) => client.terminate());
-    await until(async () => (await outcome(socket())) === "open", "there is room again");
+    await until(() => getsFrames(), "there is room again");
+    await stillWorks();
+  });
+
+  async function getsFrames() {
+    const client = socket();
+    const gotFrame = new Promise((resolve) => client.on("message", (_, isBinary) => isBinary && resolve(true)));
+    const result = await Promise.race([gotFrame, once(client, "close").then(() => false)]);
+    client.terminate();
+    return result;
+  }
+
+  test("cannot be held up by those for whom there is no room", LIMIT, async () => {
+    for (let i = 0; i < 15; ++i) await opened();
+    for (let i = 0; i < 30; ++i) {
+      const client = socket();
+      await outcome(client);
+      client._socket?.pause(); // hears nothing, and does not go
+    }
+    assert.equal((await fetch(phone.url)).status, 200);
     await stillWorks();
   });
 

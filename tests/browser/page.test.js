@@ -88,11 +88,12 @@ describe("the page", { timeout: 180_000 }, () => {
   test("has a named button for each key, pressed by its key of the keyboard", LIMIT, async () => {
     const keys = {
       up: ["Up", "ArrowUp"], down: ["Down", "ArrowDown"], left: ["Left", "ArrowLeft"], right: ["Right", "ArrowRight"],
-      ok: ["OK", "Enter"], star: ["Star", "*"], hash: ["Hash", "#"], "volume-up": ["Volume up", "+"],
+      ok: ["OK", "Enter"], star: ["* Star", "*"], hash: ["# Hash", "#"], "volume-up": ["Volume up", "+"],
       "volume-down": ["Volume down", "-"], hook: ["Hook", "Escape"],
     };
-    for (const digit of "0123456789") keys[digit] = [digit, digit];
-    assert.equal(await tab.page.locator("button").count(), Object.keys(keys).length);
+    const letters = ["+", "", "ABC", "DEF", "GHI", "JKL", "MNO", "PQRS", "TUV", "WXYZ"];
+    for (const digit of "0123456789") keys[digit] = [`${digit} ${letters[digit]}`.trim(), digit];
+    assert.equal(await tab.page.locator("[data-key]").count(), Object.keys(keys).length);
     for (const [key, [name, keyboardKey]] of Object.entries(keys)) {
       const button = tab.page.getByRole("button", { name, exact: true });
       assert.equal(await button.getAttribute("data-key"), key);

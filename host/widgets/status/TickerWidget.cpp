@@ -2,10 +2,12 @@
 
 #include "host/lcd/Geometry.h"
 #include "host/lcd/Lcd.h"
+#include "host/lcd/Motion.h"
 #include "host/lcd/Painter.h"
 #include "host/widgets/Reading.h"
 #include "host/widgets/popup/PopupFrame.h"
 
+#include <algorithm>
 #include <utility>
 
 using namespace host;
@@ -16,6 +18,7 @@ constexpr int TIMER = 1;
 constexpr int REST_MS = 1500;
 constexpr int STEP_MS = 40;
 constexpr int STEP_WIDTH = 2;
+constexpr int PAGE_MS = 4000;
 
 struct Look {
     Font font;
@@ -109,27 +112,32 @@ void TickerWidget::beginAnew()
     mTextWidth = Lcd::current()->textWidth(look().font, mText);
     Invalidate();
     if (!fits())
-        rest();
+        SetTimer(TIMER, timeHere(), false);
 }
 
-void TickerWidget::rest()
-{
-    SetTimer(TIMER, REST_MS, false);
-}
-
-/// Looks now and then whether it has come to light again.
+/// While it is covered it looks now and then whether it has come to light again.
 void TickerWidget::step()
 {
-    if (isCovered()) {
-        mOffset = 0;
-        return rest();
-    }
-    if (mOffset == 0)
-        SetTimer(TIMER, STEP_MS, true);
-    mOffset += STEP_WIDTH;
-    if (mOffset >= mTextWidth + look().gap) {
-        mOffset = 0;
-        rest();
-    }
-    Invalidate();
+    const int before = std::exchange(mOffset, isCovered() ? 0 : nextOffset());
+    SetTimer(TIMER, timeHere(), false);
+    if (mOffset != before)
+        Invalidate();
+}
+
+/// Of a page that is turned, the last quarter is the first of the next one: who reads finds the word again.
+int TickerWidget::nextOffset() const
+{
+    const int room = widthOf(textArea(Area()));
+    const bool turns = Motion::isReduced();
+    const int end = turns ? mTextWidth - room : mTextWidth + look().gap - STEP_WIDTH;
+    if (mOffset >= end)
+        return 0;
+    return mOffset + (turns ? std::max(room * 3 / 4, STEP_WIDTH) : STEP_WIDTH);
+}
+
+int TickerWidget::timeHere() const
+{
+    if (Motion::isReduced())
+        return PAGE_MS;
+    return mOffset == 0 ? REST_MS : STEP_MS;
 }

@@ -24,10 +24,20 @@ TEST(PageMessage, FrameWasSeen)
     EXPECT_EQ(seen->frame, 4294967295U);
 }
 
+TEST(PageMessage, MotionIsLessOrFull)
+{
+    const auto less = parsePageMessage("motion less");
+    ASSERT_TRUE(less.has_value());
+    EXPECT_EQ(less->kind, PageMessage::Kind::MOTION);
+    EXPECT_TRUE(less->wantsLessMotion);
+    EXPECT_FALSE(parsePageMessage("motion full")->wantsLessMotion);
+}
+
 TEST(PageMessage, AnythingElseIsNone)
 {
-    for (const char* text : {"", "down", "down ", "down middle", "Down ok", "down ok ", "up", "seen", "seen ",
-                             "seen -1", "seen 4294967296", "seen 1x", "{}", "\xff\xfe"})
+    for (const char* text :
+         {"", "down", "down ", "down middle", "Down ok", "down ok ", "up", "seen", "seen ", "seen -1",
+          "seen 4294967296", "seen 1x", "motion", "motion ", "motion none", "{}", "\xff\xfe"})
         EXPECT_FALSE(parsePageMessage(text).has_value()) << text;
 }
 

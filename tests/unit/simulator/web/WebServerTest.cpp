@@ -120,7 +120,7 @@ protected:
     const Endpoint endpoint = freeEndpoint();
     KeyPad keys;
     Broadcaster broadcaster{[] { return host::Picture{8, 8, std::vector<std::uint8_t>(64), {}, 1}; }};
-    WebServer server{endpoint, broadcaster, keys, HEARTBEAT};
+    WebServer server{endpoint, "{}", broadcaster, keys, HEARTBEAT};
 };
 
 TEST_F(WebServerTest, PageIsServedUnderNamesOfThisMachine)

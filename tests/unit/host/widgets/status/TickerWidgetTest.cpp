@@ -2,6 +2,7 @@
 
 #include "host/lcd/Geometry.h"
 #include "host/lcd/Lcd.h"
+#include "host/lcd/Motion.h"
 #include "presentation/PRESCPresentationManager.h"
 #include "support/RunningToolkit.h"
 #include "support/VirtualTime.h"
@@ -27,6 +28,7 @@ namespace {
 constexpr PegRect AREA{20, 50, 119, 67};
 constexpr int REST = 1500;
 constexpr int STEP = 40;
+constexpr int PAGE = 4000;
 constexpr int MARGIN = 6;
 constexpr int GAP = 40;
 
@@ -42,6 +44,7 @@ class TickerWidgetTest : public VirtualTime, public testing::Test {
 protected:
     ~TickerWidgetTest() override
     {
+        host::Motion::reduce(false);
         ticker.reset();
         setLocale("");
     }
@@ -301,6 +304,40 @@ TEST_F(TickerWidgetTest, RunsOnWhenOnlyAPartOfItIsCovered)
     pass(REST);
     EXPECT_TRUE(isDirtyAfter(STEP));
     gpPresent->Remove(&popup);
+}
+
+TEST_F(TickerWidgetTest, WithLessMotionItTurnsPageByPageAndComesBack)
+{
+    host::Motion::reduce(true);
+    show(LONG);
+    const auto first = columns();
+    const int page = static_cast<int>(first.size()) * 3 / 4;
+    EXPECT_FALSE(isDirtyAfter(PAGE - 1));
+    pass(1);
+    const auto second = columns();
+    EXPECT_TRUE(isMoved(first, second, static_cast<std::size_t>(page)));
+    EXPECT_FALSE(isDirtyAfter(PAGE - 1));
+    EXPECT_EQ(columns(), second);
+
+    const int pages = (width(LONG) - static_cast<int>(first.size()) + page - 1) / page;
+    pass((pages - 2) * PAGE + 1);
+    EXPECT_NE(columns(), first);
+    pass(PAGE);
+    EXPECT_EQ(columns(), first);
+}
+
+TEST_F(TickerWidgetTest, FollowsWithItsNextStepWhenMotionIsReducedOrNot)
+{
+    show(LONG);
+    pass(REST + 5 * STEP);
+    host::Motion::reduce(true);
+    pass(STEP);
+    EXPECT_FALSE(isDirtyAfter(PAGE - 1));
+    host::Motion::reduce(false);
+    EXPECT_TRUE(isDirtyAfter(1));
+    const auto before = columns();
+    pass(STEP);
+    EXPECT_TRUE(isMoved(before, columns(), 2));
 }
 
 TEST_F(TickerWidgetTest, NewTextBeginsAnew)

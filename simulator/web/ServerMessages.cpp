@@ -1,0 +1,76 @@
+#include "simulator/web/ServerMessages.h"
+
+#include "utilities/ICC.h"
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+
+namespace simulator {
+
+namespace {
+
+/// Keeps its members in the order in which they are written down here.
+using Json = nlohmann::ordered_json;
+
+/// More of a row than anybody wants to hear.
+constexpr std::size_t LONGEST_TEXT = 400;
+
+std::string dump(const Json& json)
+{
+    constexpr int ON_ONE_LINE = -1;
+    constexpr bool IN_ASCII = true;
+    return json.dump(ON_ONE_LINE, ' ', IN_ASCII, Json::error_handler_t::replace);
+}
+
+std::string beginning(const std::string& text)
+{
+    const PegString whole = ICC::fromUTF8toUNICODE(text);
+    return ICC::fromUNICODEtoUTF8(PegString(whole.data(), std::min(whole.length(), LONGEST_TEXT)));
+}
+
+Json toJson(const ScreenRow& row)
+{
+    Json json = {{"text", beginning(row.text)}, {"selected", row.selected}};
+    if (row.lasting != row.text)
+        json["lasting"] = beginning(row.lasting);
+    return json;
+}
+
+} // namespace
+
+std::string applicationMessage(std::string_view program, std::string_view panel)
+{
+    return dump({{"application", {{"program", program}, {"panel", panel}}}});
+}
+
+std::string rowsMessage(const std::vector<ScreenRow>& rows, std::string_view language)
+{
+    Json all = Json::array();
+    for (const ScreenRow& row : rows)
+        all.push_back(toJson(row));
+    return dump({{"language", language}, {"rows", all}});
+}
+
+std::string standingMessage(bool isStanding)
+{
+    return dump({{"standing", isStanding}});
+}
+
+std::string fullMessage(std::size_t pages)
+{
+    return dump({{"full", pages}});
+}
+
+std::string endedMessage()
+{
+    return dump({{"ended", true}});
+}
+
+std::string languageTag(std::string_view locale)
+{
+    std::string tag(locale.substr(0, locale.find_first_of(".@")));
+    std::ranges::replace(tag, '_', '-');
+    return tag == "C" || tag == "POSIX" ? std::string() : tag;
+}
+
+} // namespace simulator
