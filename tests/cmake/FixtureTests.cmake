@@ -18,7 +18,6 @@ function(displayapi_check_fixture_tests)
     if(NOT DISPLAYAPI_SANITIZE STREQUAL "")
         return()
     endif()
-    find_package(Python3 REQUIRED COMPONENTS Interpreter)
     get_property(programs GLOBAL PROPERTY DISPLAYAPI_TEST_PROGRAMS)
     add_test(NAME tests.entries_run_every_case
         COMMAND Python3::Interpreter -B ${PROJECT_SOURCE_DIR}/tests/cmake/entries_run_every_case.py

@@ -15,7 +15,7 @@ protected:
 
 TYPED_TEST_SUITE(ExclusiveListPrivateTest, test::Variants);
 
-TYPED_TEST(ExclusiveListPrivateTest, chosenIsWhatIsSelected)
+TYPED_TEST(ExclusiveListPrivateTest, ChosenIsWhatIsSelected)
 {
     EXPECT_FALSE(this->list.isSelected(-1));
     this->list.append(&this->a);
@@ -27,7 +27,7 @@ TYPED_TEST(ExclusiveListPrivateTest, chosenIsWhatIsSelected)
     EXPECT_FALSE(this->list.isSelected(2));
 }
 
-TYPED_TEST(ExclusiveListPrivateTest, chosenRowCarriesTheMark)
+TYPED_TEST(ExclusiveListPrivateTest, ChosenRowCarriesTheMark)
 {
     this->list.append(&this->a);
     this->list.append(&this->b);
@@ -36,7 +36,7 @@ TYPED_TEST(ExclusiveListPrivateTest, chosenRowCarriesTheMark)
     EXPECT_TRUE(this->b.getKestrelListItem()->isMarked());
 }
 
-TYPED_TEST(ExclusiveListPrivateTest, leftGoesBack)
+TYPED_TEST(ExclusiveListPrivateTest, LeftGoesBack)
 {
     this->attach(this->list);
     EXPECT_CALL(this->listener, postCommandAction(DisplayAPI::List::BACK_COMMAND(), &this->owner));

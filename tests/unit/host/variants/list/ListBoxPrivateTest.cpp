@@ -26,17 +26,17 @@ protected:
 
 TYPED_TEST_SUITE(ListBoxPrivateTest, test::Variants);
 
-TYPED_TEST(ListBoxPrivateTest, knowsItsFacade)
+TYPED_TEST(ListBoxPrivateTest, KnowsItsFacade)
 {
     EXPECT_EQ(this->list.getParent(), &this->owner);
 }
 
-TYPED_TEST(ListBoxPrivateTest, isAFullScreen)
+TYPED_TEST(ListBoxPrivateTest, IsAFullScreen)
 {
     EXPECT_TRUE(this->list.hideOldWidgetOnFocusGained());
 }
 
-TYPED_TEST(ListBoxPrivateTest, statusLinesTakeRoomOnTheFullPanel)
+TYPED_TEST(ListBoxPrivateTest, StatusLinesTakeRoomOnTheFullPanel)
 {
     const bool isFullPanel = std::is_same_v<TypeParam, test::PlainVariant>;
     EXPECT_EQ(this->list.hasSystemWindow(), isFullPanel);
@@ -55,7 +55,7 @@ TYPED_TEST(ListBoxPrivateTest, statusLinesTakeRoomOnTheFullPanel)
     EXPECT_EQ(topOfRows() > top, isFullPanel);
 }
 
-TYPED_TEST(ListBoxPrivateTest, keepsRowsInOrder)
+TYPED_TEST(ListBoxPrivateTest, KeepsRowsInOrder)
 {
     this->list.append(&this->b);
     this->list.insertAt(&this->a, -1);
@@ -64,7 +64,7 @@ TYPED_TEST(ListBoxPrivateTest, keepsRowsInOrder)
     EXPECT_EQ(test::lettersOf(this->boxOf(this->list)), "a[b]c");
 }
 
-TYPED_TEST(ListBoxPrivateTest, removesTheRowWhateverTheIndex)
+TYPED_TEST(ListBoxPrivateTest, RemovesTheRowWhateverTheIndex)
 {
     for (auto* row : {&this->a, &this->b, &this->c})
         this->list.append(row);
@@ -77,14 +77,14 @@ TYPED_TEST(ListBoxPrivateTest, removesTheRowWhateverTheIndex)
     EXPECT_EQ(this->list.size(), 0);
 }
 
-TYPED_TEST(ListBoxPrivateTest, nullRowIsIgnored)
+TYPED_TEST(ListBoxPrivateTest, NullRowIsIgnored)
 {
     this->list.append(nullptr);
     this->list.insertAt(nullptr, 0);
     EXPECT_EQ(this->list.size(), 0);
 }
 
-TYPED_TEST(ListBoxPrivateTest, selects)
+TYPED_TEST(ListBoxPrivateTest, Selects)
 {
     EXPECT_EQ(this->list.getSelectedIndex(), -1);
     for (auto* row : {&this->a, &this->b, &this->c})
@@ -101,7 +101,7 @@ TYPED_TEST(ListBoxPrivateTest, selects)
     EXPECT_EQ(this->list.getSelectedIndex(), 1);
 }
 
-TYPED_TEST(ListBoxPrivateTest, rowThatDiesLeavesTheList)
+TYPED_TEST(ListBoxPrivateTest, RowThatDiesLeavesTheList)
 {
     this->list.append(&this->a);
     {
@@ -112,7 +112,7 @@ TYPED_TEST(ListBoxPrivateTest, rowThatDiesLeavesTheList)
     EXPECT_EQ(test::lettersOf(this->boxOf(this->list)), "[a]");
 }
 
-TYPED_TEST(ListBoxPrivateTest, keysBecomeCommands)
+TYPED_TEST(ListBoxPrivateTest, KeysBecomeCommands)
 {
     this->list.append(&this->a);
     InSequence order;
@@ -123,7 +123,7 @@ TYPED_TEST(ListBoxPrivateTest, keysBecomeCommands)
     this->press(this->list, PK_LEFT);
 }
 
-TYPED_TEST(ListBoxPrivateTest, leftGoesBackWhereThereIsAWayBack)
+TYPED_TEST(ListBoxPrivateTest, LeftGoesBackWhereThereIsAWayBack)
 {
     typename TypeParam::ListBox withBack(&this->owner, true);
     this->attach(withBack);
@@ -131,7 +131,7 @@ TYPED_TEST(ListBoxPrivateTest, leftGoesBackWhereThereIsAWayBack)
     this->press(withBack, PK_LEFT);
 }
 
-TYPED_TEST(ListBoxPrivateTest, removedListenerHearsNothing)
+TYPED_TEST(ListBoxPrivateTest, RemovedListenerHearsNothing)
 {
     this->list.append(&this->a);
     this->list.removeCommandListener(&this->listener);
@@ -139,7 +139,7 @@ TYPED_TEST(ListBoxPrivateTest, removedListenerHearsNothing)
     this->press(this->list, PK_OK);
 }
 
-TYPED_TEST(ListBoxPrivateTest, changesOfAListOnScreenReachTheDisplay)
+TYPED_TEST(ListBoxPrivateTest, ChangesOfAListOnScreenReachTheDisplay)
 {
     this->putOnScreen(this->list);
     this->list.append(&this->a);
@@ -152,7 +152,7 @@ TYPED_TEST(ListBoxPrivateTest, changesOfAListOnScreenReachTheDisplay)
     this->putAway(this->list);
 }
 
-TYPED_TEST(ListBoxPrivateTest, changesOfAListOffScreenDoNot)
+TYPED_TEST(ListBoxPrivateTest, ChangesOfAListOffScreenDoNot)
 {
     this->list.append(&this->a);
     this->list.setTitle("Title");
@@ -166,7 +166,7 @@ TYPED_TEST(ListBoxPrivateTest, ListThatIsShownTellsTheDisplay)
     EXPECT_EQ(this->display.changes, 1);
 }
 
-TYPED_TEST(ListBoxPrivateTest, hideTakesTheWidgetOffTheScreenAndBack)
+TYPED_TEST(ListBoxPrivateTest, HideTakesTheWidgetOffTheScreenAndBack)
 {
     this->putOnScreen(this->list);
     this->list.hide();
@@ -174,7 +174,7 @@ TYPED_TEST(ListBoxPrivateTest, hideTakesTheWidgetOffTheScreenAndBack)
     this->list.hide();
 }
 
-TYPED_TEST(ListBoxPrivateTest, widgetOnScreenOutlivesTheList)
+TYPED_TEST(ListBoxPrivateTest, WidgetOnScreenOutlivesTheList)
 {
     auto shortLived = std::make_unique<typename TypeParam::ListBox>(&this->owner, true);
     this->putOnScreen(*shortLived);
@@ -185,7 +185,7 @@ TYPED_TEST(ListBoxPrivateTest, widgetOnScreenOutlivesTheList)
     widget->Message(test::keyMessage(PK_LEFT));
 }
 
-TYPED_TEST(ListBoxPrivateTest, listOutlivesItsWidget)
+TYPED_TEST(ListBoxPrivateTest, ListOutlivesItsWidget)
 {
     this->list.append(&this->a);
     this->putOnScreen(this->list);
@@ -203,7 +203,7 @@ TYPED_TEST(ListBoxPrivateTest, listOutlivesItsWidget)
     this->list.hide();
 }
 
-TYPED_TEST(ListBoxPrivateTest, titleIsTheCaption)
+TYPED_TEST(ListBoxPrivateTest, TitleIsTheCaption)
 {
     EXPECT_FALSE(this->list.hasCaption());
     this->list.setTitle("Größe");
@@ -211,7 +211,7 @@ TYPED_TEST(ListBoxPrivateTest, titleIsTheCaption)
     EXPECT_EQ(ICC::fromUNICODEtoUTF8(this->boxOf(this->list).title()), "Größe");
 }
 
-TYPED_TEST(ListBoxPrivateTest, translatedTitleFollowsTheLocale)
+TYPED_TEST(ListBoxPrivateTest, TranslatedTitleFollowsTheLocale)
 {
     testing::StrictMock<doubles::MockTranslator> translator;
     EXPECT_CALL(translator, translate("Title")).WillOnce(Return("Title")).WillOnce(Return("Titel"));
@@ -222,7 +222,7 @@ TYPED_TEST(ListBoxPrivateTest, translatedTitleFollowsTheLocale)
     EXPECT_EQ(ICC::fromUNICODEtoUTF8(this->boxOf(this->list).title()), "Titel 1");
 }
 
-TYPED_TEST(ListBoxPrivateTest, rowsFollowTheLocale)
+TYPED_TEST(ListBoxPrivateTest, RowsFollowTheLocale)
 {
     testing::StrictMock<doubles::MockTranslator> translator;
     EXPECT_CALL(translator, translate("Calls")).WillOnce(Return("Calls")).WillOnce(Return("Anrufe"));
@@ -234,7 +234,7 @@ TYPED_TEST(ListBoxPrivateTest, rowsFollowTheLocale)
     EXPECT_EQ(row->getText(), "Anrufe");
 }
 
-TYPED_TEST(ListBoxPrivateTest, plainTitleReplacesATranslatedOne)
+TYPED_TEST(ListBoxPrivateTest, PlainTitleReplacesATranslatedOne)
 {
     TranslationInfo title("Title", nullptr);
     this->list.setTitle(&title);
@@ -245,7 +245,7 @@ TYPED_TEST(ListBoxPrivateTest, plainTitleReplacesATranslatedOne)
     EXPECT_FALSE(this->list.hasCaption());
 }
 
-TYPED_TEST(ListBoxPrivateTest, serialisesTitleAndRowsInView)
+TYPED_TEST(ListBoxPrivateTest, SerialisesTitleAndRowsInView)
 {
     EXPECT_EQ(this->list.serialise(), "object:\nname:KestrelListBox\nend:\n");
     this->list.setTitle("Menu");
@@ -255,7 +255,7 @@ TYPED_TEST(ListBoxPrivateTest, serialisesTitleAndRowsInView)
                                       "end:\n");
 }
 
-TYPED_TEST(ListBoxPrivateTest, serialisesRowsThatAreVisible)
+TYPED_TEST(ListBoxPrivateTest, SerialisesRowsThatAreVisible)
 {
     this->list.append(&this->a);
     this->list.append(&this->b);

@@ -33,7 +33,7 @@ protected:
 
 TYPED_TEST_SUITE(ListBoxStatusTest, test::Variants);
 
-TYPED_TEST(ListBoxStatusTest, serialisesStatusLinesBeforeTheRows)
+TYPED_TEST(ListBoxStatusTest, SerialisesStatusLinesBeforeTheRows)
 {
     this->list.setTitle("Menu");
     this->list.setSystemWindowText(0, "Line 0");
@@ -45,7 +45,7 @@ TYPED_TEST(ListBoxStatusTest, serialisesStatusLinesBeforeTheRows)
                                           "subitem:\nname:KestrelListBoxItem\nstring0:a\nendsubitem:\nend:\n");
 }
 
-TYPED_TEST(ListBoxStatusTest, serialisesStatusLinesOnlyWhereTheyAreVisible)
+TYPED_TEST(ListBoxStatusTest, SerialisesStatusLinesOnlyWhereTheyAreVisible)
 {
     this->list.setSysWindowText("Line 0", 0);
     this->list.setSysWindowSize(1);
@@ -53,7 +53,7 @@ TYPED_TEST(ListBoxStatusTest, serialisesStatusLinesOnlyWhereTheyAreVisible)
     EXPECT_EQ(this->list.serialise({{0, 0, 1, 1}}).find("SystemWindow") != std::string::npos, this->HAS_LINES);
 }
 
-TYPED_TEST(ListBoxStatusTest, controlCharactersDoNotBreakTheText)
+TYPED_TEST(ListBoxStatusTest, ControlCharactersDoNotBreakTheText)
 {
     typename TypeParam::Row broken{std::string("b\nend:\t\x7F."), true};
     this->list.append(&broken);
@@ -67,7 +67,7 @@ TYPED_TEST(ListBoxStatusTest, controlCharactersDoNotBreakTheText)
     EXPECT_EQ(text.find("\nstring0:Line  0\n") != std::string::npos, this->HAS_LINES);
 }
 
-TYPED_TEST(ListBoxStatusTest, ownLinesTellTheDisplayThoseOfTheDisplayDoNot)
+TYPED_TEST(ListBoxStatusTest, OwnLinesTellTheDisplayThoseOfTheDisplayDoNot)
 {
     this->putOnScreen(this->list);
     this->display.changes = 0;
@@ -80,7 +80,7 @@ TYPED_TEST(ListBoxStatusTest, ownLinesTellTheDisplayThoseOfTheDisplayDoNot)
     this->putAway(this->list);
 }
 
-TYPED_TEST(ListBoxStatusTest, linesOfADeadWidgetAreForgotten)
+TYPED_TEST(ListBoxStatusTest, LinesOfADeadWidgetAreForgotten)
 {
     this->putOnScreen(this->list);
     delete this->list.getWidget();
@@ -109,7 +109,7 @@ protected:
 
 TYPED_TEST_SUITE(ListLocaleTest, test::Variants);
 
-TYPED_TEST(ListLocaleTest, facadeIsToldOfTheLocaleOnceAndTheDisplayToo)
+TYPED_TEST(ListLocaleTest, FacadeIsToldOfTheLocaleOnceAndTheDisplayToo)
 {
     this->shown.connectDisplayChangedSignal(&this->display);
     this->putOnScreen(this->shown);
@@ -120,7 +120,7 @@ TYPED_TEST(ListLocaleTest, facadeIsToldOfTheLocaleOnceAndTheDisplayToo)
     this->putAway(this->shown);
 }
 
-TYPED_TEST(ListLocaleTest, formatsLeaveTheRows)
+TYPED_TEST(ListLocaleTest, FormatsLeaveTheRows)
 {
     this->application.setTimeFormat(ICC::fromUTF8toUNICODE("12h"));
     this->application.setDateFormat(ICC::fromUTF8toUNICODE("dd.mm."));

@@ -16,13 +16,13 @@ protected:
 
 TYPED_TEST_SUITE(ListItemPrivateTest, test::Variants);
 
-TYPED_TEST(ListItemPrivateTest, hasItsText)
+TYPED_TEST(ListItemPrivateTest, HasItsText)
 {
     typename TypeParam::Row row(std::string("Ærø"), false);
     EXPECT_EQ(textOf(row.getKestrelListItem()), "Ærø");
 }
 
-TYPED_TEST(ListItemPrivateTest, textIsFixed)
+TYPED_TEST(ListItemPrivateTest, TextIsFixed)
 {
     typename TypeParam::Row row(std::string("a"), false);
     TranslationInfo other("other", nullptr);
@@ -32,7 +32,7 @@ TYPED_TEST(ListItemPrivateTest, textIsFixed)
     EXPECT_EQ(textOf(row.getKestrelListItem()), "a");
 }
 
-TYPED_TEST(ListItemPrivateTest, translatedTextFollowsTheLocale)
+TYPED_TEST(ListItemPrivateTest, TranslatedTextFollowsTheLocale)
 {
     testing::StrictMock<doubles::MockTranslator> translator;
     EXPECT_CALL(translator, translate("Calls")).WillOnce(Return("Calls")).WillOnce(Return("Anrufe"));
@@ -43,7 +43,7 @@ TYPED_TEST(ListItemPrivateTest, translatedTextFollowsTheLocale)
     EXPECT_EQ(textOf(row.getKestrelListItem()), "Anrufe: 3");
 }
 
-TYPED_TEST(ListItemPrivateTest, noTranslationIsNoText)
+TYPED_TEST(ListItemPrivateTest, NoTranslationIsNoText)
 {
     typename TypeParam::Row row(static_cast<TranslationInfo*>(nullptr), true);
     EXPECT_EQ(textOf(row.getKestrelListItem()), "");
@@ -51,7 +51,7 @@ TYPED_TEST(ListItemPrivateTest, noTranslationIsNoText)
     EXPECT_EQ(textOf(row.getKestrelListItem()), "");
 }
 
-TYPED_TEST(ListItemPrivateTest, releasedToolkitRowIsNotDeletedWithIt)
+TYPED_TEST(ListItemPrivateTest, ReleasedToolkitRowIsNotDeletedWithIt)
 {
     std::unique_ptr<KestrelListBoxItem> item;
     {
@@ -62,7 +62,7 @@ TYPED_TEST(ListItemPrivateTest, releasedToolkitRowIsNotDeletedWithIt)
     EXPECT_EQ(textOf(item.get()), "a");
 }
 
-TYPED_TEST(ListItemPrivateTest, toolkitRowTakenBackIsDeletedAgain)
+TYPED_TEST(ListItemPrivateTest, ToolkitRowTakenBackIsDeletedAgain)
 {
     typename TypeParam::Row row(std::string("a"), true);
     row.releaseOwnership();

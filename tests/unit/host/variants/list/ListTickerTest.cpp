@@ -91,7 +91,7 @@ protected:
 
 TYPED_TEST_SUITE(ListTickerTest, test::Variants);
 
-TYPED_TEST(ListTickerTest, tickerStandsInItsPlaceOnTheList)
+TYPED_TEST(ListTickerTest, TickerStandsInItsPlaceOnTheList)
 {
     this->show(&*this->ticker);
     EXPECT_EQ(this->widgetOf(*this->ticker)->Parent(), &this->box());
@@ -100,7 +100,7 @@ TYPED_TEST(ListTickerTest, tickerStandsInItsPlaceOnTheList)
     EXPECT_EQ(this->display.changes, 0) << "the list is not on the screen";
 }
 
-TYPED_TEST(ListTickerTest, listOnScreenShowsItAndTellsTheDisplayOnce)
+TYPED_TEST(ListTickerTest, ListOnScreenShowsItAndTellsTheDisplayOnce)
 {
     this->putOnScreen(*this->list);
     this->show(&*this->ticker);
@@ -111,7 +111,7 @@ TYPED_TEST(ListTickerTest, listOnScreenShowsItAndTellsTheDisplayOnce)
     EXPECT_FALSE(this->isTimerRunning());
 }
 
-TYPED_TEST(ListTickerTest, sameTickerAgainRunsOnUndisturbed)
+TYPED_TEST(ListTickerTest, SameTickerAgainRunsOnUndisturbed)
 {
     this->putOnScreen(*this->list);
     this->show(&*this->ticker);
@@ -125,7 +125,7 @@ TYPED_TEST(ListTickerTest, sameTickerAgainRunsOnUndisturbed)
     this->putAway(*this->list);
 }
 
-TYPED_TEST(ListTickerTest, takesTheSpaceThatItLeavesAgain)
+TYPED_TEST(ListTickerTest, TakesTheSpaceThatItLeavesAgain)
 {
     const auto rowsInView = [&] {
         int count = 0;
@@ -147,7 +147,7 @@ TYPED_TEST(ListTickerTest, takesTheSpaceThatItLeavesAgain)
     this->putAway(*this->list);
 }
 
-TYPED_TEST(ListTickerTest, replacedTickerCanBeChangedAndComesBack)
+TYPED_TEST(ListTickerTest, ReplacedTickerCanBeChangedAndComesBack)
 {
     this->putOnScreen(*this->list);
     this->show(&*this->ticker);
@@ -162,7 +162,7 @@ TYPED_TEST(ListTickerTest, replacedTickerCanBeChangedAndComesBack)
     this->putAway(*this->list);
 }
 
-TYPED_TEST(ListTickerTest, tickerThatIsTakenAwayCanBeChangedAndComesBack)
+TYPED_TEST(ListTickerTest, TickerThatIsTakenAwayCanBeChangedAndComesBack)
 {
     this->putOnScreen(*this->list);
     this->show(&*this->ticker);
@@ -176,7 +176,7 @@ TYPED_TEST(ListTickerTest, tickerThatIsTakenAwayCanBeChangedAndComesBack)
     this->putAway(*this->list);
 }
 
-TYPED_TEST(ListTickerTest, nullOnAListWithoutOneChangesNothing)
+TYPED_TEST(ListTickerTest, NullOnAListWithoutOneChangesNothing)
 {
     this->putOnScreen(*this->list);
     this->show(nullptr);
@@ -184,7 +184,7 @@ TYPED_TEST(ListTickerTest, nullOnAListWithoutOneChangesNothing)
     this->putAway(*this->list);
 }
 
-TYPED_TEST(ListTickerTest, tickerGivenToAnotherListMovesThere)
+TYPED_TEST(ListTickerTest, TickerGivenToAnotherListMovesThere)
 {
     this->show(&*this->ticker);
     this->show(&*this->ticker, this->another);
@@ -194,7 +194,7 @@ TYPED_TEST(ListTickerTest, tickerGivenToAnotherListMovesThere)
     EXPECT_EQ(this->ticker->getText(), LONG);
 }
 
-TYPED_TEST(ListTickerTest, formerTickerOfAListCanGoToAnother)
+TYPED_TEST(ListTickerTest, FormerTickerOfAListCanGoToAnother)
 {
     this->show(&*this->ticker);
     this->show(&*this->other);
@@ -204,7 +204,7 @@ TYPED_TEST(ListTickerTest, formerTickerOfAListCanGoToAnother)
     EXPECT_EQ(this->other->getText(), "");
 }
 
-TYPED_TEST(ListTickerTest, formerTickersGoWithTheirList)
+TYPED_TEST(ListTickerTest, FormerTickersGoWithTheirList)
 {
     this->show(&*this->ticker);
     this->show(&*this->other);
@@ -214,7 +214,7 @@ TYPED_TEST(ListTickerTest, formerTickersGoWithTheirList)
     EXPECT_EQ(this->other->getText(), "");
 }
 
-TYPED_TEST(ListTickerTest, twoListsCanSwapTheirTickers)
+TYPED_TEST(ListTickerTest, TwoListsCanSwapTheirTickers)
 {
     this->show(&*this->ticker);
     this->show(&*this->other, this->another);
@@ -224,7 +224,7 @@ TYPED_TEST(ListTickerTest, twoListsCanSwapTheirTickers)
     EXPECT_EQ(this->widgetOf(*this->ticker)->Area(), this->boxOf(this->another).tickerArea());
 }
 
-TYPED_TEST(ListTickerTest, tickerIsEmptyAfterItsListIsGoneAndNoListShowsIt)
+TYPED_TEST(ListTickerTest, TickerIsEmptyAfterItsListIsGoneAndNoListShowsIt)
 {
     this->show(&*this->ticker);
     this->list.reset();
@@ -234,7 +234,7 @@ TYPED_TEST(ListTickerTest, tickerIsEmptyAfterItsListIsGoneAndNoListShowsIt)
     EXPECT_TRUE(host::isEmpty(this->boxOf(this->another).tickerArea()));
 }
 
-TYPED_TEST(ListTickerTest, textStaysOnTheListWhenItsTickerIsDeleted)
+TYPED_TEST(ListTickerTest, TextStaysOnTheListWhenItsTickerIsDeleted)
 {
     this->putOnScreen(*this->list);
     this->show(&*this->ticker);
@@ -245,7 +245,7 @@ TYPED_TEST(ListTickerTest, textStaysOnTheListWhenItsTickerIsDeleted)
     this->putAway(*this->list);
 }
 
-TYPED_TEST(ListTickerTest, listWhoseBoxIsGoneTakesTickersWithoutShowingThem)
+TYPED_TEST(ListTickerTest, ListWhoseBoxIsGoneTakesTickersWithoutShowingThem)
 {
     this->show(&*this->ticker);
     delete this->list->getWidget();
@@ -256,7 +256,7 @@ TYPED_TEST(ListTickerTest, listWhoseBoxIsGoneTakesTickersWithoutShowingThem)
     EXPECT_EQ(this->other->getText(), "");
 }
 
-TYPED_TEST(ListTickerTest, formerTickersThatNobodyHasAnyMoreAreDropped)
+TYPED_TEST(ListTickerTest, FormerTickersThatNobodyHasAnyMoreAreDropped)
 {
     std::vector<std::unique_ptr<WatchedThing>> marks;
     for (int i = 0; i < 100; ++i) {
@@ -270,7 +270,7 @@ TYPED_TEST(ListTickerTest, formerTickersThatNobodyHasAnyMoreAreDropped)
     EXPECT_EQ(this->ticker->getText(), LONG);
 }
 
-TYPED_TEST(ListTickerTest, droppedOnesLeaveThoseThatCanComeBack)
+TYPED_TEST(ListTickerTest, DroppedOnesLeaveThoseThatCanComeBack)
 {
     std::optional<Ticker> news(std::in_place, "News");
     this->show(&*this->other);
@@ -286,7 +286,7 @@ TYPED_TEST(ListTickerTest, droppedOnesLeaveThoseThatCanComeBack)
     EXPECT_EQ(this->ticker->getText(), LONG);
 }
 
-TYPED_TEST(ListTickerTest, movesWithTheList)
+TYPED_TEST(ListTickerTest, MovesWithTheList)
 {
     this->show(&*this->ticker);
     this->box().Resize(host::rectAt(0, 10, 160, 90));
@@ -294,7 +294,7 @@ TYPED_TEST(ListTickerTest, movesWithTheList)
     EXPECT_TRUE(host::contains(this->box().Area(), this->box().tickerArea()));
 }
 
-TYPED_TEST(ListTickerTest, keysStillMoveThroughTheRows)
+TYPED_TEST(ListTickerTest, KeysStillMoveThroughTheRows)
 {
     this->putOnScreen(*this->list);
     gpPresent->MoveFocusTree(this->list->getWidget());
