@@ -5,8 +5,11 @@
 #include "DisplayAPI/GuiRequestEvent.h"
 #include "DisplayAPI/Widget.h"
 #include "RequestQueue.h"
+#include "WidgetSync.h"
 #include "presentation/PRESCPresentationManager.h"
 #include "toolkit/PegScreen.h"
+
+#include <vector>
 
 namespace DisplayAPI {
 
@@ -28,9 +31,26 @@ void repaintPending()
 
 void carryOut(GuiRequestEvent* request)
 {
+    Widget::Sync::left(*request);
     request->requesterWidget()->processGuiRequest(*request);
     repaintPending();
     delete request;
+}
+
+/// Those that posts have gone through or may go through again; the last one is in use. GUI thread only.
+std::vector<DisplayEventFilter*>& installedFilters()
+{
+    // Never destroyed: a static display takes its filter out as late as at process exit.
+    static auto* const filters = new std::vector<DisplayEventFilter*>;
+    return *filters;
+}
+
+/// Lets `heir` carry out the widgets' requests that wait for `filter`. Under the queue's mutex.
+void readdress(const DisplayEventFilter* filter, DisplayEventFilter* heir)
+{
+    for (PegMessage* message = gtPegMainQueue->head; message != nullptr; message = message->Next)
+        if (message->wType == PM_WIDGET_REQUEST && message->pTarget == filter)
+            message->pTarget = message->pSource = heir;
 }
 
 } // namespace
@@ -40,8 +60,10 @@ std::atomic<DisplayEventFilter*> DisplayEventFilter::mpFilter{nullptr};
 DisplayEventFilter::DisplayEventFilter(bool install) : PegThing(0, FF_NONE)
 {
     Resize({0, 0, 1, 1});
-    if (install)
-        mpFilter.store(this, std::memory_order_release);
+    if (!install)
+        return;
+    installedFilters().push_back(this);
+    mpFilter.store(this, std::memory_order_release);
 }
 
 DisplayEventFilter::~DisplayEventFilter()
@@ -51,14 +73,18 @@ DisplayEventFilter::~DisplayEventFilter()
 
 void DisplayEventFilter::uninstall()
 {
-    DisplayEventFilter* self = this;
+    if (std::erase(installedFilters(), this) == 0)
+        return;
+    DisplayEventFilter* const heir = installedFilters().empty() ? nullptr : installedFilters().back();
     if (gtPegMainQueue == nullptr) {
-        mpFilter.compare_exchange_strong(self, nullptr);
+        mpFilter.store(heir, std::memory_order_release);
         return;
     }
     // Under the queue's mutex, so that no post for this filter comes later.
     MainQueueLock lock(*gtPegMainQueue);
-    mpFilter.compare_exchange_strong(self, nullptr);
+    mpFilter.store(heir, std::memory_order_release);
+    if (heir != nullptr)
+        readdress(this, heir);
 }
 
 int DisplayEventFilter::Message(const PegMessage& message)

@@ -17,7 +17,9 @@ public:
 
     ~DisplayEventFilter() override;
 
-    /// Where this filter is installed, posts run on their callers' threads from now on. The destructor does the same.
+    /// Where this filter is installed, posts go through the one that was installed before it and still lives, which
+    /// also gets the widgets' requests that are queued for this one. Without one they run on their callers' threads
+    /// from now on. The destructor does the same.
     void uninstall();
 
     /// A display request must carry its record: a null one is not looked for.

@@ -13,6 +13,7 @@
 #include "RequestQueue.h"
 #include "StackEntry.h"
 #include "Variant.h"
+#include "WidgetSync.h"
 #include "utilities/ICC.h"
 #include "utilities/Semaphore.h"
 #include "widgets/StatusMessage.h"
@@ -171,9 +172,7 @@ void DisplayPrivate::completeQueuedRequests()
                            request->requestCompleted();
                            delete request;
                        } else if (message->wType == PM_WIDGET_REQUEST) {
-                           auto* request = static_cast<GuiRequestEvent*>(message->pData);
-                           request->signalComplete();
-                           delete request;
+                           completeUnserved(takeRequest(*message));
                        }
                        giveBackMessage(message);
                    });

@@ -4,10 +4,9 @@
 #include "DisplayEventFilter.h"
 #include "Log.h"
 #include "RequestQueue.h"
+#include "WidgetSync.h"
 #include "toolkit/PegThing.h"
-#include "utilities/Semaphore.h"
 #include "utilities/Threadable.h"
-#include "utilities/Wait.h"
 
 #include <atomic>
 
@@ -38,32 +37,13 @@ constexpr Operation POST_TOP{Place::HEAD, 342,
 constexpr Operation POST_ASYNC{
     Place::TAIL, 427, "Widget::postEventAsync() no more PegMessage objects in the pool, this one will be lost!"};
 
-/// A permit of a semaphore, given back at the end of the scope or before.
-class Permit {
-public:
-    explicit Permit(Semaphore& semaphore) : mSemaphore(&semaphore) { semaphore.take(-1); }
-    ~Permit() { giveBack(); }
-    Permit(const Permit&) = delete;
-    Permit& operator=(const Permit&) = delete;
-
-    void giveBack()
-    {
-        if (mSemaphore != nullptr)
-            mSemaphore->give();
-        mSemaphore = nullptr;
-    }
-
-private:
-    Semaphore* mSemaphore;
-};
-
 GuiRequestEvent* orEmptyRequest(Widget& widget, GuiRequestEvent* request)
 {
     return request != nullptr ? request : new GuiRequestEvent(&widget, NO_CODE);
 }
 
 /// A message around `request`; null, with the request gone, when there is no record for one.
-PegMessage* wrap(GuiRequestEvent* request, DisplayEventFilter* filter, const Operation& operation)
+PegMessage* wrap(GuiRequestEvent* request, const Operation& operation)
 {
     PegMessage* message = takeMessage();
     if (message == nullptr) {
@@ -73,10 +53,18 @@ PegMessage* wrap(GuiRequestEvent* request, DisplayEventFilter* filter, const Ope
     }
     message->wType = PM_WIDGET_REQUEST;
     message->iData = 0;
-    message->pTarget = filter;
-    message->pSource = filter;
     message->pData = request;
     return message;
+}
+
+/// Addresses the message to the filter that is installed now, which need not be the one that the poster has seen.
+/// Returns false where none is. Under the queue's mutex.
+bool addressToFilter(PegMessage& message)
+{
+    DisplayEventFilter* const filter = DisplayEventFilter::getFilterPointer();
+    message.pTarget = filter;
+    message.pSource = filter;
+    return filter != nullptr;
 }
 
 void carryOutHere(Widget& widget, GuiRequestEvent* request)
@@ -85,47 +73,54 @@ void carryOutHere(Widget& widget, GuiRequestEvent* request)
     delete request;
 }
 
-GuiRequestEvent* unwrap(PegMessage& message)
+/// What becomes of a request for which there is no filter or no widget any more.
+void handleRefused(const Post& post, Widget& widget, GuiRequestEvent* request)
 {
-    auto* request = static_cast<GuiRequestEvent*>(message.pData);
-    message.pData = nullptr;
-    return request;
+    if (post.hasEnded())
+        completeUnserved(request);
+    else
+        carryOutHere(widget, request);
 }
 
 /// Queues the request for the installed filter, with `condition` as its wait condition unless that is null. Returns
 /// false when there is nothing to wait for: without a filter the request has been carried out here, without a message
-/// record it is lost.
-bool handOver(Widget& widget, GuiRequestEvent* request, const Operation& operation, Wait* condition)
+/// record it is lost, without its widget it has been completed.
+bool handOver(const Post& post, Widget& widget, GuiRequestEvent* request, const Operation& operation, Wait* condition)
 {
-    DisplayEventFilter* const filter = DisplayEventFilter::getFilterPointer();
-    if (filter == nullptr || gtPegMainQueue == nullptr) {
-        carryOutHere(widget, request);
+    if (DisplayEventFilter::getFilterPointer() == nullptr || gtPegMainQueue == nullptr) {
+        handleRefused(post, widget, request);
         return false;
     }
-    PegMessage* const message = wrap(request, filter, operation);
+    PegMessage* const message = wrap(request, operation);
     if (message == nullptr)
         return false;
     if (condition != nullptr)
         request->setWaitCondition(condition);
-    // A filter that has been taken out meanwhile carries nothing out any more.
-    if (enqueue(message, operation.place, [filter] { return filter == DisplayEventFilter::getFilterPointer(); }))
+    const auto admit = [&] {
+        const bool admitted = !post.hasEnded() && addressToFilter(*message);
+        if (admitted)
+            Widget::Sync::entered(*request);
+        return admitted;
+    };
+    if (enqueue(message, operation.place, admit))
         return true;
-    carryOutHere(widget, unwrap(*message));
+    message->pData = nullptr;
     giveBackMessage(message);
+    handleRefused(post, widget, request);
     return false;
 }
 
-void postAndWait(Widget& widget, Semaphore& requestLock, GuiRequestEvent* request, const Operation& operation)
+void postAndWait(Widget& widget, GuiRequestEvent* request, const Operation& operation)
 {
-    Permit permit(requestLock);
+    Post post(widget);
     request = orEmptyRequest(widget, request);
     Wait* const callers = request->waitCondition();
     Wait own;
-    if (!handOver(widget, request, operation, callers == nullptr ? &own : nullptr))
+    if (!handOver(post, widget, request, operation, callers == nullptr ? &own : nullptr))
         return;
     // Whoever waits on a condition of his own does not keep others from posting meanwhile.
     if (callers != nullptr)
-        permit.giveBack();
+        post.giveBackLock();
     (callers != nullptr ? *callers : own).wait();
 }
 
@@ -143,46 +138,51 @@ struct OwnRequest {
     }
 };
 
-/// Removes the matching requests; returns whether somebody has waited for one of them.
-bool purge(const OwnRequest& matches)
+void purge(const OwnRequest& matches)
 {
-    bool hasWoken = false;
-    removeMessages(matches, [&](PegMessage* message) {
-        GuiRequestEvent* request = unwrap(*message);
-        hasWoken = hasWoken || request->waitCondition() != nullptr;
-        request->signalComplete();
-        delete request;
+    removeMessages(matches, [](PegMessage* message) {
+        completeUnserved(takeRequest(*message));
         giveBackMessage(message);
     });
-    return hasWoken;
 }
 
 } // namespace
 
-Widget::Widget() : name("Widget"), mSync(new Sync{new Semaphore(Semaphore::AVAILABLE, 1, false), new Wait}) {}
+GuiRequestEvent* takeRequest(PegMessage& message)
+{
+    auto* const request = static_cast<GuiRequestEvent*>(message.pData);
+    message.pData = nullptr;
+    Widget::Sync::left(*request);
+    return request;
+}
 
-Widget::Widget(const Widget& other) : name("Widget"), mSync(new Sync(*other.mSync)) {}
+void completeUnserved(GuiRequestEvent* request)
+{
+    request->signalComplete();
+    delete request;
+}
+
+Widget::Widget() : name("Widget"), mSync(new Sync(new Semaphore(Semaphore::AVAILABLE, 1, false), new Wait)) {}
+
+Widget::Widget(const Widget& other) : name("Widget"), mSync(new Sync(other.mSync->requestLock, other.mSync->wait)) {}
 
 Widget& Widget::operator=(const Widget& other)
 {
     if (this == &other)
         return *this;
-    delete mSync->wait;
-    delete mSync->requestLock;
-    delete mSync;
-    mSync = new Sync(*other.mSync);
+    mSync->letGo();
+    mSync = new Sync(other.mSync->requestLock, other.mSync->wait);
     return *this;
 }
 
 Widget::~Widget()
 {
-    // With an empty queue this costs nothing. Whoever has been woken still has to give the request lock back.
-    const bool mayBeQueued = gtPegMainQueue != nullptr && gtPegMainQueue->count != 0;
-    if (mayBeQueued && purge({this, nullptr}))
-        mSync->requestLock->take(-1);
-    delete mSync->wait;
-    delete mSync->requestLock;
-    delete mSync;
+    // Looks into the queue only where a request of this widget is there, or may still get there.
+    if (mSync->hasQueued() || mSync->isHeldByOthers()) {
+        mSync->end();
+        purge({this, nullptr});
+    }
+    mSync->letGo();
 }
 
 bool Widget::isGuiThread()
@@ -203,18 +203,18 @@ void Widget::setGuiThreadId(unsigned int id)
 
 void Widget::postEvent(GuiRequestEvent* request)
 {
-    postAndWait(*this, *mSync->requestLock, request, POST);
+    postAndWait(*this, request, POST);
 }
 
 void Widget::postTopEvent(GuiRequestEvent* request)
 {
-    postAndWait(*this, *mSync->requestLock, request, POST_TOP);
+    postAndWait(*this, request, POST_TOP);
 }
 
 void Widget::postEventAsync(GuiRequestEvent* request)
 {
-    Permit permit(*mSync->requestLock);
-    handOver(*this, orEmptyRequest(*this, request), POST_ASYNC, nullptr);
+    const Post post(*this);
+    handOver(post, *this, orEmptyRequest(*this, request), POST_ASYNC, nullptr);
 }
 
 void Widget::postEvent(int code)
@@ -258,7 +258,7 @@ GuiRequestEvent* Widget::dequeueOwnMessage(std::set<int>* codes)
     PegMessage* message = removeFirstMessage(OwnRequest{this, codes});
     if (message == nullptr)
         return nullptr;
-    GuiRequestEvent* request = unwrap(*message);
+    GuiRequestEvent* const request = takeRequest(*message);
     giveBackMessage(message);
     return request;
 }

@@ -6,9 +6,6 @@
 #include <string>
 
 class PegThing;
-class Semaphore;
-class Wait;
-
 namespace DisplayAPI {
 
 class GuiRequestEvent;
@@ -25,12 +22,15 @@ class GuiRequestEvent;
 /// Without an installed event filter a post is carried out at once on the calling thread.
 class DISPLAYAPI_EXPORT Widget {
 public:
+    struct Sync;
+
     Widget();
     Widget(const Widget& other);
     Widget& operator=(const Widget& other);
 
-    /// Removes what is still queued for this widget and wakes those who wait for it. Posts must have returned or be
-    /// waiting; a class with a private side destroys it by a request that its destructor waits for.
+    /// Removes what is still queued for this widget and lets everybody go on who waits for it: for a request, which is
+    /// not carried out then, or behind another call for his turn to post. A call that has not begun by then must not
+    /// begin. A class with a private side destroys it by a request that its destructor waits for.
     virtual ~Widget();
 
     /// Carries out one request and signals its completion. GUI thread only.
@@ -76,12 +76,7 @@ protected:
     std::string name;
 
 private:
-    struct Sync {
-        Semaphore* requestLock;
-        Wait* wait;
-    };
-
-    Sync* mSync;
+    Sync* mSync; ///< shared with the posts that have begun
 };
 
 /// Tells `thing`, which must not be null, through the toolkit's queue that the focus has moved, if its type wants to

@@ -7,7 +7,9 @@
 #include "support/Replaced.h"
 #include "support/SteppedLoop.h"
 #include "support/TestWidget.h"
+#include "support/Worker.h"
 #include "toolkit/PegFunctions.h"
+#include "toolkit/PegMessageQueue.h"
 #include "toolkit/PegScreen.h"
 
 #include <gmock/gmock.h>
@@ -131,6 +133,72 @@ TEST_F(DisplayEventFilterTest, ALaterOneTakesOver)
 
     later.reset();
     EXPECT_EQ(DisplayEventFilter::getFilterPointer(), nullptr);
+}
+
+TEST_F(DisplayEventFilterTest, TheOneBeforeTakesOverAgainWhenTheLaterOneIsDestroyed)
+{
+    std::optional<DisplayEventFilter> second(std::in_place, true);
+    std::optional<DisplayEventFilter> third(std::in_place, true);
+
+    third.reset();
+    EXPECT_EQ(DisplayEventFilter::getFilterPointer(), &*second);
+
+    second.reset();
+    EXPECT_EQ(DisplayEventFilter::getFilterPointer(), gui.filter());
+}
+
+TEST_F(DisplayEventFilterTest, OneThatIsGoneDoesNotTakeOver)
+{
+    std::optional<DisplayEventFilter> second(std::in_place, true);
+    std::optional<DisplayEventFilter> third(std::in_place, true);
+
+    second.reset();
+    EXPECT_EQ(DisplayEventFilter::getFilterPointer(), &*third);
+
+    third.reset();
+    EXPECT_EQ(DisplayEventFilter::getFilterPointer(), gui.filter());
+}
+
+TEST_F(DisplayEventFilterTest, WhatIsQueuedForOneThatIsDestroyedIsCarriedOutByTheOneThatTakesOver)
+{
+    std::optional<DisplayEventFilter> second(std::in_place, true);
+    widget.postEventAsync(1);
+    test::Worker caller([this] { widget.postEvent(2); });
+    gui.waitForQueued(2);
+
+    second.reset();
+
+    for (const PegMessage& message : gui.messages()) {
+        EXPECT_EQ(message.pTarget, gui.filter());
+        EXPECT_EQ(message.pSource, gui.filter());
+    }
+    gui.runAll();
+    EXPECT_THAT(widget.codes(), ElementsAre(1, 2));
+}
+
+TEST_F(DisplayEventFilterTest, WhatIsQueuedForAnEarlierOneIsCarriedOutByTheInstalledOne)
+{
+    std::optional<DisplayEventFilter> second(std::in_place, true);
+    widget.postEventAsync(1);
+    DisplayEventFilter third(true);
+
+    second.reset();
+
+    EXPECT_EQ(gui.messages().at(0).pTarget, &third);
+    gui.runAll();
+    EXPECT_THAT(widget.codes(), ElementsAre(1));
+}
+
+TEST_F(DisplayEventFilterTest, OthersMessagesKeepTheirTargets)
+{
+    ReceivingThing thing;
+    std::optional<DisplayEventFilter> second(std::in_place, true);
+    PegMessageQueue().Push({PM_KEY, 1, &thing});
+
+    second.reset();
+    gui.runAll();
+
+    EXPECT_EQ(thing.received.size(), 1u);
 }
 
 TEST_F(DisplayEventFilterTest, UninstallingRemovesOnlyItself)

@@ -4,8 +4,11 @@
 #include "ContentWidgetFactory.h"
 #include "DisplayAPI/List.h"
 #include "DisplayEventFilter.h"
+#include "support/TestWidget.h"
+#include "support/Worker.h"
 #include "unit/src/DisplayPrivateTest.h"
 #include "utilities/ICC.h"
+#include "utilities/Threadable.h"
 
 using namespace DisplayAPI;
 using testing::ElementsAre;
@@ -111,7 +114,27 @@ TEST_F(DisplayPrivateLifeTest, AFilterIsInstalledWhereItIsAskedForAndTakenOutWit
         EXPECT_NE(DisplayEventFilter::getFilterPointer(), gui.filter());
         EXPECT_NE(DisplayEventFilter::getFilterPointer(), nullptr);
     }
-    EXPECT_EQ(DisplayEventFilter::getFilterPointer(), nullptr);
+    EXPECT_EQ(DisplayEventFilter::getFilterPointer(), gui.filter());
+}
+
+TEST_F(DisplayPrivateLifeTest, ADisplayThatOutlivesASecondOneCarriesOutWhatIsQueued)
+{
+    auto later = std::make_unique<DisplayPrivate>(false, "any", "", "", "", "", nullptr, nullptr,
+                                                   new doubles::FakeStartUp, true);
+    test::TestWidget widget;
+    widget.postEventAsync(1);
+    test::Worker caller([&] { widget.postEvent(2); });
+    gui.waitForQueued(2);
+
+    later.reset();
+    EXPECT_TRUE(caller.isBlocked());
+    gui.runAll();
+    caller.join();
+    widget.postEventAsync(3);
+    gui.runAll();
+
+    EXPECT_THAT(widget.codes(), ElementsAre(1, 2, 3));
+    EXPECT_THAT(widget.threads(), testing::Each(Threadable::currentThreadId()));
 }
 
 TEST_F(DisplayPrivateLifeTest, TheFilterOfASecondDisplaySurvivesTheFirst)

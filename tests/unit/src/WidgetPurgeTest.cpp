@@ -13,8 +13,6 @@
 
 #include <gmock/gmock.h>
 
-#include <optional>
-
 using DisplayAPI::DisplayRequestEvent;
 using DisplayAPI::GuiRequestEvent;
 using DisplayAPI::Widget;
@@ -55,7 +53,6 @@ protected:
 };
 
 using WidgetDequeueTest = WidgetPurgeTest;
-using WidgetDestructorTest = WidgetPurgeTest;
 
 } // namespace
 
@@ -340,48 +337,4 @@ TEST_F(WidgetDequeueTest, ADequeuedRequestCanBePostedAgain)
 
     gui.runAll();
     EXPECT_THAT(widget.codes(), ElementsAre(2, 1));
-}
-
-// Destroying a widget
-
-TEST_F(WidgetDestructorTest, RemovesWhatIsStillQueuedForTheWidget)
-{
-    std::optional<TestWidget> doomed(std::in_place);
-    post({1, 2}, *doomed);
-    post({3}, other);
-
-    doomed.reset();
-
-    EXPECT_THAT(gui.queuedCodes(), ElementsAre(3));
-    EXPECT_EQ(liveRequests, 1);
-    gui.runAll();
-}
-
-TEST_F(WidgetDestructorTest, WakesACallerThatWaitsOnItsOwnCondition)
-{
-    std::optional<TestWidget> doomed(std::in_place);
-    Caller caller(*doomed, 1);
-    gui.waitForQueued(1);
-    EXPECT_TRUE(caller.worker.isBlocked());
-
-    doomed.reset();
-
-    caller.worker.join();
-}
-
-TEST_F(WidgetDestructorTest, WakesACallerThatHoldsTheRequestLock)
-{
-    for (int round = 0; round < 200; ++round) {
-        auto doomed = std::make_unique<TestWidget>();
-        Worker caller([&target = *doomed] { target.postEvent(1); });
-        gui.waitForQueued(1);
-
-        doomed.reset();
-    }
-}
-
-TEST_F(WidgetDestructorTest, CostsNothingBeforeTheToolkitHasBeenStarted)
-{
-    const test::Replaced<PegMainQueue*> noQueue(gtPegMainQueue, nullptr);
-    TestWidget unused;
 }

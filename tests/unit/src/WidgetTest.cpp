@@ -235,6 +235,22 @@ TEST_P(WidgetPostTest, RunsOnTheCallingThreadWhereTheFilterGoesBeforeTheMessageI
     EXPECT_EQ(gui.queued(), 0);
 }
 
+TEST_P(WidgetPostTest, GoesToTheFilterThatIsInstalledWhenTheMessageIsQueued)
+{
+    LockMessageQueue();
+    Worker worker([&] { (widget.*GetParam().post)(new CountedRequest(&widget, 3, liveRequests)); });
+    EXPECT_TRUE(worker.isBlocked());
+    DisplayAPI::DisplayEventFilter later(true);
+    UnlockMessageQueue();
+    gui.waitForQueued(1);
+
+    EXPECT_EQ(gui.messages().at(0).pTarget, &later);
+    EXPECT_EQ(gui.messages().at(0).pSource, &later);
+    gui.runAll();
+    EXPECT_THAT(widget.threads(), ElementsAre(Threadable::currentThreadId()));
+    EXPECT_EQ(liveRequests, 0);
+}
+
 TEST_P(WidgetPostTest, GivesTheRequestLockBackWhereNoFilterIsInstalled)
 {
     gui.removeFilter();
