@@ -5,9 +5,11 @@
 #include "DisplayAPI/DisplayThreadPool.h"
 #include "DisplayAPI/ItemStateListener.h"
 #include "Log.h"
+#include "QueuedChanges.h"
 #include "RecordPool.h"
 #include "utilities/Semaphore.h"
 
+#include <algorithm>
 #include <list>
 #include <utility>
 
@@ -19,8 +21,6 @@ namespace {
 constexpr Log gLog{"DisplayAPI::AbbreviatedItemPrivate", "./src/CommandExecutor"};
 
 constexpr int MAX_POOL_SIZE = 10;
-constexpr int COMMAND_LINE = 120;
-constexpr int ITEM_LINE = 145;
 
 constexpr auto COMMAND_NOTIFICATION = CommandExecutor::COMMAND_NOTIFICATION;
 constexpr auto ITEM_NOTIFICATION = CommandExecutor::ITEM_NOTIFICATION;
@@ -56,6 +56,7 @@ struct Shared {
     Semaphore itemQueueSemaphore{Semaphore::AVAILABLE, 1, false};
     Queue itemQueue;
     Queue spareNodes; ///< empty list nodes, so that posting does not allocate
+    QueuedChanges<Queue::iterator> changes;
     bool running = false;
 };
 
@@ -76,20 +77,28 @@ private:
     Shared& mState;
 };
 
+Item* itemOf(const Entry& entry)
+{
+    return static_cast<const ItemPayload*>(entry.second)->item;
+}
+
 void append(Shared& state, Entry entry)
 {
-    if (state.spareNodes.empty()) {
-        state.itemQueue.push_back(entry);
-        return;
-    }
-    state.itemQueue.splice(state.itemQueue.end(), state.spareNodes, state.spareNodes.begin());
+    if (state.spareNodes.empty())
+        state.itemQueue.emplace_back();
+    else
+        state.itemQueue.splice(state.itemQueue.end(), state.spareNodes, state.spareNodes.begin());
     state.itemQueue.back() = entry;
+    if (entry.first == ITEM_NOTIFICATION)
+        state.changes.add(itemOf(entry), std::prev(state.itemQueue.end()));
 }
 
 Entry takeFirst(Shared& state)
 {
     constexpr std::size_t MAX_SPARE_NODES = 4096;
     const Entry entry = state.itemQueue.front();
+    if (entry.first == ITEM_NOTIFICATION)
+        state.changes.remove(itemOf(entry), state.itemQueue.begin());
     if (state.spareNodes.size() < MAX_SPARE_NODES)
         state.spareNodes.splice(state.spareNodes.begin(), state.itemQueue, state.itemQueue.begin());
     else
@@ -117,12 +126,10 @@ void post(Shared& state, Entry entry, bool start)
 
 bool isQueued(const Shared& state, ItemStateListener* listener, Item* item)
 {
-    for (const Entry& entry : state.itemQueue) {
-        const auto* payload = static_cast<const ItemPayload*>(entry.second);
-        if (entry.first == ITEM_NOTIFICATION && payload->listener == listener && payload->item == item)
-            return true;
-    }
-    return false;
+    const auto& places = state.changes.of(item);
+    return std::any_of(places.begin(), places.end(), [=](Queue::iterator place) {
+        return static_cast<const ItemPayload*>(place->second)->listener == listener;
+    });
 }
 
 void deliver(const CommandPayload& payload)
@@ -153,28 +160,68 @@ void deliver(Entry entry)
         deliverAndDelete<ItemPayload>(entry.second);
 }
 
+void logRecall(const CommandPayload& queued)
+{
+    gLog(TRACE, 120,
+         "CommandExecutor::retrieveCommand(CommandListener=%p, Command=%p, Displayable=%p) recall of posted command.",
+         static_cast<void*>(queued.listener), static_cast<void*>(queued.command),
+         static_cast<void*>(queued.displayable));
+}
+
+void logRecall(const ItemPayload& queued)
+{
+    gLog(TRACE, 145, "CommandExecutor::retrieveCommand(ItemStateListener=%p, Item=%p) recall of posted command.",
+         static_cast<void*>(queued.listener), static_cast<void*>(queued.item));
+}
+
 template <typename Field>
 bool matches(Field* wanted, Field* actual)
 {
     return wanted == nullptr || wanted == actual;
 }
 
-/// Erases the queued entries of one type whose payload `matchesPayload`; `log` sees each before it goes.
-template <typename Payload, typename Matches, typename LogLine>
-void recall(ItemType type, Matches matchesPayload, LogLine log)
+/// Erases the queued commands that match.
+void recall(CommandListener* listener, Command* command, Displayable* displayable)
 {
     Shared& state = shared();
     QueueLock lock(state);
-    for (auto entry = state.itemQueue.begin(); entry != state.itemQueue.end();) {
-        auto* payload = static_cast<Payload*>(entry->second);
-        if (entry->first != type || payload == nullptr || !matchesPayload(*payload)) {
-            ++entry;
-            continue;
-        }
-        log(*payload);
-        delete payload;
-        entry = state.itemQueue.erase(entry);
+    std::erase_if(state.itemQueue, [=](const Entry& entry) {
+        auto* const queued = static_cast<CommandPayload*>(entry.second);
+        if (entry.first != COMMAND_NOTIFICATION || queued == nullptr || !matches(listener, queued->listener) ||
+            !matches(command, queued->command) || !matches(displayable, queued->displayable))
+            return false;
+        logRecall(*queued);
+        delete queued;
+        return true;
+    });
+}
+
+/// Erases a queued item's change if it is for `listener`, which null always is.
+void recall(Shared& state, Queue::iterator place, ItemStateListener* listener)
+{
+    auto* const queued = static_cast<ItemPayload*>(place->second);
+    if (!matches(listener, queued->listener))
+        return;
+    logRecall(*queued);
+    state.changes.remove(queued->item, place);
+    state.itemQueue.erase(place);
+    delete queued;
+}
+
+/// Those of one item are found without walking the queue: rows come by the thousand.
+void recall(ItemStateListener* listener, Item* item)
+{
+    Shared& state = shared();
+    QueueLock lock(state);
+    if (item != nullptr) {
+        const auto places = state.changes.of(item);
+        for (const Queue::iterator place : places)
+            recall(state, place, listener);
+        return;
     }
+    for (auto place = state.itemQueue.begin(); place != state.itemQueue.end();)
+        if (const auto current = place++; current->first == ITEM_NOTIFICATION)
+            recall(state, current, listener);
 }
 
 } // namespace
@@ -201,31 +248,12 @@ void CommandExecutor::postCommand(ItemStateListener* listener, Item* item, bool 
 
 void CommandExecutor::retrieveCommand(CommandListener* listener, Command* command, Displayable* displayable)
 {
-    recall<CommandPayload>(
-        COMMAND_NOTIFICATION,
-        [=](const CommandPayload& queued) {
-            return matches(listener, queued.listener) && matches(command, queued.command) &&
-                   matches(displayable, queued.displayable);
-        },
-        [](const CommandPayload& queued) {
-            gLog(TRACE, COMMAND_LINE,
-                 "CommandExecutor::retrieveCommand(CommandListener=%p, Command=%p, Displayable=%p) recall of posted "
-                 "command.",
-                 static_cast<void*>(queued.listener), static_cast<void*>(queued.command),
-                 static_cast<void*>(queued.displayable));
-        });
+    recall(listener, command, displayable);
 }
 
 void CommandExecutor::retrieveCommand(ItemStateListener* listener, Item* item)
 {
-    recall<ItemPayload>(
-        ITEM_NOTIFICATION,
-        [=](const ItemPayload& queued) { return matches(listener, queued.listener) && matches(item, queued.item); },
-        [](const ItemPayload& queued) {
-            gLog(TRACE, ITEM_LINE,
-                 "CommandExecutor::retrieveCommand(ItemStateListener=%p, Item=%p) recall of posted command.",
-                 static_cast<void*>(queued.listener), static_cast<void*>(queued.item));
-        });
+    recall(listener, item);
 }
 
 void CommandExecutor::run()

@@ -4,6 +4,7 @@
 #include "DisplayAPI/CommandListener.h"
 #include "DisplayAPI/DisplayThreadPool.h"
 #include "DisplayAPI/ItemStateListener.h"
+#include "support/CpuTime.h"
 #include "support/LogLines.h"
 #include "support/Worker.h"
 #include "utilities/Threadable.h"
@@ -394,6 +395,55 @@ TEST_F(CommandExecutorTest, RecallingWhatIsNotQueuedDoesNothing)
     CommandExecutor::retrieveCommand(&a, item(1));
     deliver();
     EXPECT_THAT(trace, ElementsAre("a call"));
+}
+
+TEST_F(CommandExecutorTest, RecallingAnItemLeavesOtherEntriesInOrder)
+{
+    post(a, item(1));
+    post(a, call);
+    post(b, item(1));
+    post(a, item(2));
+
+    CommandExecutor::retrieveCommand(&b, item(1));
+    post(b, item(1));
+    deliver();
+
+    EXPECT_THAT(trace, ElementsAre("a item 1", "a call", "a item 2", "b item 1"));
+}
+
+TEST_F(CommandExecutorTest, ARecalledItemIsQueuedAgain)
+{
+    post(a, item(1));
+    post(b, item(1));
+    CommandExecutor::retrieveCommand(nullptr, item(1));
+    post(b, item(1));
+    post(a, item(1));
+    CommandExecutor::retrieveCommand(&a, nullptr);
+    post(a, item(1));
+    deliver();
+    EXPECT_THAT(trace, ElementsAre("b item 1", "a item 1"));
+}
+
+TEST_F(CommandExecutorTest, WhatAnItemCostsDoesNotGrowWithTheQueue)
+{
+    const auto costOfSome = [this](std::size_t first) {
+        constexpr std::size_t SOME = 500;
+        const test::CpuTime time;
+        for (std::size_t number = first; number < first + SOME; ++number) {
+            post(a, item(number));
+            post(a, item(number));
+            CommandExecutor::retrieveCommand(nullptr, item(number));
+        }
+        return time.seconds();
+    };
+    costOfSome(1);
+    const double withAnEmptyQueue = costOfSome(1);
+    for (std::size_t number = 1'000; number < 50'000; ++number)
+        post(b, item(number));
+    const double withALongQueue = costOfSome(1);
+    CommandExecutor::retrieveCommand(&b, nullptr);
+
+    EXPECT_LT(withALongQueue, 20 * withAnEmptyQueue) << "walking 50,000 entries would cost thousands of times as much";
 }
 
 TEST_F(CommandExecutorTest, EachRecalledCommandIsLogged)
