@@ -2,6 +2,7 @@
 
 #include "host/toolkit/MessagePool.h"
 #include "host/utilities/Spin.h"
+#include "utilities/Logging.h"
 
 PegMainQueue* gtPegMainQueue = nullptr;
 
@@ -33,6 +34,14 @@ void addToCount(int change)
 {
     std::atomic<int>& count = gtPegMainQueue->count;
     count.store(count.load(std::memory_order_relaxed) + change, std::memory_order_relaxed);
+}
+
+/// Some messages are waited for without end: that of the loop's own end, for one.
+void logLost(const PegMessage& message)
+{
+    if (loggingOnUni())
+        logAppUni("PegWidgets", "MainQueue", 2, __LINE__, "no PegMessage object is left, message %d is lost",
+                  message.wType);
 }
 
 void append(PegMessage* message)
@@ -105,9 +114,13 @@ void MainQueue::create()
 
 bool MainQueue::push(const PegMessage& message)
 {
-    PegMessage* const record = gtPegMainQueue ? MessagePool::take() : nullptr;
-    if (!record)
+    if (gtPegMainQueue == nullptr)
         return false;
+    PegMessage* const record = MessagePool::take();
+    if (record == nullptr) {
+        logLost(message);
+        return false;
+    }
     *record = message;
     record->Next = nullptr;
     QueueMutex mutex;

@@ -1,7 +1,9 @@
 #include "toolkit/PegMessageQueue.h"
 
+#include "host/toolkit/Loop.h"
 #include "host/toolkit/MainQueue.h"
 #include "host/toolkit/MessagePool.h"
+#include "host/utilities/Log.h"
 #include "support/RunningToolkit.h"
 
 #include <gtest/gtest.h>
@@ -66,6 +68,20 @@ TEST(PegMessageQueue, WithoutARecordTheMessageIsLost)
     const host::MessagePool::Drained drained;
     PegMessageQueue().Push({PM_CLICKED, 1});
     EXPECT_EQ(gtPegMainQueue->count, 0);
+}
+
+TEST(PegMessageQueue, ALostMessageLeavesALineInTheLog)
+{
+    const StartedToolkit toolkit;
+    const host::LogCapture log({.level = 2, .modulePrefix = ""});
+    {
+        const host::MessagePool::Drained drained;
+        host::Loop::quit();
+    }
+    ASSERT_EQ(log.lines().size(), 1u);
+    EXPECT_EQ(log.lines()[0].module, "PegWidgets");
+    EXPECT_EQ(log.lines()[0].level, 2);
+    EXPECT_EQ(log.lines()[0].text, "no PegMessage object is left, message 21 is lost");
 }
 
 TEST(PegMessageQueue, MessagesToADyingThingAreDropped)
