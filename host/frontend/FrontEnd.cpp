@@ -6,8 +6,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <dlfcn.h>
-#include <memory>
 #include <string_view>
+#include <utility>
 
 namespace host {
 
@@ -23,7 +23,9 @@ constexpr std::array<Kind, 2> KINDS{{
     {"script", "libdisplayapi_script.so"},
 }};
 
-std::unique_ptr<FrontEnd> gFrontEnd;
+/// Not destroyed when the process ends: a program that exits in the middle of its run leaves the front end's threads
+/// running.
+FrontEnd* gFrontEnd = nullptr;
 
 [[noreturn]] void giveUp(const std::string& reason)
 {
@@ -33,7 +35,7 @@ std::unique_ptr<FrontEnd> gFrontEnd;
 }
 
 /// The shared object stays loaded: its threads may still be on their way out.
-std::unique_ptr<FrontEnd> load(const std::string& path)
+FrontEnd* load(const std::string& path)
 {
     void* const object = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
     if (!object)
@@ -41,7 +43,7 @@ std::unique_ptr<FrontEnd> load(const std::string& path)
     const auto create = reinterpret_cast<CreateFrontEnd>(dlsym(object, "displayapiCreateFrontEnd"));
     if (!create)
         giveUp(path + " is not a front end");
-    return std::unique_ptr<FrontEnd>(create());
+    return create();
 }
 
 void start(const Kind& kind, const std::string& options)
@@ -69,9 +71,9 @@ void startFrontEnd()
 
 void stopFrontEnd()
 {
-    if (gFrontEnd)
+    if (gFrontEnd != nullptr)
         gFrontEnd->stop();
-    gFrontEnd.reset();
+    delete std::exchange(gFrontEnd, nullptr);
 }
 
 } // namespace host

@@ -38,6 +38,8 @@ public:
             std::abort();
         if (mWay == "exit")
             std::_Exit(3);
+        if (mWay == "quit")
+            std::exit(4);
         if (mWay == "leave")
             leaveSoon();
         if (mWay == "quit")
