@@ -13,12 +13,19 @@ constexpr const char* ONE_PRODUCER = "Asynchronous posts until carried out, one 
 constexpr const char* TWO_PRODUCERS = "Asynchronous posts until carried out, two producers";
 constexpr const char* NOTIFICATIONS = "Notifications in order through the executor";
 constexpr const char* OBSERVING = "Observers of the application";
+constexpr const char* TEXTBOOK = "reference: mutex, condition variable, deque of functions";
 constexpr const char* SCREEN = "Screen";
 constexpr const char* HEAP = "Heap";
 
+/// Nanoseconds of a synchronous call with a result, the library's and that of the textbook loop.
+double libraryCall(Seats seats, int calls);
+double textbookCall(Seats seats, int calls);
+
 // Each gives its cases; `directory` is where the benchmark's programs are.
 std::vector<Case> libraryCases();
+std::vector<Case> neighbourCases();
 std::vector<Case> listCases();
+std::vector<Case> destroyingCases();
 std::vector<Case> repaintCases();
 std::vector<Case> screenTextCases();
 std::vector<Case> languageCases();

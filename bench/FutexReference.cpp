@@ -14,14 +14,12 @@ namespace {
 /// Two threads that hand one futex word to and fro: what a blocking round trip costs at the least.
 class PingPong {
 public:
-    double run(bool pinned)
+    double run(Seats seats)
     {
-        if (pinned)
-            pinTo(0);
+        const SeatedCaller caller(seats);
         mWord = 0;
-        std::thread answerer([this, pinned] {
-            if (pinned)
-                pinTo(0);
+        std::thread answerer([this, seats] {
+            pinTo(seats.loop);
             for (int i = 0; i < ROUND_TRIPS; ++i) {
                 waitFor(1);
                 hand(0);
@@ -32,7 +30,6 @@ public:
             waitFor(0);
         });
         answerer.join();
-        unpin();
         return each;
     }
 
@@ -58,8 +55,8 @@ private:
 
 std::vector<Case> futexCases()
 {
-    return {{PINNED, "reference: one futex word", "ns", [] { return PingPong().run(true); }},
-            {UNPINNED, "reference: one futex word", "ns", [] { return PingPong().run(false); }}};
+    return {{PINNED, "reference: one futex word", "ns", [] { return PingPong().run(ONE_CPU); }},
+            {UNPINNED, "reference: one futex word", "ns", [] { return PingPong().run(FREE); }}};
 }
 
 } // namespace bench

@@ -49,20 +49,6 @@ void require(bool fact, const char* what)
     std::exit(1);
 }
 
-double roundTrip(bool pinned)
-{
-    if (pinned)
-        pinTo(0);
-    double each = 0;
-    {
-        Phone phone(pinned);
-        Counter counter;
-        each = nanosecondsEach(ROUND_TRIPS, [&] { require(counter.value() == 0, "wrong result"); });
-    }
-    unpin();
-    return each;
-}
-
 double posts(int producers)
 {
     Phone phone;
@@ -110,10 +96,18 @@ double notifications()
 
 } // namespace
 
+double libraryCall(Seats seats, int calls)
+{
+    const SeatedCaller caller(seats);
+    Phone phone(seats);
+    Counter counter;
+    return nanosecondsEach(calls, [&] { require(counter.value() == 0, "wrong result"); });
+}
+
 std::vector<Case> libraryCases()
 {
-    return {{PINNED, "DisplayAPI", "ns", [] { return roundTrip(true); }},
-            {UNPINNED, "DisplayAPI", "ns", [] { return roundTrip(false); }},
+    return {{PINNED, "DisplayAPI", "ns", [] { return libraryCall(ONE_CPU, ROUND_TRIPS); }},
+            {UNPINNED, "DisplayAPI", "ns", [] { return libraryCall(FREE, ROUND_TRIPS); }},
             {ONE_PRODUCER, "DisplayAPI", "M/s", [] { return posts(1); }},
             {TWO_PRODUCERS, "DisplayAPI", "M/s", [] { return posts(2); }},
             {NOTIFICATIONS, "DisplayAPI", "M/s", [] { return notifications(); }}};

@@ -10,11 +10,7 @@ namespace bench {
 
 namespace {
 
-void setAffinity(const cpu_set_t& cpus)
-{
-    sched_setaffinity(0, sizeof cpus, &cpus);
-}
-
+/// Asked for before anybody is bound.
 const cpu_set_t& allCpus()
 {
     static const cpu_set_t cpus = [] {
@@ -55,16 +51,12 @@ void measure(const std::vector<Case>& cases, int rounds)
 
 void pinTo(int cpu)
 {
-    allCpus();
-    cpu_set_t set;
-    CPU_ZERO(&set);
-    CPU_SET(static_cast<std::size_t>(cpu), &set);
-    setAffinity(set);
-}
-
-void unpin()
-{
-    setAffinity(allCpus());
+    cpu_set_t set = allCpus();
+    if (cpu != ANY_CPU && CPU_ISSET(static_cast<std::size_t>(cpu), &set)) {
+        CPU_ZERO(&set);
+        CPU_SET(static_cast<std::size_t>(cpu), &set);
+    }
+    sched_setaffinity(0, sizeof set, &set);
 }
 
 void runProducers(int producers, const std::function<void(int)>& body)

@@ -29,9 +29,27 @@ void measure(const std::vector<Case>& cases, int rounds);
 /// The figures that `program` prints, `count` of them; -1 in the place of those that it does not.
 std::vector<double> figuresOf(const std::string& program, std::size_t count);
 
-/// Binds the calling thread to one CPU, or to all.
+/// Binds the calling thread to one CPU, ANY_CPU or one that the machine has not to all.
+constexpr int ANY_CPU = -1;
 void pinTo(int cpu);
-void unpin();
+
+/// Where two threads that call each other run.
+struct Seats {
+    int caller = ANY_CPU;
+    int loop = ANY_CPU;
+};
+constexpr Seats ONE_CPU{0, 0};
+constexpr Seats TWO_CPUS{0, 1};
+constexpr Seats FREE{};
+
+/// Puts the calling thread into the caller's seat for as long as it lives.
+class SeatedCaller {
+public:
+    explicit SeatedCaller(Seats seats) { pinTo(seats.caller); }
+    SeatedCaller(const SeatedCaller&) = delete;
+    SeatedCaller& operator=(const SeatedCaller&) = delete;
+    ~SeatedCaller() { pinTo(ANY_CPU); }
+};
 
 /// Runs `body` on two threads at once with the numbers 0 and 1 (or just 0), and waits for them.
 void runProducers(int producers, const std::function<void(int)>& body);

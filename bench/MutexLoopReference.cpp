@@ -14,10 +14,9 @@ namespace {
 /// The textbook loop: a mutex, a condition variable, a deque of functions.
 class Loop {
 public:
-    explicit Loop(bool pinned)
-        : mThread([this, pinned] {
-              if (pinned)
-                  pinTo(0);
+    explicit Loop(Seats seats)
+        : mThread([this, seats] {
+              pinTo(seats.loop);
               run();
           })
     {
@@ -65,22 +64,9 @@ private:
     std::thread mThread;
 };
 
-double roundTrip(bool pinned)
-{
-    if (pinned)
-        pinTo(0);
-    double each = 0;
-    {
-        Loop loop(pinned);
-        each = nanosecondsEach(ROUND_TRIPS, [&] { loop.call(); });
-    }
-    unpin();
-    return each;
-}
-
 double posts(int producers)
 {
-    Loop loop(false);
+    Loop loop(FREE);
     std::atomic<int> done{0};
     const auto start = Clock::now();
     runProducers(producers, [&](int) {
@@ -93,11 +79,18 @@ double posts(int producers)
 
 } // namespace
 
+double textbookCall(Seats seats, int calls)
+{
+    const SeatedCaller caller(seats);
+    Loop loop(seats);
+    return nanosecondsEach(calls, [&] { loop.call(); });
+}
+
 std::vector<Case> mutexLoopCases()
 {
-    const char* name = "reference: mutex, condition variable, deque of functions";
-    return {{PINNED, name, "ns", [] { return roundTrip(true); }},
-            {UNPINNED, name, "ns", [] { return roundTrip(false); }},
+    const char* const name = TEXTBOOK;
+    return {{PINNED, name, "ns", [] { return textbookCall(ONE_CPU, ROUND_TRIPS); }},
+            {UNPINNED, name, "ns", [] { return textbookCall(FREE, ROUND_TRIPS); }},
             {ONE_PRODUCER, name, "M/s", [] { return posts(1); }},
             {TWO_PRODUCERS, name, "M/s", [] { return posts(2); }}};
 }

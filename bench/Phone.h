@@ -11,15 +11,14 @@
 
 namespace bench {
 
-/// A telephone whose GUI thread runs beside the measuring thread, on one CPU or on all.
+/// A telephone whose GUI thread runs beside the measuring thread.
 class Phone {
 public:
-    explicit Phone(bool pinned = false)
+    explicit Phone(Seats seats = FREE)
     {
         std::promise<void> ready;
-        mGui = std::thread([&, pinned] {
-            if (pinned)
-                pinTo(0);
+        mGui = std::thread([&, seats] {
+            pinTo(seats.loop);
             run(ready);
         });
         ready.get_future().wait();
