@@ -2,9 +2,11 @@
 #include "Phone.h"
 
 #include "DisplayAPI/List.h"
+#include "DisplayAPI/ListItem.h"
 #include "host/input/Keyboard.h"
 #include "host/lcd/Lcd.h"
 #include "host/toolkit/Loop.h"
+#include "kit/OnGuiThread.h"
 
 #include <cstdio>
 #include <ctime>
@@ -50,6 +52,46 @@ double appendRows()
     return milliseconds;
 }
 
+/// Microseconds that one change of a list of a million rows takes. On the GUI thread, which is the caller's.
+template <typename Change>
+double changeOfAMillion(Change change)
+{
+    constexpr int MILLION = 1'000'000;
+    constexpr int CHANGES = 2'000;
+    Phone phone;
+    double microseconds = 0;
+    DisplayAPI::kit::onGuiThread([&] {
+        DisplayAPI::List list(0);
+        std::vector<DisplayAPI::ListItem*> rows;
+        rows.reserve(MILLION);
+        for (int i = 0; i < MILLION; ++i)
+            list.append(rows.emplace_back(new DisplayAPI::ListItem("row", false)));
+        const auto start = Clock::now();
+        for (int i = 0; i < CHANGES; ++i)
+            change(list, rows[static_cast<std::size_t>(i) * 7'919 % MILLION]);
+        microseconds = secondsSince(start) * 1e6 / CHANGES;
+    });
+    return microseconds;
+}
+
+double removeRow()
+{
+    return changeOfAMillion([](DisplayAPI::List& list, DisplayAPI::ListItem* row) {
+        list.remove(row);
+        list.append(row);
+    });
+}
+
+double selectRow()
+{
+    return changeOfAMillion([](DisplayAPI::List& list, DisplayAPI::ListItem* row) { list.setSelected(row); });
+}
+
+double removeFirstRow()
+{
+    return changeOfAMillion([](DisplayAPI::List& list, DisplayAPI::ListItem*) { list.append(list.removeAt(0)); });
+}
+
 double processCpuSeconds()
 {
     timespec time{};
@@ -84,6 +126,9 @@ double moveSelection()
 std::vector<Case> listCases()
 {
     return {{SCREEN, "List of 10,000 rows appended by a worker, until shown", "ms", appendRows},
+            {SCREEN, "remove(row) and append(row), list of 1,000,000", "us", removeRow},
+            {SCREEN, "setSelected(row), list of 1,000,000", "us", selectRow},
+            {SCREEN, "removeAt(0) and append(row), list of 1,000,000", "us", removeFirstRow},
             {SCREEN, "Moving the selection by one row, key to finished frame", "us CPU", moveSelection}};
 }
 

@@ -1,6 +1,6 @@
 #include "Cases.h"
-#include "OnGuiThread.h"
 #include "Phone.h"
+#include "kit/OnGuiThread.h"
 
 #include "DisplayAPI/List.h"
 #include "toolkit/PegThing.h"
@@ -79,7 +79,7 @@ double changeLocaleOfLists()
 {
     Phone phone;
     double milliseconds = 0;
-    OnGuiThread::run([&] {
+    DisplayAPI::kit::onGuiThread([&] {
         std::deque<DisplayAPI::List> lists;
         while (lists.size() < LISTS)
             lists.emplace_back(0);

@@ -1,6 +1,6 @@
 #include "Cases.h"
-#include "OnGuiThread.h"
 #include "Phone.h"
+#include "kit/OnGuiThread.h"
 
 #include "DisplayAPI/DisplayEventIfc.h"
 #include "DisplayAPI/DisplayablePrivateIfc.h"
@@ -71,7 +71,7 @@ void stack(Phone& phone, std::array<List, 5>& lists)
         fill(lists[i], "List " + std::to_string(i));
         phone.display().createServerDisplay(&lists[i]);
     }
-    OnGuiThread::run([&] {
+    DisplayAPI::kit::onGuiThread([&] {
         for (std::size_t i = 0; i < lists.size(); ++i) {
             const auto step = static_cast<std::int16_t>(i * 12);
             lists[i].getPrivateImpl()->getWidget()->Resize(

@@ -1,8 +1,8 @@
 // Prints how many bytes of heap a list row takes, with all that comes with it; how many of them are a facade's lock,
 // Wait object and their record; and how many the record of the call that appends it.
 
-#include "OnGuiThread.h"
 #include "Phone.h"
+#include "kit/OnGuiThread.h"
 
 #include "DisplayAPI/List.h"
 #include "utilities/Semaphore.h"
@@ -15,7 +15,6 @@
 
 namespace {
 
-using bench::OnGuiThread;
 using bench::Phone;
 
 constexpr int ROWS = 10'000;
@@ -73,7 +72,7 @@ double bytesPerCallOnGuiThread()
     Phone phone;
     DisplayAPI::List list(0);
     double bytes = 0;
-    OnGuiThread::run([&] {
+    DisplayAPI::kit::onGuiThread([&] {
         const double before = heapInUse();
         for (int call = 0; call < ROWS; ++call)
             list.setSelectionHighlight(true);

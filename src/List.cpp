@@ -10,6 +10,7 @@
 #include "Variant.h"
 #include "utilities/HardwareVersion.h"
 #include "variants/list/ListBoxPrivate.h"
+#include "widgets/KestrelListBoxItem.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -186,7 +187,7 @@ std::vector<ListItem*> List::getItems() const
 {
     gLog(TRACE, 240, "DAPI::List::getItems() this: %p\n", static_cast<const void*>(this));
     waitForEarlierRequests();
-    return mItems;
+    return mItems.copy();
 }
 
 ListItem* List::getSelected()
@@ -290,11 +291,10 @@ void List::hide()
 
 void List::localeChanged(std::string locale)
 {
-    for (ListItem* item : mItems) {
-        ListItemPrivateIfc* row = item != nullptr ? item->getPrivateImplemetation() : nullptr;
-        if (row != nullptr)
+    mItems.forEach([&](ListItem* item) {
+        if (ListItemPrivateIfc* row = item->getPrivateImplemetation())
             row->localeChanged(locale);
-    }
+    });
 }
 
 void List::setTicker(Ticker* ticker)
@@ -377,7 +377,7 @@ void List::privateAppend(ListItem* item)
         return;
     if (mImplementation != nullptr)
         mImplementation->append(row);
-    mItems.push_back(item);
+    mItems.append(item);
 }
 
 void List::privateInsertAt(ListItem* item, int index)
@@ -386,20 +386,14 @@ void List::privateInsertAt(ListItem* item, int index)
     if (item == nullptr || mImplementation == nullptr)
         return;
     mImplementation->insertAt(item->getPrivateImplemetation(), index);
-    const auto position = std::clamp<std::ptrdiff_t>(index, 0, static_cast<std::ptrdiff_t>(mItems.size()));
-    mItems.insert(mItems.begin() + position, item);
-}
-
-ListItem* List::find(int index) const
-{
-    return static_cast<std::size_t>(index) < mItems.size() ? mItems[static_cast<std::size_t>(index)] : nullptr;
+    mItems.insert(item, std::clamp(index, 0, mItems.size()));
 }
 
 ListItem* List::privateRemoveAt(int index)
 {
     gLog(TRACE, 526, "DAPI::List::privateRemoveAt() this: %p\n", static_cast<void*>(this));
     const int position = std::max(index, 0);
-    ListItem* const item = find(position);
+    ListItem* const item = mItems.at(position);
     if (item == nullptr) {
         gLog(REFUSED, 540, "DAPI::List::removeAt() this %p, cannot remove item at index %d", static_cast<void*>(this),
              index);
@@ -407,8 +401,16 @@ ListItem* List::privateRemoveAt(int index)
     }
     if (mImplementation != nullptr)
         mImplementation->removeAt(index, item->getPrivateImplemetation());
-    mItems.erase(mItems.begin() + position);
+    mItems.erase(position);
     return item;
+}
+
+/// A row's widget knows its place, which is mostly the item's; otherwise the items are looked through.
+int List::positionOf(ListItem* item) const
+{
+    ListItemPrivateIfc* const row = item->getPrivateImplemetation();
+    const KestrelListBoxItem* const widget = row != nullptr ? row->getKestrelListItem() : nullptr;
+    return mItems.find(item, widget != nullptr ? widget->row() : -1);
 }
 
 void List::privateRemove(ListItem* item)
@@ -416,17 +418,19 @@ void List::privateRemove(ListItem* item)
     gLog(TRACE, 552, "DAPI::List::privateRemove() this: %p\n", static_cast<void*>(this));
     if (item == nullptr)
         return;
+    const int position = positionOf(item);
     if (mImplementation != nullptr)
         mImplementation->remove(item->getPrivateImplemetation());
-    if (const auto found = std::find(mItems.begin(), mItems.end(), item); found != mItems.end())
-        mItems.erase(found);
+    if (position >= 0)
+        mItems.erase(position);
 }
 
 void List::privateRemoveAll()
 {
-    for (ListItem* item : mItems)
+    mItems.forEach([this](ListItem* item) {
         if (mImplementation != nullptr)
             mImplementation->remove(item->getPrivateImplemetation());
+    });
     mItems.clear();
 }
 
@@ -436,14 +440,14 @@ void List::privateReplace(ListItem* oldItem, ListItem* newItem)
         return;
     if (oldItem == nullptr)
         return privateAppend(newItem);
+    const int position = positionOf(oldItem);
     if (mImplementation != nullptr)
         mImplementation->remove(oldItem->getPrivateImplemetation());
-    const auto found = std::find(mItems.begin(), mItems.end(), oldItem);
-    if (found == mItems.end())
+    if (position < 0)
         return privateAppend(newItem);
     if (mImplementation != nullptr)
-        mImplementation->insertAt(newItem->getPrivateImplemetation(), static_cast<int>(found - mItems.begin()));
-    *found = newItem;
+        mImplementation->insertAt(newItem->getPrivateImplemetation(), position);
+    mItems.replace(newItem, position);
 }
 
 void List::privateClear()
@@ -455,8 +459,7 @@ void List::privateClear()
 
 void List::deleteItems()
 {
-    for (ListItem* item : mItems)
-        delete item;
+    mItems.forEach([](ListItem* item) { delete item; });
     mItems.clear();
 }
 
@@ -477,7 +480,7 @@ void List::privateAddDialer(PopupDialer* dialer)
 ListItem* List::findSelectedItem()
 {
     const int index = mImplementation != nullptr ? mImplementation->getSelectedIndex() : -1;
-    ListItem* const item = index >= 0 ? find(index) : nullptr;
+    ListItem* const item = mItems.at(index);
     if (item == nullptr)
         gLog(TRACE, 640, "DAPI::List::findSelectedItem() this: %p returns NULL\n", static_cast<void*>(this));
     else

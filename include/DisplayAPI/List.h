@@ -1,6 +1,7 @@
 #pragma once
 
 #include "DisplayAPI/Displayable.h"
+#include "DisplayAPI/Sequence.h"
 
 #include <atomic>
 #include <string>
@@ -151,7 +152,7 @@ private:
     struct Ops;
     struct ClearOps;
 
-    ListItem* find(int index) const;
+    int positionOf(ListItem* item) const;
     void createAndAppendItem(const std::string& text);
     void createAndAppendItem(TranslationInfo* text);
     void takeOver(ListItem* item);
@@ -169,7 +170,7 @@ private:
     void deleteItems();
 
     ListBoxPrivateIfc* mImplementation = nullptr;
-    std::vector<ListItem*> mItems;
+    Sequence<ListItem> mItems;
     PopupDialer* mDialer = nullptr;
     Ticker* mTicker = nullptr;
     std::atomic<bool> mHasBackItem{false};

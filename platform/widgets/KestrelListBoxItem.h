@@ -22,10 +22,14 @@ public:
     bool isMarked() const { return mMarked; }
     void setMarked(bool marked) { mMarked = marked; }
 
+    /// Where it stands in its list; -1 where it stands in none.
+    int row() const;
+
 private:
     friend class KestrelListBox;
 
     PegString mText;
     KestrelListBox* mList = nullptr;
+    void* mPlace = nullptr; ///< the list's own note of where it stands
     bool mMarked = false;
 };

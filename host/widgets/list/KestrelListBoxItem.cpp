@@ -12,6 +12,11 @@ KestrelListBoxItem::~KestrelListBoxItem()
         mList->remove(this);
 }
 
+int KestrelListBoxItem::row() const
+{
+    return mList != nullptr ? mList->rowOf(this) : -1;
+}
+
 void KestrelListBoxItem::DataSet(PegString text)
 {
     mText = std::move(text);

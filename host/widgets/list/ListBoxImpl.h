@@ -1,13 +1,19 @@
 #pragma once
 
+#include "DisplayAPI/Sequence.h"
 #include "host/widgets/list/ListGeometry.h"
-#include "host/widgets/list/ListRows.h"
 #include "host/widgets/status/StatusLines.h"
 #include "host/widgets/status/StatusTime.h"
 #include "widgets/ApplicationWatch.h"
+#include "widgets/KestrelListBoxItem.h"
 
 /// The state of a list box, and what each change of it means for the screen.
 struct KestrelListBox::Impl final : host::StatusTimeView {
+    struct RowPlace {
+        static constexpr bool IS_KEPT = true;
+        static void*& of(KestrelListBoxItem& item) { return item.mPlace; }
+    };
+
     Impl(KestrelListBox& self, const Layout& look) : box(self), layout(look), application(self) {}
     ~Impl() { host::StatusTime::watch(*this, false); }
 
@@ -49,7 +55,7 @@ struct KestrelListBox::Impl final : host::StatusTimeView {
     ApplicationWatch application;
     host::StatusLines status;
     int statusShown = 0; ///< status lines that take room where there is any
-    host::ListRows rows;
+    DisplayAPI::Sequence<KestrelListBoxItem, RowPlace> rows;
     PegString title;
     PegThing* target = nullptr;
     int current = -1;
