@@ -25,6 +25,20 @@ const Icon SMALL_ARROW_DOWN{{
     ".###.",
     "..#.."}};
 
+const Icon SMALL_ARROW_LEFT{{
+    "..#",
+    ".##",
+    "###",
+    ".##",
+    "..#"}};
+
+const Icon SMALL_ARROW_RIGHT{{
+    "#..",
+    "##.",
+    "###",
+    "##.",
+    "#.."}};
+
 const Icon BACK{{
     "...#",
     "..##",

@@ -27,6 +27,8 @@ extern const Icon ARROW_UP;
 extern const Icon ARROW_DOWN;
 extern const Icon SMALL_ARROW_UP;
 extern const Icon SMALL_ARROW_DOWN;
+extern const Icon SMALL_ARROW_LEFT;
+extern const Icon SMALL_ARROW_RIGHT;
 extern const Icon BACK;
 extern const Icon RADIO;
 extern const Icon RADIO_CHOSEN;

@@ -1,0 +1,158 @@
+#include "host/widgets/popup/PopupBox.h"
+
+#include "host/lcd/Geometry.h"
+#include "host/lcd/Painter.h"
+#include "host/widgets/Reading.h"
+#include "host/widgets/popup/PopupFrame.h"
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+constexpr int INDENT = 8; ///< of the box, from the panel's edges
+constexpr int MARGIN = 4; ///< of the parts, from the frame
+constexpr int RULE = 2;   ///< between the parts
+
+constexpr PegRect NOTHING = rectAt(0, 0, 0, 0);
+
+/// Gives away a column's height from above or below, as long as there is any.
+class Column {
+public:
+    explicit Column(const PegRect& area) : mRest(area) {}
+
+    PegRect fromTop(int height)
+    {
+        if (height > heightOf(mRest))
+            return NOTHING;
+        const PegRect part = rectAt(mRest.left, mRest.top, widthOf(mRest), height);
+        mRest.top = static_cast<std::int16_t>(mRest.top + height);
+        return part;
+    }
+
+    PegRect fromBottom(int height)
+    {
+        if (height > heightOf(mRest))
+            return NOTHING;
+        mRest.bottom = static_cast<std::int16_t>(mRest.bottom - height);
+        return rectAt(mRest.left, mRest.bottom + 1, widthOf(mRest), height);
+    }
+
+private:
+    PegRect mRest;
+};
+
+} // namespace
+
+PopupBox::PopupBox() : PegWindow(FF_NONE), mBar(new CommandBar)
+{
+    Add(mBar, false);
+    mBar->setFocus(true);
+    layOut();
+}
+
+void PopupBox::setHeader(PegString text)
+{
+    mHeader = std::move(text);
+    layOut();
+}
+
+void PopupBox::setBody(std::vector<PegString> lines)
+{
+    mBody = std::move(lines);
+    layOut();
+}
+
+void PopupBox::setField(Field* field)
+{
+    delete mField;
+    mField = field;
+    mBar->setFocus(field == nullptr || !field->takesFocus());
+    if (field != nullptr) {
+        Add(field, false);
+        field->setFocus(field->takesFocus());
+    }
+    layOut();
+}
+
+void PopupBox::setCommands(std::vector<PegString> texts)
+{
+    mBar->setCommands(std::move(texts));
+    layOut();
+}
+
+void PopupBox::setMessageTarget(PegThing* target)
+{
+    mTarget = target;
+    mBar->setMessageTarget(target);
+}
+
+int PopupBox::Message(const PegMessage& message)
+{
+    if (message.wType != PM_KEY)
+        return PegWindow::Message(message);
+    if (mField != nullptr && mField->takesFocus() && mField->key(message.iData))
+        return 0;
+    if (mBar->key(message.iData))
+        return 0;
+    return mTarget != nullptr ? mTarget->Message(message) : 0;
+}
+
+/// The bar, the field and the header get room first, in this order: without them a popup could not be answered.
+PopupBox::Parts PopupBox::parts() const
+{
+    const auto [width, height] = runningPanel();
+    const bool framed = !hasTwoLines();
+    const int line = Field::lineHeight();
+    const int inner = framed ? width - 2 * (INDENT + FRAME_WIDTH + MARGIN) : width;
+    const int header = mHeader.empty() ? 0 : line + (framed ? RULE : 0);
+    const int bar = mBar->count() == 0 ? 0 : line + (framed ? RULE : 0);
+    const int field = mField == nullptr ? 0 : mField->heightFor(inner);
+    const int wanted = header + bar + field + line * static_cast<int>(mBody.size());
+    const int edge = framed ? FRAME_WIDTH + MARGIN : 0;
+    const int most = height - (framed ? 2 * INDENT : 0);
+    const int total = framed ? std::min(wanted + 2 * edge, most) : height;
+
+    Parts parts;
+    parts.box = rectAt((width - inner) / 2 - edge, (height - total) / 2, inner + 2 * edge, total);
+    Column column(rectAt(parts.box.left + edge, parts.box.top + edge, inner, total - 2 * edge));
+    parts.bar = column.fromBottom(bar);
+    parts.field = column.fromBottom(field);
+    parts.header = column.fromTop(header);
+    for (std::size_t i = 0; i < mBody.size(); ++i)
+        parts.lines.push_back(column.fromTop(line));
+    return parts;
+}
+
+void PopupBox::layOut()
+{
+    Invalidate();
+    const Parts where = parts();
+    Resize(where.box);
+    mBar->Resize(isEmpty(where.bar) ? where.bar
+                                    : rectAt(where.bar.left, where.bar.bottom + 1 - Field::lineHeight(),
+                                             widthOf(where.bar), Field::lineHeight()));
+    if (mField != nullptr)
+        mField->Resize(where.field);
+    Invalidate();
+}
+
+void PopupBox::Draw(PegPainter& painter)
+{
+    const Parts where = parts();
+    if (hasTwoLines())
+        painter.fill(where.box, Level::BARE);
+    else
+        drawPopupFrame(painter, where.box);
+    if (!isEmpty(where.header)) {
+        painter.text(where.header, mHeader, {.font = Field::boldFont(), .align = startAlign()});
+        if (!hasTwoLines())
+            painter.fill(rectAt(where.header.left, where.header.bottom, widthOf(where.header), 1), Level::MIDDLE);
+    }
+    for (std::size_t i = 0; i < mBody.size(); ++i)
+        if (!isEmpty(where.lines[i]))
+            painter.text(where.lines[i], mBody[i], {.font = Field::font(), .align = startAlign()});
+}
+
+} // namespace host

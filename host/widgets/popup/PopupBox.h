@@ -1,0 +1,61 @@
+#pragma once
+
+#include "host/widgets/popup/CommandBar.h"
+#include "toolkit/PString.h"
+#include "toolkit/PegWindow.h"
+
+#include <vector>
+
+namespace host {
+
+/// The frame of every popup: a header, a body, and a bar of commands at the foot. It stands in the middle of the panel,
+/// as high as what is in it; on two lines it takes both. What has no room is left out: lines of the body from its end,
+/// then the header.
+/// Keys go to the field in the body, if there is one, then to the bar; a key that neither wants goes to the target.
+/// It makes no decision of its own: whoever hears the bar takes it off the screen.
+class PopupBox : public PegWindow {
+public:
+    PopupBox();
+
+    /// An empty one takes no room.
+    void setHeader(PegString text);
+
+    /// A line each, cut with an ellipsis.
+    void setBody(std::vector<PegString> lines);
+
+    /// Stands under the lines and has the focus; the box's property. Null takes the present one out and deletes it.
+    void setField(Field* field);
+    Field* field() const { return mField; }
+
+    CommandBar& bar() { return *mBar; }
+
+    /// Adds them to the bar, and room for it; none gives the room back.
+    void setCommands(std::vector<PegString> texts);
+
+    /// Told what the bar tells, and the keys that nobody wants, as PM_KEY. Not owned; null is nobody.
+    void setMessageTarget(PegThing* target);
+
+    int Message(const PegMessage& message) override;
+    void Draw(PegPainter& painter) override;
+
+private:
+    /// Where the parts stand; one that is not there is empty. Painting and laying out both ask here.
+    struct Parts {
+        PegRect box;
+        PegRect header;
+        std::vector<PegRect> lines;
+        PegRect field;
+        PegRect bar;
+    };
+
+    Parts parts() const;
+    void layOut();
+
+    PegString mHeader;
+    std::vector<PegString> mBody;
+    CommandBar* mBar;
+    Field* mField = nullptr;
+    PegThing* mTarget = nullptr;
+};
+
+} // namespace host

@@ -1,0 +1,89 @@
+#include "host/widgets/popup/CommandBar.h"
+
+#include "host/lcd/Geometry.h"
+#include "support/Keys.h"
+#include "support/RunningToolkit.h"
+#include "widgets/KestrelApplication.h"
+
+#include <gmock/gmock.h>
+
+using host::CommandBar;
+using test::press;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Pair;
+
+namespace {
+
+class CommandBarTest : public testing::Test {
+protected:
+    CommandBarTest()
+    {
+        bar.setMessageTarget(&listener);
+        bar.Resize(host::rectAt(0, 0, 200, 18));
+    }
+
+    test::StartedToolkit toolkit;
+    test::Listener listener;
+    CommandBar bar;
+};
+
+} // namespace
+
+TEST_F(CommandBarTest, WithoutCommandsTakesNeitherFocusNorKeys)
+{
+    EXPECT_EQ(bar.current(), -1);
+    EXPECT_FALSE(bar.takesFocus());
+    EXPECT_FALSE(press(bar, "!"));
+    EXPECT_FALSE(press(bar, ">"));
+    EXPECT_THAT(listener.heard, IsEmpty());
+}
+
+TEST_F(CommandBarTest, LeftAndRightMoveWithinTheCommandsAndOkChooses)
+{
+    bar.setCommands(test::pegs({"Yes", "No", "Later"}));
+    EXPECT_EQ(bar.current(), 0);
+    EXPECT_FALSE(press(bar, "<"));
+    EXPECT_TRUE(press(bar, ">>"));
+    EXPECT_FALSE(press(bar, ">"));
+    EXPECT_TRUE(press(bar, "!"));
+    EXPECT_THAT(listener.heard,
+                ElementsAre(Pair(PM_CURRENT_CHANGED, 1), Pair(PM_CURRENT_CHANGED, 2), Pair(PM_CLICKED, 2)));
+}
+
+TEST_F(CommandBarTest, MovesTheOtherWayWhereTheLanguageIsReadFromTheRight)
+{
+    KestrelApplication& application = *KestrelApplication::getCurrentApplication();
+    application.setLocale(test::peg("ar"));
+    bar.setCommands(test::pegs({"Yes", "No"}));
+    EXPECT_FALSE(press(bar, ">"));
+    EXPECT_TRUE(press(bar, "<"));
+    EXPECT_EQ(bar.current(), 1);
+    application.setLocale(PegString());
+}
+
+TEST_F(CommandBarTest, BeginsAnewWithNewCommands)
+{
+    bar.setCommands(test::pegs({"Yes", "No"}));
+    bar.setCurrent(1);
+    bar.setCommands(test::pegs({"Call"}));
+    EXPECT_EQ(bar.current(), 0);
+    EXPECT_EQ(bar.text(0), test::peg("Call"));
+    bar.setCommands({});
+    EXPECT_EQ(bar.current(), -1);
+}
+
+TEST_F(CommandBarTest, IgnoresCommandsThatThereAreNot)
+{
+    bar.setCommands(test::pegs({"Yes", "No"}));
+    bar.setCurrent(2);
+    bar.setCurrent(-1);
+    EXPECT_EQ(bar.current(), 0);
+}
+
+TEST_F(CommandBarTest, LeavesOtherKeysToItsHolder)
+{
+    bar.setCommands(test::pegs({"Yes"}));
+    for (const char* key : {"^", "v", "5", "#"})
+        EXPECT_FALSE(press(bar, key)) << key;
+}
