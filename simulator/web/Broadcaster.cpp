@@ -49,6 +49,12 @@ void Broadcaster::remove(const PageConnection* page)
     std::erase_if(mPages, [page](const auto& each) { return each.get() == page; });
 }
 
+std::size_t Broadcaster::pageCount() const
+{
+    std::lock_guard lock(mMutex);
+    return mPages.size();
+}
+
 void Broadcaster::frameReady(std::string language)
 {
     std::lock_guard lock(mMutex);

@@ -31,6 +31,7 @@ public:
     /// Returns whether there was room for it.
     bool add(std::shared_ptr<PageConnection> page);
     void remove(const PageConnection* page);
+    std::size_t pageCount() const;
 
     /// There is a new frame, in a telephone of this language.
     void frameReady(std::string language);
@@ -50,7 +51,7 @@ private:
 
     std::function<host::Picture()> mTakePicture;
     std::function<bool()> mStandsStill;
-    std::mutex mMutex;
+    mutable std::mutex mMutex;
     std::condition_variable mChanged;
     Pages mPages;
     std::uint32_t mFrame = 1;

@@ -181,8 +181,8 @@ bool WebServer::handle(PageConnection& page, std::string_view text)
 void WebServer::closed(const mg_connection* connection, void* self)
 {
     auto* server = static_cast<WebServer*>(self);
-    server->mHeartbeat.remove(connection);
     auto* page = static_cast<PageConnection*>(mg_get_user_connection_data(connection));
+    server->mHeartbeat.remove(connection);
     if (page == nullptr) {
         --server->mTurnedAway;
         return;

@@ -18,7 +18,7 @@ namespace simulator {
 /// Serves the page and its socket. The broadcaster and the key pad have to outlive it.
 class WebServer {
 public:
-    /// `greeting` is what each page is told first; `heartbeat`: between two pings.
+    /// `greeting` is what each page is told first; `heartbeat` lies between two pings.
     WebServer(const Endpoint& endpoint, std::string greeting, Broadcaster& broadcaster, KeyPad& keys,
               std::chrono::milliseconds heartbeat = Heartbeat::PAUSE);
     WebServer(const WebServer&) = delete;

@@ -7,6 +7,7 @@ import { freePort, LIMIT, Phone, program, until } from "./support/phone.js";
 
 const STOPPED = "The application has stopped. Reconnecting…";
 const ENDED = "The application has ended.";
+const STANDS = "The application does not answer.";
 
 describe("a session", { timeout: 180_000 }, () => {
   let browser;
@@ -105,6 +106,47 @@ describe("a session", { timeout: 180_000 }, () => {
     await start(t, { port: phone.port });
     await tab.isConnected();
     await tab.shows("About");
+  });
+
+  test("tells that the application stands still, and when it goes on", LIMIT, async (t) => {
+    const phone = await start(t, { app: [program("misbehaving"), "stall"] });
+    const tab = await open(t, phone);
+    await tab.selects("Do it");
+    await tab.button("ok").click();
+    const begun = Date.now();
+    await tab.says(STANDS);
+    assert.ok(Date.now() - begun >= 1_500, "what takes no two seconds is nothing to tell");
+    assert.equal(await tab.state(), "standing");
+    const late = await Tab.open(browser, phone.url, { connects: false });
+    t.after(() => late.close());
+    await late.says(STANDS);
+    for (const each of [tab, late]) {
+      await each.isConnected();
+      await each.shows("It took its time");
+      assert.equal(await each.notice(), "");
+    }
+  });
+
+  test("tells of an application that never gets to its screens", LIMIT, async (t) => {
+    const phone = await start(t, { app: [program("misbehaving"), "deaf"] });
+    const tab = await Tab.open(browser, phone.url, { connects: false });
+    t.after(() => tab.close());
+    await tab.says(STANDS);
+  });
+
+  test("tells the tab for which there is no room, and lets it in later", LIMIT, async (t) => {
+    const phone = await start(t);
+    const tabs = [];
+    for (let i = 0; i < 16; ++i) tabs.push(await open(t, phone));
+    const late = await Tab.open(browser, phone.url, { connects: false });
+    t.after(() => late.close());
+    await late.says("16 tabs show this telephone already: close one of them.");
+    await new Promise((resolve) => setTimeout(resolve, 4_000)); // tries in between change nothing
+    assert.equal(await late.state(), "full");
+    await tabs[0].close();
+    await late.isConnected();
+    await late.shows("Call log");
+    assert.equal(await late.notice(), "");
   });
 
   test("needs the token where it is not for this machine only", LIMIT, async (t) => {

@@ -37,11 +37,13 @@ const shapeOf = (text) => text.replace(/\p{Nd}+/gu, "0");
 
 class Rows {
   static COUNTING = 1500; // how long after a key digits may still change because of it
+  static BREATH = 150; // a screen may come in several frames: it is said as a whole
 
   constructor(list, announce) {
     this.list = list;
     this.announce = announce;
     this.rows = [];
+    this.said = []; // the rows when something was said last
     this.language = "";
     this.lastKey = -Infinity;
   }
@@ -55,10 +57,15 @@ class Rows {
   }
 
   show(received) {
-    const rows = received.map((row) => ({ lasting: row.text, ...row }));
-    const news = rows.filter((row, index) => this.isNews(row, index));
-    this.rows = rows;
+    this.rows = received.map((row) => ({ lasting: row.text, ...row }));
     this.write();
+    this.breath ??= setTimeout(() => this.sayNews(), Rows.BREATH);
+  }
+
+  sayNews() {
+    const news = this.newsOf();
+    this.said = this.rows;
+    this.breath = undefined;
     if (news.length) this.announce(news.map((row) => row.lasting));
   }
 
@@ -71,12 +78,16 @@ class Rows {
     return this.rows.map((row) => (row.selected ? "> " : "  ") + row.text).join("\n") + "\n";
   }
 
-  /* Not a clock, a timer or a running text that goes on, and not what has only moved. */
-  isNews(row, index) {
-    if (row.lasting === "") return false;
-    const isSame = (old) => old.lasting === row.lasting && (old.selected || !row.selected);
-    if (row.selected ? isSame(this.rows[index] ?? {}) : this.rows.some(isSame)) return false;
-    return !this.isCounting(this.rows[index], row);
+  /* Not a clock, a timer or a running text that goes on; on the same screen not what has only moved either. */
+  newsOf() {
+    const known = new Set(this.said.map((row) => row.lasting));
+    const isSameScreen = 2 * this.rows.filter((row) => known.has(row.lasting)).length > this.rows.length;
+    return this.rows.filter((row, index) => {
+      const old = this.said[index];
+      if (row.lasting === "" || this.isCounting(old, row)) return false;
+      if (old?.lasting === row.lasting) return row.selected && !old.selected;
+      return row.selected || !isSameScreen || !known.has(row.lasting);
+    });
   }
 
   isCounting(old, row) {
@@ -98,7 +109,7 @@ class Rows {
   }
 }
 
-/* Says texts, each in its language. What comes within one breath is said together. */
+/* Says texts, each in its language. */
 class Announcer {
   constructor(place, languageOf) {
     this.place = place;

@@ -13,7 +13,8 @@ export const openBrowser = () =>
 
 /** A tab, and what the tests want to know of it. */
 export class Tab {
-  static async open(browser, url, options = {}) {
+  /** `connects: false` is for a page that has something else to say. */
+  static async open(browser, url, { connects = true, ...options } = {}) {
     const tab = new Tab();
     tab.context = await browser.newContext({ viewport: { width: 1280, height: 720 }, ...options });
     tab.context.setDefaultTimeout(20_000);
@@ -23,7 +24,7 @@ export class Tab {
     tab.page.on("request", (request) => tab.requests.push(request.url()));
     tab.page.on("pageerror", (error) => tab.errors.push(String(error)));
     await tab.page.goto(url);
-    await tab.isConnected();
+    if (connects) await tab.isConnected();
     return tab;
   }
 
