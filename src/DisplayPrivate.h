@@ -95,6 +95,9 @@ public:
 
     void updateVisibleRectMonitor();
 
+    /// Where the entries of the stack lay when the monitor was last updated, from bottom to top.
+    const std::vector<DisplayAPIUtils::Rect>& monitoredRects() const { return mVisibleRectMonitor.getVisibleRects(); }
+
     /// What can be seen of each entry of the stack, in its order; nothing of an entry without a widget.
     std::vector<std::vector<DisplayAPIUtils::Rect>> findVisibleRects() const;
 

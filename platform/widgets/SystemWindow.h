@@ -21,6 +21,7 @@ public:
 
     /// Told of what the window does by itself. Not owned; null reports to nobody.
     void setEventHandler(GUIEventIfc* handler);
+    GUIEventIfc* eventHandler() const;
 
     /// Cut to 0 to MAX_LINES.
     void setSystemWindowSize(int lines);

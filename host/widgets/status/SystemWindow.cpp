@@ -28,6 +28,7 @@ struct SystemWindow::Impl final : StatusTimeView {
     ApplicationWatch application;
     StatusTime time;
     StatusLines lines;
+    GUIEventIfc* handler = nullptr;
     int top = 0;
     bool popup = false;
     bool separator = false;
@@ -95,7 +96,15 @@ void SystemWindow::Impl::lineChanged(int line)
 }
 
 /// This window never changes by itself: there is nothing to report.
-void SystemWindow::setEventHandler(GUIEventIfc*) {}
+void SystemWindow::setEventHandler(GUIEventIfc* handler)
+{
+    mImpl->handler = handler;
+}
+
+GUIEventIfc* SystemWindow::eventHandler() const
+{
+    return mImpl->handler;
+}
 
 void SystemWindow::setSystemWindowSize(int lines)
 {

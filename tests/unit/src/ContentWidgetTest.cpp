@@ -4,6 +4,8 @@
 #include "DisplayPrivate.h"
 #include "doubles/FakeStartUp.h"
 #include "doubles/Mocks.h"
+#include "host/lcd/Lcd.h"
+#include "presentation/PRESCPresentationManager.h"
 #include "support/SteppedLoop.h"
 #include "toolkit/PegWindow.h"
 #include "utilities/Rect.h"
@@ -87,11 +89,29 @@ TEST_F(ContentWidgetTest, PopupFlagPassesStraightOn)
     EXPECT_FALSE(systemWindow().isPopup());
 }
 
+TEST_F(ContentWidgetTest, HearsOfItsOwnSystemWindowUntilAnotherDoes)
+{
+    EXPECT_EQ(systemWindow().eventHandler(), &content);
+    content.setEventHandler(nullptr);
+    EXPECT_EQ(systemWindow().eventHandler(), nullptr);
+}
+
 TEST_F(ContentWidgetTest, NewCaptionBecomesLineZeroOfAPopup)
 {
     content.OnChange(PegMessage(), "Gr\xC3\xBC\xC3\x9F Gott");
     EXPECT_EQ(content.getSystemWindowText(0), "Gr\xC3\xBC\xC3\x9F Gott");
     EXPECT_TRUE(systemWindow().isPopup());
+}
+
+TEST_F(ContentWidgetTest, ACaptionThatIsToldAgainIsPaintedAgain)
+{
+    content.setSystemWindowSize(2);
+    content.OnChange(PegMessage(), "caption");
+    gpPresent->Add(content.getSystemWindow());
+    host::Lcd::current()->paint();
+    ASSERT_FALSE(host::Lcd::current()->isDirty());
+    content.OnChange(PegMessage(), "caption");
+    EXPECT_TRUE(host::Lcd::current()->isDirty()) << "it has been no popup for a moment";
 }
 
 TEST_F(ContentWidgetTest, NewCaptionTellsTheParentDisplay)

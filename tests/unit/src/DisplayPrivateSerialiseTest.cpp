@@ -101,6 +101,17 @@ TEST_F(DisplayPrivateSerialiseTest, DisplayedRectanglesFollowTheWidgets)
     EXPECT_THAT(*display->getDisplayedRects(), ElementsAre(Rect(1, 2, 3, 3)));
 }
 
+TEST_F(DisplayPrivateSerialiseTest, DescribingTheStackRecordsWhereItsEntriesLie)
+{
+    given({&menu, &popup});
+    menu.widget()->Resize({1, 2, 3, 4});
+    display->serialise();
+    EXPECT_THAT(display->monitoredRects(), ElementsAre(Rect(1, 2, 3, 3), Rect(40, 30, 160, 68)));
+    popup.widget()->Resize({5, 6, 7, 8});
+    display->serialiseByRect({WHOLE}, false);
+    EXPECT_THAT(display->monitoredRects(), ElementsAre(Rect(1, 2, 3, 3), Rect(5, 6, 3, 3)));
+}
+
 TEST_F(DisplayPrivateSerialiseTest, TheWholeStackIsDescribedFromBottomToTop)
 {
     given({&menu, &popup});

@@ -4,8 +4,10 @@
 #include "support/TestRunnable.h"
 #include "support/Worker.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
+#include <array>
+#include <barrier>
 #include <deque>
 
 using DisplayAPI::DisplayThread;
@@ -13,6 +15,7 @@ using DisplayAPI::DisplayThreadPool;
 using test::Gate;
 using test::TestRunnable;
 using test::Worker;
+using testing::Each;
 
 namespace {
 
@@ -67,6 +70,25 @@ TEST_F(DisplayThreadPoolTest, TheFirstCallDecidesTheMaximum)
     EXPECT_EQ(pool->maxPoolSize(), 10);
     EXPECT_EQ(DisplayThreadPool::instance(5), pool);
     EXPECT_EQ(pool->maxPoolSize(), 10);
+}
+
+TEST_F(DisplayThreadPoolTest, ThreadsThatAskAtTheSameTimeGetTheSamePool)
+{
+    constexpr int ASKERS = 4;
+    for (int round = 0; round < 200; ++round) {
+        destroyPool();
+        std::array<DisplayThreadPool*, ASKERS> pools{};
+        std::barrier together(ASKERS);
+        {
+            std::deque<Worker> askers;
+            for (DisplayThreadPool*& pool : pools)
+                askers.emplace_back([&] {
+                    together.arrive_and_wait();
+                    pool = DisplayThreadPool::instance(1);
+                });
+        }
+        EXPECT_THAT(pools, Each(pools[0]));
+    }
 }
 
 TEST_F(DisplayThreadPoolTest, HasNoThreadsAtFirst)

@@ -11,6 +11,7 @@ using doubles::callText;
 using test::From;
 using test::LiveRow;
 using test::Posted;
+using testing::Contains;
 using testing::ElementsAre;
 using testing::EndsWith;
 using testing::IsEmpty;
@@ -196,6 +197,21 @@ TEST_F(ExclusiveListPostTest, SelectionWaitsAndIsSelectedDoesNot)
     EXPECT_EQ(test::postedBy(gui, [&] { list.getSelectedIndex(); }), (Posted{{41}, true}));
     EXPECT_EQ(test::postedBy(gui, [&] { list.isSelected(0); }), (Posted{{42}, false}));
     EXPECT_EQ(test::postedBy(gui, [&] { list.setSelectedIndex(0); }), (Posted{{45}, true}));
+}
+
+TEST_F(ExclusiveListPostTest, DestructorLetsQueuedRequestsReachTheExclusiveImplementation)
+{
+    auto list = std::make_unique<ExclusiveList>();
+    doubles::Recorder::instance().clear();
+    test::Worker worker([&] {
+        list->isSelected(1);
+        list.reset();
+    });
+    gui.waitForQueued(2);
+    EXPECT_TRUE(worker.isBlocked());
+    while (!worker.hasReturned())
+        gui.step();
+    EXPECT_THAT(doubles::Recorder::instance().texts(), Contains("ExclusiveListPrivate::isSelected(1)"));
 }
 
 TEST_F(ExclusiveListPostTest, PurgedSelectionAnswersMinusOne)
