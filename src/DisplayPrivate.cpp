@@ -12,6 +12,7 @@
 #include "PegInitAndCleanUp.h"
 #include "RequestQueue.h"
 #include "StackEntry.h"
+#include "StackWalk.h"
 #include "Variant.h"
 #include "WidgetSync.h"
 #include "utilities/ICC.h"
@@ -113,7 +114,6 @@ DisplayPrivate::DisplayPrivate(bool narrow, std::string hardware, std::string so
 
 DisplayPrivate::~DisplayPrivate()
 {
-    std::erase(displays(), this);
     cleanup();
 }
 
@@ -132,6 +132,7 @@ void DisplayPrivate::initialiseApplication(const std::string& hardware, const st
 void DisplayPrivate::cleanup()
 {
     handBackWidgets();
+    std::erase(displays(), this);
     mStatusWidget.reset();
     completeQueuedRequests();
     mStartUp->cleanUp();
@@ -148,8 +149,9 @@ void DisplayPrivate::handBackWidgets()
         gpPresent->Remove(mContentWidget->getSystemWindow(), false);
     if (mCurrent != nullptr && std::find(mItemList.begin(), mItemList.end(), mCurrent) == mItemList.end())
         mItemList.push_back(mCurrent);
-    for (Displayable* displayable : mItemList) {
-        DisplayablePrivateIfc* const side = displayable->getPrivateImpl();
+    const StackChange change(mStackChangeUnderWay);
+    for (StackWalk walk(mItemList, mWalks); Displayable* entry = walk.next();) {
+        DisplayablePrivateIfc* const side = entry->getPrivateImpl();
         if (side == nullptr)
             continue;
         side->connectDisplayChangedSignal(nullptr);
@@ -191,16 +193,22 @@ void DisplayPrivate::setCurrent(Displayable* displayable)
 
 void DisplayPrivate::clearScreen()
 {
-    hideContentWidget();
-    const std::vector<Displayable*> entries = mItemList;
-    for (Displayable* entry : entries) {
-        gLog(TRACE, 322, "setCurrentImpl() calling lostFocus on [%s] [0x%p]\n", nameOf(entry), address(entry));
-        lostFocus(entry);
-    }
-    mItemList.clear();
+    emptyScreen();
     addNewCurrent(nullptr);
     clearSWfromDisplayable();
     displayChanged();
+}
+
+void DisplayPrivate::emptyScreen()
+{
+    const StackChange change(mStackChangeUnderWay);
+    hideContentWidget();
+    for (StackWalk walk(mItemList, mWalks); Displayable* entry = walk.next();) {
+        gLog(TRACE, 322, "setCurrentImpl() calling lostFocus on [%s] [0x%p]\n", nameOf(entry), address(entry));
+        lostFocus(entry);
+    }
+    takeLateComersOff(nullptr);
+    mItemList.clear();
 }
 
 void DisplayPrivate::setCurrentImpl(Displayable* displayable)
@@ -223,7 +231,7 @@ void DisplayPrivate::setCurrentImpl(Displayable* displayable)
         removeOldCurrent();
     if (alreadyShown)
         showAgain(displayable);
-    else
+    else if (isStacked(side))
         addNewCurrent(displayable);
     displayChanged();
     gLog(TRACE, 360, "**current, which is: [%s] [0x%p]\n", nameOf(mCurrent), address(widgetOf(mCurrent)));
@@ -251,6 +259,7 @@ bool DisplayPrivate::replaceStack(Displayable* displayable)
         logItemList();
         if (displayable->getPrivateImpl()->hideOldWidgetOnFocusGained()) {
             alreadyShown = takeStackOffScreen(displayable->getPrivateImpl());
+            takeLateComersOff(displayable->getPrivateImpl());
             mItemList.clear();
         }
     }
@@ -262,8 +271,9 @@ bool DisplayPrivate::replaceStack(Displayable* displayable)
 /// Takes every widget off the screen but that of `kept`. Returns whether that one is there.
 bool DisplayPrivate::takeStackOffScreen(DisplayablePrivateIfc* kept)
 {
+    const StackChange change(mStackChangeUnderWay);
     bool keptIsShown = false;
-    for (Displayable* entry : mItemList) {
+    for (StackWalk walk(mItemList, mWalks); Displayable* entry = walk.next();) {
         DisplayablePrivateIfc* const side = entry->getPrivateImpl();
         if (side == nullptr)
             continue;
@@ -279,39 +289,87 @@ bool DisplayPrivate::takeStackOffScreen(DisplayablePrivateIfc* kept)
     return keptIsShown;
 }
 
+/// What has come to the screen while the others were taken off it goes as well.
+void DisplayPrivate::takeLateComersOff(const DisplayablePrivateIfc* kept)
+{
+    for (StackWalk walk(mItemList, mWalks); Displayable* entry = walk.next();) {
+        DisplayablePrivateIfc* const side = entry->getPrivateImpl();
+        PegThing* const widget = widgetOf(side);
+        if (side == kept || !isOnScreen(widget))
+            continue;
+        side->gainOwnership();
+        removeFromScreen(widget);
+    }
+}
+
 void DisplayPrivate::showAgain(Displayable* displayable)
 {
     DisplayablePrivateIfc* const side = displayable->getPrivateImpl();
     PegThing* const widget = side->getWidget();
-    side->show();
-    moveFocus(this, widget, 425, "_ setCurrentImpl this=[%p] calling MoveFocusTree on widget [%p]");
-    focusChanged(widget);
-    mCurrent = displayable;
+    Displayable* const before = mCurrent;
+    if (showAndStay(*side)) {
+        moveFocus(this, widget, 425, "_ setCurrentImpl this=[%p] calling MoveFocusTree on widget [%p]");
+        focusChanged(widget);
+        mCurrent = displayable;
+    } else if (mCurrent == before) {
+        makeTopmostCurrent();
+    }
 }
 
 void DisplayPrivate::addNewCurrent(Displayable* displayable)
 {
-    if (displayable != nullptr) {
-        DisplayablePrivateIfc* const side = displayable->getPrivateImpl();
-        PegThing* const widget = side->getWidget();
-        if (widget != nullptr && widget->Parent() != nullptr) {
-            gLog(TRACE, 440, "addNewCurrent() this=[%p] removing widget [%p] from parent [%p]", address(this),
-                 address(widget), address(widget->Parent()));
-            widget->Parent()->Remove(widget, true);
-        }
-        showWidget(side);
-        side->releaseOwnership();
-    }
-    mCurrent = displayable;
+    if (displayable == nullptr || bringToScreen(displayable))
+        mCurrent = displayable;
 }
 
+/// Returns whether `displayable` is to become the current one: it may have closed itself when it was shown, or another
+/// one has been made current meanwhile.
+bool DisplayPrivate::bringToScreen(Displayable* displayable)
+{
+    DisplayablePrivateIfc* const side = displayable->getPrivateImpl();
+    PegThing* const widget = side->getWidget();
+    if (widget != nullptr && widget->Parent() != nullptr) {
+        gLog(TRACE, 440, "addNewCurrent() this=[%p] removing widget [%p] from parent [%p]", address(this),
+             address(widget), address(widget->Parent()));
+        widget->Parent()->Remove(widget, true);
+    }
+    Displayable* const before = mCurrent;
+    showWidget(side);
+    if (mCurrent != before)
+        return false;
+    if (!isStacked(side)) {
+        makeTopmostCurrent();
+        return false;
+    }
+    side->releaseOwnership();
+    return true;
+}
+
+bool DisplayPrivate::isStacked(const DisplayablePrivateIfc* side) const
+{
+    return std::any_of(mItemList.begin(), mItemList.end(),
+                       [side](Displayable* entry) { return entry->getPrivateImpl() == side; });
+}
+
+/// Returns whether it is still there afterwards, and no other one has been made current.
+bool DisplayPrivate::showAndStay(DisplayablePrivateIfc& side)
+{
+    Displayable* const before = mCurrent;
+    side.show();
+    return mCurrent == before && isStacked(&side);
+}
+
+/// One that closes itself when it loses the focus has been handed its widget back already.
 void DisplayPrivate::removeOldCurrent()
 {
-    DisplayablePrivateIfc* const side = mCurrent != nullptr ? mCurrent->getPrivateImpl() : nullptr;
+    Displayable* const before = mCurrent;
+    DisplayablePrivateIfc* const side = before != nullptr ? before->getPrivateImpl() : nullptr;
     if (side == nullptr)
         return;
+    const StackChange change(mStackChangeUnderWay);
     side->lostFocus();
-    side->gainOwnership();
+    if (mCurrent == before)
+        side->gainOwnership();
 }
 
 void DisplayPrivate::cutToDisplayArea(PegThing& widget)
@@ -352,21 +410,23 @@ void DisplayPrivate::showWidget(DisplayablePrivateIfc* shown)
         shown->releaseOwnership();
         focusChanged(widget);
     }
-    shown->show();
+    if (!showAndStay(*shown))
+        return;
     moveFocus(this, widget, 502, "showWidget() this=[%p] calling MoveFocusTree on widget [%p]\n");
     focusChanged(widget);
 }
 
 void DisplayPrivate::eraseDismissed(DisplayablePrivateIfc* dismissed)
 {
-    const auto entry = std::find_if(mItemList.begin(), mItemList.end(),
+    const auto found = std::find_if(mItemList.begin(), mItemList.end(),
                                     [=](Displayable* d) { return d->getPrivateImpl() == dismissed; });
     PegThing* const widget = dismissed->getWidget();
-    if (entry != mItemList.end()) {
+    if (found != mItemList.end()) {
+        Displayable* const entry = *found;
         gLog(TRACE, 514, "widgetDismissed() this=[%p] removing from list disp [%s] [%p] priv [%p] widget [%p]",
-             address(this), nameOf(*entry), address(*entry), address(dismissed), address(widget));
+             address(this), nameOf(entry), address(entry), address(dismissed), address(widget));
         dismissed->gainOwnership();
-        mItemList.erase(entry);
+        eraseEntry(entry);
     }
     if (widget != nullptr && widget->Parent() != nullptr) {
         dismissed->gainOwnership();
@@ -374,18 +434,33 @@ void DisplayPrivate::eraseDismissed(DisplayablePrivateIfc* dismissed)
     }
 }
 
+void DisplayPrivate::eraseEntry(Displayable* entry)
+{
+    const auto found = std::find(mItemList.begin(), mItemList.end(), entry);
+    if (found != mItemList.end())
+        mItemList.erase(found);
+    for (StackWalk* walk : mWalks)
+        walk->isDismissed(entry);
+}
+
 void DisplayPrivate::widgetDismissed(DisplayablePrivateIfc* dismissed)
 {
     if (dismissed == nullptr)
         return;
     eraseDismissed(dismissed);
-    if (mCurrent == nullptr || mCurrent->getPrivateImpl() != dismissed)
-        return;
-    if (mItemList.empty())
+    if (mCurrent != nullptr && mCurrent->getPrivateImpl() == dismissed)
+        makeTopmostCurrent();
+}
+
+/// After the one that was current has closed itself.
+void DisplayPrivate::makeTopmostCurrent()
+{
+    if (mItemList.empty() && !mStackChangeUnderWay)
         return setCurrent(nullptr);
-    mPreviousCurrent = nullptr;
-    mCurrent = mItemList.back();
-    if (mVisible)
+    if (!mItemList.empty())
+        mPreviousCurrent = nullptr;
+    mCurrent = mItemList.empty() ? nullptr : mItemList.back();
+    if (mVisible && !mStackChangeUnderWay)
         restoreTopmost();
 }
 
@@ -444,7 +519,7 @@ void DisplayPrivate::show()
 void DisplayPrivate::showContentWidget()
 {
     gLog(TRACE, 595, "showContentWidget() this=[%p] called", address(this));
-    for (Displayable* entry : mItemList) {
+    for (StackWalk walk(mItemList, mWalks, StackWalk::PASSED_OVER); Displayable* entry = walk.next();) {
         PegThing* const widget = widgetOf(entry);
         if (widget == nullptr)
             continue;
@@ -483,7 +558,7 @@ void DisplayPrivate::hide()
 void DisplayPrivate::hideContentWidget()
 {
     gLog(TRACE, 633, "hideContentWidget() this=[%p] called", address(this));
-    for (Displayable* entry : mItemList) {
+    for (StackWalk walk(mItemList, mWalks); Displayable* entry = walk.next();) {
         PegThing* const widget = widgetOf(entry);
         gLog(TRACE, 636, "hideContentWidget() calling remove on [%s] [0x%p]", nameOf(entry), address(widget));
         if (DisplayablePrivateIfc* side = entry->getPrivateImpl())
@@ -555,6 +630,8 @@ void DisplayPrivate::forgetEverywhere(Displayable* displayable)
 void DisplayPrivate::forget(Displayable* displayable)
 {
     std::erase(mItemList, displayable);
+    for (StackWalk* walk : mWalks)
+        walk->isDeleted(displayable);
     mVisibleRectMonitor.remove(*displayable);
     if (mPreviousCurrent == displayable)
         mPreviousCurrent = nullptr;

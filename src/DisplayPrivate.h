@@ -20,6 +20,7 @@ class ContentWidgetFactoryIfc;
 class DisplayEventFilter;
 class DisplayablePrivate;
 class PegInitAndCleanUpIfc;
+class StackWalk;
 
 /// Queues a display-level request for `filter`, which may be null, and waits for its semaphore if `wait` and it has
 /// one. A null request is queued as it is. From any thread.
@@ -125,10 +126,15 @@ private:
 
     void setCurrentImpl(Displayable* displayable);
     void clearScreen();
+    void emptyScreen();
     bool replaceStack(Displayable* displayable);
     bool takeStackOffScreen(DisplayablePrivateIfc* kept);
     void logItemList();
+    void takeLateComersOff(const DisplayablePrivateIfc* kept);
     void addNewCurrent(Displayable* displayable);
+    bool bringToScreen(Displayable* displayable);
+    bool isStacked(const DisplayablePrivateIfc* side) const;
+    bool showAndStay(DisplayablePrivateIfc& side);
     void showAgain(Displayable* displayable);
     void removeOldCurrent();
     void showWidget(DisplayablePrivateIfc* shown);
@@ -136,6 +142,8 @@ private:
     void showContentWidget();
     void hideContentWidget();
     void eraseDismissed(DisplayablePrivateIfc* dismissed);
+    void eraseEntry(Displayable* entry);
+    void makeTopmostCurrent();
     void restoreTopmost();
     void restoreWidget(DisplayablePrivateIfc* side);
     void addServerDisplay(Displayable* displayable);
@@ -178,6 +186,8 @@ private:
     VisibleRectMonitor mVisibleRectMonitor;
     std::unique_ptr<StatusMessage> mStatusWidget; ///< null when none is up
     std::string mClipboard;
+    std::vector<StackWalk*> mWalks;    ///< over mItemList, under way; the innermost is the last
+    bool mStackChangeUnderWay = false; ///< who is shown in the end is still to be decided
     CriticalSection mListenerSection;
     std::unique_ptr<ContentWidgetFactoryIfc> mFactory;
     std::unique_ptr<PegInitAndCleanUpIfc> mStartUp;

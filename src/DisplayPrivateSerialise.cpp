@@ -4,6 +4,7 @@
 #include "DisplayAPI/ScreenText.h"
 #include "Log.h"
 #include "StackEntry.h"
+#include "StackWalk.h"
 #include "SystemWindowText.h"
 #include "Variant.h"
 
@@ -81,8 +82,8 @@ std::string DisplayPrivate::serialise()
 {
     updateVisibleRectMonitor();
     std::string text;
-    for (Displayable* displayable : mItemList) {
-        if (DisplayablePrivateIfc* side = displayable->getPrivateImpl())
+    for (StackWalk walk(mItemList, mWalks); Displayable* entry = walk.next();) {
+        if (DisplayablePrivateIfc* side = entry->getPrivateImpl())
             text += side->serialise();
     }
     return screen::toAscii(text);
@@ -108,14 +109,15 @@ std::string DisplayPrivate::serialiseStack(const std::vector<Rects>& visible, co
 {
     gLog(TRACE, 975, "serialiseByRect() mItemList.size() = %d", static_cast<int>(mItemList.size()));
     std::string text;
-    for (std::size_t i = 0; i < mItemList.size(); ++i) {
-        const Rects parts = requestedParts(visible[i], requested);
+    for (StackWalk walk(mItemList, mWalks); Displayable* displayable = walk.next();) {
+        const Rects parts = requestedParts(visible[walk.position()], requested);
         gLog(TRACE, 979, "serialiseByRect() newRects.size() = %d", static_cast<int>(parts.size()));
-        DisplayablePrivateIfc* const side = mItemList[i]->getPrivateImpl();
+        DisplayablePrivateIfc* const side = displayable->getPrivateImpl();
         if (side == nullptr)
             continue;
         const std::string entry = side->serialise(parts);
-        gLog(TRACE, 984, "serialiseByRect() mItemList.at(%d) serialised as \"%s\"", static_cast<int>(i), entry.c_str());
+        gLog(TRACE, 984, "serialiseByRect() mItemList.at(%d) serialised as \"%s\"", static_cast<int>(walk.position()),
+             entry.c_str());
         text += entry;
     }
     return text;

@@ -13,6 +13,7 @@ ScreenPrivate::ScreenPrivate(std::string name, Kind kind, PegThing* widget)
 
 ScreenPrivate::~ScreenPrivate()
 {
+    reactions.clear();
     note("die");
 }
 
@@ -20,6 +21,15 @@ template <typename... Args>
 void ScreenPrivate::note(const char* call, const Args&... args)
 {
     Recorder::instance().note(this, mName + ": " + call, args...);
+    react(call);
+}
+
+/// The reaction may delete this.
+void ScreenPrivate::react(const std::string& call)
+{
+    const auto reaction = reactions.find(call);
+    if (reaction != reactions.end())
+        std::exchange(reaction->second, [] {})();
 }
 
 void ScreenPrivate::releaseOwnership()
@@ -62,6 +72,7 @@ void ScreenPrivate::setSysWindowText(std::string line, int index)
 
 std::string ScreenPrivate::serialise()
 {
+    react("serialise");
     return text.value_or(DisplayablePrivate::serialise());
 }
 

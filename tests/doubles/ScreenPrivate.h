@@ -5,6 +5,8 @@
 #include "toolkit/PegWindow.h"
 #include "utilities/Rect.h"
 
+#include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -44,9 +46,14 @@ public:
     std::optional<std::string> text;              ///< what it reads as; what every displayable does where it is not set
     std::vector<DisplayAPIUtils::Rect> lastRects; ///< what of it was last asked for
 
+    /// What it does, once, when the display does to it what the name says: "show", "lostFocus", "gainOwnership",
+    /// "releaseOwnership", "disconnect", "serialise".
+    std::map<std::string, std::function<void()>> reactions;
+
 private:
     template <typename... Args>
     void note(const char* call, const Args&... args);
+    void react(const std::string& call);
 
     std::string mName;
     Kind mKind;
