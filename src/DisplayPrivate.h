@@ -1,10 +1,10 @@
 #pragma once
 
 #include "DisplayAPI/DisplayPrivateIfc.h"
+#include "DisplaySystemWindow.h"
 #include "VisibleRectMonitor.h"
 #include "utilities/CriticalSection.h"
 
-#include <array>
 #include <atomic>
 #include <memory>
 #include <string>
@@ -18,7 +18,6 @@ namespace DisplayAPI {
 class ContentWidget;
 class ContentWidgetFactoryIfc;
 class DisplayEventFilter;
-class DisplayablePrivate;
 class PegInitAndCleanUpIfc;
 class StackWalk;
 
@@ -81,18 +80,13 @@ public:
     std::string dateFormat() const override;
     std::string timeFormat() const override;
 
-    /// Shows the system window's lines: hands those that have changed to the current displayable if it draws them
-    /// itself, otherwise lets the window float above it. Seven lines or more, or nothing current: nothing.
+    // The system window's own operations: see DisplaySystemWindow.
     void showSW(int lines);
-
-    /// Lets the system window float with 1 or 2 lines; 0 takes it down on the full panel. More lines, or a display that
-    /// is not visible: nothing.
     void systemWindowPopup(int lines);
+    void clearSWfromDisplayable();
 
     /// Gives the list that is current one status line more than it has; anything else is ignored.
     void listInWidgetSetSWLines(int before, int lines);
-
-    void clearSWfromDisplayable();
 
     void updateVisibleRectMonitor();
 
@@ -107,6 +101,7 @@ public:
     static void setSpellerLang(TranslatorIfc* translator);
 
     bool execFinished() const { return mExecFinished; }
+    bool isShown() const { return mVisible; }
     bool isMaximised() const { return mMaximised; }
     ContentWidget* getContentWidget() const { return mContentWidget.get(); }
     const std::vector<Displayable*>& itemList() const { return mItemList; }
@@ -119,6 +114,8 @@ public:
     static void forgetEverywhere(Displayable* displayable);
 
 private:
+    static std::vector<DisplayPrivate*>& living();
+
     void initialiseApplication(const std::string& hardware, const std::string& softwareType);
     void cleanup();
     void handBackWidgets();
@@ -138,6 +135,7 @@ private:
     void showAgain(Displayable* displayable);
     void removeOldCurrent();
     void showWidget(DisplayablePrivateIfc* shown);
+    void moveFocus(PegThing* widget, int line, const char* text) const;
     void cutToDisplayArea(PegThing& widget);
     void showContentWidget();
     void hideContentWidget();
@@ -147,17 +145,9 @@ private:
     void restoreTopmost();
     void restoreWidget(DisplayablePrivateIfc* side);
     void addServerDisplay(Displayable* displayable);
-    void handLinesTo(DisplayablePrivate& side, int lines);
-    void handLineTo(DisplayablePrivate& side, int line, int lines);
-    void floatSystemWindow(int lines);
-    void showPopup(int lines);
-    void takePopupDown();
-    void renewLine(int line);
     DisplayEventIfc* displayChangeListener();
     std::string serialiseStack(const std::vector<std::vector<DisplayAPIUtils::Rect>>& visible,
                                const std::vector<DisplayAPIUtils::Rect>& requested);
-    std::string withSystemWindowText(const std::string& screen, bool wanted) const;
-    std::string smallSystemWindowText(const std::string& screen) const;
     bool holdOnce(Displayable* displayable);
     void forget(Displayable* displayable);
 
@@ -175,14 +165,7 @@ private:
     std::string mTimeFormat;
     std::unique_ptr<DisplayAPIUtils::Rect> mDisplayArea;
     std::vector<DisplayAPIUtils::Rect> mDisplayedRects;
-    std::array<bool, 6> mInvalidSystemWindowLines{}; ///< not yet handed to the current displayable
-    bool mSystemWindowOn = false;
-    bool mSystemWindowReset = false;
-    bool mPopupShown = false;
-    int mPopupLines = 0;
-    int mSavedPopupLines = 0; ///< what they were when the screen was cleared
-    std::string mSystemWindowText;
-    Displayable* mPreviousCurrent = nullptr;
+    DisplaySystemWindow mSystemWindow{*this};
     VisibleRectMonitor mVisibleRectMonitor;
     std::unique_ptr<StatusMessage> mStatusWidget; ///< null when none is up
     std::string mClipboard;

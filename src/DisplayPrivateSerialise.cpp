@@ -1,12 +1,9 @@
 #include "DisplayPrivate.h"
 
-#include "ContentWidget.h"
 #include "DisplayAPI/ScreenText.h"
-#include "Log.h"
+#include "DisplayPrivateLog.h"
 #include "StackEntry.h"
 #include "StackWalk.h"
-#include "SystemWindowText.h"
-#include "Variant.h"
 
 namespace DisplayAPI {
 
@@ -15,11 +12,9 @@ namespace {
 using DisplayAPIUtils::Rect;
 using Rects = std::vector<Rect>;
 
-constexpr Log gLog{"DisplayAPI::DisplayPrivate", "./src/DisplayPrivate"};
-
 void logRect(int line, const char* text, const Rect& rect)
 {
-    gLog(TRACE, line, text, rect.left(), rect.top(), rect.right(), rect.bottom());
+    gDisplayLog(TRACE, line, text, rect.left(), rect.top(), rect.right(), rect.bottom());
 }
 
 /// Adds what `requested` shows of `visible`: all of it once where one rectangle contains it, otherwise its share of
@@ -91,53 +86,36 @@ std::string DisplayPrivate::serialise()
 
 std::string DisplayPrivate::serialiseByRect(const Rects& rects, bool withSystemWindow)
 {
-    gLog(TRACE, 960, "serialiseByRect() rects.size() = %d, doSW = %d", static_cast<int>(rects.size()),
-         static_cast<int>(withSystemWindow));
+    gDisplayLog(TRACE, 960, "serialiseByRect() rects.size() = %d, doSW = %d", static_cast<int>(rects.size()),
+                static_cast<int>(withSystemWindow));
     updateVisibleRectMonitor();
     const std::vector<Rects> visible = findVisibleRects();
     const DisplayEventIfc* const observer = displayChangeListener();
-    gLog(TRACE, 964, "serialiseByRect() mDisplayChangeListener = %p", address(observer));
+    gDisplayLog(TRACE, 964, "serialiseByRect() mDisplayChangeListener = %p", address(observer));
     std::string text;
     if (observer != nullptr)
         text = serialiseStack(visible, rects);
-    text = withSystemWindowText(text, withSystemWindow);
-    gLog(TRACE, 969, "serialiseByRect() returning = \"%s\"", text.c_str());
+    text = mSystemWindow.addTo(text, withSystemWindow);
+    gDisplayLog(TRACE, 969, "serialiseByRect() returning = \"%s\"", text.c_str());
     return screen::toAscii(text);
 }
 
 std::string DisplayPrivate::serialiseStack(const std::vector<Rects>& visible, const Rects& requested)
 {
-    gLog(TRACE, 975, "serialiseByRect() mItemList.size() = %d", static_cast<int>(mItemList.size()));
+    gDisplayLog(TRACE, 975, "serialiseByRect() mItemList.size() = %d", static_cast<int>(mItemList.size()));
     std::string text;
     for (StackWalk walk(mItemList, mWalks); Displayable* displayable = walk.next();) {
         const Rects parts = requestedParts(visible[walk.position()], requested);
-        gLog(TRACE, 979, "serialiseByRect() newRects.size() = %d", static_cast<int>(parts.size()));
+        gDisplayLog(TRACE, 979, "serialiseByRect() newRects.size() = %d", static_cast<int>(parts.size()));
         DisplayablePrivateIfc* const side = displayable->getPrivateImpl();
         if (side == nullptr)
             continue;
         const std::string entry = side->serialise(parts);
-        gLog(TRACE, 984, "serialiseByRect() mItemList.at(%d) serialised as \"%s\"", static_cast<int>(walk.position()),
-             entry.c_str());
+        gDisplayLog(TRACE, 984, "serialiseByRect() mItemList.at(%d) serialised as \"%s\"",
+                    static_cast<int>(walk.position()), entry.c_str());
         text += entry;
     }
     return text;
-}
-
-/// On the small panel the system window's lines stand in front, whatever is asked for; on the full one a popup stands
-/// behind, if it is asked for and the software has one.
-std::string DisplayPrivate::withSystemWindowText(const std::string& screen, bool wanted) const
-{
-    if (hardwareVariant() == SMALL_PANEL)
-        return smallSystemWindowText(screen) + screen;
-    const bool hasPopup = isFullPanel() && softwareType() == KVX;
-    return hasPopup && wanted && mPopupShown ? screen + mSystemWindowText : screen;
-}
-
-std::string DisplayPrivate::smallSystemWindowText(const std::string& screen) const
-{
-    const bool menuOnTop = mSystemWindowReset && holdsSmallContextMenu(screen);
-    return presentSystemWindowObject(mContentWidget->getSystemWindowText(0),
-                                     menuOnTop ? firstMenuLine(screen) : mContentWidget->getSystemWindowText(1));
 }
 
 } // namespace DisplayAPI

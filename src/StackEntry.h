@@ -29,6 +29,12 @@ inline PegThing* widgetOf(Displayable* displayable)
     return displayable != nullptr ? widgetOf(displayable->getPrivateImpl()) : nullptr;
 }
 
+inline void lostFocus(Displayable* displayable)
+{
+    if (DisplayablePrivateIfc* side = displayable->getPrivateImpl())
+        side->lostFocus();
+}
+
 inline DisplayAPIUtils::Rect rectOf(const PegThing& widget)
 {
     return toRect(widget.Area());
