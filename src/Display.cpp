@@ -2,6 +2,7 @@
 
 #include "DisplayAPI/DisplayRequestEvent.h"
 #include "DisplayAPI/Widget.h"
+#include "DisplayOperations.h"
 #include "DisplayPrivate.h"
 #include "toolkit/PegFunctions.h"
 #include "utilities/Rect.h"
@@ -17,27 +18,25 @@ namespace {
 
 using Request = DisplayRequestEvent;
 
-/// Posts a request and waits until it has been carried out. `prepare` fills in what the constructors do not take.
-template <typename Prepare, typename... Args>
-void callPrepared(DisplayPrivateIfc& implementation, Display* display, Request::DisplayRequests code, Prepare prepare,
-                  Args&&... args)
-{
-    Semaphore done(Semaphore::NOT_AVAILABLE, 1, false);
-    auto* request = new Request(display, code, &done, std::forward<Args>(args)...);
-    prepare(*request);
-    implementation.postEvent(request);
-}
+using Ifc = DisplayPrivateIfc;
 
-template <typename... Args>
-void call(DisplayPrivateIfc& implementation, Display* display, Request::DisplayRequests code, Args&&... args)
-{
-    callPrepared(
-        implementation, display, code, [](Request&) {}, std::forward<Args>(args)...);
-}
+// SERIALISE, SERIALISE_BY_RECT and SET_TIME_IN_SYSTEM_WINDOW travel in ways of their own.
+using Ops = DisplayOperations<
+    Waits<Request::HIDE, &Ifc::hide>, Waits<Request::SHOW, &Ifc::show>, Waits<Request::SET_CURRENT, &Ifc::setCurrent>,
+    Waits<Request::GET_CURRENT, &Ifc::getCurrent>, Waits<Request::SHUTDOWN, &Ifc::shutdown>,
+    Waits<Request::LOCALE_CHANGED, &Ifc::localeChanged>, Waits<Request::DATE_FORMAT_CHANGED, &Ifc::dateFormatChanged>,
+    Waits<Request::TIME_FORMAT_CHANGED, &Ifc::timeFormatChanged>,
+    Waits<Request::CREATE_SERVER_DISPLAY, &Ifc::createServerDisplay>, Waits<Request::SET_MAXIMISED, &Ifc::setMaximised>,
+    Waits<Request::GET_DISPLAYED_RECTS, &Ifc::getDisplayedRects>,
+    Posts<Request::SET_SYSTEM_WINDOW_SIZE, &Ifc::setSystemWindowSize>,
+    Posts<Request::SET_SYSTEM_WINDOW_TEXT, &Ifc::setSystemWindowText>,
+    Waits<Request::SET_SYSTEM_WINDOW_TOP, &Ifc::setSystemWindowTop>,
+    Waits<Request::SHOW_TIME_IN_SYSTEM_WINDOW, &Ifc::showTimeInSystemWindow>, Waits<Request::SET_TIMER, &Ifc::setTimer>,
+    Waits<Request::STOP_TIMER, &Ifc::stopTimer>, Waits<Request::SET_SOFTWARE_TYPE, &Ifc::setSoftwareType>,
+    Waits<Request::SET_STATUS_MESSAGE, &Ifc::setStatusMessage>, Waits<Request::COPY, &Ifc::copy>,
+    Waits<Request::PASTE, &Ifc::paste>>;
 
 constinit std::atomic<Display*> gLatest{nullptr};
-
-constexpr bool NO_FLAG = false;
 
 // What a reader's mark says.
 constexpr const char* AWAITED = "awaited";
@@ -118,29 +117,26 @@ Display* Display::latest()
 
 void Display::processDisplayRequest(DisplayRequestEvent* request)
 {
-    switch (request->getType()) {
-    case Request::HIDE: mImplementation->hide(); break;
-    case Request::SHOW: mImplementation->show(); break;
-    case Request::SET_CURRENT: mImplementation->setCurrent(request->getDisplayable()); break;
-    case Request::GET_CURRENT:
-        if (Displayable** slot = request->getCurrentDisplayable())
-            *slot = mImplementation->getCurrent();
-        break;
-    case Request::SHUTDOWN: mImplementation->shutdown(); break;
-    case Request::LOCALE_CHANGED: mImplementation->localeChanged(request->getStringParam()); break;
-    case Request::DATE_FORMAT_CHANGED: mImplementation->dateFormatChanged(request->getStringParam()); break;
-    case Request::TIME_FORMAT_CHANGED: mImplementation->timeFormatChanged(request->getStringParam()); break;
+    if (!Ops::carryOut(*mImplementation, *request))
+        processOddRequest(*request);
+    request->requestCompleted();
+}
+
+/// Codes that nobody knows are completed without effect.
+void Display::processOddRequest(DisplayRequestEvent& request)
+{
+    const std::string text = request.getStringParam();
+    switch (request.getType()) {
     case Request::SERIALISE:
         mResultLock->take(-1);
-        giveResult(*request, mImplementation->serialise());
+        giveResult(request, mImplementation->serialise());
         break;
-    case Request::CREATE_SERVER_DISPLAY: mImplementation->createServerDisplay(request->getDisplayable()); break;
-    case Request::SET_MAXIMISED: mImplementation->setMaximised(request->getBoolParam()); break;
-    case Request::GET_DISPLAYED_RECTS: request->setDisplayedRects(mImplementation->getDisplayedRects()); break;
-    case Request::SERIALISE_BY_RECT: serialiseRects(*request); break;
-    default: processSystemWindowRequest(*request); break;
+    case Request::SERIALISE_BY_RECT: serialiseRects(request); break;
+    case Request::SET_TIME_IN_SYSTEM_WINDOW:
+        mImplementation->setTimeInSystemWindow(twoDigits(text, 0), twoDigits(text, 3), twoDigits(text, 6));
+        break;
+    default: break;
     }
-    request->requestCompleted();
 }
 
 void Display::serialiseRects(DisplayRequestEvent& request)
@@ -151,52 +147,19 @@ void Display::serialiseRects(DisplayRequestEvent& request)
                mImplementation->serialiseByRect(rects != nullptr ? *rects : Request::Rects(), request.getBoolParam()));
 }
 
-/// Status lines, time, messages and the clipboard. Codes that nobody knows are completed without effect.
-void Display::processSystemWindowRequest(DisplayRequestEvent& request)
-{
-    const std::string text = request.getStringParam();
-    switch (request.getType()) {
-    case Request::SET_SYSTEM_WINDOW_SIZE: mImplementation->setSystemWindowSize(request.getIntParam()); break;
-    case Request::SET_SYSTEM_WINDOW_TEXT: mImplementation->setSystemWindowText(request.getIntParam(), text); break;
-    case Request::SET_SYSTEM_WINDOW_TOP: mImplementation->setSystemWindowTop(request.getIntParam()); break;
-    case Request::SHOW_TIME_IN_SYSTEM_WINDOW: mImplementation->showTimeInSystemWindow(request.getBoolParam()); break;
-    case Request::SET_TIME_IN_SYSTEM_WINDOW:
-        mImplementation->setTimeInSystemWindow(twoDigits(text, 0), twoDigits(text, 3), twoDigits(text, 6));
-        break;
-    case Request::SET_TIMER: mImplementation->setTimer(text); break;
-    case Request::STOP_TIMER: mImplementation->stopTimer(); break;
-    case Request::SET_SOFTWARE_TYPE: mImplementation->setSoftwareType(text); break;
-    case Request::SET_STATUS_MESSAGE:
-        mImplementation->setStatusMessage(text, static_cast<unsigned int>(request.getIntParam()));
-        break;
-    case Request::COPY: mImplementation->copy(text); break;
-    case Request::PASTE:
-        if (std::string* slot = request.getStringReturnValue())
-            *slot = mImplementation->paste();
-        break;
-    default: break;
-    }
-}
-
 void Display::show()
 {
-    if (Widget::isGuiThread())
-        return mImplementation->show();
-    call(*mImplementation, this, Request::SHOW, NO_FLAG);
+    Ops::call<Request::SHOW>(*this, mImplementation);
 }
 
 void Display::hide()
 {
-    if (Widget::isGuiThread())
-        return mImplementation->hide();
-    call(*mImplementation, this, Request::HIDE, NO_FLAG);
+    Ops::call<Request::HIDE>(*this, mImplementation);
 }
 
 void Display::setCurrent(Displayable* displayable)
 {
-    if (Widget::isGuiThread())
-        return mImplementation->setCurrent(displayable);
-    call(*mImplementation, this, Request::SET_CURRENT, displayable);
+    Ops::call<Request::SET_CURRENT>(*this, mImplementation, displayable);
 }
 
 void Display::setCurrent(const std::vector<Displayable*>& displayables)
@@ -207,12 +170,7 @@ void Display::setCurrent(const std::vector<Displayable*>& displayables)
 
 Displayable* Display::getCurrent()
 {
-    if (Widget::isGuiThread())
-        return mImplementation->getCurrent();
-    Displayable* current = nullptr;
-    callPrepared(
-        *mImplementation, this, Request::GET_CURRENT, [&](Request& r) { r.setCurrentDisplayable(&current); }, NO_FLAG);
-    return current;
+    return Ops::call<Request::GET_CURRENT>(*this, mImplementation);
 }
 
 std::vector<Displayable*> Display::getCurrentWidgets() const
@@ -228,34 +186,22 @@ void Display::exec()
 
 void Display::shutdown()
 {
-    if (Widget::isGuiThread())
-        return mImplementation->shutdown();
-    call(*mImplementation, this, Request::SHUTDOWN, NO_FLAG);
+    Ops::call<Request::SHUTDOWN>(*this, mImplementation);
 }
 
 void Display::createServerDisplay(Displayable* displayable)
 {
-    if (Widget::isGuiThread())
-        return mImplementation->createServerDisplay(displayable);
-    call(*mImplementation, this, Request::CREATE_SERVER_DISPLAY, displayable);
+    Ops::call<Request::CREATE_SERVER_DISPLAY>(*this, mImplementation, displayable);
 }
 
 void Display::setMaximised(bool on)
 {
-    if (Widget::isGuiThread())
-        return mImplementation->setMaximised(on);
-    call(*mImplementation, this, Request::SET_MAXIMISED, on);
+    Ops::call<Request::SET_MAXIMISED>(*this, mImplementation, on);
 }
 
 std::vector<DisplayAPIUtils::Rect>* Display::getDisplayedRects()
 {
-    if (Widget::isGuiThread())
-        return mImplementation->getDisplayedRects();
-    std::vector<DisplayAPIUtils::Rect>* rects = nullptr;
-    callPrepared(
-        *mImplementation, this, Request::GET_DISPLAYED_RECTS,
-        [&](Request& r) { r.setDisplayedRectsReturnValue(&rects); }, NO_FLAG);
-    return rects;
+    return Ops::call<Request::GET_DISPLAYED_RECTS>(*this, mImplementation);
 }
 
 /// Writes the result, whose lock the GUI thread holds, and marks in the caller's string that it has done so.
@@ -270,8 +216,11 @@ void Display::giveResult(DisplayRequestEvent& request, std::string result)
 
 /// The caller gives the result's lock when it has read the result. A request that was lost is still awaited, and its
 /// lock has not been taken.
-std::string Display::takeResult(const std::string& mark)
+std::string Display::requestResult(DisplayRequestEvent* request)
 {
+    std::string mark = AWAITED;
+    request->setStringReturnValue(&mark);
+    mImplementation->postEvent(request);
     if (mark != SERVED)
         return {};
     std::string result = std::move(mResult);
@@ -283,42 +232,31 @@ std::string Display::serialise()
 {
     if (Widget::isGuiThread())
         return mImplementation->serialise();
-    std::string mark = AWAITED;
-    callPrepared(
-        *mImplementation, this, Request::SERIALISE, [&](Request& r) { r.setStringReturnValue(&mark); }, NO_FLAG);
-    return takeResult(mark);
+    Semaphore done(Semaphore::NOT_AVAILABLE, 1, false);
+    return requestResult(new Request(this, Request::SERIALISE, &done, false));
 }
 
 std::string Display::serialiseByRect(const std::vector<DisplayAPIUtils::Rect>& rects, bool withSystemWindow)
 {
     if (Widget::isGuiThread())
         return mImplementation->serialiseByRect(rects, withSystemWindow);
-    std::string mark = AWAITED;
-    callPrepared(
-        *mImplementation, this, Request::SERIALISE_BY_RECT, [&](Request& r) { r.setStringReturnValue(&mark); }, &rects,
-        withSystemWindow);
-    return takeResult(mark);
+    Semaphore done(Semaphore::NOT_AVAILABLE, 1, false);
+    return requestResult(new Request(this, Request::SERIALISE_BY_RECT, &done, &rects, withSystemWindow));
 }
 
 void Display::localeChanged(std::string locale)
 {
-    if (Widget::isGuiThread())
-        return mImplementation->localeChanged(std::move(locale));
-    call(*mImplementation, this, Request::LOCALE_CHANGED, std::move(locale));
+    Ops::call<Request::LOCALE_CHANGED>(*this, mImplementation, std::move(locale));
 }
 
 void Display::dateFormatChanged(std::string format)
 {
-    if (Widget::isGuiThread())
-        return mImplementation->dateFormatChanged(std::move(format));
-    call(*mImplementation, this, Request::DATE_FORMAT_CHANGED, std::move(format));
+    Ops::call<Request::DATE_FORMAT_CHANGED>(*this, mImplementation, std::move(format));
 }
 
 void Display::timeFormatChanged(std::string format)
 {
-    if (Widget::isGuiThread())
-        return mImplementation->timeFormatChanged(std::move(format));
-    call(*mImplementation, this, Request::TIME_FORMAT_CHANGED, std::move(format));
+    Ops::call<Request::TIME_FORMAT_CHANGED>(*this, mImplementation, std::move(format));
 }
 
 void Display::skinChanged(std::string) {}
@@ -345,83 +283,61 @@ DisplayAPIUtils::Rect* Display::getDisplayArea()
 
 void Display::setSystemWindowSize(int lines)
 {
-    if (Widget::isGuiThread())
-        return mImplementation->setSystemWindowSize(lines);
-    mImplementation->postEventAsync(new Request(this, Request::SET_SYSTEM_WINDOW_SIZE, nullptr, lines));
+    Ops::call<Request::SET_SYSTEM_WINDOW_SIZE>(*this, mImplementation, lines);
 }
 
 void Display::setSystemWindowText(int line, std::string text)
 {
-    if (Widget::isGuiThread())
-        return mImplementation->setSystemWindowText(line, std::move(text));
-    mImplementation->postEventAsync(new Request(this, Request::SET_SYSTEM_WINDOW_TEXT, nullptr, line, std::move(text)));
+    Ops::call<Request::SET_SYSTEM_WINDOW_TEXT>(*this, mImplementation, line, std::move(text));
 }
 
 void Display::setSystemWindowTop(int top)
 {
-    if (Widget::isGuiThread())
-        return mImplementation->setSystemWindowTop(top);
-    call(*mImplementation, this, Request::SET_SYSTEM_WINDOW_TOP, top);
+    Ops::call<Request::SET_SYSTEM_WINDOW_TOP>(*this, mImplementation, top);
 }
 
 void Display::showTimeInSystemWindow(bool on)
 {
-    if (Widget::isGuiThread())
-        return mImplementation->showTimeInSystemWindow(on);
-    call(*mImplementation, this, Request::SHOW_TIME_IN_SYSTEM_WINDOW, on);
+    Ops::call<Request::SHOW_TIME_IN_SYSTEM_WINDOW>(*this, mImplementation, on);
 }
 
 void Display::setTimeInSystemWindow(int hours, int minutes, int seconds)
 {
     if (Widget::isGuiThread())
         return mImplementation->setTimeInSystemWindow(hours, minutes, seconds);
-    call(*mImplementation, this, Request::SET_TIME_IN_SYSTEM_WINDOW, formatTime(hours, minutes, seconds));
+    Semaphore done(Semaphore::NOT_AVAILABLE, 1, false);
+    const std::string text = formatTime(hours, minutes, seconds);
+    mImplementation->postEvent(new Request(this, Request::SET_TIME_IN_SYSTEM_WINDOW, &done, text));
 }
 
 void Display::setTimer(std::string text)
 {
-    if (Widget::isGuiThread())
-        return mImplementation->setTimer(std::move(text));
-    call(*mImplementation, this, Request::SET_TIMER, std::move(text));
+    Ops::call<Request::SET_TIMER>(*this, mImplementation, std::move(text));
 }
 
 void Display::stopTimer()
 {
-    if (Widget::isGuiThread())
-        return mImplementation->stopTimer();
-    call(*mImplementation, this, Request::STOP_TIMER, NO_FLAG);
+    Ops::call<Request::STOP_TIMER>(*this, mImplementation);
 }
 
 void Display::setSoftwareType(const std::string& type)
 {
-    if (Widget::isGuiThread())
-        return mImplementation->setSoftwareType(type);
-    call(*mImplementation, this, Request::SET_SOFTWARE_TYPE, type);
+    Ops::call<Request::SET_SOFTWARE_TYPE>(*this, mImplementation, type);
 }
 
 void Display::setStatusMessage(const std::string& text, unsigned int timeout)
 {
-    if (Widget::isGuiThread())
-        return mImplementation->setStatusMessage(text, timeout);
-    call(*mImplementation, this, Request::SET_STATUS_MESSAGE, static_cast<int>(timeout), text);
+    Ops::call<Request::SET_STATUS_MESSAGE>(*this, mImplementation, text, timeout);
 }
 
 void Display::copy(const std::string& text)
 {
-    if (Widget::isGuiThread())
-        return mImplementation->copy(text);
-    call(*mImplementation, this, Request::COPY, text);
+    Ops::call<Request::COPY>(*this, mImplementation, text);
 }
 
 std::string Display::paste() const
 {
-    if (Widget::isGuiThread())
-        return mImplementation->paste();
-    std::string text;
-    callPrepared(
-        *mImplementation, const_cast<Display*>(this), Request::PASTE,
-        [&](Request& r) { r.setStringReturnValue(&text); }, NO_FLAG);
-    return text;
+    return Ops::call<Request::PASTE>(*this, mImplementation);
 }
 
 bool Display::isCurrentForKeyEvents(Displayable*)

@@ -46,6 +46,7 @@ struct Operation {
 
     static constexpr int CODE = NUMBER;
     static constexpr bool WAITS = MUST_WAIT;
+    static constexpr auto RUNS = FUNCTION;
     static constexpr auto NEUTRAL_ANSWER = NEUTRAL;
     static constexpr auto FIELD = ANSWER_FIELD;
     static constexpr bool ANSWERS = !std::is_void_v<Answer>;
@@ -63,7 +64,7 @@ struct Operation {
     static Answer run(Facade& facade, Side& side, Args&&... args)
     {
         Owner* const target = targetIn(facade, side);
-        return target != nullptr ? std::invoke(FUNCTION, *target, std::forward<Args>(args)...) : neutral();
+        return target != nullptr ? std::invoke(RUNS, *target, std::forward<Args>(args)...) : neutral();
     }
 
     /// Has `post` hand the record over, and returns the answer that it has brought.
@@ -89,7 +90,7 @@ struct Operation {
         if (target == nullptr)
             return;
         const auto run = [target]<typename... Args>(Args&&... args) -> Answer {
-            return std::invoke(FUNCTION, *target, std::forward<Args>(args)...);
+            return std::invoke(RUNS, *target, std::forward<Args>(args)...);
         };
         if constexpr (ANSWERS)
             write(record.*FIELD, Fields::apply(record, run));
@@ -184,5 +185,16 @@ consteval bool haveCodesOfTheirOwn()
             return false;
     return true;
 }
+
+template <int CODE, typename... Rows>
+struct FindRow {
+    static_assert(((CODE == Rows::CODE) || ...), "no row has this code");
+    static constexpr std::array CODES{Rows::CODE...};
+    static constexpr auto INDEX = std::find(CODES.begin(), CODES.end(), CODE) - CODES.begin();
+    using Row = std::tuple_element_t<static_cast<std::size_t>(INDEX), std::tuple<Rows...>>;
+};
+
+template <int CODE, typename... Rows>
+using RowOf = typename FindRow<CODE, Rows...>::Row;
 
 } // namespace DisplayAPI

@@ -3,8 +3,6 @@
 #include "Operation.h"
 #include "Request.h"
 
-#include <tuple>
-
 /// A facade's operations, each said once: its code, whether the caller waits, the function that carries it out and,
 /// where nothing will do, the answer when nobody answers. Both the call and the handler's row come from it.
 ///
@@ -67,10 +65,8 @@ struct OperationTable {
     template <int CODE, typename Facade, typename Side, typename... Args>
     static auto call(Facade& facade, Side& side, Args&&... args)
     {
-        static_assert(((CODE == Rows::CODE) || ...), "no row has this code");
-        using Row = std::tuple_element_t<indexOf(CODE), std::tuple<Rows...>>;
         auto& caller = const_cast<std::remove_const_t<Facade>&>(facade);
-        return Way::template call<Row>(caller, side, std::forward<Args>(args)...);
+        return Way::template call<RowOf<CODE, Rows...>>(caller, side, std::forward<Args>(args)...);
     }
 
     /// Carries the request out if its code is in the table; returns whether it is. Nothing of the facade is touched
@@ -80,13 +76,6 @@ struct OperationTable {
     {
         const int code = request.getType();
         return ((code == Rows::CODE && (Rows::carryOut(facade, side, request), true)) || ...);
-    }
-
-private:
-    static consteval std::size_t indexOf(int code)
-    {
-        const std::array codes{Rows::CODE...};
-        return static_cast<std::size_t>(std::find(codes.begin(), codes.end(), code) - codes.begin());
     }
 };
 

@@ -159,10 +159,10 @@ public:
 
 private:
     void init(DisplayPrivateIfc* implementation);
-    void processSystemWindowRequest(DisplayRequestEvent& request);
+    void processOddRequest(DisplayRequestEvent& request);
     void serialiseRects(DisplayRequestEvent& request);
     void giveResult(DisplayRequestEvent& request, std::string result);
-    std::string takeResult(const std::string& mark);
+    std::string requestResult(DisplayRequestEvent* request);
 
     DisplayPrivateIfc* mImplementation = nullptr;
     std::string mResult;
