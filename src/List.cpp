@@ -383,9 +383,10 @@ void List::privateAppend(ListItem* item)
 void List::privateInsertAt(ListItem* item, int index)
 {
     gLog(TRACE, 508, "DAPI::List::privateInsertAt() this: %p\n", static_cast<void*>(this));
-    if (item == nullptr || mImplementation == nullptr)
+    if (item == nullptr)
         return;
-    mImplementation->insertAt(item->getPrivateImplemetation(), index);
+    if (mImplementation != nullptr)
+        mImplementation->insertAt(item->getPrivateImplemetation(), index);
     mItems.insert(item, std::clamp(index, 0, mItems.size()));
 }
 

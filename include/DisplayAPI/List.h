@@ -23,9 +23,10 @@ class Ticker;
 /// Threads: safe from any thread. Off the GUI thread size(), getSelected(), getSelectedIndex(), removeAt(), getItems(),
 /// getTicker() and getDialer() wait, as does the destructor; everything else posts and returns at once. Calls from one
 /// thread keep their order.
-/// Ownership: the list owns the rows in it; clear() and the destructor delete them. removeAt(), remove(), removeAll()
-/// and replace() give rows back to the caller. The row pointers that getItems() and getSelected() return stay the
-/// list's. Put a row into one list, once. Listeners, tickers, dialers and translations are not owned and have to live
+/// Ownership: the list owns the rows that getItems() tells of, whether or not it has an implementation that shows them;
+/// clear() and the destructor delete them. A row belongs to the list as soon as append(), insertAt() or replace() has
+/// been carried out. removeAt(), remove(), removeAll() and replace() give rows back to the caller. The row pointers that
+/// getItems() and getSelected() return stay the list's. Put a row into one list, once. Listeners, tickers, dialers and translations are not owned and have to live
 /// until the list has let go of them: after removeCommandListener() until a waiting call such as size() has returned.
 /// A class derived from this one may meet its first request before its constructor has ended, and its last one after
 /// its destructor has begun: derive on the GUI thread, or from List(ListBoxPrivateIfc*) as ExclusiveList does.
@@ -52,7 +53,8 @@ public:
     virtual void align(Displayable& other);
     virtual void unalign();
 
-    /// Appends a row with the text, or the row itself, which the list then owns.
+    /// Appends a row with the text, or the row itself. A row without a GUI-thread side is not appended and stays the
+    /// caller's, as does null.
     virtual void append(const std::string& text);
     virtual void append(TranslationInfo* text);
     virtual void append(ListItem* item);

@@ -94,6 +94,20 @@ TEST_P(ListTest, AppendOfNullLeavesTheListUnchanged)
     EXPECT_THAT(reached(), IsEmpty());
 }
 
+TEST_P(ListTest, WithoutAnImplementationRowsBelongToTheListWhicheverWayTheyCame)
+{
+    auto bare = std::make_unique<List>(nullptr);
+    LiveRow* const row = new LiveRow("row");
+    gui.settle();
+    run([&] {
+        bare->append(other);
+        bare->insertAt(row, 0);
+    });
+    EXPECT_THAT(bare->getItems(), ElementsAre(row, other));
+    run([&] { bare.reset(); });
+    EXPECT_FALSE(LiveRow::isAlive(other) || LiveRow::isAlive(row));
+}
+
 TEST_P(ListTest, InsertAtCountsFromZero)
 {
     run([&] { list.insertAt(other, 1); });
