@@ -139,10 +139,7 @@ DisplayablePrivateIfc* List::getPrivateImpl()
 void List::cleanup()
 {
     gLog(TRACE, 148, "DAPI::List::cleanup() this: %p\n", static_cast<void*>(this));
-    if (mImplementation != nullptr)
-        leaveDisplay();
-    delete mImplementation;
-    mImplementation = nullptr;
+    deletePrivateSide(mImplementation);
     deleteItems();
 }
 

@@ -13,9 +13,9 @@ class ItemStateListener;
 /// Anything that a Display can make current: a screen, a list, a form or a popup.
 ///
 /// Ownership: created and deleted by the application; a display never deletes one. Its toolkit widget belongs to the
-/// presentation manager while it is on a display's stack. A class of its own destroys its private side by a request
-/// that calls leaveDisplay() first; a displayable without such a request is deleted on the GUI thread, or when no
-/// display has shown it. A request that a class does not handle is not completed here: do not wait for one.
+/// presentation manager while it is on a display's stack. A class of its own deletes its private side with
+/// deletePrivateSide(), in a request that its destructor waits for; a displayable without such a request is deleted on
+/// the GUI thread, or when no display has shown it. A request that a class does not handle is not completed here: do not wait for one.
 class DISPLAYAPI_EXPORT Displayable : public Widget {
 public:
     Displayable();
@@ -45,11 +45,22 @@ public:
     void useSoftKeysBasedOnCommands();
 
 protected:
-    /// Takes this off every display that still shows it, as if it had been dismissed. GUI thread only; for the request
-    /// that deletes the private side, before it does so.
-    void leaveDisplay();
+    /// Deletes the private side, if there is one; `side` is null afterwards. GUI thread only. Every display that still
+    /// shows this lets go of it first, as if it had been dismissed. An interface with a protected destructor that names
+    /// this class as its friend is deleted in no other way.
+    template <typename Side>
+    void deletePrivateSide(Side*& side)
+    {
+        if (side == nullptr)
+            return;
+        leaveDisplay();
+        delete side;
+        side = nullptr;
+    }
 
 private:
+    void leaveDisplay();
+
     std::vector<ItemStateListener*> mItemStateListeners;
 };
 

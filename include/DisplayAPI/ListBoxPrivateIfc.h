@@ -14,11 +14,13 @@ class ListItemPrivateIfc;
 class PopupDialer;
 class TickerPrivateIfc;
 
-/// The GUI-thread side of a list. GUI thread only.
+/// The GUI-thread side of a list. GUI thread only. Deleted by Displayable::deletePrivateSide() alone.
 class DISPLAYAPI_EXPORT ListBoxPrivateIfc : public virtual DisplayablePrivateIfc {
-public:
+protected:
+    friend class Displayable;
     virtual ~ListBoxPrivateIfc() = default;
 
+public:
     virtual void addCommandListener(CommandListener* listener) = 0;
     virtual void removeCommandListener(CommandListener* listener) = 0;
     virtual void join(DisplayablePrivate* other) = 0;

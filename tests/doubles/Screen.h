@@ -4,7 +4,6 @@
 #include "DisplayAPI/GuiRequestEvent.h"
 #include "doubles/ScreenPrivate.h"
 
-#include <memory>
 #include <string>
 
 namespace doubles {
@@ -23,7 +22,7 @@ public:
     ~Screen() override
     {
         if (isGuiThread())
-            destroy();
+            deletePrivateSide(mPrivate);
         else
             postEvent(DESTROY);
     }
@@ -31,27 +30,24 @@ public:
     void processGuiRequest(DisplayAPI::GuiRequestEvent& request) override
     {
         if (request.getType() == DESTROY)
-            destroy();
+            deletePrivateSide(mPrivate);
         signalComplete(request);
     }
 
-    ScreenPrivate* getPrivateImpl() override { return mPrivate.get(); }
+    ScreenPrivate* getPrivateImpl() override { return mPrivate; }
     PegThing* widget() const { return mPrivate->getWidget(); }
 
     /// From here on the screen has no private side.
-    void dropPrivate() { mPrivate.reset(); }
+    void dropPrivate()
+    {
+        delete mPrivate;
+        mPrivate = nullptr;
+    }
 
 private:
     static constexpr int DESTROY = 1;
 
-    void destroy()
-    {
-        if (mPrivate != nullptr)
-            leaveDisplay();
-        mPrivate.reset();
-    }
-
-    std::unique_ptr<ScreenPrivate> mPrivate;
+    ScreenPrivate* mPrivate;
 };
 
 } // namespace doubles

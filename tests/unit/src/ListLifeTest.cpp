@@ -16,6 +16,8 @@ using test::LiveRow;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+static_assert(!std::is_destructible_v<ListBoxPrivateIfc>, "a list leaves its displays before it deletes its side");
+
 namespace {
 
 class ListLifeTest : public test::FacadeTest {
