@@ -45,6 +45,13 @@ protected:
 
 } // namespace
 
+TEST_P(DisplayTest, RecordWithoutASemaphoreIsCarriedOutWithNobodyWaiting)
+{
+    side->postEvent(new Record(display.get(), Record::SHOW, nullptr, false));
+    gui.settle();
+    EXPECT_THAT(arrived(), ElementsAre("display: show()"));
+}
+
 TEST_P(DisplayTest, GetCurrentAnswersThePrivateSides)
 {
     side->current = SCREEN;

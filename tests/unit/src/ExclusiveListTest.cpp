@@ -67,64 +67,6 @@ TEST_P(ExclusiveListTest, ListIsCalledList)
     EXPECT_EQ(list->getName(), "List");
 }
 
-TEST_P(ExclusiveListTest, SelectionGoesToTheExclusiveImplementation)
-{
-    for (const int variant : {0, 1}) {
-        made(variant);
-        Answers::instance().selectedIndex = 2;
-        int index = 0;
-        run([&] {
-            list->setSelectedIndex(3);
-            index = list->getSelectedIndex();
-        });
-        expectAllOnGuiThread();
-        EXPECT_EQ(index, 2);
-        EXPECT_THAT(reached(), ElementsAre(EndsWith("::setSelectedIndex(3)"), EndsWith("::getSelectedIndex()")));
-        list.reset();
-        reached();
-    }
-}
-
-TEST_P(ExclusiveListTest, IsSelectedReachesTheExclusiveImplementationAndAnswersOnTheGuiThreadOnly)
-{
-    Answers::instance().isSelected = true;
-    for (const int variant : {0, 1}) {
-        made(variant);
-        bool selected = false;
-        run([&] { selected = list->isSelected(1); });
-        EXPECT_EQ(selected, GetParam() == From::GUI_THREAD);
-        expectAllOnGuiThread();
-        EXPECT_THAT(reached(), ElementsAre(variant == 1 ? "ExclusiveListPrivate::isSelected(1)"
-                                                        : "ExclusiveListPrivateWP1::isSelected(1)"));
-        list.reset();
-        reached();
-    }
-}
-
-TEST_P(ExclusiveListTest, EachCodeOfItsOwnReachesTheExclusiveImplementation)
-{
-    made(1);
-    Answers::instance().selectedIndex = 5;
-    int index = -1;
-    carryOut(GetParam(), *list, 41, [&](GuiRequestEvent& r) { r.returnValue3 = &index; });
-    carryOut(GetParam(), *list, 42, [](GuiRequestEvent& r) { r.intParam1 = 6; });
-    carryOut(GetParam(), *list, 45, [](GuiRequestEvent& r) { r.intParam1 = 7; });
-    EXPECT_EQ(index, 5);
-    expectAllOnGuiThread();
-    EXPECT_THAT(reached(), ElementsAre("ListBoxPrivate::getSelectedIndex()", "ExclusiveListPrivate::isSelected(6)",
-                                       "ListBoxPrivate::setSelectedIndex(7)"));
-}
-
-TEST_P(ExclusiveListTest, OtherCodesGoOnToTheList)
-{
-    made(1);
-    carryOut(GetParam(), *list, 22, [](GuiRequestEvent& r) { r.stringParam1 = "Ring tones"; });
-    EXPECT_THAT(reached(), ElementsAre(callText("ListBoxPrivate::setTitle", std::string("Ring tones"))));
-    for (const int code : {43, 44, 46, 99})
-        carryOut(GetParam(), *list, code);
-    EXPECT_THAT(reached(), IsEmpty());
-}
-
 TEST_P(ExclusiveListTest, CleanUpDoesNothingWhileTheListLives)
 {
     made(1);
@@ -189,14 +131,6 @@ TEST_F(ExclusiveListPostTest, ConstructorPostsBothCreationsAndWaitsForTheSecond)
 {
     std::unique_ptr<ExclusiveList> list;
     EXPECT_EQ(test::postedBy(gui, [&] { list = std::make_unique<ExclusiveList>(); }), (Posted{{0, 40}, true}));
-}
-
-TEST_F(ExclusiveListPostTest, SelectionWaitsAndIsSelectedDoesNot)
-{
-    ExclusiveList list;
-    EXPECT_EQ(test::postedBy(gui, [&] { list.getSelectedIndex(); }), (Posted{{41}, true}));
-    EXPECT_EQ(test::postedBy(gui, [&] { list.isSelected(0); }), (Posted{{42}, false}));
-    EXPECT_EQ(test::postedBy(gui, [&] { list.setSelectedIndex(0); }), (Posted{{45}, true}));
 }
 
 TEST_F(ExclusiveListPostTest, DestructorLetsQueuedRequestsReachTheExclusiveImplementation)

@@ -4,6 +4,7 @@
 #include "DisplayAPI/Widget.h"
 #include "doubles/Answers.h"
 #include "doubles/Recorder.h"
+#include "support/From.h"
 #include "support/GuiLoop.h"
 #include "utilities/HardwareVersion.h"
 #include "widgets/KestrelApplication.h"
@@ -11,24 +12,10 @@
 #include <gmock/gmock.h>
 
 #include <functional>
-#include <ostream>
 #include <string>
 #include <vector>
 
 namespace test {
-
-/// Where an application calls from.
-enum class From { GUI_THREAD, WORKER };
-
-inline std::string nameOf(From from)
-{
-    return from == From::GUI_THREAD ? "GuiThread" : "Worker";
-}
-
-inline void PrintTo(From from, std::ostream* out)
-{
-    *out << nameOf(from);
-}
 
 inline void setHardwareVariant(int variant)
 {

@@ -150,23 +150,6 @@ TEST_P(ListItemTest, CodeTwoDeletesThePrivateSide)
     EXPECT_THAT(reached(), ElementsAre("~" + rowClass() + "()"));
 }
 
-TEST_P(ListItemTest, CodeSixAnswersTheText)
-{
-    make(std::string("Anna"), true);
-    std::string answer;
-    carryOut(from(), *item, 6, [&](GuiRequestEvent& r) { r.returnValue3 = &answer; });
-    EXPECT_EQ(answer, "Anna");
-}
-
-TEST_P(ListItemTest, UnknownCodesAreCompletedWithoutEffect)
-{
-    make(std::string("Anna"), true);
-    reached();
-    for (const int code : {-1, 4, 5, 7, 10, 100})
-        carryOut(from(), *item, code);
-    EXPECT_THAT(reached(), IsEmpty());
-}
-
 TEST_P(ListItemTest, ContextMenuArrowDoesNothing)
 {
     make(std::string("Anna"), true);
@@ -203,14 +186,4 @@ TEST_F(ListItemPostTest, DestructorWaits)
 {
     auto item = std::make_unique<ListItem>();
     EXPECT_EQ(test::postedBy(gui, [&] { item.reset(); }), (Posted{{2}, true}));
-}
-
-TEST_F(ListItemPostTest, SetTextPostsAndGetTextWaits)
-{
-    TranslationInfo text("key", nullptr);
-    ListItem item;
-    EXPECT_EQ(test::postedBy(gui, [&] { item.setText(std::string("x")); }), (Posted{{3}, false}));
-    EXPECT_EQ(test::postedBy(gui, [&] { item.setText(&text); }), (Posted{{3}, false}));
-    EXPECT_EQ(test::postedBy(gui, [&] { item.getText(); }), (Posted{{6}, true}));
-    EXPECT_EQ(test::postedBy(gui, [&] { item.enableContextMenuArrow(true); }), (Posted{{}, false}));
 }

@@ -78,33 +78,6 @@ TEST_P(TickerTest, CodeZeroMakesTheGuiThreadSide)
     gui.call([&] { delete first; });
 }
 
-TEST_P(TickerTest, CodeOneSetsTheText)
-{
-    make("abc");
-    carryOut(1, [](GuiRequestEvent& r) { r.stringParam1 = GREETING; });
-    EXPECT_EQ(text(), GREETING);
-}
-
-TEST_P(TickerTest, CodeTwoAnswersTheText)
-{
-    make(GREETING);
-    std::string answer;
-    carryOut(2, [&](GuiRequestEvent& r) { r.returnValue3 = &answer; });
-    EXPECT_EQ(answer, GREETING);
-    carryOut(2);
-}
-
-TEST_P(TickerTest, OtherCodesAreCompletedWithoutEffect)
-{
-    make("abc");
-    TickerPrivateIfc* const side = ticker->getPrivateImpl();
-    for (const int code : {-1, 3, 100}) {
-        carryOut(code, [](GuiRequestEvent& r) { r.stringParam1 = "other"; });
-        EXPECT_EQ(ticker->getPrivateImpl(), side) << code;
-        EXPECT_EQ(text(), "abc") << code;
-    }
-}
-
 TEST_P(TickerTest, ChangesOnAnotherThreadAreSeen)
 {
     make("abc");

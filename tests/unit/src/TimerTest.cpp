@@ -2,11 +2,11 @@
 
 #include "DisplayAPI/Command.h"
 #include "DisplayAPI/TimerEvent.h"
-#include "DisplayAPI/TimerPrivateIfc.h"
 #include "doubles/Mocks.h"
 #include "support/VirtualTime.h"
 #include "unit/src/Deliveries.h"
 #include "unit/src/FacadeTest.h"
+#include "unit/src/NotingTimer.h"
 #include "unit/src/PoolGate.h"
 #include "unit/src/Posted.h"
 #include "utilities/Threadable.h"
@@ -14,7 +14,6 @@
 #include <atomic>
 
 using namespace DisplayAPI;
-using doubles::callText;
 using test::From;
 using test::Posted;
 using test::VirtualTime;
@@ -22,33 +21,6 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace {
-
-/// Notes what reaches the GUI-thread side.
-class NotingTimer : public TimerPrivateIfc {
-public:
-    ~NotingTimer() override { note("~Timer"); }
-
-    void start(int ms) override { note("start", ms); }
-    void stop() override { note("stop"); }
-    void enableSingleShot(bool on) override { note("enableSingleShot", on); }
-    void addCommand(Command* command) override { note("addCommand", command); }
-    void addCommandListener(CommandListener* listener) override { note("addCommandListener", listener); }
-    void removeCommandListener(CommandListener* listener) override { note("removeCommandListener", listener); }
-    void addEventListener(TimerEvent* listener) override { note("addEventListener", listener); }
-    void removeEventListener(TimerEvent* listener) override { note("removeEventListener", listener); }
-    const std::vector<CommandListener*>& getCommandListenerList() const override { return mCommandListeners; }
-    const std::vector<TimerEvent*>& getTimerEventListenerList() const override { return mEventListeners; }
-
-private:
-    template <typename... Args>
-    void note(const char* name, const Args&... args)
-    {
-        doubles::Recorder::instance().note(this, name, args...);
-    }
-
-    std::vector<CommandListener*> mCommandListeners;
-    std::vector<TimerEvent*> mEventListeners;
-};
 
 class Expiries : public TimerEvent {
 public:
@@ -71,39 +43,6 @@ struct Arguments {
     Expiries event;
 };
 
-/// A request: its code, the operation that sends it, a record filled by hand, and the call that has to arrive.
-struct Request {
-    int code;
-    std::function<void(Timer&, Arguments&)> call;
-    std::function<void(GuiRequestEvent&, Arguments&)> fill;
-    std::function<std::string(Arguments&)> arrives;
-};
-
-const Request REQUESTS[] = {
-    {2, [](Timer& t, Arguments&) { t.start(250); }, [](GuiRequestEvent& r, Arguments&) { r.intParam1 = 250; },
-     [](Arguments&) { return callText("start", 250); }},
-    {3, [](Timer& t, Arguments&) { t.stop(); }, [](GuiRequestEvent&, Arguments&) {},
-     [](Arguments&) { return callText("stop"); }},
-    {4, [](Timer& t, Arguments&) { t.enableSingleShot(true); },
-     [](GuiRequestEvent& r, Arguments&) { r.boolParam1 = true; },
-     [](Arguments&) { return callText("enableSingleShot", true); }},
-    {5, [](Timer& t, Arguments& a) { t.addCommandListener(&a.listener); },
-     [](GuiRequestEvent& r, Arguments& a) { r.ptrParam1 = static_cast<CommandListener*>(&a.listener); },
-     [](Arguments& a) { return callText("addCommandListener", static_cast<CommandListener*>(&a.listener)); }},
-    {6, [](Timer& t, Arguments& a) { t.removeCommandListener(&a.listener); },
-     [](GuiRequestEvent& r, Arguments& a) { r.ptrParam1 = static_cast<CommandListener*>(&a.listener); },
-     [](Arguments& a) { return callText("removeCommandListener", static_cast<CommandListener*>(&a.listener)); }},
-    {7, [](Timer& t, Arguments& a) { t.addEventListener(&a.event); },
-     [](GuiRequestEvent& r, Arguments& a) { r.ptrParam1 = static_cast<TimerEvent*>(&a.event); },
-     [](Arguments& a) { return callText("addEventListener", static_cast<TimerEvent*>(&a.event)); }},
-    {8, [](Timer& t, Arguments& a) { t.removeEventListener(&a.event); },
-     [](GuiRequestEvent& r, Arguments& a) { r.ptrParam1 = static_cast<TimerEvent*>(&a.event); },
-     [](Arguments& a) { return callText("removeEventListener", static_cast<TimerEvent*>(&a.event)); }},
-    {9, [](Timer& t, Arguments& a) { t.addCommand(&a.command); },
-     [](GuiRequestEvent& r, Arguments& a) { r.ptrParam1 = &a.command; },
-     [](Arguments& a) { return callText("addCommand", &a.command); }},
-};
-
 class TimerTest : public VirtualTime, public test::FacadeTest, public testing::WithParamInterface<From> {
 protected:
     void run(const std::function<void()>& work) { FacadeTest::run(GetParam(), work); }
@@ -120,45 +59,6 @@ protected:
 };
 
 } // namespace
-
-TEST_P(TimerTest, EachOperationReachesTheGuiThread)
-{
-    Timer timer(new NotingTimer);
-    for (const Request& request : REQUESTS) {
-        run([&] { request.call(timer, arguments); });
-        expectAllOnGuiThread();
-        EXPECT_THAT(reached(), ElementsAre(request.arrives(arguments))) << request.code;
-    }
-}
-
-TEST_P(TimerTest, EachCodeReachesTheGuiThread)
-{
-    Timer timer(new NotingTimer);
-    for (const Request& request : REQUESTS) {
-        carryOut(timer, request.code, [&](GuiRequestEvent& r) { request.fill(r, arguments); });
-        expectAllOnGuiThread();
-        EXPECT_THAT(reached(), ElementsAre(request.arrives(arguments))) << request.code;
-    }
-}
-
-TEST_P(TimerTest, UnknownCodesAreCompletedWithoutEffect)
-{
-    Timer timer(new NotingTimer);
-    for (const int code : {-1, 10, 100})
-        carryOut(timer, code);
-    EXPECT_THAT(reached(), IsEmpty());
-}
-
-TEST_P(TimerTest, WithoutAGuiThreadSideEverythingIsCompletedWithoutEffect)
-{
-    Timer timer(nullptr);
-    EXPECT_EQ(timer.getPrivateImpl(), nullptr);
-    for (const Request& request : REQUESTS) {
-        run([&] { request.call(timer, arguments); });
-        carryOut(timer, request.code, [&](GuiRequestEvent& r) { request.fill(r, arguments); });
-    }
-    EXPECT_EQ(arguments.event.count, 0);
-}
 
 TEST_P(TimerTest, ConstructorMakesTheGuiThreadSideWhateverTheInterval)
 {
@@ -182,7 +82,7 @@ TEST_P(TimerTest, CodesZeroAndOneMakeAndDeleteTheGuiThreadSide)
 
 TEST_P(TimerTest, DestructorDeletesTheGuiThreadSideThere)
 {
-    auto timer = std::make_unique<Timer>(new NotingTimer);
+    auto timer = std::make_unique<Timer>(new test::NotingTimer);
     run([&] { timer.reset(); });
     expectAllOnGuiThread();
     EXPECT_THAT(reached(), ElementsAre("~Timer()"));
@@ -309,14 +209,6 @@ TEST_F(TimerPostTest, ConstructorPostsAndReturns)
     std::unique_ptr<Timer> timer;
     EXPECT_EQ(test::postedBy(gui, [&] { timer = std::make_unique<Timer>(100); }), (Posted{{0}, false}));
     EXPECT_EQ(test::postedBy(gui, [&] { Timer adopting(nullptr); }), (Posted{{1}, true}));
-}
-
-TEST_F(TimerPostTest, OperationsPostAndReturn)
-{
-    Timer timer(nullptr);
-    Arguments arguments;
-    for (const Request& request : REQUESTS)
-        EXPECT_EQ(test::postedBy(gui, [&] { request.call(timer, arguments); }), (Posted{{request.code}, false}));
 }
 
 TEST_F(TimerPostTest, DestructorWaits)
