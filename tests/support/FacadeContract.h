@@ -245,6 +245,13 @@ struct WidgetSubject {
     Facade* operator->() const { return facade.get(); }
     void end() { facade.reset(); }
 
+    /// Has the private side deleted by the request that the destructor posts: for facades that always make one.
+    void endSide(int destroyCode)
+    {
+        const std::unique_ptr<Carrier::Record> destroy(Carrier::make(*facade, destroyCode, {}, nullptr));
+        Carrier::carryOut(*facade, *destroy);
+    }
+
     /// How a private side notes a call, and whether what has been noted is one: constructors and destructors are not.
     static std::string arrival(const std::string& call) { return call; }
     static bool isArrival(const std::string& note) { return note.find("::") != std::string::npos; }

@@ -17,6 +17,18 @@ namespace {
 
 using Parameters = std::tuple<From, int>;
 
+/// As rows with more than a text are written.
+class DerivedRow : public ListItem {
+public:
+    DerivedRow() : ListItem(nullptr) { createEmpty(); }
+
+    void replace(const std::string& text)
+    {
+        delete implementation();
+        setImplementation(new ListItemPrivate(text, false));
+    }
+};
+
 class ListItemTest : public test::FacadeTest, public testing::WithParamInterface<Parameters> {
 protected:
     ListItemTest() { test::setHardwareVariant(variant()); }
@@ -148,6 +160,24 @@ TEST_P(ListItemTest, CodeTwoDeletesThePrivateSide)
     EXPECT_EQ(item->getPrivateImplemetation(), nullptr);
     expectAllOnGuiThread();
     EXPECT_THAT(reached(), ElementsAre("~" + rowClass() + "()"));
+}
+
+TEST_P(ListItemTest, DerivedRowMakesTheBasesPrivateSideWhenItIsCompleteItself)
+{
+    run([&] { item = std::make_unique<DerivedRow>(); });
+    expectAllOnGuiThread();
+    EXPECT_THAT(reached(), ElementsAre(callText(rowClass(), std::string(), from() == From::GUI_THREAD)));
+}
+
+TEST_P(ListItemTest, DerivedRowPutsAPrivateSideOfItsOwnInPlaceOfTheBases)
+{
+    run([&] { item = std::make_unique<DerivedRow>(); });
+    gui.call([&] { static_cast<DerivedRow*>(item.get())->replace("own"); });
+    run([&] { EXPECT_EQ(item->getText(), "own"); });
+    reached();
+    run([&] { item.reset(); });
+    expectAllOnGuiThread();
+    EXPECT_THAT(reached(), ElementsAre("~ListItemPrivate()"));
 }
 
 TEST_P(ListItemTest, ContextMenuArrowDoesNothing)

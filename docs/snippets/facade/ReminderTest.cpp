@@ -1,0 +1,116 @@
+#include "Reminder.h"
+
+#include "DisplayAPI/Display.h"
+#include "DisplayPrivate.h"
+#include "ReminderPrivateIfc.h"
+#include "Variant.h"
+#include "doubles/FakeStartUp.h"
+#include "presentation/PRESCPresentationManager.h"
+#include "support/FacadeContract.h"
+#include "utilities/TranslationInfo.h"
+
+using DisplayAPI::Display;
+using DisplayAPI::DisplayPrivate;
+using DisplayAPI::Reminder;
+using doubles::Recorder;
+using test::Filling;
+using testing::ElementsAre;
+
+namespace {
+
+constexpr int CREATE = 0, DESTROY = 1, GET_MINUTES = 5, DISMISS = 6;
+
+struct Reminders : test::WidgetSubject<Reminder> {
+    explicit Reminders(bool hasPrivateSide)
+    {
+        facade = std::make_unique<Reminder>();
+        if (!hasPrivateSide)
+            endSide(DESTROY);
+    }
+
+    static std::string arrival(const std::string& call)
+    {
+        return (DisplayAPI::isFullPanel() ? "ReminderPrivate::" : "ReminderPrivateWP1::") + call;
+    }
+
+    TranslationInfo translation{"Call.Back", nullptr};
+};
+
+const bool CHECKED = test::Contract<Reminders>("ReminderContractTest")
+                         .posts("setText", 2, [](Reminders& r) { r->setText("Call back"); })
+                         .record({.text1 = "Call back"})
+                         .arrives("setText(\"Call back\")")
+                         .posts("setTranslation", 3, [](Reminders& r) { r->setText(&r.translation); })
+                         .record([](Reminders& r) { return Filling{.ptr1 = &r.translation}; })
+                         .arrives([](Reminders& r) { return doubles::callText("setText", &r.translation); })
+                         .posts("setUrgency", 4, [](Reminders& r) { r->setUrgency(Reminder::URGENT); })
+                         .record({.int1 = 1})
+                         .arrives("setUrgency(1)")
+                         .waits("getMinutes", 5, 5, -1, [](Reminders& r) { return r->getMinutes(); })
+                         .arrives("getMinutes()")
+                         .posts("dismiss", 6, [](Reminders& r) { r->dismiss(); })
+                         .arrives("dismiss()")
+                         .completes({-1, 7, 99})
+                         .check();
+
+class ReminderTest : public test::SteppedTest {
+protected:
+    ReminderTest() { recorder.clear(); }
+
+    Recorder& recorder = Recorder::instance();
+};
+
+TEST_F(ReminderTest, AnotherThreadMakesAndDeletesOne)
+{
+    test::Worker worker([] { Reminder reminder; });
+    EXPECT_TRUE(worker.isBlocked());
+    EXPECT_THAT(gui.queuedCodes(), ElementsAre(CREATE, DESTROY));
+    gui.runAll();
+    worker.join();
+    EXPECT_EQ(recorder.count("ReminderPrivate("), 1);
+    EXPECT_EQ(recorder.count("~ReminderPrivate()"), 1);
+}
+
+TEST_F(ReminderTest, PanelDecidesWhichPrivateSideIsMade)
+{
+    const test::OnPanel small(test::Panel::SMALL);
+    const Reminder reminder;
+    EXPECT_EQ(recorder.count("ReminderPrivateWP1("), 1);
+}
+
+TEST_F(ReminderTest, GetMinutesWaitsForTheGuiThread)
+{
+    Reminder reminder;
+    int minutes = 0;
+    test::Worker worker([&] { minutes = reminder.getMinutes(); });
+    EXPECT_TRUE(worker.isBlocked());
+    EXPECT_THAT(gui.queuedCodes(), ElementsAre(GET_MINUTES));
+    gui.runAll();
+    worker.join();
+    EXPECT_EQ(minutes, 5);
+    EXPECT_EQ(recorder.last("ReminderPrivate::getMinutes").thread, Threadable::currentThreadId());
+}
+
+TEST_F(ReminderTest, SeveralDismissalsThatAreQueuedAreOne)
+{
+    Reminder reminder;
+    test::onOtherThread([&] {
+        reminder.dismiss();
+        reminder.dismiss();
+    });
+    EXPECT_THAT(gui.queuedCodes(), ElementsAre(DISMISS));
+    gui.runAll();
+}
+
+TEST_F(ReminderTest, IsTakenOffTheScreenWhenItIsDeleted)
+{
+    Display display(new DisplayPrivate(false, "any", "", "", "", "", nullptr, nullptr, new doubles::FakeStartUp, true));
+    display.show();
+    auto reminder = std::make_unique<Reminder>();
+    display.setCurrent(reminder.get());
+    EXPECT_EQ(reminder->getPrivateImpl()->getWidget()->Parent(), gpPresent);
+    reminder.reset();
+    EXPECT_EQ(display.getCurrent(), nullptr);
+}
+
+} // namespace
