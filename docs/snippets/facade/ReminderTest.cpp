@@ -2,10 +2,9 @@
 
 #include "DisplayAPI/Display.h"
 #include "DisplayPrivate.h"
-#include "ReminderPrivateIfc.h"
 #include "Variant.h"
 #include "doubles/FakeStartUp.h"
-#include "presentation/PRESCPresentationManager.h"
+#include "doubles/Screen.h"
 #include "support/FacadeContract.h"
 #include "utilities/TranslationInfo.h"
 
@@ -102,15 +101,17 @@ TEST_F(ReminderTest, SeveralDismissalsThatAreQueuedAreOne)
     gui.runAll();
 }
 
-TEST_F(ReminderTest, IsTakenOffTheScreenWhenItIsDeleted)
+TEST_F(ReminderTest, ScreenBelowHasTheUserAgainWhenItIsDeleted)
 {
     Display display(new DisplayPrivate(false, "any", "", "", "", "", nullptr, nullptr, new doubles::FakeStartUp, true));
-    display.show();
+    doubles::Screen menu("menu");
     auto reminder = std::make_unique<Reminder>();
+    display.show();
+    display.setCurrent(&menu);
     display.setCurrent(reminder.get());
-    EXPECT_EQ(reminder->getPrivateImpl()->getWidget()->Parent(), gpPresent);
+    EXPECT_EQ(display.getCurrent(), reminder.get());
     reminder.reset();
-    EXPECT_EQ(display.getCurrent(), nullptr);
+    EXPECT_EQ(display.getCurrent(), &menu);
 }
 
 } // namespace
