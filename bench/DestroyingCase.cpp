@@ -1,6 +1,6 @@
 #include "Cases.h"
-#include "OnGuiThread.h"
 #include "Phone.h"
+#include "kit/OnGuiThread.h"
 
 #include "DisplayAPI/List.h"
 #include "DisplayAPI/ListItem.h"
@@ -36,7 +36,7 @@ double clearRows()
     std::latch busy(1);
     std::latch queued(1);
     std::thread clearing([&] {
-        OnGuiThread::run([&] {
+        DisplayAPI::kit::onGuiThread([&] {
             busy.count_down();
             queued.wait();
             const auto start = Clock::now();
