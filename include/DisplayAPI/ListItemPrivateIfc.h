@@ -17,10 +17,11 @@ public:
     /// The language has changed: look translated texts up again.
     virtual void localeChanged(std::string locale) = 0;
 
-    /// The toolkit row has been given to a list that will delete it.
+    /// Somebody else deletes the toolkit row from now on. The library does not call it, and a toolkit's list deletes no
+    /// row: each goes with its side.
     virtual void releaseOwnership() = 0;
 
-    /// The toolkit row has been taken back; this side deletes it again.
+    /// This side deletes the toolkit row again.
     virtual void gainOwnership();
 
     virtual void setText(std::string text);
