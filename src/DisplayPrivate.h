@@ -169,11 +169,11 @@ private:
     VisibleRectMonitor mVisibleRectMonitor;
     std::unique_ptr<StatusMessage> mStatusWidget; ///< null when none is up
     std::string mClipboard;
-    std::vector<StackWalk*> mWalks;    ///< over mItemList, under way; the innermost is the last
-    bool mStackChangeUnderWay = false; ///< who is shown in the end is still to be decided
     CriticalSection mListenerSection;
     std::unique_ptr<ContentWidgetFactoryIfc> mFactory;
     std::unique_ptr<PegInitAndCleanUpIfc> mStartUp;
+    std::vector<StackWalk*> mWalks;    ///< over mItemList, under way; the innermost is the last
+    bool mStackChangeUnderWay = false; ///< who is shown in the end is still to be decided
 };
 
 } // namespace DisplayAPI

@@ -15,7 +15,8 @@ class ItemStateListener;
 /// Ownership: created and deleted by the application; a display never deletes one. Its toolkit widget belongs to the
 /// presentation manager while it is on a display's stack. A class of its own deletes its private side with
 /// deletePrivateSide(), in a request that its destructor waits for; a displayable without such a request is deleted on
-/// the GUI thread, or when no display has shown it. A request that a class does not handle is not completed here: do not wait for one.
+/// the GUI thread, or when no display has shown it. A request that a class does not handle is not completed here: do
+/// not wait for one.
 class DISPLAYAPI_EXPORT Displayable : public Widget {
 public:
     Displayable();

@@ -25,14 +25,14 @@ class Ticker;
 /// thread keep their order.
 /// Ownership: the list owns the rows that getItems() tells of, whether or not it has an implementation that shows them;
 /// clear() and the destructor delete them. A row belongs to the list as soon as append(), insertAt() or replace() has
-/// been carried out. removeAt(), remove(), removeAll() and replace() give rows back to the caller. The row pointers that
-/// getItems() and getSelected() return stay the list's. Put a row into one list, once. Listeners, tickers, dialers and translations are not owned and have to live
-/// until the list has let go of them: after removeCommandListener() until a waiting call such as size() has returned.
-/// Memory: each call on the GUI thread that changes or asks the list, but for clear(), getItems(), getTicker(),
-/// getDialer() and localeChanged(), leaves a record of 200 bytes behind for good, plus a text of more than 15 bytes.
-/// Change long lists from another thread, whose records are used again.
-/// A class derived from this one may meet its first request before its constructor has ended, and its last one after
-/// its destructor has begun: derive on the GUI thread, or from List(ListBoxPrivateIfc*) as ExclusiveList does.
+/// been carried out. removeAt(), remove(), removeAll() and replace() give rows back to the caller. The row pointers
+/// that getItems() and getSelected() return stay the list's. Put a row into one list, once. Listeners, tickers, dialers
+/// and translations are not owned and have to live until the list has let go of them: after removeCommandListener()
+/// until a waiting call such as size() has returned. Memory: each call on the GUI thread that changes or asks the list,
+/// but for clear(), getItems(), getTicker(), getDialer() and localeChanged(), leaves a record of 200 bytes behind for
+/// good, plus a text of more than 15 bytes. Change long lists from another thread, whose records are used again. A
+/// class derived from this one may meet its first request before its constructor has ended, and its last one after its
+/// destructor has begun: derive on the GUI thread, or from List(ListBoxPrivateIfc*) as ExclusiveList does.
 class DISPLAYAPI_EXPORT List : public Displayable {
 public:
     /// A list with a way back: on the 240 x 128 panel list types 2 and 3, on the 208 x 42 panel 1 and 3.

@@ -18,9 +18,9 @@ struct NoHome {
 /// Pointers in an order that changes in the middle: a list's rows. Not owned.
 ///
 /// They lie in chunks, so that a change moves a chunk's elements at the most, and a position is found by adding up the
-/// chunks' sizes: at a million elements each operation takes a few microseconds at the most. `Home`, where it is given, lets
-/// an element remember its chunk (`static void*& of(Element&)`), so that find() is as quick.
-/// The size of three pointers. Not for several threads at once.
+/// chunks' sizes: at a million elements each operation takes a few microseconds at the most. `Home`, where it is given,
+/// lets an element remember its chunk (`static void*& of(Element&)`), so that find() is as quick. The size of three
+/// pointers. Not for several threads at once.
 template <typename Element, typename Home = NoHome>
 class Sequence {
 public:

@@ -120,7 +120,7 @@ TEST_F(DisplayPrivateLifeTest, AFilterIsInstalledWhereItIsAskedForAndTakenOutWit
 TEST_F(DisplayPrivateLifeTest, ADisplayThatOutlivesASecondOneCarriesOutWhatIsQueued)
 {
     auto later = std::make_unique<DisplayPrivate>(false, "any", "", "", "", "", nullptr, nullptr,
-                                                   new doubles::FakeStartUp, true);
+                                                  new doubles::FakeStartUp, true);
     test::TestWidget widget;
     widget.postEventAsync(1);
     test::Worker caller([&] { widget.postEvent(2); });

@@ -14,7 +14,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 // No unnamed namespace: the compiler warns of rows that derive from such types.
-namespace phones {
+namespace test {
 
 enum class Mode { DIAL, EDIT };
 
@@ -140,9 +140,9 @@ private:
     PhonePrivate* mImplementation = nullptr;
 };
 
-} // namespace phones
+} // namespace test
 
-using namespace phones;
+using namespace test;
 
 namespace {
 

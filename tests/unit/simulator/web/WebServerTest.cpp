@@ -3,7 +3,6 @@
 #include "simulator/web/PortCheck.h"
 
 #include <atomic>
-#include <deque>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <netinet/in.h>
@@ -91,10 +90,9 @@ private:
     bool mIsOpen = true;
 };
 
-/// Pages that do not answer soon lose their places.
 class WebServerTest : public testing::Test {
 protected:
-    explicit WebServerTest(milliseconds pause = HEARTBEAT) : heartbeat(pause) { EXPECT_EQ(server.error(), ""); }
+    WebServerTest() { EXPECT_EQ(server.error(), ""); }
     ~WebServerTest() override { broadcaster.end(); }
 
     std::string answerTo(const std::string& request) const
@@ -104,14 +102,13 @@ protected:
         return client.receiveAll();
     }
 
-    /// Returns everything up to what is awaited.
-    std::string openSocket(Client& client, const std::string& awaited = "HTTP/1.1 101 ") const
+    void openSocket(Client& client) const
     {
         const std::string name = endpoint.addressAndPort();
         client.send("GET /socket HTTP/1.1\r\nHost: " + name + "\r\nOrigin: http://" + name +
                     "\r\nUpgrade: websocket\r\nConnection: Upgrade\r\nSec-WebSocket-Version: 13\r\n"
                     "Sec-WebSocket-Key: dGhlIHNhbXBsZSBub25jZQ==\r\n\r\n");
-        return client.receiveUntil(awaited);
+        client.receiveUntil("HTTP/1.1 101 ");
     }
 
     static Endpoint freeEndpoint()
@@ -121,7 +118,6 @@ protected:
         return endpoint;
     }
 
-    const milliseconds heartbeat;
     const Endpoint endpoint = freeEndpoint();
     KeyPad keys;
     std::atomic<bool> standsStill{false};
@@ -129,13 +125,7 @@ protected:
                                 return host::Picture{8, 8, std::vector<std::uint8_t>(64), {}, 1};
                             },
                             [this] { return standsStill.load(); }};
-    WebServer server{endpoint, "Good morning", broadcaster, keys, heartbeat};
-};
-
-/// Pages may take their time.
-class PatientWebServerTest : public WebServerTest {
-protected:
-    PatientWebServerTest() : WebServerTest(simulator::Heartbeat::PAUSE) {}
+    WebServer server{endpoint, "Good morning", broadcaster, keys, HEARTBEAT};
 };
 
 TEST_F(WebServerTest, PageIsServedUnderNamesOfThisMachine)
@@ -153,47 +143,6 @@ TEST_F(WebServerTest, NobodyElsesPageIsAllowedToRead)
                                  "\r\nOrigin: http://example.org\r\nAccess-Control-Request-Method: GET"),
                         Not(HasSubstr("Access-Control-Allow-")))
                 << method << ' ' << host;
-}
-
-TEST_F(PatientWebServerTest, PageIsGreetedFirst)
-{
-    Client client(endpoint.port);
-    const std::string all = openSocket(client, "rows");
-    EXPECT_LT(all.find("Good morning"), all.find("rows"));
-}
-
-TEST_F(PatientWebServerTest, PageIsToldThatTheGuiThreadStandsStillAndThatItGoesOn)
-{
-    Client client(endpoint.port);
-    EXPECT_THAT(openSocket(client, "rows"), Not(HasSubstr("standing")));
-    standsStill = true;
-    client.receiveUntil(R"({"standing":true})");
-    standsStill = false;
-    client.receiveUntil(R"({"standing":false})");
-}
-
-TEST_F(PatientWebServerTest, PageThatComesLaterHearsOfAStandstillBeforeThePicture)
-{
-    standsStill = true;
-    Client client(endpoint.port);
-    const std::string all = openSocket(client, "rows");
-    EXPECT_LT(all.find(R"({"standing":true})"), all.find("rows"));
-}
-
-TEST_F(PatientWebServerTest, PageForWhichThereIsNoRoomIsToldAndClosed)
-{
-    std::deque<Client> clients;
-    for (std::size_t i = 0; i < Broadcaster::MOST_PAGES; ++i) {
-        Client& client = clients.emplace_back(endpoint.port);
-        const std::string all = openSocket(client, "rows");
-        EXPECT_THAT(all, Not(HasSubstr("full")));
-    }
-    Client late(endpoint.port);
-    EXPECT_THAT(openSocket(late, "full"), HasSubstr(R"({"full":16})"));
-    late.send(masked('\x88', ""));
-    late.receiveAll();
-    EXPECT_FALSE(late.isOpen());
-    EXPECT_EQ(broadcaster.pageCount(), Broadcaster::MOST_PAGES);
 }
 
 TEST_F(WebServerTest, SilentPageLosesItsPlace)
