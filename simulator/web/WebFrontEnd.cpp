@@ -56,8 +56,8 @@ struct WebFrontEnd::Session {
     host::Lcd& lcd;
     KeyPad keys;
     Broadcaster broadcaster;
+    QuitOnSignal quitOnSignal; ///< before the server: who sees it may send a signal
     WebServer server;
-    QuitOnSignal quitOnSignal;
 };
 
 WebFrontEnd::WebFrontEnd() = default;

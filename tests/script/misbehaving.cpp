@@ -1,5 +1,5 @@
 // An application that does one thing wrong when the user chooses the first row: `misbehaving
-// crash|exit|leave|linger|quit|stall`. `deaf` never runs its loop, `never` does all well.
+// crash|exit|exit-at-once|leave|linger|quit|stall`. `deaf` never runs its loop, `never` does all well.
 
 #include "DisplayAPI/CommandListener.h"
 #include "DisplayAPI/Display.h"
@@ -38,7 +38,7 @@ public:
             std::abort();
         if (mWay == "exit")
             std::_Exit(3);
-        if (mWay == "quit")
+        if (mWay == "exit-at-once")
             std::exit(4);
         if (mWay == "leave")
             leaveSoon();
