@@ -92,7 +92,7 @@ private:
     /// What is queued when the GUI thread deletes the facade never runs, and who waits is woken.
     void endWhileQueued(const Row& row)
     {
-        if (!Subject::PURGES || mFrom == From::GUI_THREAD)
+        if (!Subject::PURGES || row.readsAfterwards || mFrom == From::GUI_THREAD)
             return;
         SCOPED_TRACE("deleted while the request is queued");
         Subject subject(true);

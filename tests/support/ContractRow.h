@@ -1,10 +1,11 @@
 #pragma once
 
 #include "doubles/Recorder.h"
+#include "support/SourceLine.h"
 #include "support/WidgetCarrier.h"
 
 #include <functional>
-#include <source_location>
+
 #include <string>
 #include <type_traits>
 #include <vector>
@@ -20,7 +21,7 @@ struct ContractRow {
     std::string name;
     int code;
     bool waits;
-    std::source_location where;
+    SourceLine where;
 
     /// Calls it and returns the answer as text; empty where it has none.
     std::function<std::string(Subject&)> call = {};
@@ -34,6 +35,7 @@ struct ContractRow {
     std::function<std::string(Subject&)> answer = [](Subject&) { return std::string(); };
     std::string neutral = {};
     bool needsAddress = false;
+    bool readsAfterwards = false;
 };
 
 /// An answer as the rows of a contract compare it.

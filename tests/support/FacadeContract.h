@@ -61,13 +61,13 @@ public:
     explicit Contract(std::string suite) : mSuite(std::move(suite)) {}
 
     template <typename Call>
-    Contract& posts(std::string name, int code, Call call, std::source_location where = std::source_location::current())
+    Contract& posts(std::string name, int code, Call call, SourceLine where = SourceLine::current())
     {
         return add(std::move(name), code, false, call, where);
     }
 
     template <typename Call>
-    Contract& waits(std::string name, int code, Call call, std::source_location where = std::source_location::current())
+    Contract& waits(std::string name, int code, Call call, SourceLine where = SourceLine::current())
     {
         return add(std::move(name), code, true, call, where);
     }
@@ -77,19 +77,26 @@ public:
     /// record is given the address of a variable of that type.
     template <typename Told, typename Call>
     Contract& posts(std::string name, int code, Told answer, AnswerOf<Call> neutral, Call call,
-                    std::source_location where = std::source_location::current())
+                    SourceLine where = SourceLine::current())
     {
         return add(std::move(name), code, false, answer, neutral, call, where);
     }
 
     template <typename Told, typename Call>
     Contract& waits(std::string name, int code, Told answer, AnswerOf<Call> neutral, Call call,
-                    std::source_location where = std::source_location::current())
+                    SourceLine where = SourceLine::current())
     {
         return add(std::move(name), code, true, answer, neutral, call, where);
     }
 
     // More of the last row
+
+    /// The operation looks at its facade when its wait is over: nobody may delete the facade meanwhile.
+    Contract& readsAfterwards()
+    {
+        mRows.back().readsAfterwards = true;
+        return *this;
+    }
 
     /// What the record of the call has in its fields; otherwise it has no arguments.
     Contract& record(Filling filling)
@@ -168,7 +175,7 @@ private:
     using Check = ContractCheck<Subject>;
 
     template <typename Call>
-    Contract& add(std::string name, int code, bool waits, Call call, std::source_location where)
+    Contract& add(std::string name, int code, bool waits, Call call, SourceLine where)
     {
         Row& row = mRows.emplace_back(Row{std::move(name), code, waits, where});
         row.call = [call](Subject& subject) { return call(subject), std::string(); };
@@ -178,7 +185,7 @@ private:
 
     template <typename Told, typename Call>
     Contract& add(std::string name, int code, bool waits, Told answer, AnswerOf<Call> neutral, Call call,
-                  std::source_location where)
+                  SourceLine where)
     {
         using Answer = AnswerOf<Call>;
         Row& row = mRows.emplace_back(Row{std::move(name), code, waits, where});
@@ -214,7 +221,7 @@ private:
     }
 
     template <typename Body>
-    void addTest(const std::string& name, std::source_location where, Panel panel, From from, Body body) const
+    void addTest(const std::string& name, SourceLine where, Panel panel, From from, Body body) const
     {
         const auto test = [=] {
             const OnPanel there(panel);
@@ -222,8 +229,7 @@ private:
             Check check(gui, from);
             body(check);
         };
-        testing::RegisterTest(mSuite.c_str(), name.c_str(), nullptr, nullptr, where.file_name(),
-                              static_cast<int>(where.line()),
+        testing::RegisterTest(mSuite.c_str(), name.c_str(), nullptr, nullptr, where.file, where.line,
                               [=]() -> testing::Test* { return new ContractTest(test); });
     }
 
