@@ -104,7 +104,8 @@ public:
         return record([=](Subject&) { return filling; });
     }
 
-    Contract& record(std::function<Filling(Subject&)> filling)
+    template <std::invocable<Subject&> Fill>
+    Contract& record(Fill filling)
     {
         mRows.back().filling = std::move(filling);
         return *this;
