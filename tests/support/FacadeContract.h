@@ -250,7 +250,18 @@ struct WidgetSubject {
 
     Facade& operator*() const { return *facade; }
     Facade* operator->() const { return facade.get(); }
-    void end() { facade.reset(); }
+    ~WidgetSubject()
+    {
+        if (isEnded)
+            static_cast<void>(facade.release());
+    }
+
+    /// The pointer stays as it is: another thread has read it.
+    void end()
+    {
+        delete facade.get();
+        isEnded = true;
+    }
 
     /// Has the private side deleted by the request that the destructor posts: for facades that always make one.
     void endSide(int destroyCode)
@@ -264,6 +275,7 @@ struct WidgetSubject {
     static bool isArrival(const std::string& note) { return note.find("::") != std::string::npos; }
 
     std::unique_ptr<Facade> facade;
+    bool isEnded = false;
 };
 
 } // namespace test
