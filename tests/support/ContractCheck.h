@@ -100,6 +100,7 @@ private:
         std::string answer;
         Worker worker([&] { answer = row.call(subject); });
         EXPECT_EQ(worker.isBlocked(), row.waits);
+        mGui.waitForQueued(1); // what the worker did before it posted has happened
         subject.end();
         worker.join();
         EXPECT_EQ(answer, row.neutral);
