@@ -8,6 +8,8 @@
 #include <atomic>
 #include <limits>
 
+struct PegMessage;
+
 namespace DisplayAPI {
 
 /// What a widget shares with the posts on it. A post that has begun holds it as well, so the widget may be deleted
