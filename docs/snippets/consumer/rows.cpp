@@ -1,34 +1,40 @@
 #include "variants/list/ListItemPrivate.h"
 #include "widgets/KestrelListBoxItem.h"
 
-#include <string>
+#include <utility>
 
 // A row of another telephone: the library's header says what it has to be.
 
 namespace DisplayAPI {
 
-struct ListItemPrivate::Impl {
-    KestrelListBoxItem item{PegString()};
+struct ListItemSide::Impl {
+    TranslatedText text;
+    KestrelListBoxItem item{text.shown()};
 };
 
-ListItemPrivate::ListItemPrivate(std::string, bool) : mImpl(std::make_unique<Impl>()) {}
+ListItemSide::ListItemSide(TranslatedText text, Panel) : mImpl(new Impl{.text = std::move(text)}) {}
 
-ListItemPrivate::ListItemPrivate(TranslationInfo*, bool) : mImpl(std::make_unique<Impl>()) {}
+ListItemSide::~ListItemSide() = default;
 
-ListItemPrivate::~ListItemPrivate() = default;
+void ListItemSide::localeChanged(std::string)
+{
+    mImpl->item.DataSet(mImpl->text.shown());
+}
 
-void ListItemPrivate::localeChanged(std::string) {}
+void ListItemSide::releaseOwnership() {}
 
-void ListItemPrivate::releaseOwnership() {}
-
-void ListItemPrivate::gainOwnership()
+void ListItemSide::gainOwnership()
 {
     ListItemPrivateIfc::gainOwnership();
 }
 
-KestrelListBoxItem* ListItemPrivate::getKestrelListItem()
+KestrelListBoxItem* ListItemSide::getKestrelListItem()
 {
     return &mImpl->item;
 }
+
+ListItemPrivate::ListItemPrivate(std::string text, bool) : ListItemSide(TranslatedText(std::move(text)), Panel::FULL) {}
+
+ListItemPrivate::ListItemPrivate(TranslationInfo* text, bool) : ListItemSide(TranslatedText(text), Panel::FULL) {}
 
 } // namespace DisplayAPI
