@@ -10,19 +10,9 @@ async function inBlankPage(browser, work, ...parameters) {
 }
 
 /** A picture of the panel as levels, one digit a pixel: 0 is white, 3 is black. */
-export function levelsOf(browser, png) {
-  return inBlankPage(browser, async (source) => {
-    const image = new Image();
-    image.src = source;
-    await image.decode();
-    const canvas = new OffscreenCanvas(image.width, image.height);
-    const pen = canvas.getContext("2d");
-    pen.drawImage(image, 0, 0);
-    const { data } = pen.getImageData(0, 0, image.width, image.height);
-    let levels = "";
-    for (let i = 0; i < data.length; i += 4) levels += 3 - Math.round(data[i] / 85);
-    return { width: image.width, height: image.height, levels };
-  }, `data:image/png;base64,${png.toString("base64")}`);
+export async function levelsOf(browser, png) {
+  const { width, height, pixels } = await pixelsOf(browser, png);
+  return { width, height, levels: pixels.map(([red]) => 3 - Math.round(red / 85)).join("") };
 }
 
 /**
