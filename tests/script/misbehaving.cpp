@@ -1,11 +1,11 @@
 // An application that does one thing wrong when the user chooses the first row: `misbehaving
 // crash|exit|exit-at-once|leave|linger|quit|stall`. `deaf` never runs its loop, `never` does all well.
 
-#include "DisplayAPI/CommandListener.h"
 #include "DisplayAPI/Display.h"
 #include "DisplayAPI/List.h"
 #include "host/Phone.h"
 #include "host/toolkit/Loop.h"
+#include "kit/Subscription.h"
 #include "utilities/TranslationInfo.h"
 #include "utilities/TranslatorIfc.h"
 
@@ -28,11 +28,11 @@ class SlowTranslator : public TranslatorIfc {
     }
 };
 
-class Wrongdoer : public CommandListener {
+class Wrongdoer {
 public:
     explicit Wrongdoer(std::string_view way) : mWay(way) {}
 
-    void commandAction(Command*, Displayable* screen) override
+    void doWrong(List& list)
     {
         if (mWay == "crash")
             std::abort();
@@ -45,7 +45,7 @@ public:
         if (mWay == "quit")
             host::Loop::quit();
         if (mWay == "stall")
-            static_cast<List*>(screen)->append(&mSlow);
+            list.append(&mSlow);
     }
 
 private:
@@ -71,7 +71,7 @@ int main(int, char** words)
     Wrongdoer wrongdoer(way);
     List list(2);
     list.append("Do it");
-    list.addCommandListener(&wrongdoer);
+    const kit::Subscription chosen(list, [&](Command*) { wrongdoer.doWrong(list); });
     display.show();
     display.setCurrent(&list);
     while (way == "deaf")
