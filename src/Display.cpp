@@ -4,6 +4,7 @@
 #include "DisplayAPI/Widget.h"
 #include "DisplayOperations.h"
 #include "DisplayPrivate.h"
+#include "GuiThread.h"
 #include "toolkit/PegFunctions.h"
 #include "utilities/Rect.h"
 #include "utilities/Semaphore.h"
@@ -101,6 +102,7 @@ void Display::init(DisplayPrivateIfc* implementation)
 
 Display::~Display()
 {
+    onlyOnGuiThread("Display::~Display()");
     // Deleting the implementation stops the toolkit, and with it the tools that may still be asking this display.
     delete mImplementation;
     Display* self = this;
@@ -117,6 +119,7 @@ Display* Display::latest()
 
 void Display::processDisplayRequest(DisplayRequestEvent* request)
 {
+    onlyOnGuiThread("Display::processDisplayRequest()");
     if (!Ops::carryOut(*mImplementation, *request))
         processOddRequest(*request);
     request->requestCompleted();

@@ -3,6 +3,7 @@
 #include "CommandExecutor.h"
 #include "DisplayAPI/ItemStateListener.h"
 #include "DisplayPrivate.h"
+#include "GuiThread.h"
 
 namespace DisplayAPI {
 
@@ -27,12 +28,14 @@ void Displayable::addItemStateListener(ItemStateListener* listener)
 
 void Displayable::callListeners(Item* item)
 {
+    onlyOnGuiThread("Displayable::callListeners()");
     for (std::size_t i = 0; i < mItemStateListeners.size(); ++i)
         mItemStateListeners[i]->postItemStateChange(item);
 }
 
 void Displayable::leaveDisplay()
 {
+    onlyOnGuiThread("Displayable::leaveDisplay()");
     DisplayPrivate::dismissEverywhere(this);
 }
 

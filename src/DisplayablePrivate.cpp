@@ -3,6 +3,7 @@
 #include "DisplayAPI/CommandListener.h"
 #include "DisplayAPI/DisplayPrivateIfc.h"
 #include "DisplayAPI/ScreenText.h"
+#include "GuiThread.h"
 
 #include <algorithm>
 
@@ -32,6 +33,7 @@ DisplayPrivateIfc* DisplayablePrivate::display() const
 
 void DisplayablePrivate::connectDisplayChangedSignal(DisplayPrivateIfc* display)
 {
+    onlyOnGuiThread("DisplayablePrivate::connectDisplayChangedSignal()");
     mDisplay = display;
 }
 
@@ -47,6 +49,7 @@ std::string DisplayablePrivate::serialise(const std::vector<DisplayAPIUtils::Rec
 
 void DisplayablePrivate::widgetDismissed(DisplayablePrivate* dismissed)
 {
+    onlyOnGuiThread("DisplayablePrivate::widgetDismissed()");
     if (DisplayPrivateIfc* attachedTo = display())
         attachedTo->widgetDismissed(dismissed);
 }
@@ -55,6 +58,7 @@ void DisplayablePrivate::enable(bool) {}
 
 void DisplayablePrivate::addCommandListener(CommandListener* listener)
 {
+    onlyOnGuiThread("DisplayablePrivate::addCommandListener()");
     const auto known = std::find(mCommandListeners.begin(), mCommandListeners.end(), listener);
     if (listener != nullptr && known == mCommandListeners.end())
         mCommandListeners.push_back(listener);
@@ -62,17 +66,20 @@ void DisplayablePrivate::addCommandListener(CommandListener* listener)
 
 void DisplayablePrivate::removeCommandListener(CommandListener* listener)
 {
+    onlyOnGuiThread("DisplayablePrivate::removeCommandListener()");
     std::erase(mCommandListeners, listener);
 }
 
 void DisplayablePrivate::join(DisplayablePrivate* other)
 {
+    onlyOnGuiThread("DisplayablePrivate::join()");
     if (other != nullptr)
         mDisplay = other->display();
 }
 
 void DisplayablePrivate::disjoin()
 {
+    onlyOnGuiThread("DisplayablePrivate::disjoin()");
     mDisplay = nullptr;
 }
 
@@ -92,6 +99,7 @@ bool DisplayablePrivate::hasSystemWindow()
 
 void DisplayablePrivate::postCommand(Command* command, Displayable* displayable)
 {
+    onlyOnGuiThread("DisplayablePrivate::postCommand()");
     // A listener may change the list while it is told.
     const std::vector<CommandListener*> listeners = mCommandListeners;
     for (CommandListener* listener : listeners)
@@ -100,6 +108,7 @@ void DisplayablePrivate::postCommand(Command* command, Displayable* displayable)
 
 void DisplayablePrivate::generateDisplayChangedEvent()
 {
+    onlyOnGuiThread("DisplayablePrivate::generateDisplayChangedEvent()");
     if (DisplayPrivateIfc* attachedTo = display())
         attachedTo->displayChanged();
 }

@@ -5,6 +5,7 @@
 #include "DisplayAPI/ListItem.h"
 #include "DisplayAPI/ListItemPrivateIfc.h"
 #include "DisplayAPI/Ticker.h"
+#include "GuiThread.h"
 #include "Log.h"
 #include "Operations.h"
 #include "Variant.h"
@@ -138,6 +139,7 @@ DisplayablePrivateIfc* List::getPrivateImpl()
 
 void List::cleanup()
 {
+    onlyOnGuiThread("List::cleanup()");
     gLog(TRACE, 148, "DAPI::List::cleanup() this: %p\n", static_cast<void*>(this));
     deletePrivateSide(mImplementation);
     deleteItems();
@@ -288,6 +290,7 @@ void List::hide()
 
 void List::localeChanged(std::string locale)
 {
+    onlyOnGuiThread("List::localeChanged()");
     mItems.forEach([&](ListItem* item) {
         if (ListItemPrivateIfc* row = item->getPrivateImplemetation())
             row->localeChanged(locale);

@@ -72,12 +72,16 @@ TEST_F(DisplayResultLockTest, TheNextResultWaitsUntilTheLastOneHasBeenTaken)
         test::waitUntil([&] { return holding.served == 1; });
 
         Record next(&held, code, nullptr, false);
-        Worker guiThread([&] { held.processDisplayRequest(&next); });
+        Worker guiThread([&] {
+            Widget::setGuiThreadId();
+            held.processDisplayRequest(&next);
+        });
         EXPECT_TRUE(guiThread.isBlocked());
         EXPECT_EQ(holding.serialisations, 1) << "the lock is taken before the screen is described";
         holding.gate.open();
         guiThread.join();
         requester.join();
+        Widget::setGuiThreadId();
         EXPECT_EQ(text, "1");
         EXPECT_EQ(holding.serialisations, 2);
     }

@@ -29,6 +29,11 @@ Displayable* const POPUP = reinterpret_cast<Displayable*>(0x2000);
 
 class DisplayTest : public test::FacadeTest, public testing::WithParamInterface<From> {
 protected:
+    ~DisplayTest() override
+    {
+        gui.call([this] { display.reset(); });
+    }
+
     void run(const std::function<void()>& work) { FacadeTest::run(GetParam(), work); }
 
     /// What has arrived, without the posts.
@@ -196,18 +201,14 @@ TEST_P(DisplayTest, ATimeTextThatIsTooShortCountsAsZeros)
                             "display: setTimeInSystemWindow(12, 3, 0)", "display: setTimeInSystemWindow(12, 34, 0)"));
 }
 
-TEST_P(DisplayTest, DeletingTheDisplayDeletesThePrivateSide)
-{
-    run([&] { display.reset(); });
-    EXPECT_THAT(reached(), ElementsAre("display: die()"));
-}
-
 INSTANTIATE_TEST_SUITE_P(From, DisplayTest, testing::Values(From::GUI_THREAD, From::WORKER),
                          [](const testing::TestParamInfo<From>& test) { return test::nameOf(test.param); });
 
 namespace {
 
 class DisplayOfManyThreadsTest : public DisplayTest {};
+
+class DisplayLifeTest : public DisplayTest {};
 
 class DisplayConstructionTest : public test::FacadeTest {};
 
@@ -230,6 +231,12 @@ TEST_F(DisplayOfManyThreadsTest, SerialisationsOfSeveralThreadsNeverMix)
     for (const auto& own : answers)
         all.insert(own.begin(), own.end());
     EXPECT_EQ(all.size(), std::size_t{THREADS * CALLS});
+}
+
+TEST_F(DisplayLifeTest, DeletingTheDisplayDeletesThePrivateSide)
+{
+    gui.call([&] { display.reset(); });
+    EXPECT_THAT(reached(), ElementsAre("display: die()"));
 }
 
 TEST(DisplayLostResultTest, APurgedSerialisationIsEmptyAndTheNextOneIsNot)

@@ -202,7 +202,6 @@ TEST_P(ListLogTest, OperationsWithoutALineWriteNone)
                   list.showDiallerOnInitialKeyEvent(true);
                   list.addCommandListener(nullptr);
                   list.removeCommandListener(nullptr);
-                  list.localeChanged("de");
                   list.replace(row, nullptr);
               }),
               Lines{});

@@ -90,7 +90,6 @@ TEST_F(ListPostTest, OperationsWithoutEffectPostNothing)
         list.setWrapAround(true);
         list.setEnabled(false);
         list.suppressAutoRightArrowForSoftKeys();
-        list.localeChanged("de");
     };
     EXPECT_EQ(test::postedBy(gui, callAll), (Posted{{}, RETURNS}));
 }

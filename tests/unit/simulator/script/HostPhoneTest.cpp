@@ -12,6 +12,7 @@
 #include <gmock/gmock.h>
 
 #include <atomic>
+#include <memory>
 #include <optional>
 
 namespace {
@@ -44,18 +45,17 @@ protected:
 
 TEST_F(HostPhoneTest, DisplayablesAreAskedForOnTheGuiThread)
 {
-    Display display(new DisplayPrivateDouble);
+    auto display = std::make_unique<Display>(new DisplayPrivateDouble);
     EXPECT_EQ(phone->displayables(), "1");
     EXPECT_EQ(phone->displayables(), "2");
+    gui.call([&] { display.reset(); });
     EXPECT_EQ(Recorder::instance().last("display: serialise").thread, gui.threadId());
 }
 
 TEST_F(HostPhoneTest, WithoutADisplayThereAreNoDisplayables)
 {
     EXPECT_EQ(phone->displayables(), "");
-    {
-        const Display gone(new DisplayPrivateDouble);
-    }
+    gui.call([] { const Display gone(new DisplayPrivateDouble); });
     EXPECT_EQ(phone->displayables(), "");
 }
 
