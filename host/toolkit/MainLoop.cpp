@@ -9,7 +9,6 @@
 #include "utilities/Threadable.h"
 
 #include <algorithm>
-#include <sched.h>
 
 namespace host {
 
@@ -39,15 +38,6 @@ void publish(unsigned int threadId)
     pthread_cond_broadcast(&status.becameIdle);
 }
 
-/// Where posters and the loop share one CPU, a loop that takes over as soon as it is woken meets a poster that still
-/// holds the queue's mutex, and has to hand back: two more switches of threads for each call. A batch thread waits.
-void yieldToPosters()
-{
-    const sched_param none{};
-    if (!Spin::hasCompany())
-        sched_setscheduler(0, SCHED_BATCH, &none);
-}
-
 } // namespace
 
 MainLoop* MainLoop::gRun = nullptr;
@@ -55,7 +45,6 @@ MainLoop* MainLoop::gRun = nullptr;
 MainLoop::MainLoop()
 {
     gRun = this;
-    yieldToPosters();
     publish(Threadable::currentThreadId());
 }
 

@@ -10,17 +10,6 @@ namespace host {
 
 namespace {
 
-/// Held for a few instructions at a time: who meets it taken spins before he sleeps, or he would be woken for each
-/// message.
-void initialise(pthread_mutex_t& mutex)
-{
-    pthread_mutexattr_t attributes;
-    pthread_mutexattr_init(&attributes);
-    pthread_mutexattr_settype(&attributes, PTHREAD_MUTEX_ADAPTIVE_NP);
-    pthread_mutex_init(&mutex, &attributes);
-    pthread_mutexattr_destroy(&attributes);
-}
-
 void initialise(pthread_cond_t& condition)
 {
     pthread_condattr_t attributes;
@@ -107,7 +96,7 @@ void MainQueue::create()
     if (gtPegMainQueue)
         return;
     auto* const queue = new PegMainQueue;
-    initialise(queue->mutex);
+    pthread_mutex_init(&queue->mutex, nullptr);
     initialise(queue->condition);
     gtPegMainQueue = queue;
 }

@@ -14,6 +14,8 @@
 
 namespace {
 
+using host::Spin;
+
 static_assert(std::endian::native == std::endian::little, "the permits are the low half and the futex word");
 
 /// Permits in the low half, sleeping threads in the high half: one store both gives a permit and tells whether
@@ -31,8 +33,8 @@ public:
         return false;
     }
 
-    /// A semaphore that starts with permits is used as a lock, others to announce something.
-    bool take(const host::Deadline& deadline, bool isLock)
+    /// Waits for a thread that ran on `partnersCpu`: a lock's holder, or who has something to announce.
+    bool take(const host::Deadline& deadline, bool isLock, int partnersCpu)
     {
         if (tryTake())
             return true;
@@ -40,8 +42,8 @@ public:
             return false;
         for (int races = isLock ? RACES_FOR_A_LOCK : 1; races > 0; --races) {
             if (isLock)
-                host::Spin::stayAway();
-            if (!host::Spin::until([this] { return low(mState.load(std::memory_order_relaxed)) > 0; }))
+                Spin::stayAway(partnersCpu);
+            if (!Spin::until([this] { return low(mState.load(std::memory_order_relaxed)) > 0; }, partnersCpu))
                 break;
             if (tryTake())
                 return true;
@@ -69,7 +71,7 @@ private:
     bool sleepAndTake(const host::Deadline& deadline)
     {
         mState.fetch_add(ONE_SLEEPER, std::memory_order_relaxed);
-        const host::Spin::Sleep sleep;
+        const Spin::Sleep sleep;
         bool taken = tryTake();
         for (bool inTime = true; !taken && inTime; taken = tryTake())
             inTime = deadline.sleep(&mState, 0);
@@ -119,6 +121,7 @@ private:
 
 } // namespace
 
+/// One that starts with permits is used as a lock, others to announce something.
 struct Semaphore::Impl {
     Impl(State state, int maximum, bool holderMayTakeAgain)
         : mPermits(static_cast<std::uint32_t>(state == AVAILABLE ? maximum : 0)),
@@ -131,7 +134,7 @@ struct Semaphore::Impl {
     {
         if (mHolders && mHolders->takeAgain())
             return true;
-        const bool taken = mPermits.tryTake() || mPermits.take(host::Deadline(milliseconds), mIsLock);
+        const bool taken = mIsLock ? takeLock(milliseconds) : takeAnnounced(milliseconds);
         if (taken && mHolders)
             mHolders->taken();
         return taken;
@@ -139,13 +142,35 @@ struct Semaphore::Impl {
 
     void give()
     {
-        if (!mHolders || !mHolders->keeps())
-            mPermits.give(mMaximum);
+        if (mHolders && mHolders->keeps())
+            return;
+        if (!mIsLock)
+            Spin::followWaiter(mCpu);
+        mPermits.give(mMaximum);
     }
 
 private:
+    bool takeLock(int milliseconds)
+    {
+        const bool taken = mPermits.tryTake() ||
+                           mPermits.take(host::Deadline(milliseconds), true, mCpu.load(std::memory_order_relaxed));
+        if (taken)
+            mCpu.store(Spin::cpu(), std::memory_order_relaxed);
+        return taken;
+    }
+
+    bool takeAnnounced(int milliseconds)
+    {
+        Spin::leaveTrace(mCpu);
+        const bool taken = mPermits.tryTake() || mPermits.take(host::Deadline(milliseconds), false, Spin::partner());
+        if (taken)
+            Spin::followWaker(mCpu);
+        return taken;
+    }
+
     Permits mPermits;
     const std::uint32_t mMaximum;
+    Spin::Trace mCpu{Spin::UNKNOWN}; ///< the holder's, or between taker and giver
     const bool mIsLock;
     const std::unique_ptr<Holders> mHolders;
 };

@@ -9,8 +9,9 @@ namespace {
 
 constexpr int WAITS_BETWEEN_LOOKS = 256;
 
-/// What a thread knows of its own waits.
+/// What a thread knows of its own waits, and of whom it waits for.
 struct Habits {
+    int partner = Spin::UNKNOWN;
     bool company = false;
     int waitsLeft = 0;
     bool sleepsLong = false;
@@ -24,10 +25,18 @@ bool mayUseSeveralCpus()
     return sched_getaffinity(0, sizeof cpus, &cpus) == 0 && CPU_COUNT(&cpus) > 1;
 }
 
+void meet(int partnersCpu)
+{
+    if (partnersCpu != Spin::UNKNOWN)
+        gHabits.partner = partnersCpu;
+}
+
 } // namespace
 
-bool Spin::hasCompany()
+bool Spin::runsElsewhere(int cpu)
 {
+    if (cpu != UNKNOWN)
+        return cpu != Spin::cpu();
     if (gHabits.waitsLeft-- <= 0)
         lookAgain();
     return gHabits.company;
@@ -39,19 +48,41 @@ void Spin::lookAgain()
     gHabits.waitsLeft = WAITS_BETWEEN_LOOKS;
 }
 
-bool Spin::isWorthwhile()
+bool Spin::isWorthwhile(int partnersCpu)
 {
-    return !gHabits.sleepsLong;
+    return !gHabits.sleepsLong && runsElsewhere(partnersCpu);
 }
 
-void Spin::yieldProcessor()
+std::int16_t Spin::cpu()
 {
-    sched_yield();
+    return static_cast<std::int16_t>(sched_getcpu());
+}
+
+int Spin::partner()
+{
+    return gHabits.partner;
+}
+
+void Spin::leaveTrace(Trace& trace)
+{
+    std::int16_t nobody = UNKNOWN; // a waker who came first has left his
+    trace.compare_exchange_strong(nobody, cpu(), std::memory_order_relaxed);
+}
+
+void Spin::followWaker(Trace& trace)
+{
+    meet(trace.exchange(UNKNOWN, std::memory_order_relaxed));
+}
+
+void Spin::followWaiter(Trace& trace)
+{
+    meet(trace.exchange(cpu(), std::memory_order_relaxed));
 }
 
 Spin::Sleep::~Sleep()
 {
     gHabits.sleepsLong = nanoseconds() - mStart > SHORT_SLEEP_NS;
+    gHabits.partner = UNKNOWN;
 }
 
 std::int64_t Spin::nanoseconds()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <cstdint>
 
 namespace host {
@@ -15,26 +16,26 @@ inline void relaxProcessor()
 }
 
 /// Waiting for a short while without sleeping: two threads on two CPUs answer each other faster than the kernel can
-/// wake either. On a single CPU the other thread cannot run meanwhile: there it is given way to, once. Where the
-/// thread's last sleep was a long one nothing of this is done, because the next one most likely is long too.
+/// wake either. A partner on the thread's own CPU cannot answer before the thread sleeps: so waiter and waker tell each
+/// other where they run. Where the thread's last sleep was a long one it does not spin, because the next one most
+/// likely is long too.
 class Spin {
 public:
     /// The longest that a spin lasts, and the longest sleep after which spinning is tried again.
     static constexpr std::int64_t LIMIT_NS = 50'000;
     static constexpr std::int64_t SHORT_SLEEP_NS = 200'000;
 
-    /// Spins until `ready()`; returns false when it has not come true in time.
+    /// In place of the number of a CPU.
+    static constexpr std::int16_t UNKNOWN = -1;
+
+    /// Spins until `ready()`, unless who is to bring that about ran on this very CPU; returns whether it has come true.
     template <typename Ready>
-    static bool until(Ready ready)
+    static bool until(Ready ready, int partnersCpu = partner())
     {
         if (ready())
             return true;
-        if (!isWorthwhile())
+        if (!isWorthwhile(partnersCpu))
             return false;
-        if (!hasCompany()) {
-            yieldProcessor();
-            return ready();
-        }
         if (someRounds(ready, [] {}))
             return true;
         for (const std::int64_t end = nanoseconds() + LIMIT_NS; nanoseconds() < end;)
@@ -45,17 +46,36 @@ public:
     }
 
     /// After a lost race for a lock that is held for a few instructions at a time: leaves its cache line alone for some
-    /// microseconds, in which whoever has it may use it many times over. Returns at once on a single CPU.
-    static void stayAway()
+    /// microseconds, in which whoever has it may use it many times over. Returns at once where that one ran on this
+    /// CPU.
+    static void stayAway(int holdersCpu = UNKNOWN)
     {
-        for (int rounds = hasCompany() ? ROUNDS_AWAY : 0; rounds > 0; --rounds)
+        for (int rounds = runsElsewhere(holdersCpu) ? ROUNDS_AWAY : 0; rounds > 0; --rounds)
             relaxProcessor();
     }
 
-    /// Whether the calling thread may run on more than one CPU. Remembered per thread, looked up again now and then.
-    static bool hasCompany();
+    /// Whether a thread that ran on `cpu` can run while the calling one spins. Of UNKNOWN it is assumed where the
+    /// calling thread may use several CPUs, which is remembered per thread and looked up again now and then.
+    static bool runsElsewhere(int cpu);
 
-    /// Stands around a sleep: how long it lasts decides whether the thread's next wait spins.
+    /// The CPU of the calling thread.
+    static std::int16_t cpu();
+
+    /// Where the thread ran that has woken the calling one last or has been woken by it; UNKNOWN after a sleep.
+    static int partner();
+
+    /// A word between waiter and waker, in which each leaves its CPU for the other.
+    using Trace = std::atomic<std::int16_t>;
+
+    /// The waiter, before its wait and after it.
+    static void leaveTrace(Trace& trace);
+    static void followWaker(Trace& trace);
+
+    /// The waker, before it wakes.
+    static void followWaiter(Trace& trace);
+
+    /// Stands around a sleep: how long it lasts decides whether the thread's next wait spins. Whoever ends it tells
+    /// anew where he runs.
     class Sleep {
     public:
         Sleep() : mStart(nanoseconds()) {}
@@ -83,8 +103,7 @@ private:
         return false;
     }
 
-    static bool isWorthwhile();
-    static void yieldProcessor();
+    static bool isWorthwhile(int partnersCpu);
     static void lookAgain();
     static std::int64_t nanoseconds();
 };

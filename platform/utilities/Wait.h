@@ -22,4 +22,5 @@ public:
 
 private:
     std::atomic<std::uint32_t> mState{0};
+    std::atomic<std::int16_t> mCpu{-1}; ///< for waiter and waker to tell each other where they run
 };

@@ -1,9 +1,11 @@
 #include "host/toolkit/Loop.h"
 
+#include "support/OneCpu.h"
 #include "support/RunningToolkit.h"
 
 #include <atomic>
 #include <gtest/gtest.h>
+#include <sched.h>
 
 namespace {
 
@@ -30,6 +32,14 @@ TEST(Loop, QuitEndsIt)
     Loop::quit();
     gpPresent->Execute(nullptr);
     EXPECT_FALSE(Loop::isRunning());
+}
+
+/// The kernel lets a busy neighbour finish his turn before it runs a thread of another class that has been woken.
+TEST(Loop, TheGuiThreadOfASingleCpuStaysInTheClassThatIsServedAtOnce)
+{
+    const test::OneCpu here;
+    RunningToolkit toolkit;
+    toolkit.run([] { EXPECT_EQ(sched_getscheduler(0), SCHED_OTHER); });
 }
 
 TEST(Loop, QuitWithoutAToolkitDoesNothing)

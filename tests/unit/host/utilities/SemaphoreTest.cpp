@@ -2,6 +2,9 @@
 
 #include "host/clock/Clock.h"
 #include "support/Gate.h"
+#include "support/Looks.h"
+#include "support/OneCpu.h"
+#include "support/Worker.h"
 
 #include <atomic>
 #include <gtest/gtest.h>
@@ -13,6 +16,43 @@ namespace {
 
 using test::becomesTrue;
 using test::Gate;
+using test::looksInVain;
+using test::OneCpu;
+using test::onOtherThread;
+
+/// As of a wait, with a permit that a thread on `giversCpu` has given.
+int looksAfterATake(int takersCpu, int giversCpu)
+{
+    int looks = 0;
+    onOtherThread([&] {
+        const OneCpu here(takersCpu);
+        Semaphore announced(Semaphore::NOT_AVAILABLE, 1, false);
+        onOtherThread([&] {
+            const OneCpu there(giversCpu);
+            announced.give();
+        });
+        announced.take(-1);
+        looks = looksInVain();
+    });
+    return looks;
+}
+
+int looksAfterAGive(int takersCpu, int giversCpu)
+{
+    int looks = 0;
+    Semaphore announced(Semaphore::NOT_AVAILABLE, 1, false);
+    test::Worker taker([&] {
+        const OneCpu here(takersCpu);
+        announced.take(-1);
+    });
+    EXPECT_TRUE(taker.isBlocked());
+    onOtherThread([&] {
+        const OneCpu here(giversCpu);
+        announced.give();
+        looks = looksInVain();
+    });
+    return looks;
+}
 
 bool takenByAnotherThread(Semaphore& semaphore)
 {
@@ -142,6 +182,40 @@ TEST(Semaphore, MayBeDestroyedAsSoonAsItIsTaken)
         semaphore->take(-1);
     }
     giver.join();
+}
+
+TEST(Semaphore, NeitherTakerNorGiverSpinsWhereBothRunOnOneCpu)
+{
+    const int cpu = OneCpu::first();
+    EXPECT_EQ(looksAfterATake(cpu, cpu), 1);
+    EXPECT_EQ(looksAfterAGive(cpu, cpu), 1);
+}
+
+TEST(Semaphore, TakerAndGiverSpinWhereEachIsBoundToACpuOfItsOwn)
+{
+    if (OneCpu::first() == OneCpu::last())
+        GTEST_SKIP() << "there is one CPU only";
+    EXPECT_GT(looksAfterATake(OneCpu::first(), OneCpu::last()), 2);
+    EXPECT_GT(looksAfterAGive(OneCpu::first(), OneCpu::last()), 2);
+}
+
+TEST(Semaphore, ATakeInVainTellsNothing)
+{
+    onOtherThread([] {
+        Semaphore announced(Semaphore::NOT_AVAILABLE, 1, false);
+        EXPECT_FALSE(announced.take(0));
+        EXPECT_EQ(host::Spin::partner(), host::Spin::UNKNOWN);
+    });
+}
+
+TEST(Semaphore, ALocksTakerIsNobodysPartner)
+{
+    onOtherThread([] {
+        Semaphore lock(Semaphore::AVAILABLE, 1, false);
+        lock.take(-1);
+        lock.give();
+        EXPECT_EQ(host::Spin::partner(), host::Spin::UNKNOWN);
+    });
 }
 
 TEST(Semaphore, HolderMayTakeAgainAndGivesAsOften)

@@ -1,36 +1,34 @@
 #include "host/utilities/Spin.h"
 
 #include "support/Gate.h"
+#include "support/Looks.h"
+#include "support/OneCpu.h"
+#include "support/Worker.h"
 
 #include <chrono>
 #include <gtest/gtest.h>
-#include <sched.h>
-#include <thread>
 
 namespace {
 
 using host::Spin;
 using test::becomesTrue;
+using test::looksInVain;
+using test::OneCpu;
+using test::onOtherThread;
 
-int looksInVain()
+/// What a waiter does that is woken by a thread on `cpu`.
+void beWokenFrom(int cpu)
 {
-    int looks = 0;
-    EXPECT_FALSE(Spin::until([&] {
-        ++looks;
-        return false;
-    }));
-    return looks;
+    Spin::Trace trace{static_cast<std::int16_t>(cpu)};
+    Spin::followWaker(trace);
 }
 
-void runPinned(void (*work)())
+void sleepLong()
 {
-    std::thread([=] {
-        cpu_set_t one;
-        CPU_ZERO(&one);
-        CPU_SET(static_cast<std::size_t>(sched_getcpu()), &one);
-        ASSERT_EQ(sched_setaffinity(0, sizeof one, &one), 0);
-        work();
-    }).join();
+    const Spin::Sleep sleep;
+    const auto end = std::chrono::steady_clock::now() + std::chrono::nanoseconds(Spin::SHORT_SLEEP_NS + 1);
+    while (std::chrono::steady_clock::now() <= end) {
+    }
 }
 
 TEST(Spin, WhatIsReadyIsNotWaitedFor)
@@ -45,69 +43,136 @@ TEST(Spin, WhatIsReadyIsNotWaitedFor)
 
 TEST(Spin, EndsWhenNothingHappens)
 {
-    EXPECT_FALSE(Spin::until([] { return false; }));
+    onOtherThread([] {
+        const OneCpu here;
+        beWokenFrom(here.number() + 1);
+        EXPECT_GT(looksInVain(), 1);
+    });
 }
 
-TEST(Spin, GivesWayOnceOnASingleCpu)
+TEST(Spin, TellsWhetherWhatItWaitedForHasCome)
 {
-    runPinned([] {
-        EXPECT_FALSE(Spin::hasCompany());
-        EXPECT_EQ(looksInVain(), 2);
+    onOtherThread([] {
+        const OneCpu here;
+        EXPECT_TRUE(Spin::until([looks = 0]() mutable { return ++looks == 2; }, here.number() + 1));
+        EXPECT_FALSE(Spin::until([] { return false; }, here.number() + 1));
+    });
+}
+
+TEST(Spin, IsLeftOutWhereThePartnerRanOnThisCpu)
+{
+    onOtherThread([] {
+        const OneCpu here;
+        beWokenFrom(here.number());
+        EXPECT_EQ(looksInVain(), 1);
+    });
+}
+
+TEST(Spin, IsLeftOutWhereThePartnerRanOnTheCpuOfAThreadThatMayMove)
+{
+    onOtherThread([] {
+        EXPECT_TRUE(becomesTrue([] {
+            beWokenFrom(Spin::cpu());
+            return looksInVain() == 1;
+        })) << "it may be moved in between, but not for ever";
+    });
+}
+
+TEST(Spin, GoesByTheHoldersCpuInPlaceOfThePartners)
+{
+    onOtherThread([] {
+        const OneCpu here;
+        beWokenFrom(here.number() + 1);
+        EXPECT_FALSE(Spin::until([looks = 0]() mutable { return ++looks == 2; }, here.number()));
+        beWokenFrom(here.number());
+        EXPECT_TRUE(Spin::until([looks = 0]() mutable { return ++looks == 2; }, here.number() + 1));
+    });
+}
+
+TEST(Spin, AThreadOnASingleCpuDoesNotSpinForAStranger)
+{
+    onOtherThread([] {
+        const OneCpu here;
+        EXPECT_EQ(looksInVain(), 1);
     });
 }
 
 TEST(Spin, IsLeftOutAfterALongSleep)
 {
-    {
-        const Spin::Sleep sleep;
-        const auto end = std::chrono::steady_clock::now() + std::chrono::nanoseconds(Spin::SHORT_SLEEP_NS + 1);
-        while (std::chrono::steady_clock::now() <= end) {
-        }
-    }
-    EXPECT_EQ(looksInVain(), 1);
+    onOtherThread([] {
+        const OneCpu here;
+        sleepLong();
+        beWokenFrom(here.number() + 1);
+        EXPECT_EQ(looksInVain(), 1);
+    });
 }
 
 TEST(Spin, IsTriedAgainAfterAShortSleep)
 {
-    EXPECT_TRUE(becomesTrue([] {
-        {
-            const Spin::Sleep sleep;
-        }
-        return looksInVain() > 1;
-    }));
+    onOtherThread([] {
+        const OneCpu here;
+        sleepLong();
+        EXPECT_TRUE(becomesTrue([&] {
+            {
+                const Spin::Sleep sleep;
+            }
+            beWokenFrom(here.number() + 1);
+            return looksInVain() > 1;
+        }));
+    });
+}
+
+TEST(Spin, ASleepForgetsThePartner)
+{
+    beWokenFrom(7);
+    EXPECT_EQ(Spin::partner(), 7);
+    {
+        const Spin::Sleep sleep;
+    }
+    EXPECT_EQ(Spin::partner(), Spin::UNKNOWN);
+}
+
+TEST(Spin, WhoMeetsNobodyKeepsHisPartner)
+{
+    beWokenFrom(7);
+    beWokenFrom(Spin::UNKNOWN);
+    EXPECT_EQ(Spin::partner(), 7);
+}
+
+TEST(Spin, AWaiterFindsTheTraceOfAWakerWhoCameFirst)
+{
+    onOtherThread([] {
+        const OneCpu here;
+        Spin::Trace trace{static_cast<std::int16_t>(here.number() + 1)};
+        Spin::leaveTrace(trace);
+        Spin::followWaker(trace);
+        EXPECT_EQ(Spin::partner(), here.number() + 1);
+        EXPECT_EQ(trace, Spin::UNKNOWN) << "the next wait is another one";
+    });
 }
 
 TEST(Spin, NoticesThatTheThreadHasBeenPutOnOneCpu)
 {
-    std::thread([] {
-        cpu_set_t all;
-        sched_getaffinity(0, sizeof all, &all);
-        EXPECT_EQ(Spin::hasCompany(), CPU_COUNT(&all) > 1);
-        cpu_set_t one;
-        CPU_ZERO(&one);
-        CPU_SET(static_cast<std::size_t>(sched_getcpu()), &one);
-        ASSERT_EQ(sched_setaffinity(0, sizeof one, &one), 0);
+    onOtherThread([] {
+        EXPECT_EQ(Spin::runsElsewhere(Spin::UNKNOWN), OneCpu::first() != OneCpu::last());
+        const OneCpu here;
         Spin::until([] { return false; });
-        EXPECT_FALSE(Spin::hasCompany()) << "a spin in vain looks again";
-    }).join();
+        EXPECT_FALSE(Spin::runsElsewhere(Spin::UNKNOWN)) << "a spin in vain looks again";
+    });
 }
 
 TEST(Spin, NoticesThatTheThreadMayUseAllCpusAgain)
 {
-    std::thread([] {
-        cpu_set_t all;
-        sched_getaffinity(0, sizeof all, &all);
-        cpu_set_t one;
-        CPU_ZERO(&one);
-        CPU_SET(static_cast<std::size_t>(sched_getcpu()), &one);
-        ASSERT_EQ(sched_setaffinity(0, sizeof one, &one), 0);
-        EXPECT_FALSE(Spin::hasCompany());
-        ASSERT_EQ(sched_setaffinity(0, sizeof all, &all), 0);
-        bool company = false;
-        for (int waits = 0; waits < 1'000 && !company; ++waits)
-            company = Spin::hasCompany();
-        EXPECT_EQ(company, CPU_COUNT(&all) > 1);
-    }).join();
+    onOtherThread([] {
+        {
+            const OneCpu here;
+            EXPECT_FALSE(Spin::runsElsewhere(Spin::UNKNOWN));
+        }
+        bool elsewhere = false;
+        for (int waits = 0; waits < 1'000 && !elsewhere; ++waits)
+            elsewhere = Spin::runsElsewhere(Spin::UNKNOWN);
+        EXPECT_EQ(elsewhere, OneCpu::first() != OneCpu::last());
+    });
 }
 
 } // namespace

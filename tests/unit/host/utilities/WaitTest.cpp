@@ -1,35 +1,56 @@
 #include "utilities/Wait.h"
 
 #include "support/Gate.h"
+#include "support/Looks.h"
+#include "support/OneCpu.h"
+#include "support/Worker.h"
 
 #include <atomic>
 #include <gtest/gtest.h>
 #include <memory>
-#include <sched.h>
 #include <thread>
 
 namespace {
 
 using test::Gate;
+using test::looksInVain;
+using test::OneCpu;
+using test::onOtherThread;
 
-/// Puts the calling thread, and those that it starts, on one CPU while it lives.
-class OneCpu {
-public:
-    OneCpu()
-    {
-        sched_getaffinity(0, sizeof mBefore, &mBefore);
-        cpu_set_t one;
-        CPU_ZERO(&one);
-        CPU_SET(static_cast<std::size_t>(sched_getcpu()), &one);
-        sched_setaffinity(0, sizeof one, &one);
-    }
-    ~OneCpu() { sched_setaffinity(0, sizeof mBefore, &mBefore); }
-    OneCpu(const OneCpu&) = delete;
-    OneCpu& operator=(const OneCpu&) = delete;
+/// A wait on `waitersCpu` that a thread on `wakersCpu` has ended before it sleeps: how often its next one looks.
+int looksAfterAWait(int waitersCpu, int wakersCpu)
+{
+    int looks = 0;
+    onOtherThread([&] {
+        const OneCpu here(waitersCpu);
+        Wait wait;
+        onOtherThread([&] {
+            const OneCpu there(wakersCpu);
+            wait.wakeUp();
+        });
+        wait.wait();
+        looks = looksInVain();
+    });
+    return looks;
+}
 
-private:
-    cpu_set_t mBefore;
-};
+/// A wait on `waitersCpu` that a thread on `wakersCpu` ends: how often the waker's own next wait looks.
+int looksAfterAWakeUp(int waitersCpu, int wakersCpu)
+{
+    int looks = 0;
+    Wait wait;
+    test::Worker waiter([&] {
+        const OneCpu here(waitersCpu);
+        wait.wait();
+    });
+    EXPECT_TRUE(waiter.isBlocked());
+    onOtherThread([&] {
+        const OneCpu here(wakersCpu);
+        wait.wakeUp();
+        looks = looksInVain();
+    });
+    return looks;
+}
 
 TEST(Wait, WakeUpThatComesFirstIsKept)
 {
@@ -112,6 +133,21 @@ TEST(Wait, WakesASleeperThatHasGivenUpSpinning)
         std::this_thread::yield();
     wait.wakeUp();
     waiter.join();
+}
+
+TEST(Wait, NeitherSideSpinsWhereBothRunOnOneCpu)
+{
+    const int cpu = OneCpu::first();
+    EXPECT_EQ(looksAfterAWait(cpu, cpu), 1);
+    EXPECT_EQ(looksAfterAWakeUp(cpu, cpu), 1);
+}
+
+TEST(Wait, BothSidesSpinWhereEachIsBoundToACpuOfItsOwn)
+{
+    if (OneCpu::first() == OneCpu::last())
+        GTEST_SKIP() << "there is one CPU only";
+    EXPECT_GT(looksAfterAWait(OneCpu::first(), OneCpu::last()), 2);
+    EXPECT_GT(looksAfterAWakeUp(OneCpu::first(), OneCpu::last()), 2);
 }
 
 TEST(Wait, MayBeDestroyedAsSoonAsItReturns)
