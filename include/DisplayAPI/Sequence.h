@@ -37,8 +37,7 @@ public:
     {
         if (index < 0 || index >= size())
             return nullptr;
-        const Place place = placeOf(static_cast<std::size_t>(index));
-        return mBody->chunks[place.chunk]->elements[place.offset];
+        return elementAt(placeOf(static_cast<std::size_t>(index)));
     }
 
     /// The element's position; -1 where it is not there. `guess` is where it is looked for first.
@@ -113,6 +112,27 @@ public:
             std::for_each(chunk->elements.begin(), chunk->elements.end(), visit);
     }
 
+    /// Calls `visit` with the elements from `index` on until it returns false, which it must not change; with none
+    /// where `index` is outside 0 to size() - 1. Only the first one is looked for.
+    template <typename Visit>
+    void walkFrom(int index, Visit visit) const
+    {
+        if (index < 0 || index >= size())
+            return;
+        for (Place place = placeOf(static_cast<std::size_t>(index)); visit(elementAt(place)) && toNext(place);) {
+        }
+    }
+
+    /// The same towards the front.
+    template <typename Visit>
+    void walkBackFrom(int index, Visit visit) const
+    {
+        if (index < 0 || index >= size())
+            return;
+        for (Place place = placeOf(static_cast<std::size_t>(index)); visit(elementAt(place)) && toPrevious(place);) {
+        }
+    }
+
     std::vector<Element*> copy() const
     {
         std::vector<Element*> all;
@@ -155,6 +175,27 @@ private:
         for (; index >= sizes[chunk]; ++chunk)
             index -= sizes[chunk];
         return {chunk, index};
+    }
+
+    Element* elementAt(const Place& place) const { return mBody->chunks[place.chunk]->elements[place.offset]; }
+
+    /// Whether there is a next one.
+    bool toNext(Place& place) const
+    {
+        if (++place.offset < mBody->sizes[place.chunk])
+            return true;
+        place.offset = 0;
+        return ++place.chunk < mBody->chunks.size();
+    }
+
+    bool toPrevious(Place& place) const
+    {
+        if (place.offset == 0 && place.chunk == 0)
+            return false;
+        if (place.offset == 0)
+            place.offset = mBody->sizes[--place.chunk];
+        --place.offset;
+        return true;
     }
 
     /// Behind the last element of a chunk rather than before the first one of the next.

@@ -141,3 +141,35 @@ TEST(SequenceSizeTest, IsThatOfThreePointers)
     EXPECT_EQ(sizeof(DisplayAPI::Sequence<Thing>), 3 * sizeof(void*));
     EXPECT_EQ(sizeof(DisplayAPI::Sequence<Thing, ThingHome>), 3 * sizeof(void*));
 }
+
+TYPED_TEST(SequenceTest, IsWalkedInEitherDirectionFromAnywhereUntilTheVisitorHasEnough)
+{
+    constexpr int SIZE = 1'500;
+    typename TestFixture::Things things;
+    for (int i = 0; i < SIZE; ++i)
+        things.append(this->newThing());
+    for (int from = -1; from <= SIZE; from += 50) {
+        int next = from;
+        things.walkFrom(from, [&](Thing* thing) { return thing == things.at(next++); });
+        EXPECT_EQ(next, from < 0 ? from : SIZE);
+        next = from;
+        things.walkBackFrom(from, [&](Thing* thing) { return thing == things.at(next--); });
+        EXPECT_EQ(next, from < SIZE ? -1 : from);
+    }
+    int visited = 0;
+    things.walkFrom(700, [&](Thing*) { return ++visited < 3; });
+    things.walkBackFrom(700, [&](Thing*) { return ++visited < 6; });
+    EXPECT_EQ(visited, 6);
+}
+
+TYPED_TEST(SequenceTest, HasNothingToWalkWhileItIsEmpty)
+{
+    const typename TestFixture::Things things;
+    const auto fail = [](Thing*) {
+        ADD_FAILURE();
+        return false;
+    };
+    things.walkFrom(0, fail);
+    things.walkBackFrom(0, fail);
+    things.walkBackFrom(-1, fail);
+}
