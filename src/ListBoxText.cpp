@@ -18,7 +18,11 @@ std::string captionOf(const KestrelListBox& list)
 
 std::string subItem(const KestrelListBoxItem& item)
 {
-    return screen::subItem("KestrelListBoxItem", screen::textLine(0, ICC::fromUNICODEtoUTF8(item.DataGet())));
+    const KestrelListBoxItem::Description described = item.describe();
+    std::string lines;
+    for (int number = 0; const PegString& text : described.texts)
+        lines += screen::textLine(number++, ICC::fromUNICODEtoUTF8(text));
+    return screen::subItem(described.name, lines);
 }
 
 std::string systemWindowOf(const KestrelListBox& list)

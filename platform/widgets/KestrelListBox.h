@@ -13,7 +13,8 @@ class KestrelListBoxItem;
 ///
 /// The message target is told what the user does: PM_CURRENT_CHANGED, PM_CLICKED (OK), PM_LEFT, PM_RIGHT.
 /// Up and down stop at the ends. Ownership: rows belong to whoever appended them.
-/// Cost: append, row access and painting do not depend on the number of rows.
+/// Rows may differ in height; the list shows as many whole ones as it has room for, at least one.
+/// Cost: append, row access, scrolling and painting do not depend on the number of rows.
 class KestrelListBox : public PegThing {
 public:
     ~KestrelListBox() override;
@@ -40,6 +41,9 @@ public:
 
     /// Repaints the row if it is visible.
     void itemChanged(const KestrelListBoxItem* item);
+
+    /// As well, and what stands below it. The current row stays in view.
+    void itemHeightChanged(const KestrelListBoxItem* item);
 
     /// The current row; -1 where the list is empty. A change of rows keeps the current item where it can.
     int currentRow() const;
@@ -77,6 +81,7 @@ public:
     /// The strip that is kept free; empty where none is. It moves when the list is resized.
     PegRect tickerArea() const;
 
+    /// What the lists of the panels differ in; known to the platform's rows.
     struct Layout;
 
 protected:

@@ -32,7 +32,7 @@ int KestrelListBox::Message(const PegMessage& message)
 void KestrelListBox::Resize(const PegRect& area)
 {
     PegThing::Resize(area);
-    mImpl->scrollToCurrent();
+    mImpl->update();
     mImpl->placeTicker();
 }
 
@@ -74,27 +74,30 @@ void KestrelListBox::insert(KestrelListBoxItem* item, int row)
 void KestrelListBox::remove(const KestrelListBoxItem* item)
 {
     const int row = rowOf(item);
-    if (row < 0)
-        return;
-    itemAt(row)->mList = nullptr;
-    mImpl->removeAt(row);
+    if (row >= 0)
+        mImpl->removeAt(row);
 }
 
 void KestrelListBox::clear()
 {
-    for (int row = 0; row < numItems(); ++row) {
-        itemAt(row)->mList = nullptr;
-        itemAt(row)->setMarked(false);
-    }
-    mImpl->rows.clear();
-    mImpl->current = -1;
-    mImpl->top = 0;
-    Invalidate();
+    mImpl->clear();
 }
 
+/// A list that changes all its rows asks for each: those out of view cost next to nothing.
 void KestrelListBox::itemChanged(const KestrelListBoxItem* item)
 {
+    if (!StatusIs(PSF_VISIBLE) || mImpl->view().find(item) == nullptr)
+        return;
+    mImpl->refresh();
     mImpl->repaintItem(item);
+}
+
+void KestrelListBox::itemHeightChanged(const KestrelListBoxItem* item)
+{
+    if (item == nullptr || item->mList != this)
+        return;
+    mImpl->update();
+    itemChanged(item);
 }
 
 int KestrelListBox::currentRow() const
@@ -115,10 +118,9 @@ int KestrelListBox::topRow() const
 
 PegRect KestrelListBox::rowArea(int row) const
 {
-    const ListGeometry parts = mImpl->geometry();
-    const int slot = row - mImpl->top;
-    const bool visible = row >= 0 && row < numItems() && slot >= 0 && slot < parts.visibleRows;
-    return visible ? parts.row(slot) : PegRect{0, 0, -1, -1};
+    const auto& inView = mImpl->view().rows;
+    const auto place = static_cast<std::size_t>(row - mImpl->top);
+    return row >= mImpl->top && place < inView.size() ? inView[place].area : PegRect{0, 0, -1, -1};
 }
 
 void KestrelListBox::setTitle(PegString title)
@@ -126,7 +128,7 @@ void KestrelListBox::setTitle(PegString title)
     if (mImpl->title == title)
         return;
     mImpl->title = std::move(title);
-    mImpl->scrollToCurrent();
+    mImpl->update();
     Invalidate();
 }
 
@@ -138,13 +140,13 @@ const PegString& KestrelListBox::title() const
 void KestrelListBox::setSelectionHighlight(bool on)
 {
     mImpl->highlight = on;
-    mImpl->repaintRow(mImpl->current);
+    mImpl->refresh();
 }
 
 void KestrelListBox::setBackArrow(bool on)
 {
     mImpl->back = on;
-    mImpl->scrollToCurrent();
+    mImpl->update();
     Invalidate();
 }
 
@@ -153,18 +155,16 @@ void KestrelListBox::setTickerShown(bool on)
     if (mImpl->ticker != on)
         Invalidate();
     mImpl->ticker = on;
-    mImpl->scrollToCurrent();
+    mImpl->update();
     mImpl->placeTicker();
 }
 
 PegRect KestrelListBox::tickerArea() const
 {
-    return mImpl->geometry().ticker;
+    return mImpl->view().parts.ticker;
 }
 
 void KestrelListBox::setExclusive(bool on)
 {
-    mImpl->exclusive = on;
-    mImpl->moveMark(nullptr);
-    Invalidate();
+    mImpl->setExclusive(on);
 }

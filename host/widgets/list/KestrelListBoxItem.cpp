@@ -1,8 +1,12 @@
 #include "widgets/KestrelListBoxItem.h"
 
-#include "widgets/KestrelListBox.h"
+#include "host/lcd/Painter.h"
+#include "host/widgets/Reading.h"
+#include "host/widgets/list/ListLayout.h"
 
 #include <utility>
+
+using namespace host;
 
 KestrelListBoxItem::KestrelListBoxItem(PegString text) : mText(std::move(text)) {}
 
@@ -20,6 +24,47 @@ int KestrelListBoxItem::row() const
 void KestrelListBoxItem::DataSet(PegString text)
 {
     mText = std::move(text);
+    changed();
+}
+
+int KestrelListBoxItem::heightIn(const Layout& layout) const
+{
+    return layout.rowHeight;
+}
+
+void KestrelListBoxItem::Draw(PegPainter& painter, const Place& place) const
+{
+    painter.text(place.text, mText, {place.layout.font, startAlign(), place.inverted});
+}
+
+KestrelListBoxItem::Description KestrelListBoxItem::describe() const
+{
+    return {"KestrelListBoxItem", {mText}};
+}
+
+bool KestrelListBoxItem::key(int)
+{
+    return false;
+}
+
+bool KestrelListBoxItem::hasMark() const
+{
+    return false;
+}
+
+void KestrelListBoxItem::drawMark(PegPainter& painter, const PegRect& cell, bool inverted) const
+{
+    painter.icon(mMarked ? icons::RADIO_CHOSEN : icons::RADIO, cell, inverted ? Level::BARE : Level::DARK);
+}
+
+void KestrelListBoxItem::changed()
+{
     if (mList != nullptr)
         mList->itemChanged(this);
+}
+
+void KestrelListBoxItem::heightChanged()
+{
+    if (mList != nullptr)
+        mList->itemHeightChanged(this);
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "DisplayAPI/Sequence.h"
-#include "host/widgets/list/ListGeometry.h"
+#include "host/widgets/list/ListView.h"
 #include "host/widgets/status/StatusLines.h"
 #include "host/widgets/status/StatusTime.h"
 #include "widgets/ApplicationWatch.h"
@@ -17,14 +17,14 @@ struct KestrelListBox::Impl final : host::StatusTimeView {
     Impl(KestrelListBox& self, const Layout& look) : box(self), layout(look), application(self) {}
     ~Impl() { host::StatusTime::watch(*this, false); }
 
-    host::ListGeometry geometry() const;
-    int lastTop() const;
+    /// What is on the screen. Kept until something changes.
+    const host::ListView& view();
 
     void insert(KestrelListBoxItem* item, int row);
     void removeAt(int row);
+    void clear();
     void makeCurrent(int row);
-    void scrollToCurrent();
-    void moveMark(KestrelListBoxItem* from);
+    void setExclusive(bool on);
     void placeTicker();
     void languageChanged();
 
@@ -33,10 +33,10 @@ struct KestrelListBox::Impl final : host::StatusTimeView {
     void tell(std::uint16_t type, int data);
     void tellIfRow(std::uint16_t type);
 
-    void repaintRow(int row);
+    /// After each change: keeps the current row in view, and repaints what looks different.
+    void update();
+    void refresh();
     void repaintItem(const KestrelListBoxItem* item);
-    void repaintRows(int first, int last);
-    void repaintAfter(const host::ListGeometry& before, int topBefore);
 
     const host::StatusTime* statusTime() const override { return host::StatusTime::current(); }
     void statusTimeChanged() override;
@@ -46,7 +46,7 @@ struct KestrelListBox::Impl final : host::StatusTimeView {
 
     void drawStatus(PegPainter& painter, const host::ListGeometry& parts) const;
     void drawTitle(PegPainter& painter, const host::ListGeometry& parts) const;
-    void drawRow(PegPainter& painter, const host::ListGeometry& parts, int slot) const;
+    void drawRow(PegPainter& painter, const host::ListView& view, const host::RowInView& row) const;
     void drawScroll(PegPainter& painter, const host::ListGeometry& parts) const;
     void drawTickerRule(PegPainter& painter, const host::ListGeometry& parts) const;
 
@@ -60,8 +60,21 @@ struct KestrelListBox::Impl final : host::StatusTimeView {
     PegThing* target = nullptr;
     int current = -1;
     int top = 0;
+    int lastTop = 0; ///< that of a view that ends with the last row
     bool highlight = true;
     bool back = false;
     bool exclusive = false;
     bool ticker = false;
+
+private:
+    host::ListState state() const;
+    int heightIn(const KestrelListBoxItem& item) const;
+    int firstRowBefore(int end, int height) const;
+    void scrollToCurrent();
+    void layOut();
+    void markCurrent(bool on);
+
+    host::ListView inView;
+    host::ListView former;  ///< what was before the last change
+    bool isLaidOut = false; ///< whether `inView` is what is on the screen
 };

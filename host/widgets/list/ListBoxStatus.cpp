@@ -17,14 +17,14 @@ void KestrelListBox::Impl::setStatusText(int line, const std::string& text)
         return;
     placeStatus();
     if (line < statusShown)
-        box.Invalidate(geometry().statusLine(line));
+        box.Invalidate(view().parts.statusLine(line));
 }
 
 void KestrelListBox::Impl::statusTimeChanged()
 {
     placeStatus();
     if (statusShown > 0)
-        box.Invalidate(geometry().statusLine(0));
+        box.Invalidate(view().parts.statusLine(0));
 }
 
 /// The time alone keeps line 0 visible. The rows have what the status lines leave.
@@ -34,7 +34,7 @@ void KestrelListBox::Impl::placeStatus()
     const int shown = std::max(status.used(), timed ? 1 : 0);
     if (shown != statusShown) {
         statusShown = shown;
-        scrollToCurrent();
+        update();
         box.Invalidate();
     }
     StatusTime::watch(*this, status.size() > 0 && box.StatusIs(PSF_VISIBLE));
@@ -42,7 +42,7 @@ void KestrelListBox::Impl::placeStatus()
 
 int KestrelListBox::systemWindowLines() const
 {
-    return mImpl->geometry().statusLines();
+    return mImpl->view().parts.statusLines();
 }
 
 const std::string& KestrelListBox::systemWindowText(int line) const
@@ -52,7 +52,7 @@ const std::string& KestrelListBox::systemWindowText(int line) const
 
 PegRect KestrelListBox::systemWindowArea() const
 {
-    return mImpl->geometry().status;
+    return mImpl->view().parts.status;
 }
 
 void KestrelListBox::VisibilityChanged()

@@ -29,14 +29,14 @@ PegRect arrowCell(const PegRect& scroll, bool upper)
 
 void KestrelListBox::Draw(PegPainter& painter)
 {
-    const ListGeometry parts = mImpl->geometry();
+    const ListView& view = mImpl->view();
     painter.fill(Area(), Level::BARE);
-    mImpl->drawStatus(painter, parts);
-    mImpl->drawTitle(painter, parts);
-    for (int slot = 0; slot < parts.visibleRows; ++slot)
-        mImpl->drawRow(painter, parts, slot);
-    mImpl->drawScroll(painter, parts);
-    mImpl->drawTickerRule(painter, parts);
+    mImpl->drawStatus(painter, view.parts);
+    mImpl->drawTitle(painter, view.parts);
+    for (const RowInView& row : view.rows)
+        mImpl->drawRow(painter, view, row);
+    mImpl->drawScroll(painter, view.parts);
+    mImpl->drawTickerRule(painter, view.parts);
 }
 
 void KestrelListBox::Impl::drawStatus(PegPainter& painter, const ListGeometry& parts) const
@@ -64,31 +64,29 @@ void KestrelListBox::Impl::drawTitle(PegPainter& painter, const ListGeometry& pa
         painter.icon(icons::BACK, parts.back, Level::DARK);
 }
 
-void KestrelListBox::Impl::drawRow(PegPainter& painter, const ListGeometry& parts, int slot) const
+void KestrelListBox::Impl::drawRow(PegPainter& painter, const ListView& view, const RowInView& row) const
 {
-    const KestrelListBoxItem* item = rows.at(top + slot);
-    const PegRect row = parts.row(slot);
-    if (item == nullptr || painter.isClippedOut(boundsOf(row, parts.mark(slot))))
+    if (painter.isClippedOut(view.areaWithMark(row)))
         return;
-    const bool inverted = highlight && top + slot == current;
-    if (inverted)
-        drawBar(painter, row);
-    if (exclusive) {
-        const bool onBar = inverted && contains(row, parts.mark(slot));
-        painter.icon(item->isMarked() ? icons::RADIO_CHOSEN : icons::RADIO, parts.mark(slot),
-                     onBar ? Level::BARE : Level::DARK);
+    if (row.inverted)
+        drawBar(painter, row.area);
+    if (row.hasMark) {
+        const PegRect cell = view.parts.mark(row.area);
+        PegPainter inside = painter.clippedTo(cell);
+        row.item->drawMark(inside, cell, row.inverted && contains(row.area, cell));
     }
-    painter.text(parts.text(slot), item->DataGet(), {layout.font, startAlign(), inverted});
+    PegPainter inside = painter.clippedTo(row.area);
+    row.item->Draw(inside, {layout, row.area, view.parts.text(row.area, row.hasMark), row.inverted});
 }
 
 void KestrelListBox::Impl::drawScroll(PegPainter& painter, const ListGeometry& parts) const
 {
     if (isEmpty(parts.scroll) || painter.isClippedOut(parts.scroll))
         return;
-    if (top > 0)
+    if (parts.hasAbove)
         painter.icon(layout.scrollBar ? icons::ARROW_UP : icons::SMALL_ARROW_UP, arrowCell(parts.scroll, true),
                      Level::DARK);
-    if (top < lastTop())
+    if (parts.hasBelow)
         painter.icon(layout.scrollBar ? icons::ARROW_DOWN : icons::SMALL_ARROW_DOWN, arrowCell(parts.scroll, false),
                      Level::DARK);
     if (isEmpty(parts.track))

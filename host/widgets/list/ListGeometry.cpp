@@ -29,9 +29,10 @@ PegRect cutBottom(PegRect& area, int height)
     return rectAt(area.left, area.bottom + 1, widthOf(area), height);
 }
 
-PegRect lowered(const PegRect& area, int by)
+/// The part of a column that stands beside a row.
+PegRect beside(const PegRect& row, const PegRect& column)
 {
-    return rectAt(area.left, area.top + by, widthOf(area), heightOf(area));
+    return {column.left, row.top, column.right, row.bottom};
 }
 
 /// The title bar comes for a way back or a ticker if need be.
@@ -71,28 +72,47 @@ void placeTicker(ListGeometry& geometry, const Layout& layout, PegRect& rest, co
         geometry.ticker.top = static_cast<std::int16_t>(geometry.ticker.top + RULE);
 }
 
-/// The rows take what is left, evenly.
-void placeBody(ListGeometry& geometry, const Layout& layout, const PegRect& rest, const ListState& state)
+/// Returns what is left for the rows.
+PegRect placeFrame(ListGeometry& geometry, const Layout& layout, const PegRect& area, const ListState& state)
 {
-    const int height = std::max(0, heightOf(rest));
-    geometry.rowHeight = layout.rowHeight;
-    geometry.visibleRows = height / layout.rowHeight;
-    const bool scroll = !layout.scrollBar || state.rows > geometry.visibleRows;
-    const int width = widthOf(rest) - layout.gutter - (scroll ? layout.scrollWidth : 0);
-    const int used = geometry.visibleRows * layout.rowHeight;
-    geometry.body = rectAt(rest.left + layout.gutter, rest.top + (height - used) / 2, width, used);
-    geometry.scroll = scroll ? rectAt(geometry.body.right + 1, geometry.body.top, layout.scrollWidth, used) : NOWHERE;
+    PegRect rest = area;
+    placeStatus(geometry, layout, rest, state);
+    placeTitle(geometry, layout, rest, state);
+    placeTicker(geometry, layout, rest, state);
+    return rest;
 }
 
-void placeRowParts(ListGeometry& geometry, const Layout& layout, const ListState& state)
+/// As many rows of text as have room.
+int usedHeight(const Layout& layout, const PegRect& rest)
 {
-    const bool inRow = state.exclusive && layout.gutter == 0;
-    const PegRect row = geometry.row(0);
-    const int textLeft = layout.leftInset + (inRow ? MARK_WIDTH + MARK_GAP : 0);
-    geometry.firstMark =
-        rectAt(row.left + (inRow ? layout.leftInset : -layout.gutter), row.top, MARK_WIDTH, layout.rowHeight);
-    geometry.firstText =
-        rectAt(row.left + textLeft, row.top, widthOf(row) - textLeft - layout.rightInset, layout.rowHeight);
+    const int height = std::max(0, heightOf(rest));
+    return height - height % layout.rowHeight;
+}
+
+/// In the middle of what is left.
+void placeBody(ListGeometry& geometry, const Layout& layout, const PegRect& rest, const ListState& state)
+{
+    const int used = usedHeight(layout, rest);
+    const bool scroll = !layout.scrollBar || state.lastTop > 0;
+    const int width = widthOf(rest) - layout.gutter - (scroll ? layout.scrollWidth : 0);
+    geometry.body = rectAt(rest.left + layout.gutter, rest.top + (std::max(0, heightOf(rest)) - used) / 2, width, used);
+    geometry.scroll = scroll ? rectAt(geometry.body.right + 1, geometry.body.top, layout.scrollWidth, used) : NOWHERE;
+    geometry.hasAbove = state.top > 0;
+    geometry.hasBelow = state.top < state.lastTop;
+}
+
+/// Marks stand in the gutter, or where there is none before the text.
+void placeColumns(ListGeometry& geometry, const Layout& layout)
+{
+    const PegRect& body = geometry.body;
+    const bool inRow = layout.gutter == 0;
+    geometry.marks =
+        rectAt(body.left + (inRow ? layout.leftInset : -layout.gutter), body.top, MARK_WIDTH, heightOf(body));
+    geometry.texts = rectAt(body.left + layout.leftInset, body.top,
+                            widthOf(body) - layout.leftInset - layout.rightInset, heightOf(body));
+    geometry.besideMark = geometry.texts;
+    if (inRow)
+        geometry.besideMark.left = static_cast<std::int16_t>(geometry.texts.left + MARK_WIDTH + MARK_GAP);
 }
 
 /// The thumb is to the track as the rows in view are to all. One row alone has the arrows only.
@@ -100,22 +120,23 @@ void placeThumb(ListGeometry& geometry, const Layout& layout, const ListState& s
 {
     const PegRect& scroll = geometry.scroll;
     geometry.track = geometry.thumb = NOWHERE;
-    if (!layout.scrollBar || state.rows <= geometry.visibleRows)
+    if (!layout.scrollBar || state.lastTop == 0)
         return;
     const int track = heightOf(scroll) - 2 * ARROW_HEIGHT;
     if (track < LEAST_THUMB)
         return;
     geometry.track = rectAt(scroll.left + 1, scroll.top + ARROW_HEIGHT, widthOf(scroll) - 1, track);
-    const int length = std::max(LEAST_THUMB, track * geometry.visibleRows / state.rows);
-    const int start = (track - length) * state.top / (state.rows - geometry.visibleRows);
+    const int length = std::max(LEAST_THUMB, track * (state.rows - state.lastTop) / state.rows);
+    const int start = (track - length) * state.top / state.lastTop;
     geometry.thumb = rectAt(geometry.track.left, geometry.track.top + start, widthOf(geometry.track), length);
 }
 
 /// Every part changes sides.
 void mirror(ListGeometry& geometry, const PegRect& area)
 {
-    for (PegRect* part : {&geometry.firstStatusLine, &geometry.titleText, &geometry.ticker, &geometry.body,
-                          &geometry.scroll, &geometry.track, &geometry.thumb, &geometry.firstMark, &geometry.firstText})
+    for (PegRect* part :
+         {&geometry.firstStatusLine, &geometry.titleText, &geometry.ticker, &geometry.body, &geometry.scroll,
+          &geometry.track, &geometry.thumb, &geometry.marks, &geometry.texts, &geometry.besideMark})
         *part = isEmpty(*part)
                     ? NOWHERE
                     : rectAt(area.left + area.right - part->right, part->top, widthOf(*part), heightOf(*part));
@@ -137,19 +158,14 @@ void placeBack(ListGeometry& geometry, const Layout& layout, const PegRect& area
 
 } // namespace
 
-PegRect ListGeometry::row(int slot) const
+PegRect ListGeometry::mark(const PegRect& row) const
 {
-    return rectAt(body.left, body.top + slot * rowHeight, widthOf(body), rowHeight);
+    return beside(row, marks);
 }
 
-PegRect ListGeometry::mark(int slot) const
+PegRect ListGeometry::text(const PegRect& row, bool isMarked) const
 {
-    return lowered(firstMark, slot * rowHeight);
-}
-
-PegRect ListGeometry::text(int slot) const
-{
-    return lowered(firstText, slot * rowHeight);
+    return beside(row, isMarked ? besideMark : texts);
 }
 
 int ListGeometry::statusLines() const
@@ -159,18 +175,21 @@ int ListGeometry::statusLines() const
 
 PegRect ListGeometry::statusLine(int line) const
 {
-    return lowered(firstStatusLine, line * heightOf(firstStatusLine));
+    const int height = heightOf(firstStatusLine);
+    return rectAt(firstStatusLine.left, firstStatusLine.top + line * height, widthOf(firstStatusLine), height);
+}
+
+int heightOfRows(const Layout& layout, const PegRect& area, const ListState& state)
+{
+    ListGeometry geometry;
+    return usedHeight(layout, placeFrame(geometry, layout, area, state));
 }
 
 ListGeometry geometryOf(const Layout& layout, const PegRect& area, const ListState& state)
 {
     ListGeometry geometry;
-    PegRect rest = area;
-    placeStatus(geometry, layout, rest, state);
-    placeTitle(geometry, layout, rest, state);
-    placeTicker(geometry, layout, rest, state);
-    placeBody(geometry, layout, rest, state);
-    placeRowParts(geometry, layout, state);
+    placeBody(geometry, layout, placeFrame(geometry, layout, area, state), state);
+    placeColumns(geometry, layout);
     placeThumb(geometry, layout, state);
     if (state.mirrored)
         mirror(geometry, area);

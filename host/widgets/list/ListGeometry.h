@@ -7,12 +7,12 @@ namespace host {
 /// What of a list decides where its parts stand.
 struct ListState {
     int rows = 0;
-    int top = 0; ///< the first row in view
+    int top = 0;     ///< the first row in view
+    int lastTop = 0; ///< that row at the end of the list
     int statusLines = 0;
     bool titled = false;
     bool ticker = false;
     bool back = false;
-    bool exclusive = false;
     bool mirrored = false; ///< for a language that is read from right to left
 };
 
@@ -28,21 +28,24 @@ struct ListGeometry {
     PegRect scroll; ///< the place of the scroll bar or of the arrows
     PegRect track;  ///< of a scroll bar: between its arrows
     PegRect thumb;
-    PegRect firstMark; ///< of the first row in view, as is the text
-    PegRect firstText;
-    int rowHeight = 1;
-    int visibleRows = 0;
+    PegRect marks;         ///< as high as the body, as are the columns of texts
+    PegRect texts;         ///< of rows without a mark
+    PegRect besideMark;    ///< of rows with one
+    bool hasAbove = false; ///< whether there are rows above the view, and below
+    bool hasBelow = false;
 
-    /// `slot` counts from the first row in view.
-    PegRect row(int slot) const;
-    PegRect mark(int slot) const;
-    PegRect text(int slot) const;
+    /// The parts of the row that has the area `row`.
+    PegRect mark(const PegRect& row) const;
+    PegRect text(const PegRect& row, bool isMarked) const;
 
     int statusLines() const;
     PegRect statusLine(int line) const;
 
     friend bool operator==(const ListGeometry&, const ListGeometry&) = default;
 };
+
+/// The pixels that all rows have, whatever their number: `rows` and `top` do not matter.
+int heightOfRows(const KestrelListBox::Layout& layout, const PegRect& area, const ListState& state);
 
 ListGeometry geometryOf(const KestrelListBox::Layout& layout, const PegRect& area, const ListState& state);
 

@@ -2,6 +2,7 @@
 
 #include "DisplayAPI/Command.h"
 #include "DisplayAPI/ListItem.h"
+#include "apps/examples/TwoLineRow.h"
 #include "utilities/Rect.h"
 #include "utilities/TranslationInfo.h"
 #include "widgets/KestrelApplication.h"
@@ -252,6 +253,15 @@ TYPED_TEST(ListBoxPrivateTest, SerialisesTitleAndRowsInView)
     this->list.append(&this->a);
     EXPECT_EQ(this->list.serialise(), "object:\nname:KestrelListBox\ncaption:Menu\n"
                                       "subitem:\nname:KestrelListBoxItem\nstring0:a\nendsubitem:\n"
+                                      "end:\n");
+}
+
+TYPED_TEST(ListBoxPrivateTest, RowsOfOtherKindsDescribeThemselves)
+{
+    examples::TwoLineRow row(ICC::fromUTF8toUNICODE("Ada"), ICC::fromUTF8toUNICODE("+44"));
+    this->boxOf(this->list).append(&row);
+    EXPECT_EQ(this->list.serialise(), "object:\nname:KestrelListBox\n"
+                                      "subitem:\nname:TwoLineRow\nstring0:Ada\nstring1:+44\nendsubitem:\n"
                                       "end:\n");
 }
 

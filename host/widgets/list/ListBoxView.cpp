@@ -1,0 +1,102 @@
+#include "host/lcd/Geometry.h"
+#include "host/widgets/Reading.h"
+#include "host/widgets/list/ListBoxImpl.h"
+
+#include <algorithm>
+#include <utility>
+
+using namespace host;
+
+ListState KestrelListBox::Impl::state() const
+{
+    return {.rows = rows.size(),
+            .top = top,
+            .lastTop = lastTop,
+            .statusLines = statusShown,
+            .titled = !title.empty(),
+            .ticker = ticker,
+            .back = back,
+            .mirrored = isReadFromTheRight()};
+}
+
+const ListView& KestrelListBox::Impl::view()
+{
+    if (!isLaidOut)
+        layOut();
+    return inView;
+}
+
+void KestrelListBox::Impl::layOut()
+{
+    inView.parts = geometryOf(layout, box.Area(), state());
+    inView.rows.clear();
+    const PegRect& body = inView.parts.body;
+    rows.walkFrom(top, [&, row = top, next = int{body.top}](const KestrelListBoxItem* item) mutable {
+        const int height = heightIn(*item);
+        const int left = body.bottom + 1 - next;
+        if (left <= 0 || (height > left && row > top))
+            return false;
+        inView.rows.push_back({.item = item,
+                               .area = rectAt(body.left, next, widthOf(body), std::min(height, left)),
+                               .inverted = highlight && row == current,
+                               .hasMark = exclusive || item->hasMark(),
+                               .isChosen = item->isMarked()});
+        next += height;
+        ++row;
+        return true;
+    });
+    isLaidOut = true;
+}
+
+/// While nobody sees the list, it is laid out when somebody asks: many changes are then one.
+void KestrelListBox::Impl::refresh()
+{
+    if (!isLaidOut || !box.StatusIs(PSF_VISIBLE)) {
+        isLaidOut = false;
+        box.Invalidate();
+        return;
+    }
+    std::swap(inView, former);
+    layOut();
+    repaintDifferences(box, former, inView);
+}
+
+void KestrelListBox::Impl::update()
+{
+    scrollToCurrent();
+    refresh();
+}
+
+void KestrelListBox::Impl::repaintItem(const KestrelListBoxItem* item)
+{
+    if (const RowInView* const row = view().find(item))
+        box.Invalidate(inView.areaWithMark(*row));
+}
+
+int KestrelListBox::Impl::heightIn(const KestrelListBoxItem& item) const
+{
+    return std::max(1, item.heightIn(layout));
+}
+
+/// The first row from which on all rows before `end` fit into `height` pixels; one row has as many as it needs.
+int KestrelListBox::Impl::firstRowBefore(int end, int height) const
+{
+    int first = end;
+    rows.walkBackFrom(end - 1, [&, left = height](const KestrelListBoxItem* item) mutable {
+        left -= heightIn(*item);
+        if (left < 0 && first < end)
+            return false;
+        --first;
+        return left > 0;
+    });
+    return first;
+}
+
+/// No further than it has to be, and with no room below the last row that rows above the view could have.
+void KestrelListBox::Impl::scrollToCurrent()
+{
+    const int height = heightOfRows(layout, box.Area(), state());
+    lastTop = firstRowBefore(rows.size(), height);
+    const int first = firstRowBefore(current + 1, height);
+    top = std::min(std::clamp(top, first, std::max(first, current)), lastTop);
+}
