@@ -35,7 +35,7 @@ std::atomic<int> gChosen{NOT_CHOSEN};
 std::optional<Variant> fromEnvironment()
 {
     const char* const name = std::getenv("DISPLAYAPI_VARIANT");
-    if (!name || !*name)
+    if (name == nullptr || *name == '\0')
         return std::nullopt;
     const std::optional<Variant> variant = variantFromName(name);
     if (!variant)

@@ -94,7 +94,7 @@ void DisplayPrivate::handBackWidgets()
     if (mCurrent != nullptr && std::find(mItemList.begin(), mItemList.end(), mCurrent) == mItemList.end())
         mItemList.push_back(mCurrent);
     const StackChange change(mStackChangeUnderWay);
-    for (StackWalk walk(mItemList, mWalks); Displayable* entry = walk.next();) {
+    for (Displayable* entry : StackWalk(mItemList, mWalks)) {
         DisplayablePrivateIfc* const side = entry->getPrivateImpl();
         if (side == nullptr)
             continue;

@@ -77,7 +77,7 @@ std::string DisplayPrivate::serialise()
 {
     updateVisibleRectMonitor();
     std::string text;
-    for (StackWalk walk(mItemList, mWalks); Displayable* entry = walk.next();) {
+    for (Displayable* entry : StackWalk(mItemList, mWalks)) {
         if (DisplayablePrivateIfc* side = entry->getPrivateImpl())
             text += side->serialise();
     }
@@ -104,7 +104,8 @@ std::string DisplayPrivate::serialiseStack(const std::vector<Rects>& visible, co
 {
     gDisplayLog(TRACE, 975, "serialiseByRect() mItemList.size() = %d", static_cast<int>(mItemList.size()));
     std::string text;
-    for (StackWalk walk(mItemList, mWalks); Displayable* displayable = walk.next();) {
+    StackWalk walk(mItemList, mWalks);
+    for (Displayable* displayable : walk) {
         const Rects parts = requestedParts(visible[walk.position()], requested);
         gDisplayLog(TRACE, 979, "serialiseByRect() newRects.size() = %d", static_cast<int>(parts.size()));
         DisplayablePrivateIfc* const side = displayable->getPrivateImpl();

@@ -27,7 +27,7 @@ void DisplayPrivate::show()
 void DisplayPrivate::showContentWidget()
 {
     gDisplayLog(TRACE, 595, "showContentWidget() this=[%p] called", address(this));
-    for (StackWalk walk(mItemList, mWalks, StackWalk::PASSED_OVER); Displayable* entry = walk.next();) {
+    for (Displayable* entry : StackWalk(mItemList, mWalks, StackWalk::PASSED_OVER)) {
         PegThing* const widget = widgetOf(entry);
         if (widget == nullptr)
             continue;
@@ -66,7 +66,7 @@ void DisplayPrivate::hide()
 void DisplayPrivate::hideContentWidget()
 {
     gDisplayLog(TRACE, 633, "hideContentWidget() this=[%p] called", address(this));
-    for (StackWalk walk(mItemList, mWalks); Displayable* entry = walk.next();) {
+    for (Displayable* entry : StackWalk(mItemList, mWalks)) {
         PegThing* const widget = widgetOf(entry);
         gDisplayLog(TRACE, 636, "hideContentWidget() calling remove on [%s] [0x%p]", nameOf(entry), address(widget));
         if (DisplayablePrivateIfc* side = entry->getPrivateImpl())

@@ -32,7 +32,7 @@ void DisplayPrivate::emptyScreen()
 {
     const StackChange change(mStackChangeUnderWay);
     hideContentWidget();
-    for (StackWalk walk(mItemList, mWalks); Displayable* entry = walk.next();) {
+    for (Displayable* entry : StackWalk(mItemList, mWalks)) {
         gDisplayLog(TRACE, 322, "setCurrentImpl() calling lostFocus on [%s] [0x%p]\n", nameOf(entry), address(entry));
         lostFocus(entry);
     }
@@ -100,7 +100,7 @@ bool DisplayPrivate::takeStackOffScreen(DisplayablePrivateIfc* kept)
 {
     const StackChange change(mStackChangeUnderWay);
     bool keptIsShown = false;
-    for (StackWalk walk(mItemList, mWalks); Displayable* entry = walk.next();) {
+    for (Displayable* entry : StackWalk(mItemList, mWalks)) {
         DisplayablePrivateIfc* const side = entry->getPrivateImpl();
         if (side == nullptr)
             continue;
@@ -119,7 +119,7 @@ bool DisplayPrivate::takeStackOffScreen(DisplayablePrivateIfc* kept)
 /// What has come to the screen while the others were taken off it goes as well.
 void DisplayPrivate::takeLateComersOff(const DisplayablePrivateIfc* kept)
 {
-    for (StackWalk walk(mItemList, mWalks); Displayable* entry = walk.next();) {
+    for (Displayable* entry : StackWalk(mItemList, mWalks)) {
         DisplayablePrivateIfc* const side = entry->getPrivateImpl();
         PegThing* const widget = widgetOf(side);
         if (side == kept || !isOnScreen(widget))

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 #include <vector>
 
@@ -11,7 +12,7 @@ class Displayable;
 /// Goes over the entries that a display's stack has when it begins, front to back, while what is done to one of them
 /// may take it, or others, off the stack. Those that are deleted meanwhile are passed over.
 ///
-///     for (StackWalk walk(mItemList, mWalks); Displayable* entry = walk.next();)
+///     for (Displayable* entry : StackWalk(mItemList, mWalks))
 class StackWalk {
 public:
     enum Dismissed { VISITED, PASSED_OVER };
@@ -26,18 +27,28 @@ public:
     StackWalk& operator=(const StackWalk&) = delete;
     ~StackWalk() { mUnderWay.pop_back(); }
 
-    /// Null behind the last.
-    Displayable* next()
-    {
-        while (mNext < mEntries.size()) {
-            if (Displayable* entry = mEntries[mNext++])
-                return entry;
-        }
-        return nullptr;
-    }
+    class Iterator {
+    public:
+        explicit Iterator(StackWalk& walk) : mWalk(walk) {}
 
-    /// Where on the stack next()'s last answer was when the walk began.
-    std::size_t position() const { return mNext - 1; }
+        Displayable* operator*() const { return mWalk.mEntries[mWalk.mPosition]; }
+        Iterator& operator++()
+        {
+            ++mWalk.mPosition;
+            return *this;
+        }
+        /// Looks at every entry as late as can be: right before it is visited.
+        bool operator==(std::default_sentinel_t) const { return mWalk.isOver(); }
+
+    private:
+        StackWalk& mWalk;
+    };
+
+    Iterator begin() { return Iterator(*this); }
+    std::default_sentinel_t end() const { return {}; }
+
+    /// Where on the stack the entry that is visited was when the walk began.
+    std::size_t position() const { return mPosition; }
 
     void isDismissed(Displayable* entry)
     {
@@ -50,9 +61,16 @@ public:
 private:
     static constexpr Displayable* GONE = nullptr;
 
+    bool isOver()
+    {
+        while (mPosition < mEntries.size() && mEntries[mPosition] == GONE)
+            ++mPosition;
+        return mPosition == mEntries.size();
+    }
+
     std::vector<Displayable*> mEntries;
     std::vector<StackWalk*>& mUnderWay;
-    std::size_t mNext = 0;
+    std::size_t mPosition = 0;
     Dismissed mDismissed;
 };
 

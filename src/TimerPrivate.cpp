@@ -19,8 +19,8 @@ struct TimerPrivate::Walk {
 
     void hasLost(std::size_t index)
     {
-        next -= index < next;
-        end -= index < end;
+        next -= index < next ? 1 : 0;
+        end -= index < end ? 1 : 0;
     }
 
     void abandon()

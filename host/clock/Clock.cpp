@@ -208,20 +208,20 @@ bool Clock::sleepFor(std::int64_t ms, const bool* stop)
     std::unique_lock lock(mMutex);
     if (mVirtual)
         return sleepVirtual(lock, ms, stop);
-    return !mMoved.wait_for(lock, std::chrono::milliseconds(ms), [stop] { return stop && *stop; });
+    return !mMoved.wait_for(lock, std::chrono::milliseconds(ms), [stop] { return stop != nullptr && *stop; });
 }
 
 bool Clock::sleepVirtual(std::unique_lock<std::mutex>& lock, std::int64_t ms, const bool* stop)
 {
     const std::int64_t due = mVirtualNow + ms;
     if (ms <= 0)
-        return !(stop && *stop);
+        return !(stop != nullptr && *stop);
     mSleeperDues.insert(due);
     Wakefulness::ofThisThread().end();
-    mMoved.wait(lock, [&] { return mVirtualNow >= due || !mVirtual || (stop && *stop); });
+    mMoved.wait(lock, [&] { return mVirtualNow >= due || !mVirtual || (stop != nullptr && *stop); });
     if (mVirtualNow < due) {
         mSleeperDues.erase(mSleeperDues.find(due));
-        return !(stop && *stop);
+        return !(stop != nullptr && *stop);
     }
     Wakefulness::ofThisThread().beginAt(mStopNumber);
     return true;

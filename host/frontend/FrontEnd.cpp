@@ -38,10 +38,10 @@ FrontEnd* gFrontEnd = nullptr;
 FrontEnd* load(const std::string& path)
 {
     void* const object = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
-    if (!object)
+    if (object == nullptr)
         giveUp(std::string("The front end cannot be loaded: ") + dlerror());
     const auto create = reinterpret_cast<CreateFrontEnd>(dlsym(object, "displayapiCreateFrontEnd"));
-    if (!create)
+    if (create == nullptr)
         giveUp(path + " is not a front end");
     return create();
 }
@@ -59,7 +59,7 @@ void start(const Kind& kind, const std::string& options)
 void startFrontEnd()
 {
     const char* const variable = std::getenv("DISPLAYAPI_HOST");
-    const std::string wanted = variable ? variable : "";
+    const std::string wanted = variable != nullptr ? variable : "";
     if (wanted.empty() || wanted == "headless")
         return;
     const std::size_t colon = wanted.find(':');

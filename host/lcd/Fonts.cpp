@@ -210,7 +210,7 @@ void Fonts::Set::replaceUnknown(std::u16string& text) const
 
 bool Fonts::Set::has(std::size_t face, char16_t character) const
 {
-    return characters[face] != nullptr && FcCharSetHasChar(characters[face], character);
+    return characters[face] != nullptr && FcCharSetHasChar(characters[face], character) == FcTrue;
 }
 
 const std::vector<std::string>& Fonts::folders()

@@ -90,7 +90,7 @@ TextMask boxes(std::size_t count, int width)
         for (int x = 0; x < mask.width; ++x) {
             const int column = x % STEP;
             const bool edge = y == TOP || y == BOTTOM - 1 || column == 0 || column == SIDE - 1;
-            mask.ink[static_cast<std::size_t>(y * mask.width + x)] = column < SIDE && edge;
+            mask.ink[static_cast<std::size_t>(y * mask.width + x)] = column < SIDE && edge ? 1 : 0;
         }
     }
     return mask;

@@ -15,14 +15,14 @@ namespace {
 
 bool isBelow(const PegThing* thing, const PegThing* root)
 {
-    while (thing && thing != root)
+    while (thing != nullptr && thing != root)
         thing = thing->Parent();
     return thing != nullptr;
 }
 
 void dispatch(const PegMessage& message, PegThing* focus)
 {
-    if (PegThing* const target = message.pTarget ? message.pTarget : focus)
+    if (PegThing* const target = message.pTarget != nullptr ? message.pTarget : focus)
         target->Message(message);
     if (message.wType == PM_KEY || message.wType == PM_KEYRELEASE)
         host::Keyboard::instance().handled();
@@ -40,7 +40,7 @@ PRESCPresentationManager::PRESCPresentationManager()
 
 PRESCPresentationManager::~PRESCPresentationManager()
 {
-    while (mLast)
+    while (mLast != nullptr)
         delete mLast;
     if (gpPresent == this)
         gpPresent = nullptr;
@@ -50,11 +50,11 @@ void PRESCPresentationManager::Execute(const char* sourceFile)
 {
     if (loggingOnUni())
         logAppUni("PegWidgets", "PRESCPresentationManager", 5, __LINE__, "Execute() called from %s",
-                  sourceFile ? sourceFile : "");
+                  sourceFile != nullptr ? sourceFile : "");
     host::MainLoop loop;
     while (!loop.hasEnded()) {
         PegMessage* const message = loop.take();
-        if (message) {
+        if (message != nullptr) {
             dispatch(*message, mFocus);
             loop.done(message);
         }
@@ -62,9 +62,9 @@ void PRESCPresentationManager::Execute(const char* sourceFile)
             host::Timers::instance().fireDue();
             loop.paintIfDue();
         }
-        if (mPending && loop.isPainted())
+        if (mPending != nullptr && loop.isPainted())
             mPending = nullptr;
-        if (!message)
+        if (message == nullptr)
             loop.waitForWork();
     }
 }
@@ -88,7 +88,7 @@ void PRESCPresentationManager::MoveFocusTree(PegThing* thing)
 
 void PRESCPresentationManager::markBranch(PegThing* thing, bool current)
 {
-    for (; thing; thing = thing->mParent)
+    for (; thing != nullptr; thing = thing->mParent)
         thing->setStatus(PSF_CURRENT, current);
 }
 
@@ -133,7 +133,7 @@ void PRESCPresentationManager::childRemoved(PegThing* child, bool redraw)
     if (!redraw)
         return;
     child->Invalidate();
-    mPending = child->mPrevious ? child->mPrevious : child->mParent;
+    mPending = child->mPrevious != nullptr ? child->mPrevious : child->mParent;
 }
 
 void PRESCPresentationManager::forget(PegThing* thing)

@@ -67,7 +67,7 @@ void LoopStatus::setRoot(PegThing* root)
 void LoopStatus::askForExit()
 {
     std::lock_guard lock(mRootMutex);
-    if (mRoot)
+    if (mRoot != nullptr)
         MainQueue::push({PM_EXIT, 0, mRoot});
 }
 

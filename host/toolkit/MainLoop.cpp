@@ -56,7 +56,7 @@ MainLoop::~MainLoop()
 
 void MainLoop::end()
 {
-    if (gRun)
+    if (gRun != nullptr)
         gRun->mEnded = true;
 }
 
@@ -64,7 +64,7 @@ PegMessage* MainLoop::take()
 {
     PegMessage* const message =
         MainQueue::take(mMessagesInARow < MESSAGES_BEFORE_A_BURST ? MainQueue::Pace::PROMPT : MainQueue::Pace::BURST);
-    mMessagesInARow = message ? mMessagesInARow + 1 : 0;
+    mMessagesInARow = message != nullptr ? mMessagesInARow + 1 : 0;
     if (isTurnOfOthers())
         LoopStatus::instance().beginWork();
     return message;
@@ -72,7 +72,7 @@ PegMessage* MainLoop::take()
 
 bool MainLoop::isPainted()
 {
-    return !Lcd::current() || !Lcd::current()->isDirty();
+    return Lcd::current() == nullptr || !Lcd::current()->isDirty();
 }
 
 void MainLoop::paintIfDue()

@@ -36,7 +36,7 @@ void logLost(const PegMessage& message)
 void append(PegMessage* message)
 {
     PegMainQueue& queue = *gtPegMainQueue;
-    (queue.tail ? queue.tail->Next : queue.head) = message;
+    (queue.tail != nullptr ? queue.tail->Next : queue.head) = message;
     queue.tail = message;
     addToCount(1);
     pthread_cond_broadcast(&queue.condition);
@@ -57,7 +57,7 @@ void fetchAhead(const PegMessage& next)
     constexpr int RECORD = 256;
     constexpr int LINE = 64;
     __builtin_prefetch(next.Next);
-    for (int line = 0; next.pData && line < RECORD; line += LINE)
+    for (int line = 0; next.pData != nullptr && line < RECORD; line += LINE)
         __builtin_prefetch(static_cast<const char*>(next.pData) + line, 1);
 }
 
@@ -93,7 +93,7 @@ void removeIf(Unwanted unwanted)
 
 void MainQueue::create()
 {
-    if (gtPegMainQueue)
+    if (gtPegMainQueue != nullptr)
         return;
     auto* const queue = new PegMainQueue;
     pthread_mutex_init(&queue->mutex, nullptr);
@@ -128,10 +128,10 @@ PegMessage* MainQueue::take(Pace pace)
         lock.lock();
     PegMainQueue& queue = *gtPegMainQueue;
     PegMessage* const message = queue.head;
-    if (!message)
+    if (message == nullptr)
         return nullptr;
     queue.head = message->Next;
-    if (!queue.head)
+    if (queue.head == nullptr)
         queue.tail = nullptr;
     else
         fetchAhead(*queue.head);
@@ -141,7 +141,7 @@ PegMessage* MainQueue::take(Pace pace)
 
 void MainQueue::dropMessagesTo(const PegThing* thing)
 {
-    if (!gtPegMainQueue || isEmpty())
+    if (gtPegMainQueue == nullptr || isEmpty())
         return;
     removeIf([thing](PegMessage& message) {
         if (message.pTarget != thing)

@@ -33,7 +33,7 @@ bool failsOnPurpose()
 PegMessage* newChain(std::size_t count)
 {
     PegMessage* const chain = new (std::nothrow) PegMessage[count];
-    if (!chain)
+    if (chain == nullptr)
         return nullptr;
     for (std::size_t at = 1; at < count; ++at)
         chain[at - 1].Next = &chain[at];
@@ -45,7 +45,7 @@ PegMessage* newChain(std::size_t count)
 
 void MessagePool::create()
 {
-    if (gpFreePool)
+    if (gpFreePool != nullptr)
         return;
     gpFreePool = new PegFreePool;
     if (PegMessage* const chain = newChain(PREALLOCATED))
@@ -58,7 +58,7 @@ PegMessage* MessagePool::take()
         std::lock_guard lock(gPoolLock);
         if (PegMessage* const message = gpFreePool->head) {
             gpFreePool->head = message->Next;
-            if (!message->Next)
+            if (message->Next == nullptr)
                 gpFreePool->tail = nullptr;
             return message;
         }
@@ -70,7 +70,7 @@ void MessagePool::giveBack(PegMessage* first, PegMessage* last)
 {
     std::lock_guard lock(gPoolLock);
     last->Next = nullptr;
-    (gpFreePool->tail ? gpFreePool->tail->Next : gpFreePool->head) = first;
+    (gpFreePool->tail != nullptr ? gpFreePool->tail->Next : gpFreePool->head) = first;
     gpFreePool->tail = last;
 }
 
@@ -78,7 +78,8 @@ MessagePool::Counters MessagePool::counters()
 {
     Counters counters{gRecords, 0, gAllocations, gRefused};
     std::lock_guard lock(gPoolLock);
-    for (const PegMessage* message = gpFreePool ? gpFreePool->head : nullptr; message; message = message->Next)
+    for (const PegMessage* message = gpFreePool != nullptr ? gpFreePool->head : nullptr; message != nullptr;
+         message = message->Next)
         ++counters.free;
     return counters;
 }
@@ -98,14 +99,14 @@ MessagePool::Drained::Drained()
 
 MessagePool::Drained::~Drained()
 {
-    if (mFirst)
+    if (mFirst != nullptr)
         giveBack(mFirst, mLast);
     failAllocations(0);
 }
 
 void DoneMessages::giveBack()
 {
-    if (mFirst)
+    if (mFirst != nullptr)
         MessagePool::giveBack(mFirst, mLast);
     mFirst = mLast = nullptr;
     mCount = 0;
@@ -128,7 +129,7 @@ PegMessage* AllocateMessage() noexcept
     constexpr std::size_t RECORDS_AT_ONCE = 64;
     ++host::gAllocations;
     PegMessage* const chain = host::failsOnPurpose() ? nullptr : host::newChain(RECORDS_AT_ONCE);
-    if (!chain) {
+    if (chain == nullptr) {
         ++host::gRefused;
         return nullptr;
     }

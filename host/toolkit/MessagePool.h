@@ -57,7 +57,7 @@ public:
     void add(PegMessage* message)
     {
         message->Next = nullptr;
-        (mLast ? mLast->Next : mFirst) = message;
+        (mLast != nullptr ? mLast->Next : mFirst) = message;
         mLast = message;
         if (++mCount == BATCH)
             giveBack();

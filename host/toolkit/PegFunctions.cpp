@@ -52,7 +52,7 @@ void pegCleanUp()
 
 int PegAtoI(const char* text)
 {
-    if (!text)
+    if (text == nullptr)
         return 0;
     const char* const first = text[0] == '+' && text[1] != '-' ? text + 1 : text;
     int number = 0;
@@ -64,7 +64,7 @@ int PegAtoI(const char* text)
 int PegStrLen(const PegChar* text)
 {
     int length = 0;
-    while (text && text[length] != 0)
+    while (text != nullptr && text[length] != 0)
         ++length;
     return length;
 }

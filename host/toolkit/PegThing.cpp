@@ -18,7 +18,7 @@ bool isKey(const PegMessage& message)
 
 bool isOrHasAbove(const PegThing* thing, const PegThing* wanted)
 {
-    while (thing && thing != wanted)
+    while (thing != nullptr && thing != wanted)
         thing = thing->Parent();
     return thing != nullptr;
 }
@@ -29,20 +29,20 @@ PegThing::PegThing(std::uint16_t id, std::uint16_t style) : mId(id), mStyle(styl
 
 PegThing::~PegThing()
 {
-    if (mParent)
+    if (mParent != nullptr)
         mParent->Remove(this);
-    while (mLast)
+    while (mLast != nullptr)
         delete mLast;
     if (mHasTimers)
         host::Timers::instance().killAll(this);
-    if (gpPresent)
+    if (gpPresent != nullptr)
         gpPresent->forget(this);
     host::MainQueue::dropMessagesTo(this);
 }
 
 int PegThing::Message(const PegMessage& message)
 {
-    if (isKey(message) && mParent)
+    if (isKey(message) && mParent != nullptr)
         mParent->Message(message);
     return 0;
 }
@@ -58,13 +58,13 @@ void PegThing::Resize(const PegRect& area)
 
 void PegThing::Add(PegThing* child, bool redraw)
 {
-    if (!child || isOrHasAbove(this, child))
+    if (child == nullptr || isOrHasAbove(this, child))
         return;
-    if (child->mParent)
+    if (child->mParent != nullptr)
         child->mParent->Remove(child, redraw);
     child->mParent = this;
     child->mPrevious = mLast;
-    (mLast ? mLast->mNext : mFirst) = child;
+    (mLast != nullptr ? mLast->mNext : mFirst) = child;
     mLast = child;
     if (!StatusIs(PSF_VISIBLE))
         return;
@@ -74,12 +74,12 @@ void PegThing::Add(PegThing* child, bool redraw)
 
 void PegThing::Remove(PegThing* child, bool redraw)
 {
-    if (!child || child->mParent != this)
+    if (child == nullptr || child->mParent != this)
         return;
     if (StatusIs(PSF_VISIBLE))
         gpPresent->childRemoved(child, redraw);
-    (child->mPrevious ? child->mPrevious->mNext : mFirst) = child->mNext;
-    (child->mNext ? child->mNext->mPrevious : mLast) = child->mPrevious;
+    (child->mPrevious != nullptr ? child->mPrevious->mNext : mFirst) = child->mNext;
+    (child->mNext != nullptr ? child->mNext->mPrevious : mLast) = child->mPrevious;
     child->mParent = child->mNext = child->mPrevious = nullptr;
     if (child->StatusIs(PSF_VISIBLE))
         child->setTreeVisible(false);
@@ -87,13 +87,13 @@ void PegThing::Remove(PegThing* child, bool redraw)
 
 void PegThing::Invalidate()
 {
-    if (mpScreen && StatusIs(PSF_VISIBLE))
+    if (mpScreen != nullptr && StatusIs(PSF_VISIBLE))
         mpScreen->Invalidate(this);
 }
 
 void PegThing::Invalidate(const PegRect& part)
 {
-    if (host::Lcd::current() && StatusIs(PSF_VISIBLE))
+    if (host::Lcd::current() != nullptr && StatusIs(PSF_VISIBLE))
         host::Lcd::current()->invalidate(host::intersection(part, mArea));
 }
 
@@ -120,7 +120,7 @@ void PegThing::setTreeVisible(bool visible)
 {
     setStatus(PSF_VISIBLE, visible);
     VisibilityChanged();
-    for (PegThing* child = mFirst; child;) {
+    for (PegThing* child = mFirst; child != nullptr;) {
         PegThing* const next = child->mNext;
         child->setTreeVisible(visible);
         child = next;

@@ -87,7 +87,7 @@ void Log::removeSink(int number)
 bool Log::parse(const char* setting, Filter& filter)
 {
     char* end = nullptr;
-    const long level = setting ? std::strtol(setting, &end, 10) : 0;
+    const long level = setting != nullptr ? std::strtol(setting, &end, 10) : 0;
     if (level <= 0 || (*end != '\0' && *end != ':'))
         return false;
     filter = {static_cast<int>(level), *end == ':' ? end + 1 : ""};

@@ -11,7 +11,7 @@ TranslationInfo::TranslationInfo(std::string key, TranslatorIfc* translator, std
 
 std::string TranslationInfo::getString() const
 {
-    return mTranslator ? mTranslator->translate(mKey) : mKey;
+    return mTranslator != nullptr ? mTranslator->translate(mKey) : mKey;
 }
 
 std::string TranslationInfo::getCompleteString() const

@@ -5,7 +5,7 @@
 
 /// The toolkit's string: a length and a zero-terminated array of characters. Only the UCS-2 form is instantiated.
 template <typename Char>
-class _template_PString {
+class _template_PString { // NOLINT(readability-identifier-naming)
 public:
     _template_PString() noexcept;
     explicit _template_PString(const Char* text);

@@ -30,7 +30,7 @@ bool isAddress(int family, const std::string& text)
 /// Characters that need no escape in an address of the web.
 bool isToken(const std::string& text)
 {
-    const auto isPlain = [](unsigned char c) { return (std::isalnum(c) && c < 0x80) || c == '-' || c == '_'; };
+    const auto isPlain = [](unsigned char c) { return (std::isalnum(c) != 0 && c < 0x80) || c == '-' || c == '_'; };
     return text.size() >= SHORTEST_TOKEN && text.size() <= LONGEST_TOKEN && std::ranges::all_of(text, isPlain);
 }
 

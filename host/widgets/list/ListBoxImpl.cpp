@@ -65,7 +65,7 @@ void KestrelListBox::Impl::markCurrent(bool on)
 /// Texts may begin at the other side now.
 void KestrelListBox::Impl::languageChanged()
 {
-    isLaidOut = false;
+    mIsLaidOut = false;
     placeTicker();
     box.Invalidate();
 }

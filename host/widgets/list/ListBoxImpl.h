@@ -74,7 +74,7 @@ private:
     void layOut();
     void markCurrent(bool on);
 
-    host::ListView inView;
-    host::ListView former;  ///< what was before the last change
-    bool isLaidOut = false; ///< whether `inView` is what is on the screen
+    host::ListView mInView;
+    host::ListView mFormer;  ///< what was before the last change
+    bool mIsLaidOut = false; ///< whether `mInView` is what is on the screen
 };

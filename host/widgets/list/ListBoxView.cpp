@@ -21,44 +21,44 @@ ListState KestrelListBox::Impl::state() const
 
 const ListView& KestrelListBox::Impl::view()
 {
-    if (!isLaidOut)
+    if (!mIsLaidOut)
         layOut();
-    return inView;
+    return mInView;
 }
 
 void KestrelListBox::Impl::layOut()
 {
-    inView.parts = geometryOf(layout, box.Area(), state());
-    inView.rows.clear();
-    const PegRect& body = inView.parts.body;
+    mInView.parts = geometryOf(layout, box.Area(), state());
+    mInView.rows.clear();
+    const PegRect& body = mInView.parts.body;
     rows.walkFrom(top, [&, row = top, next = int{body.top}](const KestrelListBoxItem* item) mutable {
         const int height = heightIn(*item);
         const int left = body.bottom + 1 - next;
         if (left <= 0 || (height > left && row > top))
             return false;
-        inView.rows.push_back({.item = item,
-                               .area = rectAt(body.left, next, widthOf(body), std::min(height, left)),
-                               .inverted = highlight && row == current,
-                               .hasMark = exclusive || item->hasMark(),
-                               .isChosen = item->isMarked()});
+        mInView.rows.push_back({.item = item,
+                                .area = rectAt(body.left, next, widthOf(body), std::min(height, left)),
+                                .inverted = highlight && row == current,
+                                .hasMark = exclusive || item->hasMark(),
+                                .isChosen = item->isMarked()});
         next += height;
         ++row;
         return true;
     });
-    isLaidOut = true;
+    mIsLaidOut = true;
 }
 
 /// While nobody sees the list, it is laid out when somebody asks: many changes are then one.
 void KestrelListBox::Impl::refresh()
 {
-    if (!isLaidOut || !box.StatusIs(PSF_VISIBLE)) {
-        isLaidOut = false;
+    if (!mIsLaidOut || !box.StatusIs(PSF_VISIBLE)) {
+        mIsLaidOut = false;
         box.Invalidate();
         return;
     }
-    std::swap(inView, former);
+    std::swap(mInView, mFormer);
     layOut();
-    repaintDifferences(box, former, inView);
+    repaintDifferences(box, mFormer, mInView);
 }
 
 void KestrelListBox::Impl::update()
@@ -70,7 +70,7 @@ void KestrelListBox::Impl::update()
 void KestrelListBox::Impl::repaintItem(const KestrelListBoxItem* item)
 {
     if (const RowInView* const row = view().find(item))
-        box.Invalidate(inView.areaWithMark(*row));
+        box.Invalidate(mInView.areaWithMark(*row));
 }
 
 int KestrelListBox::Impl::heightIn(const KestrelListBoxItem& item) const
