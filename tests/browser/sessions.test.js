@@ -3,7 +3,7 @@
 import assert from "node:assert/strict";
 import { after, before, describe, test } from "node:test";
 import { openBrowser, Tab } from "./support/browser.js";
-import { freePort, LIMIT, Phone, program, until } from "./support/phone.js";
+import { LIMIT, Phone, program, until } from "./support/phone.js";
 
 const STOPPED = "The application has stopped. Reconnecting…";
 const ENDED = "The application has ended.";
@@ -163,8 +163,7 @@ describe("a session", { timeout: 180_000 }, () => {
   });
 
   test("cannot start on a port that is busy", LIMIT, async (t) => {
-    const port = await freePort();
-    await start(t, { port });
+    const { port } = await start(t);
     await assert.rejects(Phone.start({ port }), new RegExp(`Port ${port} is busy: another program listens on it`));
   });
 });

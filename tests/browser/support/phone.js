@@ -3,7 +3,6 @@
 import { spawn } from "node:child_process";
 import { once } from "node:events";
 import { readFileSync } from "node:fs";
-import net from "node:net";
 import path from "node:path";
 
 export const BUILD = path.resolve(process.env.BUILD_DIR ?? "../../build/release");
@@ -11,15 +10,6 @@ export const program = (name) => path.join(BUILD, "bin", name);
 
 /** A test that takes longer hangs. */
 export const LIMIT = { timeout: 60_000 };
-
-export async function freePort() {
-  const server = net.createServer().listen(0, "127.0.0.1");
-  await once(server, "listening");
-  const { port } = server.address();
-  server.close();
-  await once(server, "close");
-  return port;
-}
 
 /** Looks until `condition` yields something true, and returns that. */
 export async function until(condition, what, patience = 20_000) {
@@ -33,10 +23,9 @@ export async function until(condition, what, patience = 20_000) {
 }
 
 export class Phone {
-  static async start({ variant = "plain", port, options = [], app = [program("deskphone")], clock = "real" } = {}) {
+  static async start({ variant = "plain", port = 0, options = [], app = [program("deskphone")], clock = "real" } = {}) {
     const phone = new Phone();
-    phone.port = port ?? (await freePort());
-    const words = ["--variant", variant, "--port", phone.port, ...options, ...app].map(String);
+    const words = ["--variant", variant, "--port", port, ...options, ...app].map(String);
     phone.process = spawn(program("phone"), words, {
       stdio: ["ignore", "pipe", "pipe"], env: { ...process.env, DISPLAYAPI_CLOCK: clock },
     });
@@ -48,6 +37,10 @@ export class Phone {
     await until(() => phone.hasEnded || phone.output.includes("http://"), "the address of the telephone");
     if (phone.hasEnded) throw new Error(`The telephone has not started: ${phone.output}`);
     return phone;
+  }
+
+  get port() {
+    return Number(new URL(this.url).port);
   }
 
   get url() {
