@@ -178,6 +178,16 @@ TEST_F(CommandExecutorTest, WhatAHandlerPostsIsDeliveredAfterItByTheSameLoop)
     EXPECT_FALSE(hadPool()) << "no other executor was started";
 }
 
+TEST_F(CommandExecutorTest, EachOfManyIsDeliveredOnce)
+{
+    constexpr std::size_t MANY = 10'000;
+    for (std::size_t number = 1; number <= MANY; ++number)
+        post(a, item(number));
+    deliver();
+    EXPECT_EQ(trace.size(), MANY);
+    EXPECT_EQ(trace.back(), "a item " + std::to_string(MANY));
+}
+
 TEST_F(CommandExecutorTest, NullListenersAreIgnored)
 {
     CommandExecutor::postCommand(static_cast<CommandListener*>(nullptr), &call, nullptr, START);
@@ -307,6 +317,37 @@ TEST_F(CommandExecutorTest, ANotificationThatIsBeingDeliveredIsNotRecalled)
 }
 
 // Recalling
+
+TEST_F(CommandExecutorTest, ManyThreadsMayPostAndRecallAtTheSameTime)
+{
+    constexpr std::size_t ROUNDS = 20'000;
+    const auto rounds = [](auto round) {
+        return [round] {
+            for (std::size_t number = 1; number <= ROUNDS; ++number)
+                round(number);
+        };
+    };
+    Listener c("c", trace);
+    {
+        test::Worker commands(rounds([&](std::size_t) { post(a, call); }));
+        test::Worker items(rounds([&](std::size_t number) { post(b, item(number)); }));
+        test::Worker recalledCommands(rounds([&](std::size_t) {
+            post(c, back);
+            CommandExecutor::retrieveCommand(nullptr, &back, nullptr);
+        }));
+        test::Worker recalledItems(rounds([&](std::size_t number) {
+            post(c, item(number + ROUNDS));
+            CommandExecutor::retrieveCommand(&c, item(number + ROUNDS));
+        }));
+        while (!commands.hasReturned() || !items.hasReturned() || !recalledCommands.hasReturned() ||
+               !recalledItems.hasReturned())
+            deliver();
+    }
+    deliver();
+    EXPECT_EQ(std::count(trace.begin(), trace.end(), "a call"), ROUNDS);
+    EXPECT_EQ(std::count_if(trace.begin(), trace.end(), [](const auto& told) { return told.starts_with("b item"); }),
+              ROUNDS);
+}
 
 TEST_F(CommandExecutorTest, RecallingForAListenerLeavesOtherEntriesInOrder)
 {

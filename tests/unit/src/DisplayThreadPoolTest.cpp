@@ -249,6 +249,10 @@ TEST_F(DisplayThreadPoolTest, ManyThreadsMayAskAtTheSameTime)
                 for (int request = 0; request < REQUESTS; ++request)
                     pool->getThread()->executeRequest(new TestRunnable([&] { ran.count_down(); }));
             });
+        askers.emplace_back([&] {
+            for (int question = 0; question < REQUESTS; ++question)
+                EXPECT_LE(pool->availableThreads(), 3);
+        });
     }
     ran.wait();
     EXPECT_LE(pool->poolSize(), 3);

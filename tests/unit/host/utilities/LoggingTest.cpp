@@ -82,6 +82,24 @@ TEST(Logging, ManyThreadsMayWrite)
     EXPECT_EQ(capture.lines().size(), 2000u);
 }
 
+TEST(Logging, LinesMayBeReadWhileAnotherThreadWrites)
+{
+    constexpr int LINES = 5'000;
+    const LogCapture capture;
+    std::thread writer([] {
+        for (int i = 0; i < LINES; ++i)
+            logAppUni("m", "f", 2, i, "line %d", i);
+    });
+    std::size_t read = 0;
+    while (read < LINES) {
+        const auto lines = capture.lines();
+        EXPECT_GE(lines.size(), read);
+        read = lines.size();
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+    writer.join();
+}
+
 TEST(Logging, SettingNamesLevelAndModule)
 {
     Log::Filter filter;
