@@ -40,16 +40,18 @@ inline std::vector<PegString> pegs(const std::vector<std::string>& texts)
     return all;
 }
 
-/// Notes what a field tells it, as type and number.
+/// Notes what a field tells it, as type and number, and which one has spoken last.
 class Listener : public PegThing {
 public:
     int Message(const PegMessage& message) override
     {
         heard.push_back({message.wType, message.iData});
+        source = message.pSource;
         return 0;
     }
 
     std::vector<std::pair<int, int>> heard;
+    const PegThing* source = nullptr;
 };
 
 } // namespace test

@@ -46,6 +46,12 @@ TEST_F(EditLineTest, TellsTheLengthAfterEachChange)
                                      testing::Pair(PM_CURRENT_CHANGED, 1)));
 }
 
+TEST_F(EditLineTest, IsTheSourceOfWhatItTells)
+{
+    press(line, "4");
+    EXPECT_EQ(listener.source, &line);
+}
+
 TEST_F(EditLineTest, GoesThroughAKeysLettersUntilAnotherKey)
 {
     line.setModes({InputMode::LOWER});
@@ -83,6 +89,16 @@ TEST_F(EditLineTest, SetsTheCharacterWhenTheFocusGoes)
     line.setFocus(true);
     press(line, "2");
     EXPECT_EQ(text(), "aa");
+}
+
+TEST_F(EditLineTest, SetsTheCharacterWhenATextIsSet)
+{
+    line.setModes({InputMode::LOWER});
+    press(line, "2");
+    line.setText(peg("x"));
+    EXPECT_FALSE(isTimerRunning());
+    press(line, "2");
+    EXPECT_EQ(text(), "xa");
 }
 
 TEST_F(EditLineTest, BeginsWordsWithACapitalLetterInThatMode)

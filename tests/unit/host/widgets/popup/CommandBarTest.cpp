@@ -1,6 +1,7 @@
 #include "host/widgets/popup/CommandBar.h"
 
 #include "host/lcd/Geometry.h"
+#include "host/lcd/Lcd.h"
 #include "support/Keys.h"
 #include "support/RunningToolkit.h"
 #include "widgets/KestrelApplication.h"
@@ -21,6 +22,18 @@ protected:
     {
         bar.setMessageTarget(&listener);
         bar.Resize(host::rectAt(0, 0, 200, 18));
+    }
+
+    /// The texts of the commands that a bar of that width shows.
+    std::vector<std::string> shownOn(int width)
+    {
+        gpPresent->Add(&bar);
+        bar.Resize(host::rectAt(0, 0, width, 18));
+        host::Lcd::current()->paint();
+        std::vector<std::string> texts;
+        for (const host::TextRun& run : host::Lcd::current()->picture().texts)
+            texts.push_back(run.text);
+        return texts;
     }
 
     test::StartedToolkit toolkit;
@@ -71,6 +84,18 @@ TEST_F(CommandBarTest, BeginsAnewWithNewCommands)
     EXPECT_EQ(bar.text(0), test::peg("Call"));
     bar.setCommands({});
     EXPECT_EQ(bar.current(), -1);
+}
+
+TEST_F(CommandBarTest, ShowsAllCommandsWhereEachHasFourPixelsOnEitherSide)
+{
+    constexpr int PADDING = 4;
+    const auto commands = test::pegs({"Yes", "No"});
+    bar.setCommands(commands);
+    int needed = 0;
+    for (const PegString& command : commands)
+        needed += host::Lcd::current()->textWidth(CommandBar::font(), command) + 2 * PADDING;
+    EXPECT_THAT(shownOn(needed), ElementsAre("Yes", "No"));
+    EXPECT_THAT(shownOn(needed - 1), ElementsAre("Yes"));
 }
 
 TEST_F(CommandBarTest, IgnoresCommandsThatThereAreNot)
