@@ -71,6 +71,7 @@ TEST_F(DisplayPostTest, QueuesTheRequestForTheGivenFilter)
 
     const PegMessage message = gui.messages().at(0);
     EXPECT_EQ(message.wType, 0x4000);
+    EXPECT_EQ(message.iData, 0);
     EXPECT_EQ(message.pTarget, &own);
     EXPECT_EQ(message.pSource, &own);
     EXPECT_EQ(message.pData, request);
