@@ -33,7 +33,6 @@ Surface draw(const Picture& picture, int scale)
     Surface surface(cairo_image_surface_create(CAIRO_FORMAT_RGB24, picture.width * scale, picture.height * scale));
     if (cairo_surface_status(surface.get()) != CAIRO_STATUS_SUCCESS)
         return surface;
-    cairo_surface_flush(surface.get());
     for (int y = 0; y < picture.height * scale; ++y) {
         for (int x = 0; x < picture.width * scale; ++x)
             rowOf(surface.get(), y)[x] = COLOURS[pixelOf(picture, x / scale, y / scale) & 3];
