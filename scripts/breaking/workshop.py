@@ -131,7 +131,7 @@ class Build:
         homes = {}
         for entry in json.loads((self.folder / "compile_commands.json").read_text()):
             path = pathlib.Path(entry["file"])
-            program = re.search(r"CMakeFiles/(\w+)\.dir/", entry["command"])
+            program = re.search(r" -o \S*CMakeFiles/(\w+)\.dir/", entry["command"])
             if program and path.is_relative_to(self.tree / "tests"):
                 fixtures = set(re.findall(r"\bTEST(?:_F|_P)?\((\w+),", path.read_text()))
                 homes[path.relative_to(self.tree / "tests")] = {f"{program.group(1)}.{name}" for name in fixtures}
