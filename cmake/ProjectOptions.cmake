@@ -48,3 +48,14 @@ elseif(DISPLAYAPI_SANITIZE STREQUAL "thread")
 elseif(NOT DISPLAYAPI_SANITIZE STREQUAL "")
     message(FATAL_ERROR "DISPLAYAPI_SANITIZE is '${DISPLAYAPI_SANITIZE}'; it may be empty, address or thread")
 endif()
+
+# displayapi_parse_headers_once(TARGET): for targets of many files, where what is compiled is looked at by sanitizers. The
+# other presets compile without, and so see that each file includes what it uses.
+function(displayapi_parse_headers_once target)
+    if(DISPLAYAPI_SANITIZE STREQUAL "")
+        return()
+    endif()
+    target_precompile_headers(${target} PRIVATE
+        <algorithm> <atomic> <chrono> <condition_variable> <cstdlib> <functional> <map> <memory> <mutex> <optional> <set>
+        <sstream> <string> <thread> <utility> <vector>)
+endfunction()
