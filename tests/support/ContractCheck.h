@@ -100,7 +100,8 @@ private:
         std::string answer;
         Worker worker([&] { answer = row.call(subject); });
         EXPECT_EQ(worker.isBlocked(), row.waits);
-        mGui.waitForQueued(1); // what the worker did before it posted has happened
+        waitUntil([&] { return mGui.queued() > 0 || worker.hasReturned(); });
+        EXPECT_EQ(mGui.queued(), 1) << "requests of the call that are queued";
         subject.end();
         worker.join();
         EXPECT_EQ(answer, row.neutral);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/ContractCheck.h"
+#include "variants/Panel.h"
 #include "widgets/KestrelApplication.h"
 
 #include <concepts>
@@ -8,8 +9,7 @@
 
 namespace test {
 
-/// The panels that private sides are made for: their hardware variants.
-enum class Panel { SMALL = 0, FULL = 1 };
+using DisplayAPI::Panel;
 
 /// Makes private sides those of a panel; of the full one at the end.
 class OnPanel {
@@ -22,7 +22,7 @@ public:
 private:
     static void set(Panel panel)
     {
-        KestrelApplication::getCurrentApplication()->setHardwareVariant(static_cast<int>(panel));
+        KestrelApplication::getCurrentApplication()->setHardwareVariant(panel == Panel::FULL ? 1 : 0);
     }
 };
 
@@ -161,6 +161,9 @@ public:
         mLeft = std::move(unknown);
         return *this;
     }
+
+    /// What has been said so far.
+    const std::vector<ContractRow<Subject>>& rows() const { return mRows; }
 
     /// Makes the tests.
     bool check() const

@@ -74,6 +74,8 @@ void SteppedLoop::runAll()
 
 int SteppedLoop::queued() const
 {
+    host::QueueMutex mutex;
+    const std::lock_guard lock(mutex);
     return gtPegMainQueue->count;
 }
 
