@@ -49,10 +49,10 @@ elseif(NOT DISPLAYAPI_SANITIZE STREQUAL "")
     message(FATAL_ERROR "DISPLAYAPI_SANITIZE is '${DISPLAYAPI_SANITIZE}'; it may be empty, address or thread")
 endif()
 
-# displayapi_parse_headers_once(TARGET): for targets of many files, where what is compiled is looked at by sanitizers. The
-# other presets compile without, and so see that each file includes what it uses.
+# displayapi_parse_headers_once(TARGET): for targets of many files. The release preset compiles without, and so sees that
+# each file includes what it uses.
 function(displayapi_parse_headers_once target)
-    if(DISPLAYAPI_SANITIZE STREQUAL "")
+    if(NOT DISPLAYAPI_PARSE_HEADERS_ONCE)
         return()
     endif()
     target_precompile_headers(${target} PRIVATE
