@@ -1,5 +1,5 @@
 // An application that does one thing wrong when the user chooses the first row: `misbehaving
-// crash|exit|exit-at-once|leave|linger|quit|stall`. `deaf` never runs its loop, `never` does all well.
+// crash|exit|exit-at-once|leave|linger|quit|stall [SECONDS]`. `deaf` never runs its loop, `never` does all well.
 
 #include "DisplayAPI/Display.h"
 #include "DisplayAPI/List.h"
@@ -21,16 +21,22 @@ namespace {
 
 /// Keeps the GUI thread, which asks it for a text, waiting for seconds.
 class SlowTranslator : public TranslatorIfc {
+public:
+    explicit SlowTranslator(std::chrono::seconds time) : mTime(time) {}
+
     std::string translate(const std::string&) override
     {
-        std::this_thread::sleep_for(std::chrono::seconds(3));
+        std::this_thread::sleep_for(mTime);
         return "It took its time";
     }
+
+private:
+    std::chrono::seconds mTime;
 };
 
 class Wrongdoer {
 public:
-    explicit Wrongdoer(std::string_view way) : mWay(way) {}
+    Wrongdoer(std::string_view way, std::chrono::seconds stall) : mWay(way), mTranslator(stall) {}
 
     void doWrong(List& list)
     {
@@ -63,12 +69,12 @@ private:
 
 } // namespace
 
-int main(int, char** words)
+int main(int count, char** words)
 {
     const std::string_view way = words[1];
     Widget::setGuiThreadId();
     Display display(host::hardwareName(), "en_GB", "dd.mm.yyyy", "24h", host::isNarrow(), nullptr);
-    Wrongdoer wrongdoer(way);
+    Wrongdoer wrongdoer(way, std::chrono::seconds(count > 2 ? std::atoi(words[2]) : 3));
     List list(2);
     list.append("Do it");
     const kit::Subscription chosen(list, [&](Command*) { wrongdoer.doWrong(list); });
