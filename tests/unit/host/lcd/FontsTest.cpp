@@ -70,6 +70,7 @@ TEST_F(FontsTest, WithoutAnyFontTextsAreBoxes)
     EXPECT_EQ(three.width, 21);
     EXPECT_FALSE(three.cut);
     EXPECT_GT(inkOf(three), 0);
+    EXPECT_TRUE(three.lacksGlyph);
     EXPECT_EQ(many.width, 100);
     EXPECT_TRUE(many.cut);
 }

@@ -131,6 +131,17 @@ TEST_F(LcdTest, RemovedThingLeavesWhatIsBelowIt)
     EXPECT_THAT(texts(), IsEmpty());
 }
 
+TEST_F(LcdTest, TextIsForgottenWhereAPartOfItIsPaintedWithoutIt)
+{
+    Patch patch({0, 0, 99, 19}, Level::BARE, "text");
+    gpPresent->Add(&patch);
+    lcd.paint();
+    gpPresent->Remove(&patch, false);
+    lcd.invalidate({0, 0, 9, 9});
+    lcd.paint();
+    EXPECT_THAT(texts(), IsEmpty());
+}
+
 TEST_F(LcdTest, TextThatIsPaintedInPartAgainIsThereOnce)
 {
     Patch patch({0, 0, 239, 127}, Level::LIGHT, "text");
