@@ -257,3 +257,29 @@ TEST_F(DisplayThreadPoolTest, ManyThreadsMayAskAtTheSameTime)
     ran.wait();
     EXPECT_LE(pool->poolSize(), 3);
 }
+
+TEST_F(DisplayThreadPoolTest, TwoWhoAskAtTheSameTimeGetThreadsOfTheirOwn)
+{
+    constexpr int THREADS = 8;
+    DisplayThreadPool* const pool = DisplayThreadPool::instance(THREADS);
+    occupy(*pool, THREADS);
+    openGates();
+    for (int round = 0; round < 2'000; ++round) {
+        waitUntilAvailable(*pool, THREADS);
+        std::array<DisplayThread*, 2> taken{};
+        std::atomic<int> here{0};
+        const auto take = [&](DisplayThread*& place) {
+            ++here;
+            while (here < 2)
+                std::this_thread::yield();
+            place = pool->getThread();
+        };
+        {
+            Worker other([&] { take(taken[1]); });
+            take(taken[0]);
+        }
+        ASSERT_NE(taken[0], taken[1]);
+        for (DisplayThread* thread : taken)
+            thread->executeRequest(new TestRunnable([] {}));
+    }
+}
