@@ -8,9 +8,9 @@ import net from "node:net";
 import { after, afterEach, before, beforeEach, describe, test } from "node:test";
 import WebSocket from "ws";
 import { openBrowser, Tab } from "./support/browser.js";
-import { LIMIT, Phone, until } from "./support/phone.js";
+import { LIMIT, Phone, SUITE_LIMIT, until } from "./support/phone.js";
 
-describe("the socket", { timeout: 300_000 }, () => {
+describe("the socket", SUITE_LIMIT, () => {
   let browser, phone, tab, sockets;
 
   before(async () => (browser = await openBrowser()));

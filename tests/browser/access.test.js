@@ -5,12 +5,12 @@ import { after, afterEach, before, beforeEach, describe, test } from "node:test"
 import { openBrowser, Tab } from "./support/browser.js";
 import { contrastOf, coloursIn, differingPixels } from "./support/pictures.js";
 import { pause } from "./support/figures.js";
-import { LIMIT, Phone, until } from "./support/phone.js";
+import { LIMIT, Phone, SUITE_LIMIT, until } from "./support/phone.js";
 
 const SYSTEM_COLOURS = { "forced colours, dark": { forcedColors: "active", colorScheme: "dark" },
                          "forced colours, light": { forcedColors: "active", colorScheme: "light" } };
 
-describe("access", { timeout: 230_000 }, () => {
+describe("access", SUITE_LIMIT, () => {
   let browser, phone, tab;
 
   before(async () => (browser = await openBrowser()));

@@ -3,13 +3,13 @@
 import assert from "node:assert/strict";
 import { after, afterEach, before, beforeEach, describe, test } from "node:test";
 import { openBrowser, Tab } from "./support/browser.js";
-import { LIMIT, Phone, until } from "./support/phone.js";
+import { LIMIT, Phone, SUITE_LIMIT, until } from "./support/phone.js";
 
 const looksPressed = (button, isPressed) =>
   until(async () => /pressed/.test(await button.getAttribute("class") ?? "") === isPressed,
         isPressed ? "the button is pressed" : "the button is not pressed");
 
-describe("the page", { timeout: 180_000 }, () => {
+describe("the page", SUITE_LIMIT, () => {
   let browser, phone, tab;
 
   before(async () => (browser = await openBrowser()));

@@ -3,13 +3,13 @@
 import assert from "node:assert/strict";
 import { after, before, describe, test } from "node:test";
 import { openBrowser, Tab } from "./support/browser.js";
-import { LIMIT, Phone, program, until } from "./support/phone.js";
+import { LIMIT, Phone, program, SUITE_LIMIT, until } from "./support/phone.js";
 
 const STOPPED = "The application has stopped. Reconnecting…";
 const ENDED = "The application has ended.";
 const STANDS = "The application does not answer.";
 
-describe("a session", { timeout: 180_000 }, () => {
+describe("a session", SUITE_LIMIT, () => {
   let browser;
 
   before(async () => (browser = await openBrowser()));

@@ -3,7 +3,7 @@
 import assert from "node:assert/strict";
 import { after, before, describe, test } from "node:test";
 import { openBrowser, Tab } from "./support/browser.js";
-import { LIMIT, Phone } from "./support/phone.js";
+import { LIMIT, Phone, SUITE_LIMIT } from "./support/phone.js";
 
 const SMALLEST_KEY = 24;
 const PANELS = { plain: [240, 128], narrow: [168, 128], wp1: [208, 42] };
@@ -51,7 +51,7 @@ function hasEvenPixels({ panel, ratio }, [width, height]) {
   return pixel / ratio;
 }
 
-describe("the size", { timeout: 230_000 }, () => {
+describe("the size", SUITE_LIMIT, () => {
   let browser;
   const phones = {};
 

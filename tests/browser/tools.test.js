@@ -5,12 +5,12 @@ import { readFile } from "node:fs/promises";
 import { after, before, describe, test } from "node:test";
 import { openBrowser, Tab } from "./support/browser.js";
 import { pause } from "./support/figures.js";
-import { LIMIT, Phone, until } from "./support/phone.js";
+import { LIMIT, Phone, SUITE_LIMIT, until } from "./support/phone.js";
 import { levelsOf } from "./support/pictures.js";
 
 const SCALE = 3;
 
-describe("the tools", { timeout: 180_000 }, () => {
+describe("the tools", SUITE_LIMIT, () => {
   let browser, phone;
 
   before(async () => {

@@ -8,7 +8,7 @@ import os from "node:os";
 import path from "node:path";
 import { after, before, describe, test } from "node:test";
 import { openBrowser, Tab } from "./support/browser.js";
-import { BUILD, LIMIT, Phone, program, until } from "./support/phone.js";
+import { BUILD, LIMIT, Phone, program, SUITE_LIMIT, until } from "./support/phone.js";
 import { darkOrLight, levelsOf } from "./support/pictures.js";
 
 const PICTURES = path.resolve("../../docs/pictures");
@@ -39,7 +39,7 @@ async function panelByScript(browser, shot) {
   }
 }
 
-describe("the panels", { timeout: 180_000 }, () => {
+describe("the panels", SUITE_LIMIT, () => {
   let browser;
 
   before(async () => (browser = await openBrowser()));

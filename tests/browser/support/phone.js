@@ -8,8 +8,9 @@ import path from "node:path";
 export const BUILD = path.resolve(process.env.BUILD_DIR ?? "../../build/release");
 export const program = (name) => path.join(BUILD, "bin", name);
 
-/** A test that takes longer hangs. */
+/** A test that takes longer hangs, or a file of them. */
 export const LIMIT = { timeout: 60_000 };
+export const SUITE_LIMIT = { timeout: 340_000 };
 
 /** Looks until `condition` yields something true, and returns that. */
 export async function until(condition, what, patience = 20_000) {
