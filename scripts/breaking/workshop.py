@@ -15,6 +15,7 @@ import time
 PLAIN = ("dev", "-DCMAKE_CXX_FLAGS_DEBUG=-O1")
 SANITIZED = {"asan": ("asan",), "tsan": ("tsan",)}
 SECONDS_FOR_A_CASE = 20
+SANITIZERS_SLOW_DOWN = 4
 KNOWN_TESTS = "seconds-of-tests.json"
 
 
@@ -65,7 +66,7 @@ class Test:
         return self.name.split(".")[0]
 
     def run(self, seconds, command=None, **variables):
-        variables = {**os.environ, **self.variables, "DISPLAYAPI_TEST_SECONDS": str(SECONDS_FOR_A_CASE), **variables}
+        variables = {**os.environ, **self.variables, **variables}
         return output_of(command or self.command, seconds, cwd=self.folder, env=variables)
 
 
@@ -85,6 +86,8 @@ class Build:
         self.tree, self.folder, self.preset, self.definitions = tree, folder, preset, definitions
         self.wanted, self.jobs = re.compile(tests), jobs
         self.unbroken = folder.with_name(folder.name + "-unbroken")
+        slow = SANITIZERS_SLOW_DOWN if preset in SANITIZED else 1
+        self.variables = {"DISPLAYAPI_TEST_SECONDS": str(SECONDS_FOR_A_CASE * slow)}
         self.tests = []
 
     def make(self, *targets):
@@ -119,7 +122,7 @@ class Build:
 
     def passes_now(self, test):
         began = time.monotonic()
-        status, output = test.run(240)
+        status, output = test.run(240, **self.variables)
         test.seconds = time.monotonic() - began
         if status != 0:
             name = Failure(test, status, output).name
@@ -173,7 +176,7 @@ class Build:
     def failure_of(self, test):
         """A test notices a break when it fails twice with it and passes without it."""
         for _ in range(2):
-            status, output = test.run(10 + 10 * test.seconds)
+            status, output = test.run(10 + 10 * test.seconds, **self.variables)
             if status == 0:
                 return None
         if not self.passes_unbroken(test):
@@ -182,4 +185,5 @@ class Build:
 
     def passes_unbroken(self, test):
         command = [part.replace(f"{self.folder}/bin/", f"{self.unbroken}/bin/") for part in test.command]
-        return test.run(10 + 10 * test.seconds, command, LD_LIBRARY_PATH=str(self.unbroken / "lib"))[0] == 0
+        libraries = {"LD_LIBRARY_PATH": str(self.unbroken / "lib")}
+        return test.run(10 + 10 * test.seconds, command, **self.variables, **libraries)[0] == 0
