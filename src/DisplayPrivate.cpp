@@ -82,7 +82,6 @@ void DisplayPrivate::cleanup()
     mStartUp->cleanUp();
     mContentWidget.reset();
     mFilter.reset();
-    mDisplayArea.reset();
 }
 
 /// The application's displayables and the content widget outlive the presentation manager: it must not take their
