@@ -5,6 +5,8 @@
 #include "toolkit/PegWindow.h"
 #include "widgets/SystemWindow.h"
 
+#include <utility>
+
 namespace DisplayAPI {
 
 namespace {
@@ -68,7 +70,7 @@ void ContentWidget::setSystemWindowSize(int lines)
 
 void ContentWidget::setSystemWindowText(int line, std::string text)
 {
-    mSystemWindow->setSystemWindowText(line, text);
+    mSystemWindow->setSystemWindowText(line, std::move(text));
 }
 
 void ContentWidget::setSystemWindowTop(int top, bool separator, bool redraw)

@@ -27,7 +27,7 @@ public:
     void setSystemWindowSize(int lines);
 
     /// Lines outside 0 to 5 are ignored. The text is UTF-8.
-    void setSystemWindowText(int line, const std::string& text);
+    void setSystemWindowText(int line, std::string text);
     std::string getSystemWindowText(int line) const;
 
     /// Cut into the range of the coordinates.

@@ -41,7 +41,7 @@ struct KestrelListBox::Impl final : host::StatusTimeView {
     const host::StatusTime* statusTime() const override { return host::StatusTime::current(); }
     void statusTimeChanged() override;
     void setStatusLines(int lines);
-    void setStatusText(int line, const std::string& text);
+    void setStatusText(int line, std::string text);
     void placeStatus();
 
     void drawStatus(PegPainter& painter, const host::ListGeometry& parts) const;

@@ -2,6 +2,7 @@
 #include "host/widgets/list/ListBoxImpl.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace host;
 
@@ -11,9 +12,9 @@ void KestrelListBox::Impl::setStatusLines(int lines)
         placeStatus();
 }
 
-void KestrelListBox::Impl::setStatusText(int line, const std::string& text)
+void KestrelListBox::Impl::setStatusText(int line, std::string text)
 {
-    if (!status.setText(line, text))
+    if (!status.setText(line, std::move(text)))
         return;
     placeStatus();
     if (line < statusShown)

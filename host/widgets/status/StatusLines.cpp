@@ -47,11 +47,11 @@ bool StatusLines::setSize(int lines)
     return std::exchange(mSize, size) != size;
 }
 
-bool StatusLines::setText(int line, const std::string& text)
+bool StatusLines::setText(int line, std::string text)
 {
     if (!isLine(line) || mTexts[static_cast<std::size_t>(line)] == text)
         return false;
-    mTexts[static_cast<std::size_t>(line)] = text;
+    mTexts[static_cast<std::size_t>(line)] = std::move(text);
     return true;
 }
 

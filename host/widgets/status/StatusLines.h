@@ -18,7 +18,7 @@ public:
     bool setSize(int lines);
 
     /// The text is UTF-8. Lines that do not exist are ignored.
-    bool setText(int line, const std::string& text);
+    bool setText(int line, std::string text);
 
     int size() const { return mSize; }
 

@@ -112,9 +112,9 @@ void SystemWindow::setSystemWindowSize(int lines)
         mImpl->place();
 }
 
-void SystemWindow::setSystemWindowText(int line, const std::string& text)
+void SystemWindow::setSystemWindowText(int line, std::string text)
 {
-    if (!mImpl->lines.setText(line, text))
+    if (!mImpl->lines.setText(line, std::move(text)))
         return;
     mImpl->place();
     mImpl->lineChanged(line);

@@ -6,6 +6,7 @@
 #include "doubles/Mocks.h"
 #include "host/lcd/Lcd.h"
 #include "presentation/PRESCPresentationManager.h"
+#include "support/CountingHeap.h"
 #include "support/SteppedLoop.h"
 #include "toolkit/PegWindow.h"
 #include "utilities/Rect.h"
@@ -69,6 +70,17 @@ TEST_F(ContentWidgetTest, SystemWindowLinesPassStraightOn)
     EXPECT_EQ(systemWindow().getSystemWindowText(2), "Missed calls");
     EXPECT_EQ(content.getSystemWindowText(2), "Missed calls");
     EXPECT_EQ(content.getSystemWindowText(3), "");
+}
+
+TEST_F(ContentWidgetTest, TextOfALineIsStoredAsItComes)
+{
+    content.setSystemWindowSize(1);
+    content.setSystemWindowText(0, std::string(100, 'a'));
+    std::string text(200, 'b');
+    const int before = test::gHeapAllocations;
+    content.setSystemWindowText(0, std::move(text));
+    EXPECT_EQ(test::gHeapAllocations - before, 0);
+    EXPECT_EQ(content.getSystemWindowText(0), std::string(200, 'b'));
 }
 
 TEST_F(ContentWidgetTest, SystemWindowSizeAndTopPassStraightOn)
