@@ -129,7 +129,9 @@ template <typename Row, int... CODES>
 struct Superseding : Row {
     static void supersede(Widget& facade)
     {
-        static std::set<int> codes = sizeof...(CODES) == 0 ? std::set<int>{Row::CODE} : std::set<int>{CODES...};
+        // Never destroyed: other threads may post while the process ends.
+        static auto& codes =
+            *new std::set<int>(sizeof...(CODES) == 0 ? std::set<int>{Row::CODE} : std::set<int>{CODES...});
         facade.purgeOwnMessage(&codes);
     }
 };

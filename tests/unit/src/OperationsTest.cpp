@@ -8,6 +8,8 @@
 
 #include <gmock/gmock.h>
 
+#include <cstdlib>
+
 using namespace DisplayAPI;
 using doubles::Recorder;
 using testing::ElementsAre;
@@ -403,6 +405,26 @@ TEST_F(OperationsTest, SupersedingOnePurgesNothingOnTheGuiThread)
     phone.call<CLEAR>();
     gui.runAll();
     EXPECT_THAT(reached(), ElementsAre("clear()", "setText(\"stays\")"));
+}
+
+TEST_F(OperationsTest, CodesThatAreSupersededLastAsLongAsTheProcess)
+{
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    static constexpr int SUPERSEDED = 42;
+    static Phone* const posted = &phone;
+    static test::SteppedLoop* const loop = &gui;
+    const auto endWithCalls = [] {
+        std::atexit([] {
+            test::onOtherThread([] {
+                posted->call<SET_MODE>(Mode::DIAL);
+                posted->call<SET_MODE>(Mode::EDIT);
+            });
+            std::_Exit(loop->queued() == 1 ? SUPERSEDED : 99);
+        });
+        test::onOtherThread([] { posted->call<SET_MODE>(Mode::EDIT); });
+        std::exit(99);
+    };
+    EXPECT_EXIT(endWithCalls(), testing::ExitedWithCode(SUPERSEDED), "");
 }
 
 // Objects that travel with their record
