@@ -32,6 +32,14 @@ extern const Icon SMALL_ARROW_RIGHT;
 extern const Icon BACK;
 extern const Icon RADIO;
 extern const Icon RADIO_CHOSEN;
+extern const Icon CHECK;
+extern const Icon HANDSET;
+extern const Icon HOUSE;
+extern const Icon MOBILE;
+extern const Icon LETTER;
+extern const Icon PERSON;
+extern const Icon PICTURE;
+extern const Icon DOT;
 
 } // namespace icons
 

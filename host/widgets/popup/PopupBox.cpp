@@ -76,6 +76,12 @@ void PopupBox::setField(Field* field)
     layOut();
 }
 
+void PopupBox::setFreeAbove(int height)
+{
+    mFreeAbove = height;
+    layOut();
+}
+
 void PopupBox::setCommands(std::vector<PegString> texts)
 {
     mBar->setCommands(std::move(texts));
@@ -102,7 +108,8 @@ int PopupBox::Message(const PegMessage& message)
 /// The bar, the field and the header get room first, in this order: without them a popup could not be answered.
 PopupBox::Parts PopupBox::parts() const
 {
-    const auto [width, height] = runningPanel();
+    const auto [width, panelHeight] = runningPanel();
+    const int height = panelHeight - mFreeAbove;
     const bool framed = !hasTwoLines();
     const int line = Field::lineHeight();
     const int inner = framed ? width - 2 * (INDENT + FRAME_WIDTH + MARGIN) : width;
@@ -115,7 +122,7 @@ PopupBox::Parts PopupBox::parts() const
     const int total = framed ? std::min(wanted + 2 * edge, most) : height;
 
     Parts parts;
-    parts.box = rectAt((width - inner) / 2 - edge, (height - total) / 2, inner + 2 * edge, total);
+    parts.box = rectAt((width - inner) / 2 - edge, mFreeAbove + (height - total) / 2, inner + 2 * edge, total);
     Column column(rectAt(parts.box.left + edge, parts.box.top + edge, inner, total - 2 * edge));
     parts.bar = column.fromBottom(bar);
     parts.field = column.fromBottom(field);

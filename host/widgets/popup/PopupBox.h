@@ -27,6 +27,12 @@ public:
     void setField(Field* field);
     Field* field() const { return mField; }
 
+    /// Gives the field as much room as it wants by now.
+    void fitField() { layOut(); }
+
+    /// Pixels at the panel's top that stay free.
+    void setFreeAbove(int height);
+
     CommandBar& bar() { return *mBar; }
 
     /// Adds them to the bar, and room for it; none gives the room back.
@@ -56,6 +62,7 @@ private:
     CommandBar* mBar;
     Field* mField = nullptr;
     PegThing* mTarget = nullptr;
+    int mFreeAbove = 0;
 };
 
 } // namespace host

@@ -3,6 +3,7 @@
 #include "host/lcd/Geometry.h"
 #include "host/lcd/Lcd.h"
 #include "host/widgets/edit/EditLine.h"
+#include "host/widgets/menu/CommandColumn.h"
 #include "support/Keys.h"
 #include "support/RunningToolkit.h"
 
@@ -84,6 +85,30 @@ TEST_P(PopupBoxTest, KeepsFieldAndBarWhereThereIsNoRoomForTheHeader)
     EXPECT_EQ(host::heightOf(line->Area()), host::Field::lineHeight());
     EXPECT_EQ(host::heightOf(box.bar().Area()), host::Field::lineHeight());
     EXPECT_FALSE(host::overlap(line->Area(), box.bar().Area()));
+}
+
+TEST_P(PopupBoxTest, LeavesFreeWhatIsToStayFree)
+{
+    const int line = host::Field::lineHeight();
+    box.setBody(std::vector<PegString>(50, test::peg("Line")));
+    box.setFreeAbove(line);
+    EXPECT_GE(box.Area().top, line);
+    EXPECT_TRUE(host::contains(gpPresent->Area(), box.Area()));
+    if (isSmall())
+        EXPECT_EQ(box.Area().top, line);
+    else
+        EXPECT_EQ(box.Area().top - line, gpPresent->Area().bottom - box.Area().bottom);
+}
+
+TEST_P(PopupBoxTest, FitsAFieldThatHasGrown)
+{
+    auto* const column = new host::CommandColumn;
+    column->setMostRows(2);
+    box.setField(column);
+    for (int i = 0; i < 2; ++i)
+        column->insert(i, {.text = test::peg("Call")});
+    box.fitField();
+    EXPECT_EQ(host::heightOf(column->Area()), 2 * host::Field::lineHeight());
 }
 
 TEST_P(PopupBoxTest, TellsWhatItsBarTellsAndWhichKeysNobodyWants)
