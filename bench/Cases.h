@@ -25,6 +25,7 @@ double textbookCall(Seats seats, int calls);
 std::vector<Case> libraryCases();
 std::vector<Case> neighbourCases();
 std::vector<Case> listCases();
+std::vector<Case> menuCases();
 std::vector<Case> destroyingCases();
 std::vector<Case> repaintCases();
 std::vector<Case> screenTextCases();
