@@ -269,7 +269,7 @@ TEST_P(ContextMenuPrivateTest, MalformedTextsStayOnTheirLines)
     menu->clearCommands();
 }
 
-TEST_P(ContextMenuPrivateTest, TenThousandCommandsCostTheirNumberAndNoMore)
+TEST_P(ContextMenuPrivateTest, TenThousandCommandsAreGoneThroughRoundTheEnd)
 {
     std::vector<std::unique_ptr<MenuCommand>> many;
     for (unsigned long i = 0; i < 10'000; ++i)
