@@ -26,6 +26,13 @@ private:
     }
 };
 
+/// What a double of the panel is called: of "LampPrivate", "LampPrivateWP1" on the small one.
+inline std::string sideName(const std::string& onFullPanel)
+{
+    const auto* const application = KestrelApplication::getCurrentApplication();
+    return KestrelApplication::getHardwareVariant(application) == 1 ? onFullPanel : onFullPanel + "WP1";
+}
+
 class ContractTest : public testing::Test {
 public:
     explicit ContractTest(std::function<void()> body) : mBody(std::move(body)) {}

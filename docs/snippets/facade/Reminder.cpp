@@ -1,5 +1,6 @@
 #include "Reminder.h"
 
+#include "DisplayAPI/Command.h"
 #include "Operations.h"
 #include "ReminderPrivate.h"
 #include "Variant.h"
@@ -15,7 +16,9 @@ enum Request {
     SET_TRANSLATION = 3,
     SET_URGENCY = 4,
     GET_MINUTES = 5,
-    DISMISS = 6
+    DISMISS = 6,
+    ADD_COMMAND_LISTENER = 7,
+    REMOVE_COMMAND_LISTENER = 8
 };
 
 } // namespace
@@ -25,7 +28,9 @@ struct Reminder::Ops : Operations<Posts<CREATE, &Reminder::create>, Waits<DESTRO
                                   Posts<SET_TRANSLATION, taking<TranslationInfo*>(&ReminderPrivateIfc::setText)>,
                                   Posts<SET_URGENCY, &ReminderPrivateIfc::setUrgency>,
                                   Waits<GET_MINUTES, &ReminderPrivateIfc::getMinutes, -1>,
-                                  Superseding<Posts<DISMISS, &ReminderPrivateIfc::dismiss>>> {};
+                                  Superseding<Posts<DISMISS, &ReminderPrivateIfc::dismiss>>,
+                                  Posts<ADD_COMMAND_LISTENER, &ReminderPrivateIfc::addCommandListener>,
+                                  Waits<REMOVE_COMMAND_LISTENER, &ReminderPrivateIfc::removeCommandListener>> {};
 
 Reminder::Reminder()
 {
@@ -60,6 +65,22 @@ void Reminder::processGuiRequest(GuiRequestEvent& request)
 DisplayablePrivateIfc* Reminder::getPrivateImpl()
 {
     return mImplementation;
+}
+
+Command* Reminder::CHOSEN_COMMAND()
+{
+    static Command command("", Command::OK);
+    return &command;
+}
+
+void Reminder::addCommandListener(CommandListener* listener)
+{
+    Ops::call<ADD_COMMAND_LISTENER>(*this, mImplementation, listener);
+}
+
+void Reminder::removeCommandListener(CommandListener* listener)
+{
+    Ops::call<REMOVE_COMMAND_LISTENER>(*this, mImplementation, listener);
 }
 
 void Reminder::setText(const std::string& text)

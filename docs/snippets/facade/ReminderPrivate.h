@@ -19,7 +19,10 @@ public:
     void show() override;
     void lostFocus() override;
     bool hideOldWidgetOnFocusGained() override;
+    std::string serialise() override;
 
+    void addCommandListener(CommandListener* listener) override;
+    void removeCommandListener(CommandListener* listener) override;
     void setText(const std::string& text) override;
     void setText(TranslationInfo* text) override;
     void setUrgency(Reminder::Urgency urgency) override;

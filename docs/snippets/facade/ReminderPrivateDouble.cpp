@@ -58,6 +58,21 @@ bool ReminderSide::hideOldWidgetOnFocusGained()
     return false; // a popup leaves what is below it on screen
 }
 
+std::string ReminderSide::serialise()
+{
+    return {};
+}
+
+void ReminderSide::addCommandListener(CommandListener* listener)
+{
+    mImpl->note("addCommandListener", listener);
+}
+
+void ReminderSide::removeCommandListener(CommandListener* listener)
+{
+    mImpl->note("removeCommandListener", listener);
+}
+
 void ReminderSide::setText(const std::string& text)
 {
     mImpl->note("setText", text);

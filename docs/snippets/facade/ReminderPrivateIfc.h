@@ -12,6 +12,10 @@ protected:
     virtual ~ReminderPrivateIfc() = default;
 
 public:
+    virtual void addCommandListener(CommandListener* listener) = 0;
+    virtual void removeCommandListener(CommandListener* listener) = 0;
+
+    /// UTF-8.
     virtual void setText(const std::string& text) = 0;
 
     /// Not owned; looked up again when the language changes.

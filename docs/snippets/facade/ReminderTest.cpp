@@ -2,55 +2,19 @@
 
 #include "DisplayAPI/Display.h"
 #include "DisplayPrivate.h"
-#include "Variant.h"
 #include "doubles/FakeStartUp.h"
 #include "doubles/Screen.h"
 #include "support/FacadeContract.h"
-#include "utilities/TranslationInfo.h"
 
 using DisplayAPI::Display;
 using DisplayAPI::DisplayPrivate;
 using DisplayAPI::Reminder;
 using doubles::Recorder;
-using test::Filling;
 using testing::ElementsAre;
 
 namespace {
 
 constexpr int CREATE = 0, DESTROY = 1, GET_MINUTES = 5, DISMISS = 6;
-
-struct Reminders : test::WidgetSubject<Reminder> {
-    explicit Reminders(bool hasPrivateSide)
-    {
-        facade = std::make_unique<Reminder>();
-        if (!hasPrivateSide)
-            endSide(DESTROY);
-    }
-
-    static std::string arrival(const std::string& call)
-    {
-        return (DisplayAPI::isFullPanel() ? "ReminderPrivate::" : "ReminderPrivateWP1::") + call;
-    }
-
-    TranslationInfo translation{"Call.Back", nullptr};
-};
-
-const bool CHECKED = test::Contract<Reminders>("ReminderContractTest")
-                         .posts("setText", 2, [](Reminders& r) { r->setText("Call back"); })
-                         .record({.text1 = "Call back"})
-                         .arrives("setText(\"Call back\")")
-                         .posts("setTranslation", 3, [](Reminders& r) { r->setText(&r.translation); })
-                         .record([](Reminders& r) { return Filling{.ptr1 = &r.translation}; })
-                         .arrives([](Reminders& r) { return doubles::callText("setText", &r.translation); })
-                         .posts("setUrgency", 4, [](Reminders& r) { r->setUrgency(Reminder::URGENT); })
-                         .record({.int1 = 1})
-                         .arrives("setUrgency(1)")
-                         .waits("getMinutes", 5, 5, -1, [](Reminders& r) { return r->getMinutes(); })
-                         .arrives("getMinutes()")
-                         .posts("dismiss", 6, [](Reminders& r) { r->dismiss(); })
-                         .arrives("dismiss()")
-                         .completes({-1, 7, 99})
-                         .check();
 
 class ReminderTest : public test::SteppedTest {
 protected:

@@ -6,7 +6,6 @@
 #include "DisplayAPI/ListItemPrivateIfc.h"
 #include "DisplayAPI/Ticker.h"
 #include "DisplayAPI/TickerPrivateIfc.h"
-#include "Variant.h"
 #include "doubles/Answers.h"
 #include "doubles/Mocks.h"
 #include "support/FacadeContract.h"
@@ -44,7 +43,7 @@ struct Lists : test::WidgetSubject<List> {
     }
 
     std::string arrival(const std::string& call) const { return boxName() + "::" + call; }
-    static std::string boxName() { return isFullPanel() ? "ListBoxPrivate" : "ListBoxPrivateWP1"; }
+    static std::string boxName() { return test::sideName("ListBoxPrivate"); }
 
     ListItem* first = new LiveRow("first");
     ListItem* last = new LiveRow("last");
