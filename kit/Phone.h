@@ -10,6 +10,7 @@
 
 namespace DisplayAPI::kit {
 
+/// What the display is made with; docs/running.md has the formats.
 struct PhoneSettings {
     std::string hardware; ///< "WP1" is the 208 x 42 panel, anything else the 240 x 128 one
     bool narrow = false;  ///< 168 x 128
@@ -45,6 +46,7 @@ public:
     /// Takes what is shown off the screen and stops the toolkit. On the GUI thread.
     ~Phone() { mDisplay.setCurrent(nullptr); }
 
+    /// The phone's; from any thread as long as the phone lives.
     Display& display() { return mDisplay; }
 
     /// Runs the loop until quit(), or until the user ends the program. On the GUI thread.

@@ -63,6 +63,7 @@ public:
     Subscription& operator=(const Subscription&) = delete;
     ~Subscription() { end(); }
 
+    /// Does nothing where it has ended already.
     void end()
     {
         if (const auto remove = std::exchange(mRemove, nullptr))

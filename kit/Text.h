@@ -27,9 +27,10 @@ public:
     Text(const Text&) = delete;
     Text& operator=(const Text&) = delete;
 
+    /// UTF-8. Looked up here, on the calling thread.
     std::string get() const { return mInfo.getString(); }
 
-    /// What lists and rows take.
+    /// What lists and rows take; lives as long as this.
     TranslationInfo* info() { return &mInfo; }
 
 private:

@@ -11,8 +11,8 @@ class TranslationInfo;
 
 namespace DisplayAPI {
 
-/// An action that the user can choose on a screen: a label and a type. Plain data, not marshalled: safe to read from
-/// any thread while no thread assigns to it.
+/// An action that the user can choose on a screen: a label and a type. Plain data: every operation runs on the calling
+/// thread, and it is safe to read from any thread while no thread assigns to it. Texts are UTF-8.
 ///
 /// Ownership: the application owns commands; a command owns its translation. Copies share the translation and both
 /// delete it: do not copy commands that have one.
@@ -21,6 +21,7 @@ public:
     /// What the command is for; any value travels through. Not all values have names.
     enum Type : int { BACK = 1, OK = 6, ITEM = 7, RIGHT = 9 };
 
+    /// A null label is an empty text.
     Command(TranslationInfo* label, Type type);
     Command(const std::string& text, Type type);
     Command(const Command& other);
@@ -42,10 +43,12 @@ public:
     void setUseAlternativeDisplay(bool on) { mUseAlternativeDisplay = on; }
     bool useAlternativeDisplay() const { return mUseAlternativeDisplay; }
 
-    /// The lock of the set of live commands and of label reads; made on first use. Its holder may take it again.
+    /// The lock of the set of live commands and of label reads; made on first use, not the caller's. Its holder may
+    /// take it again.
     static Semaphore* commandListMutex();
 
-    /// Adds to and takes out of the set of live commands. The lock itself goes when the set becomes empty.
+    /// Adds to and takes out of the set of live commands, which constructors and destructor do. The lock itself goes
+    /// when the set becomes empty.
     static void addCommand(Command* command);
     static void removeCommand(Command* command);
 

@@ -19,10 +19,12 @@ public:
     /// not throw.
     virtual void commandAction(Command* command, Displayable* displayable) = 0;
 
-    /// Queues a notification and returns at once. From any thread. The same command twice is notified twice.
+    /// Queues a notification and returns at once. From any thread. The same command twice is notified twice. Neither is
+    /// owned, and both may be null: one that dies before the delivery recalls it.
     virtual void postCommandAction(Command* command, Displayable* displayable);
 
-    /// Recalls this listener's queued notifications of the command and displayable; null matches any.
+    /// Recalls this listener's queued notifications of the command and displayable; null matches any. From any thread;
+    /// does not wait for one that is being delivered.
     void retrievePendingCommandAction(Command* command, Displayable* displayable);
 };
 

@@ -60,25 +60,28 @@ public:
     void show();
     void hide();
 
-    /// Makes `displayable` current; null clears the screen.
+    /// Makes `displayable` current; null clears the screen. One without a private side is refused with a log line.
     void setCurrent(Displayable* displayable);
 
     /// Makes each element current in turn, so that the last one ends up current.
     void setCurrent(const std::vector<Displayable*>& displayables);
 
+    /// Null where there is none.
     Displayable* getCurrent();
 
     /// The current displayable, or nothing.
     std::vector<Displayable*> getCurrentWidgets() const;
 
-    /// Runs the toolkit's loop until shutdown(). On the GUI thread; it does not post.
+    /// Runs the toolkit's loop until shutdown(). GUI thread only.
     void exec();
 
-    /// Ends the loop.
+    /// Ends the loop, also before it has begun.
     void shutdown();
 
     /// Makes `displayable` current beside what is shown; null is ignored.
     void createServerDisplay(Displayable* displayable);
+
+    /// Kept, without effect on what is shown.
     void setMaximised(bool on);
 
     /// The rectangles of the displayables on the stack, owned by the display and valid until they are asked for again.
@@ -102,7 +105,10 @@ public:
     std::string serialise();
     std::string serialiseByRect(const std::vector<DisplayAPIUtils::Rect>& rects, bool withSystemWindow);
 
+    /// Keeps the text; everything that is shown looks its texts up again.
     void localeChanged(std::string locale);
+
+    /// Keep the text, which clocks and applications read: docs/running.md has the formats.
     void dateFormatChanged(std::string format);
     void timeFormatChanged(std::string format);
 
@@ -134,7 +140,8 @@ public:
     void showTimeInSystemWindow(bool on);
     void setTimeInSystemWindow(int hours, int minutes, int seconds);
 
-    /// The call timer, which takes the clock's place: "00:00:00" is where it starts.
+    /// The call timer, which takes the clock's place: "HH:MM:SS" and "MM:SS" count up from there, any other text stands
+    /// still, an empty one stops it.
     void setTimer(std::string text);
     void stopTimer();
 
@@ -145,14 +152,16 @@ public:
     /// it down.
     void setStatusMessage(const std::string& text, unsigned int timeout);
 
-    /// The display's clipboard.
+    /// The display's clipboard. UTF-8; empty at first.
     void copy(const std::string& text);
     std::string paste() const;
 
-    /// Fixed answers of this telephone.
+    /// Fixed answers of this telephone, on the calling thread: true, true and false.
     bool isCurrentForKeyEvents(Displayable* displayable);
     bool isVisible();
     bool hasSoftKeyBar() const;
+
+    /// These do nothing.
     void setPopupMode(bool on);
     void enableKeypadEventSending();
     void disableKeypadEventSending();

@@ -20,7 +20,8 @@ class Displayable;
 class DisplayablePrivateIfc;
 
 /// The GUI-thread side of a Display. GUI thread only, but for posting, purging, subscribing, setTranslator() and
-/// getDisplayArea().
+/// getDisplayArea(). What has a name of the display's does what that promises of it; only postEvent() waits
+/// for the GUI thread.
 class DISPLAYAPI_EXPORT DisplayPrivateIfc {
 public:
     DisplayPrivateIfc();
@@ -41,7 +42,11 @@ public:
     virtual std::string serialiseByRect(const std::vector<DisplayAPIUtils::Rect>& rects, bool withSystemWindow) = 0;
     virtual void subscribe(DisplayEventIfc* observer) = 0;
     virtual void unSubscribe() = 0;
+
+    /// Something on screen looks different: tells the observer.
     virtual void displayChanged() = 0;
+
+    /// Takes the displayable off the stack and the screen; what lies below is shown again. Null is ignored.
     virtual void widgetDismissed(DisplayablePrivateIfc* dismissed) = 0;
     virtual void localeChanged(std::string locale) = 0;
     virtual void skinChanged(std::string skin) = 0;
@@ -52,10 +57,10 @@ public:
     virtual void createServerDisplay(Displayable* displayable) = 0;
     virtual void setTranslator(TranslatorIfc* translator) = 0;
 
-    /// Queues a request and waits for its semaphore. From any thread.
+    /// Queues a request, which is the library's from then on, and waits for its semaphore. From any thread.
     virtual void postEvent(DisplayRequestEvent* request) = 0;
 
-    /// Queues a request and returns at once. From any thread.
+    /// The same without waiting.
     virtual void postEventAsync(DisplayRequestEvent* request) = 0;
 
     /// Removes and completes the queued requests of `display` whose code is one of the two and whose displayable is the

@@ -19,6 +19,7 @@ class Displayable;
 
 /// A call on a Display on its way to the GUI thread.
 ///
+/// Written by the poster until it is posted, by the GUI thread afterwards; nothing waits but waitForCompletion().
 /// Owns its string and nothing else: semaphore, rectangles and result slots are the caller's and outlive it. The
 /// semaphore is null where nobody waits. A text is a std::string: a literal would be taken for the flag.
 class DISPLAYAPI_EXPORT DisplayRequestEvent {

@@ -18,6 +18,7 @@ public:
     explicit DisplayThread(bool pooled);
     ~DisplayThread() override;
 
+    /// The thread's body: carries requests out, one after the other, and deletes the object.
     void run() override;
 
     /// Hands over a request, which the thread then owns, and wakes the thread. Null is ignored.
@@ -29,12 +30,16 @@ public:
     /// REQUIRES: the thread has been started and not been destroyed.
     virtual void destroyThread();
 
-    /// Whether the thread has been handed out and has not finished its request. From any thread.
+    /// Marks the thread as handed out, for the pool.
     virtual void setBusy();
+
+    /// Whether the thread has been handed out and has not finished its request. From any thread.
     virtual bool busy();
 
     /// Runs the request and deletes it. On the thread itself. REQUIRES: there is a request.
     virtual void execute();
+
+    /// Forgets the request. On the thread itself.
     virtual void clearRequestData();
 
 private:

@@ -14,10 +14,10 @@ namespace DisplayAPI {
 class DisplayThread;
 
 /// The process's worker threads: up to a maximum are kept and used again, further ones run one request and end.
-/// Safe from any thread.
+/// Safe from any thread; nothing waits but the destructor.
 class DISPLAYAPI_EXPORT DisplayThreadPool {
 public:
-    /// The pool, made on the first call with the given maximum; later calls ignore their argument.
+    /// The pool, made on the first call with the given maximum, below 1 for none; later calls ignore their argument.
     static DisplayThreadPool* instance(int maxPoolSize);
 
     DisplayThreadPool(const DisplayThreadPool&) = delete;

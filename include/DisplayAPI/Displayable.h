@@ -26,14 +26,15 @@ public:
 
     void processGuiRequest(GuiRequestEvent& request) override;
 
-    /// The GUI-thread side; null while there is none. Owned by the displayable.
+    /// The GUI-thread side; null while there is none. Owned by the displayable. GUI thread only.
     virtual DisplayablePrivateIfc* getPrivateImpl() = 0;
 
-    /// The class name; "Displayable with no name" until the class has set its own.
+    /// The class name; "Displayable with no name" until the class has set its own, which it does with the private side,
+    /// on the GUI thread: ask there, or after a call that has waited.
     const std::string& getName() const { return name; }
 
     /// Appends a listener; one that is added twice is called twice, null is ignored. Not owned: it has to outlive the
-    /// displayable. Call it before the displayable is shown, or on the GUI thread.
+    /// displayable. Runs on the calling thread: before the displayable is shown, or the GUI thread.
     void addItemStateListener(ItemStateListener* listener);
 
     /// Queues the change of `item` for every listener, in order of addition. GUI thread only.

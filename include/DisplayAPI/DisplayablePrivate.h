@@ -35,6 +35,8 @@ public:
 
     /// Adds a listener once; null and a listener that is already there are ignored. Not owned.
     virtual void addCommandListener(CommandListener* listener);
+
+    /// Ignored where it is not there.
     virtual void removeCommandListener(CommandListener* listener);
 
     /// Takes over the display that `other` is attached to; null is ignored.
@@ -43,17 +45,20 @@ public:
     /// Forgets the display.
     virtual void disjoin();
 
+    /// Whether it shows a title; false here.
     virtual bool hasCaption();
+
+    /// The status lines, for displayables that draw them themselves; here without effect. The text is UTF-8.
     virtual void setSysWindowSize(int lines);
     virtual void setSysWindowText(std::string text, int line);
 
-    /// Whether the displayable draws the system-window lines itself.
+    /// Whether it draws them itself; false here.
     virtual bool hasSystemWindow();
 
-    /// Queues a notification of `command` for every listener, in order.
+    /// Queues a notification of `command` for every listener, in order, and returns at once.
     void postCommand(Command* command, Displayable* displayable);
 
-    /// Tells the attached display that what is shown has changed.
+    /// Tells the attached display, where there is one, that what is shown has changed.
     void generateDisplayChangedEvent();
 
     /// Translates the texts that belong to no displayable in particular. Not owned; null until a display is given one.

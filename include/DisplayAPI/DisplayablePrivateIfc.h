@@ -43,7 +43,7 @@ public:
     /// Where the widget stands among others; 0 where that does not matter.
     virtual int widgetPosition() = 0;
 
-    /// Attaches to a display; null detaches.
+    /// Attaches to a display, which is not owned; null detaches.
     virtual void connectDisplayChangedSignal(DisplayPrivateIfc* display) = 0;
 
     /// What is shown, as text.

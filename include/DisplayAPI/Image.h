@@ -8,9 +8,11 @@ namespace DisplayAPI {
 
 class ImagePrivate;
 
-/// A picture as other classes accept it. This telephone shows none: every question is answered with nothing.
+/// A picture as other classes accept it. This telephone shows none: it keeps nothing of what it is given, and every
+/// question is answered with nothing.
 ///
-/// Image() and Image(width, height) and the destructor wait when called off the GUI thread.
+/// Off the GUI thread Image(), Image(width, height) and the destructor wait; everything else runs on the calling
+/// thread.
 class DISPLAYAPI_EXPORT Image : public Widget {
 public:
     /// A picture that comes with the telephone; any value travels through.

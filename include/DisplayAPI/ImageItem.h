@@ -6,7 +6,8 @@ namespace DisplayAPI {
 
 class Image;
 
-/// An item that would show a picture. This telephone shows none: it ignores what it is given.
+/// An item that would show a picture. This telephone shows none: it ignores what it is given, owns none of it, and
+/// answers with nothing. Runs on the calling thread.
 class DISPLAYAPI_EXPORT ImageItem : public Item {
 public:
     ImageItem(const std::string& label, Image* image, Image* alternative);
@@ -26,7 +27,7 @@ public:
     std::string getAltText() const;
     void setImage(const Image* image);
 
-    /// One blank image, the same for every item of the process.
+    /// One blank image, the same for every item of the process; not the caller's.
     Image* getImage() const;
 
     void setInformAppOnOk(bool on);

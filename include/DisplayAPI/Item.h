@@ -25,14 +25,21 @@ public:
 
     /// "baseItem" unless the class has a name of its own.
     virtual std::string getType();
+
+    /// 0 unless the class has ids.
     virtual int getID();
+
+    /// Nothing happens, and false, unless the class can be read-only.
     virtual void setReadOnly(bool readOnly);
     virtual bool isReadOnly();
 
-    /// The GUI-thread side; null while there is none. Owned by the item.
+    /// The GUI-thread side; null while there is none. Owned by the item. GUI thread only.
     virtual ItemPrivateIfc* getPrivateImpl() = 0;
+
+    /// The language has changed: look translated texts up again. GUI thread only.
     virtual void localeChanged(std::string locale) = 0;
 
+    /// Null where it stands on none.
     Displayable* getParent() const { return mParent; }
 
 private:

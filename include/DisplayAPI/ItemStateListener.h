@@ -17,7 +17,8 @@ public:
     /// this listener is not queued again.
     void postItemStateChange(Item* item);
 
-    /// Recalls this listener's queued notifications of the item; null matches any.
+    /// Recalls this listener's queued notifications of the item; null matches any. From any thread; does not wait for
+    /// one that is being delivered.
     void retrievePendingItemStateChange(Item* item);
 
 protected:

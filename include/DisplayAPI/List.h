@@ -76,19 +76,21 @@ public:
 
     /// The selected row; null where there is none.
     virtual ListItem* getSelected();
-    virtual void setSelected(ListItem* item);
 
-    /// Rows outside the list are ignored.
+    /// Null and rows outside the list are ignored.
+    virtual void setSelected(ListItem* item);
     virtual void setSelectedIndex(int index);
 
     /// -1 where no row is selected.
     virtual int getSelectedIndex();
 
-    /// A negative index inserts at the front, one past the end appends.
+    /// A negative index inserts at the front, one past the end appends. Null is ignored.
     virtual void insertAt(ListItem* item, int index);
 
     /// Takes a row out and returns it; a negative index takes the first one. Null, with a log line, past the end.
     virtual ListItem* removeAt(int index);
+
+    /// Ignored where it is null or not in the list.
     virtual void remove(ListItem* item);
     virtual void removeAll();
 
@@ -99,14 +101,21 @@ public:
     /// The number of rows; -1 when the question could not be put.
     virtual int size();
 
+    /// UTF-8; an empty text and null take the title away.
     virtual void setTitle(const std::string& title);
     virtual void setTitle(TranslationInfo* title);
+
+    /// Status lines of its own, above the title: 0 to 6, others are cut to that. Texts are UTF-8; lines outside 0 to 5
+    /// are ignored. Without effect on the 208 x 42 panel.
     virtual void setSystemWindowSize(int lines);
     virtual void setSystemWindowText(int line, const std::string& text);
 
     /// Adds a listener once. It hears SELECT_COMMAND(), RIGHT_COMMAND() and, on lists with a way back, BACK_COMMAND().
+    /// Null is ignored.
     virtual void addCommandListener(CommandListener* listener);
     virtual void removeCommandListener(CommandListener* listener);
+
+    /// Takes it off the screen; on its display's stack it stays.
     virtual void hide();
 
     /// Hands the locale to every row. Call it on the GUI thread.
@@ -114,14 +123,20 @@ public:
 
     /// The list shows it until it is given another one or null, or the ticker is given to another list.
     void setTicker(Ticker* ticker);
+
+    /// Null where it has none.
     Ticker* getTicker();
-    void showDiallerOnInitialKeyEvent(bool on);
+
+    /// Whether the selected row is shown inverted; it is at first.
     void setSelectionHighlight(bool on);
+
+    /// Kept for dialers, of which nothing is shown yet; null takes the dialer away.
     void addDialer(PopupDialer* dialer);
     PopupDialer* getDialer();
+    void showDiallerOnInitialKeyEvent(bool on);
 
-    /// Whether the list carries a row that goes back: false on the 240 x 128 panel, and until the list has been made on
-    /// the GUI thread.
+    /// Here: whether the list carries a row that goes back: false on the 240 x 128 panel, and until the list has been
+    /// made on the GUI thread.
     bool hasBackItem() const { return mHasBackItem; }
 
     /// These do nothing.
@@ -130,7 +145,7 @@ public:
     void setEnabled(bool on);
     void suppressAutoRightArrowForSoftKeys();
 
-    /// The commands that lists raise: one object each per process, recognised by its address.
+    /// The commands that lists raise: one object each per process, recognised by its address. Here.
     static Command* SELECT_COMMAND();
     static Command* RIGHT_COMMAND();
     static Command* BACK_COMMAND();

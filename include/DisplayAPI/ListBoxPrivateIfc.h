@@ -14,7 +14,9 @@ class ListItemPrivateIfc;
 class PopupDialer;
 class TickerPrivateIfc;
 
-/// The GUI-thread side of a list. GUI thread only. Deleted by Displayable::deletePrivateSide() alone.
+/// The GUI-thread side of a list. GUI thread only. Deleted by Displayable::deletePrivateSide() alone. Rows, listeners,
+/// tickers and dialers are not owned; texts are UTF-8. What has a name of the list's, or of DisplayablePrivate's, does
+/// what that promises of it.
 class DISPLAYAPI_EXPORT ListBoxPrivateIfc : public virtual DisplayablePrivateIfc {
 protected:
     friend class Displayable;
@@ -36,7 +38,11 @@ public:
 
     /// -1 where no row is selected.
     virtual int getSelectedIndex() = 0;
+
+    /// Rows outside the list are ignored.
     virtual void setSelectedIndex(int index) = 0;
+
+    /// The same; a list without this operation selects nothing.
     virtual void setSelected(ListItemPrivateIfc* row);
 
     /// A negative index inserts at the front, one past the end appends.
@@ -48,7 +54,9 @@ public:
     /// Takes `row` out; ignored where it is not in the list.
     virtual void remove(ListItemPrivateIfc* row) = 0;
 
+    /// Takes the place of an earlier one; null takes that off. The widget is the list's from then on.
     virtual void setTicker(TickerPrivateIfc* ticker) = 0;
+
     virtual void setTitle(const std::string& title) = 0;
 
     /// The translation is not owned and has to live as long as the list shows it.
@@ -60,7 +68,10 @@ public:
     /// The facade.
     virtual Displayable* getParent() const = 0;
 
+    /// Takes the widget off the screen and back from the presentation manager.
     virtual void hide() = 0;
+
+    /// What lists keep for dialers.
     virtual void showDiallerOnInitialKeyEvent(bool on) = 0;
     virtual void setDialler(PopupDialer* dialler) = 0;
     virtual void dismissDialler() = 0;

@@ -13,7 +13,7 @@ class Rect;
 
 namespace DisplayAPI {
 
-/// The list as text: its title and the rows in view.
+/// The list as text: its title and the rows in view. GUI thread only.
 DISPLAYAPI_EXPORT std::string listAsText(const KestrelListBox& list);
 
 /// The same, with the rows that share a pixel with one of `visible`; empty where nothing of the list does.

@@ -17,6 +17,8 @@ class ListItemPrivateIfc;
 /// Ownership: a row owns its GUI-thread side; rows that a list still holds when it is cleared or deleted go with it.
 class DISPLAYAPI_EXPORT ListItem : public Widget {
 public:
+    // Texts are UTF-8.
+
     /// A row with an empty text. The flag is true on the GUI thread and false from any other.
     ListItem();
 
@@ -24,7 +26,7 @@ public:
     ListItem(std::string text, bool flag);
     ListItem(TranslationInfo* text, bool flag);
 
-    /// Adopts a GUI-thread side; null leaves the row without one. Posts nothing.
+    /// Adopts a GUI-thread side, which the row deletes; null leaves the row without one. Posts nothing.
     explicit ListItem(ListItemPrivateIfc* implementation);
 
     ListItem(const ListItem&) = delete;

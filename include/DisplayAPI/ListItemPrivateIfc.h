@@ -24,10 +24,11 @@ public:
     /// This side deletes the toolkit row again.
     virtual void gainOwnership();
 
+    /// A row's text is fixed: these do nothing unless the row is of another kind.
     virtual void setText(std::string text);
     virtual void setText(TranslationInfo* text);
 
-    /// The toolkit row; never null.
+    /// The toolkit row; never null, not the caller's.
     virtual KestrelListBoxItem* getKestrelListItem() = 0;
 };
 

@@ -12,7 +12,7 @@ class Image;
 /// A command shown as an entry of a menu, with an id of the application's, of which 32 bits are kept, and an icon, a
 /// picture, or the path of one.
 ///
-/// Ownership as for Command; the image is not owned.
+/// Threads and ownership as for Command; the image is not owned and may be null, the path is copied.
 class DISPLAYAPI_EXPORT MenuCommand : public Command {
 public:
     /// With an image the icon is PhonebookItem::ICON_IMAGE, without one there is none.

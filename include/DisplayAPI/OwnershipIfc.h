@@ -8,9 +8,11 @@ namespace DisplayAPI {
 class DISPLAYAPI_EXPORT OwnershipIfc {
 public:
     virtual ~OwnershipIfc() = default;
+
+    /// Somebody else deletes the widget from now on.
     virtual void releaseOwnership() = 0;
 
-    /// Returns true.
+    /// This side deletes it again. Returns true.
     virtual bool gainOwnership() = 0;
     virtual bool hasOwnership() const = 0;
 };

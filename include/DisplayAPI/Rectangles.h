@@ -9,7 +9,7 @@
 #include <vector>
 
 /// The toolkit's rectangles, which name the last row and column that belong to them, and the display's, which have a
-/// width and a height.
+/// width and a height. Plain functions, for any thread.
 namespace DisplayAPI {
 
 inline DisplayAPIUtils::Rect toRect(const PegRect& area)

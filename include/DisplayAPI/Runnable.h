@@ -8,7 +8,9 @@ namespace DisplayAPI {
 /// throw.
 class DISPLAYAPI_EXPORT Runnable {
 public:
+    /// The work, on a thread of the pool.
     virtual void run() = 0;
+
     virtual ~Runnable() = default;
 };
 

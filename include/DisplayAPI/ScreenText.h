@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
-/// The grammar of the screen as text, which Display::serialise() shows. Texts are UTF-8. Complete here, so that whoever
-/// reads or writes it needs nothing but this header.
+/// The grammar of the screen as text, which Display::serialise() shows. Texts are UTF-8; any text will do. Complete
+/// here, so that whoever reads or writes it needs nothing but this header. Plain functions, for any thread.
 namespace DisplayAPI::screen {
 
 /// What would end a line of the text, or begin a keyword, becomes a blank.

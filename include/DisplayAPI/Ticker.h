@@ -17,6 +17,7 @@ class TickerPrivateIfc;
 /// on the list.
 class DISPLAYAPI_EXPORT Ticker : public Widget {
 public:
+    /// UTF-8.
     explicit Ticker(std::string text);
     Ticker(const Ticker&) = delete;
     Ticker& operator=(const Ticker&) = delete;
@@ -26,6 +27,8 @@ public:
 
     /// UTF-8. It begins anew.
     void setText(std::string text);
+
+    /// Empty where it has no widget any more.
     std::string getText();
 
     /// The GUI-thread side; null until it has been made. GUI thread only.

@@ -14,6 +14,7 @@ class GuiRequestEvent;
 ///
 /// Threads: safe from any thread unless an operation says otherwise. Posts from one thread on one widget keep their
 /// order, but for postTopEvent(). A waiting call has no time limit: it returns when the GUI thread has carried it out.
+/// What does not post runs on the calling thread, at once.
 /// Posting is for other threads than the GUI thread, which would wait for itself: there use postEventHelper().
 /// Locks: a waiting call holds the widget's request lock meanwhile, so further posts on the same widget wait as well.
 /// Never wait for another thread on the GUI thread while that thread makes a waiting call.
@@ -59,7 +60,8 @@ public:
     /// posts it elsewhere, waiting unless `async`.
     void postEventHelper(bool async, GuiRequestEvent* request);
 
-    /// Wakes the caller that waits for the request, if one does.
+    /// Wakes the caller that waits for the request, if one does. Ends processGuiRequest(), on whatever thread that
+    /// runs.
     void signalComplete(GuiRequestEvent& request);
 
     /// Takes the first queued request of this widget with the given code (any of `codes`; null means every code) out of

@@ -21,6 +21,8 @@ public:
 
     /// The application in force, or null. From any thread.
     static KestrelApplication* getCurrentApplication();
+
+    /// Not owned; null leaves none.
     static void setCurrentApplication(KestrelApplication* application);
 
     /// The application's variant; 1 where `application` is null.
@@ -30,6 +32,7 @@ public:
     int getHardwareVariant() const;
     void setHardwareVariant(int variant);
 
+    /// Any number travels through. Starts at 2, unknown software.
     int getSoftwareType() const;
     void setSoftwareType(int type);
 

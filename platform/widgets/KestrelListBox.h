@@ -57,15 +57,17 @@ public:
     /// Where the row stands on the screen; empty where it is not in view.
     PegRect rowArea(int row) const;
 
-    /// The status lines that the list shows itself, how many it keeps visible, and where. Texts are UTF-8.
+    /// The status lines that the list shows itself, how many it keeps visible, and where. Texts are UTF-8, and empty
+    /// outside the lines that there are.
     int systemWindowLines() const;
     const std::string& systemWindowText(int line) const;
     PegRect systemWindowArea() const;
 
+    /// An empty one takes no room.
     void setTitle(PegString title);
     const PegString& title() const;
 
-    /// Whether the current row is shown inverted.
+    /// Whether the current row is shown inverted; it is at first.
     void setSelectionHighlight(bool on);
 
     /// Whether left goes back: shown by an arrow.

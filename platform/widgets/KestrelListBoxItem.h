@@ -41,7 +41,7 @@ public:
     /// Changes the text. The list that the row stands in paints it again.
     void DataSet(PegString text);
 
-    /// Whether the row carries the mark of the chosen one in an exclusive list.
+    /// Whether the row carries the mark of the chosen one in an exclusive list, which sets it and paints the row again.
     bool isMarked() const { return mMarked; }
     void setMarked(bool marked) { mMarked = marked; }
 

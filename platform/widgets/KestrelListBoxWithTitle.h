@@ -3,7 +3,7 @@
 #include "widgets/KestrelListBox.h"
 
 /// The list of the 240 x 128 panel and its narrow form: a title, six rows, a scroll bar where there are more. It shows
-/// status lines itself, above the title; they take rows away.
+/// status lines itself, above the title; they take rows away. GUI thread only.
 class KestrelListBoxWithTitle : public KestrelListBox {
 public:
     KestrelListBoxWithTitle();

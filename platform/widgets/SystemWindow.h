@@ -28,9 +28,12 @@ public:
 
     /// Lines outside 0 to 5 are ignored. The text is UTF-8.
     void setSystemWindowText(int line, std::string text);
+
+    /// Empty outside 0 to 5.
     std::string getSystemWindowText(int line) const;
 
-    /// Cut into the range of the coordinates.
+    /// Pixels from the panel's top, cut into the range of the coordinates. The line that separates it from the screen,
+    /// and whether it is painted again at once, go with it.
     void setSystemWindowTop(int top, bool separator, bool redraw);
 
     /// A popup stands over the screen, with a frame where the panel has room for one, and shows two lines at most.
