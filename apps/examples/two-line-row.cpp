@@ -1,8 +1,6 @@
 #include "apps/examples/TwoLineRow.h"
 
 #include "apps/examples/Example.h"
-#include "widgets/KestrelListBoxWP1.h"
-#include "widgets/KestrelListBoxWithTitle.h"
 
 /// Rows of two lines among rows of text: star chooses one, hash hides and shows its second line.
 int main()
@@ -11,12 +9,7 @@ int main()
     KestrelListBoxItem line(examples::text("Line 1"));
     examples::TwoLineRow ada(examples::text("Ada"), examples::text("+44 20 1815"));
     examples::TwoLineRow zoe(examples::text("Zoë"), examples::text("+31 20 1995"));
-    KestrelListBox* list = nullptr;
-    if (host::variant() == host::Variant::WP1)
-        list = new KestrelListBoxWP1;
-    else
-        list = new KestrelListBoxWithTitle;
-    list->Resize(gpPresent->Area());
+    KestrelListBox* const list = examples::newList();
     for (KestrelListBoxItem* row :
          {&line, static_cast<KestrelListBoxItem*>(&ada), static_cast<KestrelListBoxItem*>(&zoe)})
         list->append(row);
