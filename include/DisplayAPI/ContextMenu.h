@@ -19,8 +19,9 @@ class MenuCommand;
 /// Threads: safe from any thread. Off the GUI thread the constructor, show(), addCommandListener(),
 /// removeCommandListener(), setRightArrowEqualsOK() and setAutoHideTimeout() post and return at once; everything else
 /// waits. A request that nobody knows is not completed: do not wait for one.
-/// Ownership: a menu owns its GUI-thread side. Commands, listeners and translators are not owned. A command may be
-/// deleted while the menu still shows it: its row stays, and raises nothing. A translator has to outlive the menu.
+/// Ownership: a menu owns its GUI-thread side. Commands, listeners and translators are not owned. A command that has
+/// been added may be deleted while the menu shows it: its row stays and, chosen, takes the menu off the screen and
+/// raises nothing. A translator has to outlive the menu.
 class DISPLAYAPI_EXPORT ContextMenu : public Displayable {
 public:
     /// `wayBack`: on the 208 x 42 panel the menu ends with a row that goes back, and the left key goes back as well.
@@ -31,11 +32,13 @@ public:
     ContextMenu& operator=(const ContextMenu&) = delete;
     ~ContextMenu() override;
 
+    /// Both are GUI thread only.
     void processGuiRequest(GuiRequestEvent& request) override;
     DisplayablePrivateIfc* getPrivateImpl() override;
 
-    /// Puts it on top of what the display shows that it was on before, or else the display that was made last. Where it
-    /// is there already, its time-out begins anew. Display::setCurrent() shows it as well.
+    /// Puts it on top of its display: the one it was on, as long as no full screen has replaced it there, or else the
+    /// one made last; nothing where there is none. Where it is on top already, its time-out begins anew.
+    /// Display::setCurrent() shows it as well.
     void show();
 
     /// Takes it off the screen; nothing where it is on none.
@@ -52,7 +55,8 @@ public:
     /// threads' additions, removals and defaults; their callers go on.
     void clearCommands();
 
-    /// clearCommands(), then addCommandWithIcon() for each. Two threads that do so at once share one menu.
+    /// clearCommands(), then addCommandWithIcon() for each: a wait for each of them. Two threads that do so at once
+    /// share one menu.
     void setCommands(const std::vector<MenuCommand*>& commands);
 
     /// The command that is selected when the menu comes to the screen, now or later added; null is the first one.
@@ -68,7 +72,8 @@ public:
     /// Whether the user has moved the selection since the menu came to the screen or was cleared.
     bool selectionHasChanged() const;
 
-    /// A listener is added once; null is ignored. It has to outlive the menu, or to be removed before.
+    /// A listener is added once; null is ignored. It has to outlive the menu, or else live, off the GUI thread, until a
+    /// waiting call after removeCommandListener() has returned.
     void addCommandListener(CommandListener* listener);
     void removeCommandListener(CommandListener* listener);
 
@@ -85,7 +90,8 @@ public:
     /// never.
     void setAutoHideTimeout(int milliseconds);
 
-    /// How many status lines at the top of the panel stay free; as many as leave room for a row.
+    /// How many status lines at the top of the panel stay free; as many as leave room for a row. Forgotten, as any
+    /// displayable's, when another one becomes current: say it again.
     void setSysWindowSize(int lines);
 
 private:

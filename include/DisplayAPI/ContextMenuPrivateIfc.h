@@ -45,6 +45,8 @@ public:
 
     /// 0 and less is none.
     virtual void setAutoHideTimeout(int milliseconds) = 0;
+
+    /// Any number: as many as leave room for a row stay free. The display sets 0 when another displayable is current.
     virtual void setSysWindowSize(int lines) = 0;
 };
 

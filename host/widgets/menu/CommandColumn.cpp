@@ -140,11 +140,9 @@ bool CommandColumn::key(int key)
 
 bool CommandColumn::step(int by)
 {
-    if (count() == 0)
+    if (count() < 2)
         return false;
     const int command = (mCurrent + by + count()) % count();
-    if (command == mCurrent)
-        return true;
     moveTo(command);
     tell(PM_CURRENT_CHANGED, command);
     return true;

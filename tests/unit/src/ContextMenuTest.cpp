@@ -18,7 +18,8 @@ using testing::IsEmpty;
 
 namespace {
 
-constexpr int CREATE = 0, DESTROY = 1, ADD_WITH_ICON = 5, CLEAR = 6, SUB_VARIANT_WITHOUT_WAY_BACK = 3;
+constexpr int CREATE = 0, DESTROY = 1, SHOW = 2, ADD_WITH_ICON = 5, CLEAR = 6, SET_SYS_WINDOW_SIZE = 16;
+constexpr int SUB_VARIANT_WITHOUT_WAY_BACK = 3;
 
 class ContextMenuTest : public test::FacadeTest, public testing::WithParamInterface<From> {
 protected:
@@ -152,6 +153,17 @@ TEST_F(QueuedContextMenuTest, ClearingDiscardsWhatIsQueuedAndWakesWhoWaits)
     gui.runAll();
     EXPECT_EQ(recorder.count("ContextMenuPrivate::addCommand"), 0);
     EXPECT_EQ(recorder.count("ContextMenuPrivate::clearCommands"), 1);
+}
+
+TEST_F(QueuedContextMenuTest, ClearingDiscardsAdditionsRemovalsAndDefaultsAlone)
+{
+    ContextMenu menu(false);
+    for (int code = SHOW; code <= SET_SYS_WINDOW_SIZE; ++code)
+        test::onOtherThread([&] { menu.postEventAsync(new GuiRequestEvent(&menu, code)); });
+    test::Worker clearing([&] { menu.clearCommands(); });
+    EXPECT_TRUE(clearing.isBlocked());
+    EXPECT_THAT(gui.queuedCodes(), ElementsAre(2, 3, 8, 9, 10, 11, 12, 13, 14, 15, 16, CLEAR));
+    gui.runAll();
 }
 
 TEST_F(QueuedContextMenuTest, ClearingOnTheGuiThreadDiscardsNothing)

@@ -148,6 +148,20 @@ TEST_P(ContextMenuLifeTest, KeysBeginItsTimeAnew)
     EXPECT_FALSE(isOnScreen());
 }
 
+TEST_P(ContextMenuLifeTest, KeysWithoutEffectBeginItsTimeAnewToo)
+{
+    menu->setCommands({});
+    menu->addCommand(call.get(), nullptr, false);
+    menu->setAutoHideTimeout(TIMEOUT);
+    open();
+    for (const int key : {static_cast<int>(PK_DOWN), static_cast<int>(PK_UP)}) {
+        time.pass(TIMEOUT - 1);
+        press(key);
+    }
+    time.pass(TIMEOUT - 1);
+    EXPECT_TRUE(isOnScreen());
+}
+
 TEST_P(ContextMenuLifeTest, TimeIsSetWhileItIsShown)
 {
     open();
@@ -317,7 +331,8 @@ TEST_P(ContextMenuLifeTest, MenuOutlivesItsDisplay)
     menu->dismiss();
     menu->addCommand(call.get(), nullptr, false);
     menu->setSysWindowSize(1);
-    menu->getSelectedIndex();
+    EXPECT_EQ(menu->getSelectedIndex(), -1) << "the box went with the display";
+    EXPECT_EQ(menu->getSelectedCommand(), nullptr);
 }
 
 INSTANTIATE_ON_PANELS(ContextMenuLifeTest);

@@ -83,11 +83,11 @@ TEST_F(CommandColumnTest, GoesRoundAtBothEndsAndOkChooses)
                 ElementsAre(Pair(PM_CURRENT_CHANGED, 3), Pair(PM_CURRENT_CHANGED, 0), Pair(PM_CLICKED, 0)));
 }
 
-TEST_F(CommandColumnTest, OnlyCommandStaysCurrentAndIsNoChange)
+TEST_F(CommandColumnTest, OnlyCommandStaysCurrentAndLeavesTheKeysToOthers)
 {
     fill(1);
-    EXPECT_TRUE(press(column, "v"));
-    EXPECT_TRUE(press(column, "^"));
+    EXPECT_FALSE(press(column, "v"));
+    EXPECT_FALSE(press(column, "^"));
     EXPECT_EQ(column.current(), 0);
     EXPECT_THAT(listener.heard, IsEmpty());
 }
