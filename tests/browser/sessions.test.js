@@ -139,6 +139,7 @@ describe("a session", SUITE_LIMIT, () => {
     const phone = await start(t);
     const tabs = [];
     for (let i = 0; i < 16; ++i) tabs.push(await open(t, phone));
+    await tabs.at(-1).shows("Call log");
     const late = await Tab.open(browser, phone.url, { connects: false });
     t.after(() => late.close());
     await late.says("16 tabs show this telephone already: close one of them.");
