@@ -35,10 +35,10 @@ struct TextRun {
 struct Picture {
     int width = 0;
     int height = 0;
-    std::vector<std::uint8_t> pixels;
-    std::vector<TextRun> texts;  ///< top to bottom, left to right
-    std::uint64_t frame = 0;     ///< counts finished frames
-    PegRect focus{0, 0, -1, -1}; ///< of the thing that has the focus; empty where none has it
+    std::vector<std::uint8_t> pixels{};
+    std::vector<TextRun> texts{}; ///< top to bottom, left to right
+    std::uint64_t frame = 0;      ///< counts finished frames
+    PegRect focus{0, 0, -1, -1};  ///< of the thing that has the focus; empty where none has it
 };
 
 /// The panel: a buffer of four grey levels, the area that has to be painted again, and the texts that stand on it.

@@ -1,6 +1,7 @@
 #include "host/lcd/Painter.h"
 
 #include "host/lcd/Geometry.h"
+#include "host/lcd/Lcd.h"
 #include "host/lcd/TextMap.h"
 #include "host/lcd/TextRenderer.h"
 #include "toolkit/PegThing.h"
@@ -117,6 +118,20 @@ void PegPainter::icon(const Icon& icon, const PegRect& cell, Level level)
             if (icon.rows[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)] == '#')
                 fillClipped(rectAt(left + x, top + y, 1, 1), level);
         }
+    }
+}
+
+void PegPainter::picture(const Picture& picture, const PegRect& cell)
+{
+    const PegRect box = rectAt(cell.left + (widthOf(cell) - picture.width) / 2,
+                               cell.top + (heightOf(cell) - picture.height) / 2, picture.width, picture.height);
+    const PegRect part = intersection(intersection(box, cell), mClip);
+    if (isEmpty(part))
+        return;
+    mTexts.cover(part, mClip);
+    for (int y = part.top; y <= part.bottom; ++y) {
+        const auto from = static_cast<std::size_t>((y - box.top) * picture.width + part.left - box.left);
+        std::memcpy(mBuffer.at(part.left, y), &picture.pixels[from], static_cast<std::size_t>(widthOf(part)));
     }
 }
 

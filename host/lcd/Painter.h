@@ -9,6 +9,7 @@
 namespace host {
 class TextMap;
 class TextRenderer;
+struct Picture;
 struct TextRun;
 
 enum class Align { LEFT, CENTRE, RIGHT };
@@ -45,6 +46,9 @@ public:
 
     /// In the middle of `cell`.
     void icon(const host::Icon& icon, const PegRect& cell, host::Level level);
+
+    /// In the middle of `cell`, cut to it. An empty one is nothing.
+    void picture(const host::Picture& picture, const PegRect& cell);
 
     /// On one line, in the vertical middle of `cell`; ends in an ellipsis where it is too long for it.
     void text(const PegRect& cell, const PegString& text, const host::TextLook& look);

@@ -1,9 +1,9 @@
 #include "host/lcd/Png.h"
 
+#include "host/lcd/Surface.h"
+
 #include <algorithm>
 #include <array>
-#include <cairo.h>
-#include <memory>
 
 namespace host {
 
@@ -11,17 +11,6 @@ namespace {
 
 /// By grey level.
 constexpr std::array<std::uint32_t, 4> COLOURS{0xFFFFFF, 0xAAAAAA, 0x555555, 0x000000};
-
-struct Destroy {
-    void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
-};
-using Surface = std::unique_ptr<cairo_surface_t, Destroy>;
-
-std::uint32_t* rowOf(cairo_surface_t* surface, int y)
-{
-    auto* data = cairo_image_surface_get_data(surface) + y * cairo_image_surface_get_stride(surface);
-    return reinterpret_cast<std::uint32_t*>(data);
-}
 
 std::uint8_t pixelOf(const Picture& picture, int x, int y)
 {
@@ -31,11 +20,11 @@ std::uint8_t pixelOf(const Picture& picture, int x, int y)
 Surface draw(const Picture& picture, int scale)
 {
     Surface surface(cairo_image_surface_create(CAIRO_FORMAT_RGB24, picture.width * scale, picture.height * scale));
-    if (cairo_surface_status(surface.get()) != CAIRO_STATUS_SUCCESS)
+    if (!isFine(surface))
         return surface;
     for (int y = 0; y < picture.height * scale; ++y) {
         for (int x = 0; x < picture.width * scale; ++x)
-            rowOf(surface.get(), y)[x] = COLOURS[pixelOf(picture, x / scale, y / scale) & 3];
+            rowOf(surface, y)[x] = COLOURS[pixelOf(picture, x / scale, y / scale) & 3];
     }
     cairo_surface_mark_dirty(surface.get());
     return surface;
@@ -55,14 +44,14 @@ std::string writePng(const Picture& picture, const std::string& path, int scale)
 std::optional<Picture> readPng(const std::string& path)
 {
     const Surface surface(cairo_image_surface_create_from_png(path.c_str()));
-    if (cairo_surface_status(surface.get()) != CAIRO_STATUS_SUCCESS)
+    if (!isFine(surface))
         return {};
     Picture picture;
     picture.width = cairo_image_surface_get_width(surface.get());
     picture.height = cairo_image_surface_get_height(surface.get());
     for (int y = 0; y < picture.height; ++y) {
         for (int x = 0; x < picture.width; ++x) {
-            const auto* colour = std::find(COLOURS.begin(), COLOURS.end(), rowOf(surface.get(), y)[x] & 0xFFFFFF);
+            const auto* colour = std::find(COLOURS.begin(), COLOURS.end(), rowOf(surface, y)[x] & 0xFFFFFF);
             if (colour == COLOURS.end())
                 return {};
             picture.pixels.push_back(static_cast<std::uint8_t>(colour - COLOURS.begin()));

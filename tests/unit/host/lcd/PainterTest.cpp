@@ -1,6 +1,7 @@
 #include "host/lcd/Painter.h"
 
 #include "host/lcd/Geometry.h"
+#include "host/lcd/Lcd.h"
 #include "host/lcd/TextMap.h"
 #include "host/lcd/TextRenderer.h"
 #include "utilities/ICC.h"
@@ -74,6 +75,18 @@ TEST_F(PainterTest, IconStandsInTheMiddleOfItsCell)
 {
     painter(small).icon(icons::SMALL_ARROW_UP, {0, 0, 6, 4}, Level::DARK);
     EXPECT_THAT(art(small), ElementsAre(".......", "...#...", "..###..", ".#####.", "......."));
+}
+
+TEST_F(PainterTest, PictureStandsInTheMiddleOfItsCellAndIsClipped)
+{
+    const Picture picture{.width = 3, .height = 2, .pixels = {1, 2, 3, 3, 0, 1}};
+    small.at(3, 2)[0] = 3;
+    painter(small).picture(picture, {0, 0, 6, 3});
+    EXPECT_THAT(art(small), ElementsAre(".......", "..-+#..", "..#.-..", ".......", "......."));
+    painter(small, {0, 0, 6, 0}).picture(picture, {4, 0, 5, 1});
+    EXPECT_THAT(art(small), ElementsAre("....-+.", "..-+#..", "..#.-..", ".......", "......."));
+    painter(small).picture({}, WHOLE);
+    EXPECT_THAT(art(small)[0], "....-+.");
 }
 
 TEST_F(PainterTest, IconIsClipped)
