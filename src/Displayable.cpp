@@ -2,6 +2,7 @@
 
 #include "CommandExecutor.h"
 #include "DisplayAPI/ItemStateListener.h"
+#include "DisplayAPI/TabScreen.h"
 #include "DisplayPrivate.h"
 #include "GuiThread.h"
 
@@ -37,6 +38,7 @@ void Displayable::leaveDisplay()
 {
     onlyOnGuiThread("Displayable::leaveDisplay()");
     DisplayPrivate::dismissEverywhere(this);
+    TabScreen::forgetEverywhere(this);
 }
 
 void Displayable::useSoftKeys() {}

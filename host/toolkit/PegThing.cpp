@@ -83,6 +83,7 @@ void PegThing::Remove(PegThing* child, bool redraw)
     child->mParent = child->mNext = child->mPrevious = nullptr;
     if (child->StatusIs(PSF_VISIBLE))
         child->setTreeVisible(false);
+    ChildRemoved(child);
 }
 
 void PegThing::Invalidate()
@@ -110,6 +111,8 @@ void PegThing::KillTimer(std::int32_t id)
 }
 
 void PegThing::VisibilityChanged() {}
+
+void PegThing::ChildRemoved(PegThing*) {}
 
 void PegThing::setStatus(std::uint16_t bits, bool on)
 {

@@ -96,6 +96,9 @@ protected:
     /// Called when the thing has become visible, or has stopped being so, together with the whole tree above it.
     virtual void VisibilityChanged();
 
+    /// Called when `child` has been taken out, by whomever. It may be in its destructor.
+    virtual void ChildRemoved(PegThing* child);
+
 private:
     friend class PRESCPresentationManager;
 

@@ -12,7 +12,7 @@ class KestrelListBoxItem;
 /// A column of rows of which one is current, with the keys to move through it. GUI thread only.
 ///
 /// The message target is told what the user does: PM_CURRENT_CHANGED, PM_CLICKED (OK), PM_LEFT, PM_RIGHT.
-/// Up and down stop at the ends. Ownership: rows belong to whoever appended them.
+/// Up and down stop at the ends, where the key goes on to the parent. Ownership: rows belong to whoever appended them.
 /// Rows may differ in height; the list shows as many whole ones as it has room for, at least one.
 /// Cost: append, row access, scrolling and painting do not depend on the number of rows.
 class KestrelListBox : public PegThing {
@@ -69,6 +69,9 @@ public:
 
     /// Whether the current row is shown inverted; it is at first.
     void setSelectionHighlight(bool on);
+
+    /// Whether the keys are its own; they are at first. While they are not, the current row is framed, not inverted.
+    void setActive(bool on);
 
     /// Whether left goes back: shown by an arrow.
     void setBackArrow(bool on);

@@ -143,6 +143,12 @@ void KestrelListBox::setSelectionHighlight(bool on)
     mImpl->refresh();
 }
 
+void KestrelListBox::setActive(bool on)
+{
+    mImpl->active = on;
+    mImpl->refresh();
+}
+
 void KestrelListBox::setBackArrow(bool on)
 {
     mImpl->back = on;

@@ -83,8 +83,8 @@ bool KestrelListBox::Impl::key(int key)
     if (item != nullptr && item->key(key))
         return true;
     switch (key) {
-    case PK_UP: step(-1); return true;
-    case PK_DOWN: step(1); return true;
+    case PK_UP: return step(-1);
+    case PK_DOWN: return step(1);
     case PK_LEFT: tell(PM_LEFT, current); return true;
     case PK_RIGHT: tellIfRow(PM_RIGHT); return true;
     case PK_OK: tellIfRow(PM_CLICKED); return true;
@@ -92,13 +92,15 @@ bool KestrelListBox::Impl::key(int key)
     }
 }
 
-void KestrelListBox::Impl::step(int by)
+/// At the ends the key is somebody else's: above a list in a tab stands the tab bar.
+bool KestrelListBox::Impl::step(int by)
 {
     const int row = current + by;
     if (rows.at(row) == nullptr)
-        return;
+        return false;
     makeCurrent(row);
     tell(PM_CURRENT_CHANGED, row);
+    return true;
 }
 
 void KestrelListBox::Impl::tellIfRow(std::uint16_t type)

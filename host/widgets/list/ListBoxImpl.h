@@ -29,7 +29,7 @@ struct KestrelListBox::Impl final : host::StatusTimeView {
     void languageChanged();
 
     bool key(int key);
-    void step(int by);
+    bool step(int by);
     void tell(std::uint16_t type, int data);
     void tellIfRow(std::uint16_t type);
 
@@ -62,6 +62,7 @@ struct KestrelListBox::Impl final : host::StatusTimeView {
     int top = 0;
     int lastTop = 0; ///< that of a view that ends with the last row
     bool highlight = true;
+    bool active = true;
     bool back = false;
     bool exclusive = false;
     bool ticker = false;

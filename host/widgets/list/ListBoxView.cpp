@@ -38,7 +38,8 @@ void KestrelListBox::Impl::layOut()
             return false;
         mInView.rows.push_back({.item = item,
                                 .area = rectAt(body.left, next, widthOf(body), std::min(height, left)),
-                                .inverted = highlight && row == current,
+                                .inverted = highlight && active && row == current,
+                                .framed = highlight && !active && row == current,
                                 .hasMark = exclusive || item->hasMark(),
                                 .isChosen = item->isMarked()});
         next += height;

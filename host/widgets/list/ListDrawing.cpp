@@ -70,6 +70,8 @@ void KestrelListBox::Impl::drawRow(PegPainter& painter, const ListView& view, co
         return;
     if (row.inverted)
         drawBar(painter, row.area);
+    if (row.framed)
+        painter.frame(row.area, Level::MIDDLE);
     if (row.hasMark) {
         const PegRect cell = view.parts.mark(row.area);
         PegPainter inside = painter.clippedTo(cell);

@@ -52,11 +52,13 @@ void placeStatus(ListGeometry& geometry, const Layout& layout, PegRect& rest, co
                lines > 0 ? layout.statusLineHeight : 0);
 }
 
+/// Where it leaves room for a row: on two lines a list in a tab has one.
 void placeTitle(ListGeometry& geometry, const Layout& layout, PegRect& rest, const ListState& state)
 {
     const int right = layout.rightInset + (layout.scrollBar ? 0 : layout.scrollWidth);
     const int left = layout.gutter + layout.leftInset;
-    geometry.title = hasBar(layout, state) ? cutTop(rest, layout.titleHeight) : NOWHERE;
+    const bool fits = heightOf(rest) >= layout.titleHeight + layout.rowHeight;
+    geometry.title = fits && hasBar(layout, state) ? cutTop(rest, layout.titleHeight) : NOWHERE;
     geometry.titleText =
         rectAt(rest.left + left, geometry.title.top, widthOf(rest) - left - right, layout.titleHeight - TITLE_RULE);
 }

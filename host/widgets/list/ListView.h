@@ -13,6 +13,7 @@ struct RowInView {
     const KestrelListBoxItem* item = nullptr; ///< may be gone while nobody looks at the list
     PegRect area;                             ///< cut where the list is lower than the row
     bool inverted = false;
+    bool framed = false; ///< the current row, while the keys are somebody else's
     bool hasMark = false;
     bool isChosen = false; ///< in an exclusive list
 

@@ -3,6 +3,7 @@
 #include "host/lcd/Geometry.h"
 #include "host/lcd/Painter.h"
 #include "host/widgets/Reading.h"
+#include "host/widgets/Strip.h"
 
 #include <algorithm>
 
@@ -15,33 +16,6 @@ constexpr int ICON_WIDTH = 14;
 constexpr int MARK_WIDTH = 10;
 constexpr int SCROLL_WIDTH = 9;
 constexpr int ARROW_HEIGHT = 8;
-
-/// Gives away a row's width from where texts begin, or from where they end.
-class Strip {
-public:
-    explicit Strip(const PegRect& area) : mRest(area) {}
-
-    const PegRect& rest() const { return mRest; }
-    PegRect fromStart(int width) { return isReadFromTheRight() ? fromRight(width) : fromLeft(width); }
-    PegRect fromEnd(int width) { return isReadFromTheRight() ? fromLeft(width) : fromRight(width); }
-
-private:
-    PegRect fromLeft(int width)
-    {
-        const PegRect part = rectAt(mRest.left, mRest.top, width, heightOf(mRest));
-        mRest.left = static_cast<std::int16_t>(part.right + 1);
-        return part;
-    }
-
-    PegRect fromRight(int width)
-    {
-        const PegRect part = rectAt(mRest.right + 1 - width, mRest.top, width, heightOf(mRest));
-        mRest.right = static_cast<std::int16_t>(part.left - 1);
-        return part;
-    }
-
-    PegRect mRest;
-};
 
 } // namespace
 

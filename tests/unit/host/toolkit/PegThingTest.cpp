@@ -30,6 +30,18 @@ protected:
     void VisibilityChanged() override { changes.push_back(StatusIs(PSF_VISIBLE)); }
 };
 
+class Parent : public PegThing {
+public:
+    std::vector<PegThing*> gone;
+
+protected:
+    void ChildRemoved(PegThing* child) override
+    {
+        EXPECT_EQ(child->Parent(), nullptr);
+        gone.push_back(child);
+    }
+};
+
 class PegThingTest : public testing::Test {
 protected:
     /// A thing without a parent.
@@ -89,6 +101,20 @@ TEST_F(PegThingTest, AddTakesTheChildFromItsParent)
     to.Add(child);
     EXPECT_TRUE(childrenOf(from).empty());
     EXPECT_THAT(childrenOf(to), ElementsAre(child));
+}
+
+TEST_F(PegThingTest, ParentHearsOfEachChildThatGoes)
+{
+    Parent parent;
+    auto* const dying = new PegThing;
+    PegThing* const moving = loose();
+    parent.Add(dying);
+    parent.Add(moving);
+    parent.Remove(loose());
+    EXPECT_TRUE(parent.gone.empty());
+    loose()->Add(moving);
+    delete dying;
+    EXPECT_THAT(parent.gone, ElementsAre(moving, dying));
 }
 
 TEST_F(PegThingTest, AddOfNothingItselfOrAnAncestorIsIgnored)

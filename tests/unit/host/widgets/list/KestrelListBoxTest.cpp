@@ -45,6 +45,21 @@ TEST_F(KestrelListBoxTest, StartsEmpty)
     EXPECT_EQ(list->itemAt(0), nullptr);
 }
 
+TEST_F(KestrelListBoxTest, AtItsEndsUpAndDownGoOnToItsParent)
+{
+    MessageNotes parent;
+    parent.Add(list.get());
+    rows.append(*list, "ab");
+    press(PK_DOWN);
+    EXPECT_THAT(parent.take(), IsEmpty());
+    press(PK_DOWN);
+    press(PK_UP);
+    press(PK_UP);
+    EXPECT_THAT(parent.take(), ElementsAre(Pair(PM_KEY, PK_DOWN), Pair(PM_KEY, PK_UP)));
+    EXPECT_EQ(lettersOf(*list), "[a]b");
+    parent.Remove(list.get());
+}
+
 TEST_F(KestrelListBoxTest, FirstRowBecomesCurrent)
 {
     rows.append(*list, "ab");

@@ -1,0 +1,236 @@
+// How pages come into a tab screen and leave it, whose their widgets are, and where the keys go.
+
+#include "DisplayAPI/ContextMenu.h"
+#include "DisplayAPI/DisplayEventIfc.h"
+#include "unit/host/variants/tab/TabScreenVariantTest.h"
+
+using namespace DisplayAPI;
+
+namespace {
+
+class Observer : public DisplayEventIfc {
+public:
+    void displayChanged(std::string) override { ++changes; }
+
+    int changes = 0;
+};
+
+class TabPagesTest : public test::TabScreenVariantTest {
+protected:
+    static void dismiss(List& list)
+    {
+        auto* const side = dynamic_cast<DisplayablePrivate*>(list.getPrivateImpl());
+        side->widgetDismissed(side);
+    }
+};
+
+TEST_P(TabPagesTest, TabThatGoesTakesTheFocusToTheNextOne)
+{
+    open();
+    tabs->removeTab(all.get());
+    EXPECT_EQ(tabs->getCurrentTabIndex(), 0);
+    EXPECT_EQ(widgetOf(*all)->Parent(), nullptr);
+    expectInPage(*missed);
+    tabs->removeTabAtIndex(0);
+    EXPECT_EQ(tabs->getCurrentTabIndex(), -1);
+    expectInBar();
+    for (const int key : {PK_UP, PK_DOWN, PK_RIGHT, PK_OK})
+        press(key);
+    expectInBar();
+}
+
+TEST_P(TabPagesTest, LastTabThatGoesTakesTheFocusToTheOneBefore)
+{
+    open();
+    tabs->setCurrentTabIndex(1);
+    expectInPage(*missed);
+    tabs->removeTab(missed.get());
+    EXPECT_EQ(tabs->getCurrentTabIndex(), 0);
+    expectInPage(*all);
+}
+
+TEST_P(TabPagesTest, TabThatGoesBeforeTheCurrentOneLeavesThatInPlace)
+{
+    open();
+    tabs->setCurrentTabIndex(1);
+    tabs->removeTabAtIndex(0);
+    EXPECT_EQ(tabs->getCurrentTabIndex(), 0);
+    expectInPage(*missed);
+}
+
+TEST_P(TabPagesTest, UserInTheBarStaysThereWhenTabsGo)
+{
+    open();
+    press(PK_UP);
+    tabs->removeTab(all.get());
+    expectInBar();
+    EXPECT_EQ(tabs->currentTab(), missed.get());
+}
+
+TEST_P(TabPagesTest, PageThatIsInNoTabIsIgnored)
+{
+    List other(0);
+    open();
+    tabs->removeTab(&other);
+    EXPECT_EQ(tabs->numberOfTabs(), 2);
+    expectInPage(*all);
+}
+
+TEST_P(TabPagesTest, EmptyTabGivesTheKeysToTheBar)
+{
+    tabs->addTab("Nothing", nullptr, false);
+    open();
+    tabs->setCurrentTabIndex(2);
+    expectInBar();
+    press(PK_DOWN);
+    expectInBar();
+    press(PK_LEFT);
+    EXPECT_EQ(tabs->getCurrentTabIndex(), 1);
+}
+
+TEST_P(TabPagesTest, AnotherPageTakesThePlaceOfTheCurrentOne)
+{
+    List dialled(0);
+    dialled.append("Dora");
+    dialled.append("Emil");
+    open();
+    tabs->setCurrentDisplayable(&dialled);
+    expectInPage(dialled);
+    EXPECT_EQ(widgetOf(*all)->Parent(), nullptr);
+    tabs->setCurrentDisplayable(nullptr);
+    expectInBar();
+    EXPECT_EQ(tabs->currentTab(), nullptr);
+    tabs->setCurrentDisplayableForTabAtIndex(0, all.get());
+    press(PK_OK);
+    expectInPage(*all);
+}
+
+TEST_P(TabPagesTest, PageThatIsDeletedLeavesItsTabEmpty)
+{
+    open();
+    all.reset();
+    expectInBar();
+    EXPECT_EQ(tabs->currentTab(), nullptr);
+    EXPECT_EQ(tabs->numberOfTabs(), 2);
+    press(PK_RIGHT);
+    press(PK_DOWN);
+    expectInPage(*missed);
+}
+
+TEST_P(TabPagesTest, PageThatIsNotShownMayBeDeleted)
+{
+    open();
+    missed.reset();
+    tabs->setCurrentTabIndex(1);
+    EXPECT_EQ(tabs->currentTab(), nullptr);
+    expectInBar();
+}
+
+TEST_P(TabPagesTest, PageThatDismissesItselfGivesTheKeysToTheBarAndComesBackWhenEntered)
+{
+    open();
+    dismiss(*all);
+    EXPECT_EQ(widgetOf(*all)->Parent(), nullptr);
+    expectInBar();
+    press(PK_OK);
+    expectInPage(*all);
+    dismiss(*all);
+    tabs->setCurrentTabIndex(1);
+    tabs->setCurrentTabIndex(0);
+    EXPECT_EQ(widgetOf(*all)->Parent(), window());
+}
+
+TEST_P(TabPagesTest, PageThatIsHiddenGivesTheKeysToTheBar)
+{
+    open();
+    all->hide();
+    expectInBar();
+    press(PK_DOWN);
+    expectInPage(*all);
+}
+
+TEST_P(TabPagesTest, PopupGivesTheKeysBackToThePageOrToTheBar)
+{
+    ContextMenu menu(false);
+    open();
+    display.setCurrent(&menu);
+    EXPECT_EQ(gpPresent->Focus(), widgetOf(menu));
+    menu.dismiss();
+    expectInPage(*all);
+    all->setSelectedIndex(0);
+    press(PK_UP);
+    display.setCurrent(&menu);
+    menu.dismiss();
+    expectInBar();
+}
+
+TEST_P(TabPagesTest, TabThatChangesUnderAPopupLeavesThatTheKeys)
+{
+    ContextMenu menu(false);
+    open();
+    display.setCurrent(&menu);
+    tabs->setCurrentTabIndex(1);
+    dismiss(*missed);
+    tabs->removeTab(all.get());
+    EXPECT_EQ(gpPresent->Focus(), widgetOf(menu));
+    menu.dismiss();
+    expectInPage(*missed);
+}
+
+TEST_P(TabPagesTest, PageGetsItsFormerAreaBack)
+{
+    const PegRect before = widgetOf(*missed)->Area();
+    open();
+    tabs->setCurrentTabIndex(1);
+    EXPECT_NE(widgetOf(*missed)->Area(), before);
+    tabs->setCurrentTabIndex(0);
+    EXPECT_EQ(widgetOf(*missed)->Area(), before);
+}
+
+TEST_P(TabPagesTest, PageThatIsShownByItselfComesBackWithItsTabScreen)
+{
+    open();
+    display.setCurrent(all.get());
+    EXPECT_EQ(gpPresent->Focus(), widgetOf(*all));
+    EXPECT_EQ(widgetOf(*all)->Area().top, 0);
+    open();
+    expectInPage(*all);
+}
+
+TEST_P(TabPagesTest, TabScreenThatGoesLeavesItsPages)
+{
+    open();
+    tabs.reset();
+    EXPECT_EQ(widgetOf(*all)->Parent(), nullptr);
+    display.setCurrent(all.get());
+    EXPECT_EQ(gpPresent->Focus(), widgetOf(*all));
+}
+
+TEST_P(TabPagesTest, ChangeOfTheShownPageReachesTheObserver)
+{
+    Observer observer;
+    open();
+    display.subscribe(&observer);
+    all->setTitle("Calls");
+    EXPECT_GT(std::exchange(observer.changes, 0), 0);
+    missed->setTitle("Calls");
+    EXPECT_EQ(observer.changes, 0);
+    tabs->setCurrentTabIndex(1);
+    EXPECT_GT(std::exchange(observer.changes, 0), 0);
+    missed->setTitle("Missed calls");
+    EXPECT_GT(observer.changes, 0);
+    display.unSubscribe();
+}
+
+TEST_P(TabPagesTest, CleanedUpScreenIsGoneFromItsDisplay)
+{
+    open();
+    tabs->cleanup();
+    EXPECT_EQ(display.getCurrent(), nullptr);
+    tabs->addTab("All", all.get(), false);
+    EXPECT_EQ(tabs->numberOfTabs(), 1);
+}
+
+INSTANTIATE_ON_PANELS(TabPagesTest);
+
+} // namespace
