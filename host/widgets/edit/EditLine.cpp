@@ -13,6 +13,8 @@ namespace {
 
 constexpr std::int32_t CANDIDATE = 1;
 constexpr int CANDIDATE_MS = 1000;
+constexpr std::int32_t LONG_ZERO = 2;
+constexpr int LONG_ZERO_MS = 600;
 constexpr int INSET = 3; ///< of the text, from the line's edges
 constexpr int MODE_WIDTH = 30;
 constexpr char16_t DOT = u'\u2022';
@@ -33,6 +35,7 @@ PegString toPegString(const std::u16string& text)
 void EditLine::setText(const PegString& text)
 {
     endCandidate();
+    endLongZero();
     mText = toUtf16(text).substr(0, mMaximum);
     mCursor = mText.size();
     Invalidate();
@@ -66,6 +69,18 @@ void EditLine::setHidden(bool hidden)
     Invalidate();
 }
 
+void EditLine::setHint(PegString hint)
+{
+    mHint = std::move(hint);
+    Invalidate();
+}
+
+bool EditLine::types(int key) const
+{
+    const bool changesMode = key == PK_HASH && mModes.size() > 1;
+    return !changesMode && mMaximum > 0 && !keypadLetters(key, mode(), true).empty();
+}
+
 int EditLine::heightFor(int) const
 {
     return lineHeight();
@@ -73,6 +88,7 @@ int EditLine::heightFor(int) const
 
 bool EditLine::key(int key)
 {
+    endLongZero();
     switch (key) {
     case PK_LEFT: return mLeft == Left::DELETES ? deleteBack() : move(-1);
     case PK_RIGHT: return move(1);
@@ -83,6 +99,11 @@ bool EditLine::key(int key)
         return true;
     default: return type(key);
     }
+}
+
+void EditLine::released(int)
+{
+    endLongZero();
 }
 
 /// A key of the keypad is the line's even where it types nothing: nobody else shall take it for something different.
@@ -99,6 +120,8 @@ bool EditLine::type(int key)
     insert(letters.data()[0]);
     if (letters.length() > 1)
         beginCandidate(key);
+    else if (key == PK_0)
+        beginLongZero();
     changed();
     return true;
 }
@@ -167,6 +190,31 @@ void EditLine::endCandidate()
     Invalidate();
 }
 
+void EditLine::beginLongZero()
+{
+    if (mPlusByLongZero)
+        SetTimer(LONG_ZERO, LONG_ZERO_MS, false);
+}
+
+void EditLine::endLongZero()
+{
+    if (mPlusByLongZero)
+        KillTimer(LONG_ZERO);
+}
+
+/// The zero that is held is the character before the cursor: another key would have ended it.
+void EditLine::makePlus()
+{
+    mText[mCursor - 1] = u'+';
+    changed();
+}
+
+void EditLine::focusChanged()
+{
+    endCandidate();
+    endLongZero();
+}
+
 bool EditLine::beginsWord() const
 {
     return mCursor == 0 || mText[mCursor - 1] == u' ';
@@ -182,7 +230,10 @@ int EditLine::Message(const PegMessage& message)
 {
     if (message.wType != PM_TIMER)
         return Field::Message(message);
-    endCandidate();
+    if (message.iData == LONG_ZERO)
+        makePlus();
+    else
+        endCandidate();
     return 0;
 }
 
@@ -202,6 +253,11 @@ PegString EditLine::shown(std::size_t characters) const
     return toPegString(mHidden ? std::u16string(characters, DOT) : mText.substr(0, characters));
 }
 
+PegString EditLine::shown() const
+{
+    return mText.empty() ? mHint : shown(mText.size());
+}
+
 /// A text that is too long is moved until the cursor is in sight.
 void EditLine::Draw(PegPainter& painter)
 {
@@ -210,8 +266,11 @@ void EditLine::Draw(PegPainter& painter)
     painter.frame(Area(), hasFocus() ? Level::DARK : Level::MIDDLE);
     const int before = Lcd::current()->textWidth(font(), shown(mCursor));
     const int gone = std::max(0, before + 2 - widthOf(where.text));
-    painter.scrolledText(where.text, shown(mText.size()), {.font = font(), .align = startAlign()}, gone,
-                         widthOf(where.text));
+    if (mText.empty())
+        painter.text(where.text, mHint, {.font = font(), .align = startAlign()});
+    else
+        painter.scrolledText(where.text, shown(mText.size()), {.font = font(), .align = startAlign()}, gone,
+                             widthOf(where.text));
     if (!isEmpty(where.mode))
         painter.text(where.mode, nameOf(mode()), {.font = font(), .align = endAlign()});
     if (hasFocus())

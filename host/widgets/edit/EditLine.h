@@ -33,6 +33,19 @@ public:
     /// Shows dots in place of the characters.
     void setHidden(bool hidden);
 
+    /// Stands in the place of an empty text.
+    void setHint(PegString hint);
+    const PegString& hint() const { return mHint; }
+
+    /// Whether a zero that is held becomes a plus, where digits are typed.
+    void setPlusByLongZero(bool on) { mPlusByLongZero = on; }
+
+    /// Whether the key would put a character into an empty line.
+    bool types(int key) const;
+
+    /// What is on the screen: the text or its dots, or the hint.
+    PegString shown() const;
+
     /// How many characters stand before it.
     int cursor() const { return static_cast<int>(mCursor); }
 
@@ -43,12 +56,13 @@ public:
 
     /// Digits, star and hash, and left and right as long as the cursor has somewhere to go.
     bool key(int key) override;
+    void released(int key) override;
 
     int Message(const PegMessage& message) override;
     void Draw(PegPainter& painter) override;
 
 protected:
-    void focusChanged() override { endCandidate(); }
+    void focusChanged() override;
 
 private:
     struct Parts {
@@ -64,6 +78,9 @@ private:
     void nextMode();
     void beginCandidate(int key);
     void endCandidate();
+    void beginLongZero();
+    void endLongZero();
+    void makePlus();
     bool beginsWord() const;
     PegString shown(std::size_t characters) const;
     void changed();
@@ -76,6 +93,8 @@ private:
     std::size_t mMode = 0;
     Left mLeft = Left::MOVES;
     bool mHidden = false;
+    bool mPlusByLongZero = false;
+    PegString mHint;
     int mCandidateKey = 0;           ///< 0 where no character is being chosen
     std::size_t mCandidateIndex = 0; ///< among the key's characters
 };

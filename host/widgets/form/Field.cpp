@@ -15,6 +15,8 @@ int Field::Message(const PegMessage& message)
 {
     if (message.wType == PM_KEY && key(message.iData))
         return 0;
+    if (message.wType == PM_KEYRELEASE)
+        released(message.iData);
     return PegThing::Message(message);
 }
 

@@ -15,6 +15,9 @@ public:
     /// Handles a PegKey. False where it has no use for it: its holder goes on.
     virtual bool key(int key) = 0;
 
+    /// A key has gone up that has gone down before, here or elsewhere.
+    virtual void released(int) {}
+
     /// Whether the user can work with it. False is for what is only read.
     virtual bool takesFocus() const { return true; }
 

@@ -29,9 +29,41 @@ void CommandBar::setCommands(std::vector<PegString> texts)
     mTexts = std::move(texts);
     mWidths.clear();
     for (const PegString& each : mTexts)
-        mWidths.push_back(Lcd::current() != nullptr ? Lcd::current()->textWidth(font(), each) : 0);
+        mWidths.push_back(widthOfText(each));
     mCurrent = mTexts.empty() ? -1 : 0;
     Invalidate();
+}
+
+void CommandBar::append(PegString text)
+{
+    mWidths.push_back(widthOfText(text));
+    mTexts.push_back(std::move(text));
+    mCurrent = std::max(mCurrent, 0);
+    Invalidate();
+}
+
+void CommandBar::remove(int command)
+{
+    if (command < 0 || command >= count())
+        return;
+    mWidths.erase(mWidths.begin() + command);
+    mTexts.erase(mTexts.begin() + command);
+    if (command < mCurrent || mCurrent == count())
+        --mCurrent;
+    Invalidate();
+}
+
+void CommandBar::setText(int command, PegString text)
+{
+    const auto place = static_cast<std::size_t>(command);
+    mWidths.at(place) = widthOfText(text);
+    mTexts[place] = std::move(text);
+    Invalidate();
+}
+
+int CommandBar::widthOfText(const PegString& text)
+{
+    return Lcd::current() != nullptr ? Lcd::current()->textWidth(font(), text) : 0;
 }
 
 void CommandBar::setCurrent(int command)
@@ -52,7 +84,7 @@ bool CommandBar::fits() const
     return std::accumulate(mWidths.begin(), mWidths.end(), 2 * PADDING * count()) <= widthOf(Area());
 }
 
-/// What is in view. Painting asks here, and so does whoever wants to know where a command stands.
+/// Painting asks here, and so does whoever wants to know where a command stands.
 std::vector<CommandBar::Cell> CommandBar::cells() const
 {
     if (count() == 0)

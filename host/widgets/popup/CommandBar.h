@@ -15,6 +15,14 @@ public:
     /// The first one becomes current.
     void setCommands(std::vector<PegString> texts);
 
+    /// The first one to be appended becomes current; where the current one is removed, the one behind it does, or else
+    /// the last.
+    void append(PegString text);
+    void remove(int command);
+
+    /// The current one stays.
+    void setText(int command, PegString text);
+
     int count() const { return static_cast<int>(mTexts.size()); }
     const PegString& text(int command) const { return mTexts.at(static_cast<std::size_t>(command)); }
 
@@ -29,14 +37,16 @@ public:
     bool takesFocus() const override { return count() > 0; }
     void Draw(PegPainter& painter) override;
 
-private:
+    /// A command that is in view, and where.
     struct Cell {
         int command;
         PegRect area;
     };
-
-    bool fits() const;
     std::vector<Cell> cells() const;
+
+private:
+    bool fits() const;
+    static int widthOfText(const PegString& text);
     bool step(int by);
     void drawCell(PegPainter& painter, const Cell& cell) const;
     void drawArrows(PegPainter& painter) const;

@@ -96,6 +96,8 @@ void PopupBox::setMessageTarget(PegThing* target)
 
 int PopupBox::Message(const PegMessage& message)
 {
+    if (message.wType == PM_KEYRELEASE && mField != nullptr)
+        mField->released(message.iData);
     if (message.wType != PM_KEY)
         return PegWindow::Message(message);
     if (mField != nullptr && mField->takesFocus() && mField->key(message.iData))

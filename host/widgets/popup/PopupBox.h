@@ -19,6 +19,7 @@ public:
 
     /// An empty one takes no room.
     void setHeader(PegString text);
+    const PegString& header() const { return mHeader; }
 
     /// A line each, cut with an ellipsis.
     void setBody(std::vector<PegString> lines);
@@ -27,7 +28,7 @@ public:
     void setField(Field* field);
     Field* field() const { return mField; }
 
-    /// Gives the field as much room as it wants by now.
+    /// Gives the field and the bar as much room as they want by now.
     void fitField() { layOut(); }
 
     /// Pixels at the panel's top that stay free.
