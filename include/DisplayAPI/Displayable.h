@@ -49,14 +49,17 @@ public:
 protected:
     /// Deletes the private side, if there is one; `side` is null afterwards. GUI thread only. Every display that still
     /// shows this lets go of it first, as if it had been dismissed. An interface with a protected destructor that names
-    /// this class as its friend is deleted in no other way.
+    /// this class as its friend is deleted in no other way; one that has destroy() deletes itself.
     template <typename Side>
     void deletePrivateSide(Side*& side)
     {
         if (side == nullptr)
             return;
         leaveDisplay();
-        delete side;
+        if constexpr (requires { side->destroy(); })
+            side->destroy();
+        else
+            delete side;
         side = nullptr;
     }
 

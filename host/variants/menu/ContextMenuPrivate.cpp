@@ -1,11 +1,11 @@
 #include "variants/menu/ContextMenuPrivate.h"
 
 #include "DisplayAPI/ContextMenu.h"
-#include "DisplayAPI/Display.h"
 #include "DisplayAPI/DisplayPrivateIfc.h"
 #include "DisplayAPI/MenuCommand.h"
 #include "DisplayAPI/Rectangles.h"
 #include "host/variants/menu/ContextMenuImpl.h"
+#include "host/variants/popup/BringUp.h"
 
 namespace DisplayAPI {
 
@@ -74,14 +74,10 @@ std::string ContextMenuSide::serialise(const std::vector<DisplayAPIUtils::Rect>&
 
 void ContextMenuSide::open()
 {
-    if (DisplayPrivateIfc* const attachedTo = display()) {
-        if (mImpl->isOnScreen() && attachedTo->getCurrent() == mImpl->owner)
-            show();
-        else
-            attachedTo->setCurrent(mImpl->owner);
-    } else if (Display* const latest = Display::latest()) {
-        latest->setCurrent(mImpl->owner);
-    }
+    if (mImpl->isOnScreen() && display() != nullptr && display()->getCurrent() == mImpl->owner)
+        show();
+    else
+        bringUp(mImpl->owner, display());
 }
 
 void ContextMenuSide::dismiss()
