@@ -3,6 +3,7 @@
 #include "host/toolkit/MainQueue.h"
 
 #include <array>
+#include <charconv>
 #include <utility>
 
 namespace host {
@@ -22,6 +23,20 @@ constexpr std::array<std::pair<std::string_view, PegKey>, 10> NAMED_KEYS{{
     {"hook", PK_HOOK},
 }};
 
+/// "fpk1" and on.
+std::optional<PegKey> programmableKey(std::string_view name)
+{
+    constexpr std::string_view PREFIX = "fpk";
+    int number = 0;
+    const char* const last = name.data() + name.size();
+    if (!name.starts_with(PREFIX) || name.substr(PREFIX.size()).starts_with('0'))
+        return {};
+    const auto [end, error] = std::from_chars(name.data() + PREFIX.size(), last, number);
+    if (error != std::errc() || end != last || number < 1 || number > PK_FPK_LAST - PK_FPK1 + 1)
+        return {};
+    return static_cast<PegKey>(PK_FPK1 + number - 1);
+}
+
 } // namespace
 
 Keyboard& Keyboard::instance()
@@ -37,7 +52,7 @@ std::optional<PegKey> Keyboard::keyFromName(std::string_view name)
     for (const auto& [known, key] : NAMED_KEYS)
         if (known == name)
             return key;
-    return std::nullopt;
+    return programmableKey(name);
 }
 
 bool Keyboard::press(PegKey key)

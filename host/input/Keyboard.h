@@ -14,7 +14,8 @@ class Keyboard {
 public:
     static Keyboard& instance();
 
-    /// "up", "down", "left", "right", "ok", "0" to "9", "star", "hash", "volume-up", "volume-down", "hook".
+    /// "up", "down", "left", "right", "ok", "0" to "9", "star", "hash", "volume-up", "volume-down", "hook", and "fpk1"
+    /// to "fpk16".
     static std::optional<PegKey> keyFromName(std::string_view name);
 
     /// Queues the message. Returns false, and drops the key, while MAX_PENDING keys wait to be handled or the toolkit

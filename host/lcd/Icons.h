@@ -40,6 +40,12 @@ extern const Icon LETTER;
 extern const Icon PERSON;
 extern const Icon PICTURE;
 extern const Icon DOT;
+extern const Icon PADLOCK;
+extern const Icon NO_ENTRY;
+extern const Icon BELL_OFF;
+extern const Icon WRENCH;
+extern const Icon CALLBACK;
+extern const Icon FORWARD;
 
 } // namespace icons
 

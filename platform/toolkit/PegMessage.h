@@ -33,7 +33,9 @@ enum PegKey : std::int32_t {
     PK_OK,
     PK_VOLUME_UP,
     PK_VOLUME_DOWN,
-    PK_HOOK
+    PK_HOOK,
+    PK_FPK1 = 0x200, ///< the first programmable key; the others follow
+    PK_FPK_LAST = PK_FPK1 + 15
 };
 
 /// One message of the toolkit. A record is in exactly one place: the free pool, the main queue, or a dispatcher's

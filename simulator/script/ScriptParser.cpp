@@ -48,8 +48,9 @@ PegKey toKey(std::string_view name)
         throw Mistake("the name of a key is missing");
     if (const auto key = host::Keyboard::keyFromName(name))
         return *key;
-    throw Mistake("there is no key " + quoted(name) +
-                  "; keys are up, down, left, right, ok, 0 to 9, star, hash, volume-up, volume-down and hook");
+    throw Mistake(
+        "there is no key " + quoted(name) +
+        "; keys are up, down, left, right, ok, 0 to 9, star, hash, volume-up, volume-down, hook and fpk1 to fpk16");
 }
 
 PegKey toDigit(char character)

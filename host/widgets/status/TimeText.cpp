@@ -18,12 +18,6 @@ std::string formatted(const char* format, std::int64_t first, std::int64_t secon
     return text;
 }
 
-bool hasTwelveHours()
-{
-    const auto* application = KestrelApplication::getCurrentApplication();
-    return application != nullptr && ICC::fromUNICODEtoASCII(application->getTimeFormat()).starts_with("12");
-}
-
 /// A number of the text: digits up to a colon or the end.
 std::optional<std::int64_t> takeNumber(std::string& text, std::size_t leastDigits, std::size_t mostDigits)
 {
@@ -38,11 +32,17 @@ std::optional<std::int64_t> takeNumber(std::string& text, std::size_t leastDigit
 
 } // namespace
 
-std::string clockText(std::int64_t time)
+bool hasTwelveHours()
+{
+    const auto* application = KestrelApplication::getCurrentApplication();
+    return application != nullptr && ICC::fromUNICODEtoASCII(application->getTimeFormat()).starts_with("12");
+}
+
+std::string clockText(std::int64_t time, bool twelveHours)
 {
     const std::int64_t hour = time / HOUR % 24;
     const std::int64_t minute = time / MINUTE % 60;
-    if (!hasTwelveHours())
+    if (!twelveHours)
         return formatted("%02ld:%02ld", hour, minute);
     return formatted(hour < 12 ? "%ld:%02ld AM" : "%ld:%02ld PM", hour % 12 == 0 ? 12 : hour % 12, minute);
 }

@@ -10,8 +10,11 @@ constexpr std::int64_t SECOND = 1000;
 constexpr std::int64_t MINUTE = 60 * SECOND;
 constexpr std::int64_t HOUR = 60 * MINUTE;
 
-/// The time of a day, in milliseconds, as the application's time format wants it: "14:05" or "2:05 PM".
-std::string clockText(std::int64_t time);
+/// Whether the application's time format counts the hours twice.
+bool hasTwelveHours();
+
+/// The time of a day, in milliseconds: "14:05" or "2:05 PM"; as the application's time format wants it.
+std::string clockText(std::int64_t time, bool twelveHours = hasTwelveHours());
 
 /// "42:07", or "00:42:07" where hours are wanted or needed.
 std::string timerText(std::int64_t time, bool hours);

@@ -27,11 +27,14 @@ TEST(Keyboard, KnowsEachKeyByName)
     EXPECT_EQ(Keyboard::keyFromName("hook"), PK_HOOK);
     EXPECT_EQ(Keyboard::keyFromName("0"), PK_0);
     EXPECT_EQ(Keyboard::keyFromName("9"), PK_9);
+    EXPECT_EQ(Keyboard::keyFromName("fpk1"), PK_FPK1);
+    EXPECT_EQ(Keyboard::keyFromName("fpk16"), PK_FPK_LAST);
 }
 
 TEST(Keyboard, UnknownNameIsNoKey)
 {
-    for (const char* name : {"", "UP", "10", "a", "*", "#", "/", ":"})
+    for (const char* name :
+         {"", "UP", "10", "a", "*", "#", "/", ":", "fpk", "fpk0", "fpk01", "fpk17", "fpk-1", "fpk1 ", "fpk99999999999"})
         EXPECT_EQ(Keyboard::keyFromName(name), std::nullopt) << name;
 }
 
