@@ -1,22 +1,18 @@
 #include "Cases.h"
+#include "Frames.h"
 #include "Phone.h"
 
 #include "DisplayAPI/ContextMenu.h"
 #include "DisplayAPI/ContextMenuPrivateIfc.h"
 #include "DisplayAPI/MenuCommand.h"
-#include "host/input/Keyboard.h"
 #include "host/lcd/Lcd.h"
-#include "host/toolkit/Loop.h"
 #include "kit/OnGuiThread.h"
 
 #include <cstdio>
-#include <ctime>
 
 namespace bench {
 
 namespace {
-
-using namespace std::chrono_literals;
 
 constexpr int COMMANDS = 20;
 constexpr int MOVES = 200;
@@ -48,38 +44,17 @@ public:
         mMenu.setCommands(commands);
     }
 
-    static void waitUntilShown()
-    {
-        if (!host::Loop::waitUntilIdle(10s))
-            std::fprintf(stderr, "benchmark broken: the screen is not finished\n");
-    }
-
 private:
     Phone mPhone;
     std::vector<std::unique_ptr<DisplayAPI::MenuCommand>> mCommands;
     DisplayAPI::ContextMenu mMenu{false};
 };
 
-double processCpuSeconds()
-{
-    timespec time{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
-}
-
-/// Goes through the whole menu again and again: most steps scroll. The time that a frame is waited for costs no CPU.
+/// Goes through the whole menu again and again: most steps scroll.
 double move()
 {
     ShownMenu shown;
-    double spent = 0;
-    for (int i = 0; i < MOVES; ++i) {
-        std::this_thread::sleep_for(1ms);
-        const double before = processCpuSeconds();
-        host::Keyboard::instance().press(PK_DOWN);
-        std::this_thread::sleep_for(20ms);
-        spent += processCpuSeconds() - before;
-    }
-    return spent / MOVES * 1e6;
+    return cpuToFrame(MOVES, [](int) { return PK_DOWN; });
 }
 
 /// Milliseconds until `workers` have set the commands a thousand times between them, and all is shown.
@@ -92,7 +67,7 @@ double refills(int workers)
         for (int i = 0; i < REFILLS / workers; ++i)
             shown.refill();
     });
-    ShownMenu::waitUntilShown();
+    waitUntilShown();
     const double milliseconds = secondsSince(start) * 1e3;
     const std::uint64_t painted = host::Lcd::current()->picture().frame - frames;
     if (painted > milliseconds / 16 + 3)

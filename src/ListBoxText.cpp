@@ -47,6 +47,12 @@ std::string listAsText(const KestrelListBox& list)
 
 std::string listAsText(const KestrelListBox& list, const std::vector<Rect>& visible)
 {
+    return isVisible(list.Area(), visible) ? screen::object("KestrelListBox", listContents(list, visible))
+                                           : std::string();
+}
+
+std::string listContents(const KestrelListBox& list, const std::vector<Rect>& visible)
+{
     if (!isVisible(list.Area(), visible))
         return {};
     std::string contents = captionOf(list);
@@ -56,7 +62,7 @@ std::string listAsText(const KestrelListBox& list, const std::vector<Rect>& visi
         if (isVisible(list.rowArea(row), visible))
             contents += subItem(*list.itemAt(row));
     }
-    return screen::object("KestrelListBox", contents);
+    return contents;
 }
 
 } // namespace DisplayAPI

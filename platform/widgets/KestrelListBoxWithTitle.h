@@ -13,4 +13,7 @@ public:
 
     /// Lines outside 0 to 5 are ignored.
     void setSystemWindowText(PegString text, int line);
+
+    /// Takes the line's text away. Other lines keep their places; those at the end that have no text take no room.
+    void removeSystemWindowLine(int line);
 };

@@ -3,8 +3,8 @@
 #include "DisplayAPI/List.h"
 #include "DisplayAPI/ListBoxCore.h"
 #include "DisplayAPI/ListBoxText.h"
+#include "DisplayAPI/TickerPlace.h"
 #include "DisplayAPI/TickerPrivateIfc.h"
-#include "host/variants/list/TickerPlace.h"
 #include "utilities/ICC.h"
 #include "widgets/KestrelListBoxWP1.h"
 #include "widgets/KestrelListBoxWithTitle.h"
@@ -187,7 +187,8 @@ void ListBoxSide::remove(ListItemPrivateIfc* row)
 
 void ListBoxSide::setTicker(TickerPrivateIfc* ticker)
 {
-    mImpl->tickers.show(mImpl->core, ticker != nullptr ? ticker->getWidget() : nullptr);
+    if (mImpl->tickers.show(mImpl->core.box(), ticker != nullptr ? ticker->getWidget() : nullptr))
+        mImpl->core.changed();
 }
 
 void ListBoxSide::setTitle(const std::string& title)

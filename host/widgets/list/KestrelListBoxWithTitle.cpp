@@ -1,6 +1,8 @@
 #include "widgets/KestrelListBoxWithTitle.h"
 
+#include "host/lcd/Geometry.h"
 #include "host/widgets/list/ListBoxImpl.h"
+#include "host/widgets/popup/PopupFrame.h"
 #include "utilities/ICC.h"
 
 namespace {
@@ -22,7 +24,12 @@ constexpr KestrelListBox::Layout LAYOUT{
 
 } // namespace
 
-KestrelListBoxWithTitle::KestrelListBoxWithTitle() : KestrelListBox(TYPE_LIST_WITH_TITLE, LAYOUT) {}
+/// A list of lines is the same on every panel: on a smaller one it has what there is.
+KestrelListBoxWithTitle::KestrelListBoxWithTitle() : KestrelListBox(TYPE_LIST_WITH_TITLE, LAYOUT)
+{
+    const auto [width, height] = host::runningPanel();
+    Resize(host::intersection(LAYOUT.panel, host::rectAt(0, 0, width, height)));
+}
 
 void KestrelListBoxWithTitle::setSystemWindowLines(int lines)
 {
@@ -32,4 +39,9 @@ void KestrelListBoxWithTitle::setSystemWindowLines(int lines)
 void KestrelListBoxWithTitle::setSystemWindowText(PegString text, int line)
 {
     impl().setStatusText(line, ICC::fromUNICODEtoUTF8(text));
+}
+
+void KestrelListBoxWithTitle::removeSystemWindowLine(int line)
+{
+    impl().setStatusText(line, {});
 }

@@ -1,14 +1,18 @@
 #pragma once
 
-#include "DisplayAPI/ListBoxCore.h"
+#include "DisplayAPI/Export.h"
+#include "toolkit/PegThing.h"
+
+class KestrelListBox;
 
 namespace DisplayAPI {
 
 /// The ticker that runs in a list, and those that have run there. GUI thread only.
-class TickerPlace {
+class DISPLAYAPI_EXPORT TickerPlace {
 public:
-    /// Shows `ticker` in the list of `core`; null shows none. The widget belongs to the list from now on.
-    void show(ListBoxCore& core, PegThing* ticker);
+    /// Shows `ticker` in the list; null shows none. The widget belongs to the list from now on, or where that is null
+    /// to this. Returns whether the list looks different.
+    bool show(KestrelListBox* list, PegThing* ticker);
 
 private:
     void move(KestrelListBox& list, PegThing* ticker);

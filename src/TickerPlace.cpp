@@ -1,4 +1,7 @@
-#include "host/variants/list/TickerPlace.h"
+#include "DisplayAPI/TickerPlace.h"
+
+#include "DisplayAPI/WatchedWidget.h"
+#include "widgets/KestrelListBox.h"
 
 namespace DisplayAPI {
 
@@ -22,13 +25,15 @@ bool isForgotten(const PegThing& ticker)
 
 } // namespace
 
-void TickerPlace::show(ListBoxCore& core, PegThing* ticker)
+bool TickerPlace::show(KestrelListBox* list, PegThing* ticker)
 {
-    if (core.box() == nullptr)
+    const bool moves = list != nullptr && tickerOf(*list) != ticker;
+    if (list == nullptr)
         mFormer.Add(ticker);
-    else if (tickerOf(*core.box()) != ticker)
-        core.change([=, this](KestrelListBox& list) { move(list, ticker); });
+    else if (moves)
+        move(*list, ticker);
     dropForgotten();
+    return moves;
 }
 
 /// A ticker that stands in another list leaves that one.

@@ -1,0 +1,344 @@
+#include "KVXListPrivate.h"
+
+#include "DisplayAPI/List.h"
+#include "DisplayAPI/ListBoxText.h"
+#include "DisplayAPI/ListItemPrivateIfc.h"
+#include "DisplayAPI/Rectangles.h"
+#include "DisplayAPI/ScreenText.h"
+#include "DisplayAPI/TickerPrivateIfc.h"
+#include "utilities/ICC.h"
+#include "utilities/TranslationInfo.h"
+#include "widgets/KestrelApplication.h"
+#include "widgets/KestrelListBoxItem.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <limits>
+#include <utility>
+
+namespace DisplayAPI {
+
+namespace {
+
+/// What a display line without a text is filled with.
+const std::string BLANK_LINE(24, ' ');
+
+constexpr unsigned int LAST_NUMBER = std::numeric_limits<int>::max() - 1;
+
+KestrelListBoxItem* itemOf(ListItemPrivateIfc* row)
+{
+    return row != nullptr ? row->getKestrelListItem() : nullptr;
+}
+
+} // namespace
+
+KVXListPrivate::KVXListPrivate(Displayable* owner) : mOwner(owner)
+{
+    mWidget->setMessageTarget(this);
+    mWidget->Style(mWidget->Style() | FF_NONE);
+    if (KestrelApplication* const application = KestrelApplication::getCurrentApplication())
+        application->addObserver(this);
+}
+
+KVXListPrivate::~KVXListPrivate()
+{
+    KestrelApplication::removeObserver(this);
+    if (mWidget != nullptr)
+        mWidget->setMessageTarget(nullptr);
+    for (const auto& [line, text] : mTitleTexts)
+        delete text;
+}
+
+int KVXListPrivate::Message(const PegMessage& message)
+{
+    switch (message.wType) {
+    case PM_CURRENT_CHANGED: currentChanged(message.iData); break;
+    case PM_CLICKED: clicked(message.iData); break;
+    case PM_LEFT: leftEvent(); break;
+    case PM_RIGHT: rightEvent(message.iData); break;
+    case PM_APPLICATION_CHANGED:
+        localeChanged(ICC::fromUNICODEtoASCII(*static_cast<const PegString*>(message.pData)));
+        break;
+    default: break;
+    }
+    return 0;
+}
+
+void KVXListPrivate::currentChanged(int)
+{
+    mSelectionChanged = true;
+    generateDisplayChangedEvent();
+}
+
+void KVXListPrivate::clicked(int)
+{
+    postCommand(List::SELECT_COMMAND(), mOwner);
+}
+
+void KVXListPrivate::leftEvent()
+{
+    postCommand(List::BACK_COMMAND(), mOwner);
+    generateDisplayChangedEvent();
+}
+
+void KVXListPrivate::rightEvent(int)
+{
+    postCommand(List::RIGHT_COMMAND(), mOwner);
+}
+
+/// The facade hides the operation that hands the locale on to its rows: as a list it has it.
+void KVXListPrivate::localeChanged(const std::string& locale)
+{
+    if (mTitle != nullptr && mWidget != nullptr)
+        mWidget->setTitle(ICC::fromUTF8toUNICODE(mTitle->getCompleteString()));
+    if (auto* const list = dynamic_cast<List*>(mOwner))
+        list->localeChanged(locale);
+}
+
+template <typename Change>
+void KVXListPrivate::change(Change apply)
+{
+    if (mWidget == nullptr)
+        return;
+    apply(*mWidget);
+    generateDisplayChangedEvent();
+}
+
+PegThing* KVXListPrivate::getWidget()
+{
+    return mWidget.get();
+}
+
+void KVXListPrivate::releaseOwnership()
+{
+    mOwnership.releaseOwnership();
+}
+
+void KVXListPrivate::gainOwnership()
+{
+    mOwnership.gainOwnership();
+}
+
+/// What lay above has taken the display lines off.
+void KVXListPrivate::show()
+{
+    if (mTitleLines > 0)
+        setSysWindowSize(mTitleLines);
+    generateDisplayChangedEvent();
+}
+
+void KVXListPrivate::lostFocus() {}
+
+std::string KVXListPrivate::serialise()
+{
+    return serialise({mWidget != nullptr ? toRect(mWidget->Area()) : DisplayAPIUtils::Rect(0, 0, 0, 0)});
+}
+
+std::string KVXListPrivate::serialise(const std::vector<DisplayAPIUtils::Rect>& visible)
+{
+    const bool hasContents = size() > 0 || showsSystemWindowText();
+    return screen::object("KestrelListBox", hasContents ? listContents(*mWidget, visible) : std::string());
+}
+
+bool KVXListPrivate::showsSystemWindowText() const
+{
+    for (int line = 0; mWidget != nullptr && line < mWidget->systemWindowLines(); ++line)
+        if (!mWidget->systemWindowText(line).empty())
+            return true;
+    return false;
+}
+
+void KVXListPrivate::addCommandListener(CommandListener* listener)
+{
+    DisplayablePrivate::addCommandListener(listener);
+}
+
+void KVXListPrivate::removeCommandListener(CommandListener* listener)
+{
+    DisplayablePrivate::removeCommandListener(listener);
+}
+
+void KVXListPrivate::join(DisplayablePrivate* other)
+{
+    DisplayablePrivate::join(other);
+}
+
+void KVXListPrivate::disjoin()
+{
+    DisplayablePrivate::disjoin();
+}
+
+bool KVXListPrivate::hasCaption()
+{
+    return mWidget != nullptr && !mWidget->title().empty();
+}
+
+void KVXListPrivate::setSysWindowSize(int lines)
+{
+    if (mWidget != nullptr)
+        mWidget->setSystemWindowLines(lines);
+}
+
+void KVXListPrivate::setSysWindowText(std::string text, int line)
+{
+    if (mWidget != nullptr)
+        mWidget->setSystemWindowText(ICC::fromUTF8toUNICODE(text), line);
+}
+
+bool KVXListPrivate::hasSystemWindow()
+{
+    return true;
+}
+
+int KVXListPrivate::size()
+{
+    return mWidget != nullptr ? mWidget->numItems() : 0;
+}
+
+void KVXListPrivate::append(ListItemPrivateIfc* row)
+{
+    change([=](KestrelListBox& list) { list.append(itemOf(row)); });
+}
+
+void KVXListPrivate::clear()
+{
+    change([](KestrelListBox& list) { list.clear(); });
+}
+
+int KVXListPrivate::getSelectedIndex()
+{
+    return mWidget != nullptr ? mWidget->currentRow() : -1;
+}
+
+void KVXListPrivate::setSelectedIndex(int index)
+{
+    change([=](KestrelListBox& list) { list.setCurrentRow(index); });
+}
+
+void KVXListPrivate::setSelected(ListItemPrivateIfc* row)
+{
+    change([=](KestrelListBox& list) { list.setCurrentRow(list.rowOf(itemOf(row))); });
+}
+
+void KVXListPrivate::insertAt(ListItemPrivateIfc* row, int index)
+{
+    change([=](KestrelListBox& list) { list.insert(itemOf(row), index); });
+}
+
+void KVXListPrivate::removeAt(int, ListItemPrivateIfc* row)
+{
+    remove(row);
+}
+
+void KVXListPrivate::remove(ListItemPrivateIfc* row)
+{
+    change([=](KestrelListBox& list) { list.remove(itemOf(row)); });
+}
+
+void KVXListPrivate::setTicker(TickerPrivateIfc* ticker)
+{
+    if (mTickers.show(mWidget.get(), ticker != nullptr ? ticker->getWidget() : nullptr))
+        generateDisplayChangedEvent();
+}
+
+void KVXListPrivate::setTitle(const std::string&)
+{
+    std::puts("void KVXListPrivate::setTitle( Ostring& newTitle ) is NOT impl");
+}
+
+void KVXListPrivate::setTitle(TranslationInfo*)
+{
+    std::puts("void KVXListPrivate::setTitle( TranslationInfo* newTitle ) is NOT impl WP_LO");
+}
+
+void KVXListPrivate::setSystemWindowSize(int lines)
+{
+    setSysWindowSize(lines);
+    generateDisplayChangedEvent();
+}
+
+void KVXListPrivate::setSystemWindowText(int line, const std::string& text)
+{
+    setSysWindowText(text, line);
+    generateDisplayChangedEvent();
+}
+
+Displayable* KVXListPrivate::getParent() const
+{
+    return mOwner;
+}
+
+void KVXListPrivate::hide()
+{
+    PegThing* const widget = getWidget();
+    if (widget == nullptr || widget->Parent() == nullptr)
+        return;
+    gainOwnership();
+    widget->Parent()->Remove(widget);
+}
+
+void KVXListPrivate::setSelectionHighlight(bool on)
+{
+    change([=](KestrelListBox& list) { list.setSelectionHighlight(on); });
+}
+
+void KVXListPrivate::showDiallerOnInitialKeyEvent(bool) {}
+
+void KVXListPrivate::setDialler(PopupDialer*) {}
+
+void KVXListPrivate::dismissDialler() {}
+
+void KVXListPrivate::numtitlelines(unsigned int) {}
+
+void KVXListPrivate::titlecolour(int) {}
+
+void KVXListPrivate::notifyOne() {}
+
+/// A text without a translator is its own translation.
+void KVXListPrivate::titletext(unsigned int line, const std::string& text)
+{
+    titletext(line, new TranslationInfo(text, nullptr));
+}
+
+void KVXListPrivate::titletext(unsigned int line, TranslationInfo* text)
+{
+    keepTitleText(line, text);
+    if (text != nullptr)
+        showTitleText(line, text->getCompleteString());
+    generateDisplayChangedEvent();
+}
+
+void KVXListPrivate::keepTitleText(unsigned int line, TranslationInfo* text)
+{
+    TranslationInfo*& entry = mTitleTexts[line];
+    if (entry != text)
+        delete entry;
+    entry = text;
+    if (text == nullptr)
+        mTitleTexts.erase(line);
+}
+
+/// The line that is set becomes the last one.
+void KVXListPrivate::showTitleText(unsigned int line, const std::string& text)
+{
+    const int number = static_cast<int>(std::min(line, LAST_NUMBER));
+    if (mWidget == nullptr)
+        return;
+    if (text.empty() || text == BLANK_LINE)
+        return mWidget->removeSystemWindowLine(number);
+    mWidget->setSystemWindowText(ICC::fromUTF8toUNICODE(text), number);
+    mTitleLines = number + 1;
+    mWidget->setSystemWindowLines(mTitleLines);
+}
+
+void KVXListPrivate::cleartitle()
+{
+    std::puts("void KVXListPrivate::cleartitle() NOT implemented on WP_LO Please remove this printf??");
+}
+
+bool KVXListPrivate::selectionchanged() const
+{
+    return std::exchange(mSelectionChanged, false);
+}
+
+} // namespace DisplayAPI
