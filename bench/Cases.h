@@ -27,6 +27,7 @@ std::vector<Case> neighbourCases();
 std::vector<Case> listCases();
 std::vector<Case> menuCases();
 std::vector<Case> tabCases();
+std::vector<Case> idleCases();
 std::vector<Case> destroyingCases();
 std::vector<Case> repaintCases();
 std::vector<Case> screenTextCases();

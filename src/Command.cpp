@@ -140,4 +140,12 @@ bool Command::exists(Command* command)
     return gAllCommands.count(command) != 0;
 }
 
+std::optional<std::string> Command::textOf(Command* command)
+{
+    ListLock lock;
+    if (!exists(command))
+        return {};
+    return command->getText();
+}
+
 } // namespace DisplayAPI

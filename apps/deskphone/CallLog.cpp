@@ -1,11 +1,13 @@
 #include "apps/deskphone/CallLog.h"
 
 #include "apps/deskphone/Call.h"
-#include "apps/deskphone/WallClock.h"
+#include "host/clock/WallClock.h"
 #include "utilities/ICC.h"
 #include "widgets/KestrelApplication.h"
 
 namespace deskphone {
+
+using host::WallClock;
 
 namespace {
 

@@ -1,9 +1,11 @@
 #include "apps/deskphone/Desk.h"
 
-#include "apps/deskphone/WallClock.h"
+#include "host/clock/WallClock.h"
 #include "kit/OffGuiThread.h"
 
 namespace deskphone {
+
+using host::WallClock;
 
 namespace {
 

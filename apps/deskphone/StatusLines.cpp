@@ -2,10 +2,12 @@
 
 #include "DisplayAPI/Display.h"
 #include "apps/deskphone/Telephone.h"
-#include "apps/deskphone/WallClock.h"
 #include "host/Phone.h"
+#include "host/clock/WallClock.h"
 
 namespace deskphone {
+
+using host::WallClock;
 
 namespace {
 

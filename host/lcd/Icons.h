@@ -46,6 +46,9 @@ extern const Icon BELL_OFF;
 extern const Icon WRENCH;
 extern const Icon CALLBACK;
 extern const Icon FORWARD;
+extern const Icon MISSED_CALL;
+extern const Icon FORWARDED;
+extern const Icon SERVER_FORWARDED;
 
 } // namespace icons
 

@@ -3,6 +3,7 @@
 #include "DisplayAPI/Export.h"
 
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 
@@ -54,6 +55,9 @@ public:
 
     /// Whether the pointer still designates a live command; it is not read.
     static bool exists(Command* command);
+
+    /// The label of a command that another thread may delete; nothing where it does not exist.
+    static std::optional<std::string> textOf(Command* command);
 
 private:
     class ListLock;

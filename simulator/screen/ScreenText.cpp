@@ -22,11 +22,11 @@ std::string volatileLine(const std::string& text)
     return DisplayAPI::screen::line("volatile", text);
 }
 
-std::set<std::string> runningTextsOfLists(const Texts& texts)
+std::set<std::string> runningTextsOfDisplayables(const Texts& texts)
 {
     std::set<std::string> running;
     for (const host::TextRun& run : texts)
-        if (run.runs && isList(run.widget))
+        if (run.runs && isDisplayables(run.widget))
             running.insert(toAscii(onOneLine(run.text)));
     return running;
 }
@@ -70,12 +70,12 @@ Texts textsOf(PegType widget, const Texts& texts)
     return found;
 }
 
-/// The clock and the timer that a list paints into its status lines.
+/// A clock or a timer that a displayable paints and does not tell, as lists do in their status lines.
 Texts untoldTexts(const Texts& texts, const std::string& told)
 {
     Texts untold;
     for (const host::TextRun& run : texts)
-        if (run.runs && isList(run.widget) && told.find(toAscii(volatileLine(run.text))) == std::string::npos)
+        if (run.runs && isDisplayables(run.widget) && told.find(toAscii(volatileLine(run.text))) == std::string::npos)
             untold.push_back(run);
     return untold;
 }
@@ -84,7 +84,7 @@ Texts untoldTexts(const Texts& texts, const std::string& told)
 
 std::string screenText(const std::string& displayables, const Texts& texts)
 {
-    std::string text = withMarks(displayables, runningTextsOfLists(texts));
+    std::string text = withMarks(displayables, runningTextsOfDisplayables(texts));
     text += object("RunningTexts", untoldTexts(texts, text));
     text += object("SystemWindow", textsOf(TYPE_SYSTEM_WINDOW, texts));
     text += object("StatusMessage", textsOf(TYPE_STATUS_MESSAGE, texts));

@@ -6,9 +6,10 @@
 
 namespace simulator {
 
-constexpr bool isList(std::uint8_t widget)
+/// Whether it belongs to what a displayable shows, which tells of its texts itself.
+constexpr bool isDisplayables(std::uint8_t widget)
 {
-    return widget == TYPE_LIST_WITH_TITLE || widget == TYPE_LIST_WP1;
+    return widget != TYPE_SYSTEM_WINDOW && widget != TYPE_STATUS_MESSAGE && widget != TYPE_TICKER;
 }
 
 /// What the thing that has painted a text is called where people read it.

@@ -38,10 +38,10 @@ std::optional<host::CommandColumn::Entry> CommandTexts::entryOf(Command* command
 
 std::optional<PegString> CommandTexts::textOf(Command* command) const
 {
-    const Stay stay;
-    if (!Command::exists(command))
+    const std::optional<std::string> text = Command::textOf(command);
+    if (!text)
         return {};
-    return ICC::fromUTF8toUNICODE(command->getText());
+    return ICC::fromUTF8toUNICODE(*text);
 }
 
 } // namespace DisplayAPI

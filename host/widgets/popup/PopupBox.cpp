@@ -2,6 +2,7 @@
 
 #include "host/lcd/Geometry.h"
 #include "host/lcd/Painter.h"
+#include "host/widgets/Column.h"
 #include "host/widgets/Reading.h"
 #include "host/widgets/popup/PopupFrame.h"
 
@@ -14,34 +15,6 @@ namespace {
 constexpr int INDENT = 8; ///< of the box, from the panel's edges
 constexpr int MARGIN = 4; ///< of the parts, from the frame
 constexpr int RULE = 2;   ///< between the parts
-
-constexpr PegRect NOTHING = rectAt(0, 0, 0, 0);
-
-/// Gives away a column's height from above or below, as long as there is any.
-class Column {
-public:
-    explicit Column(const PegRect& area) : mRest(area) {}
-
-    PegRect fromTop(int height)
-    {
-        if (height > heightOf(mRest))
-            return NOTHING;
-        const PegRect part = rectAt(mRest.left, mRest.top, widthOf(mRest), height);
-        mRest.top = static_cast<std::int16_t>(mRest.top + height);
-        return part;
-    }
-
-    PegRect fromBottom(int height)
-    {
-        if (height > heightOf(mRest))
-            return NOTHING;
-        mRest.bottom = static_cast<std::int16_t>(mRest.bottom - height);
-        return rectAt(mRest.left, mRest.bottom + 1, widthOf(mRest), height);
-    }
-
-private:
-    PegRect mRest;
-};
 
 } // namespace
 
@@ -74,6 +47,11 @@ void PopupBox::setField(Field* field)
         field->setFocus(field->takesFocus());
     }
     layOut();
+}
+
+int PopupBox::roomForField(int height)
+{
+    return hasTwoLines() ? height : height - 2 * (INDENT + FRAME_WIDTH + MARGIN);
 }
 
 void PopupBox::setFreeAbove(int height)

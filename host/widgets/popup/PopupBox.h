@@ -31,6 +31,9 @@ public:
     /// Gives the field and the bar as much room as they want by now.
     void fitField() { layOut(); }
 
+    /// The pixels that a field has at most where nothing else is in the box, and `height` of the panel is free.
+    static int roomForField(int height);
+
     /// Pixels at the panel's top that stay free.
     void setFreeAbove(int height);
 

@@ -63,6 +63,12 @@ TEST(ScreenText, RunningTextsOfListsAreVolatileWhereTheLibraryTellsThem)
               "object:\nvolatile:1:00\nend:\n");
 }
 
+TEST(ScreenText, RunningTextsOfWindowsAreVolatileWhereTheLibraryTellsThem)
+{
+    const std::string idle = "object:\nname:IdleDisplay\nsubitem:\nname:Time\n";
+    EXPECT_EQ(screenText(idle + "string0:14:05\n", {run("14:05", TYPE_WINDOW, RUNS)}), idle + "volatile:14:05\n");
+}
+
 TEST(ScreenText, RunningTextsOfListsAreAnObjectWhereTheLibraryDoesNotTellThem)
 {
     EXPECT_EQ(screenText(LIST, {run("10:00:00", TYPE_LIST_WITH_TITLE, RUNS), run("Line 1", TYPE_LIST_WITH_TITLE)}),

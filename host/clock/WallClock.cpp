@@ -1,10 +1,10 @@
-#include "apps/deskphone/WallClock.h"
+#include "host/clock/WallClock.h"
 
 #include "host/clock/Clock.h"
 
 #include <cstdio>
 
-namespace deskphone {
+namespace host {
 
 namespace {
 
@@ -28,20 +28,26 @@ void replace(std::string& text, const char* mark, const std::string& by)
 
 std::time_t WallClock::now()
 {
-    static const std::int64_t start = host::Clock::instance().now();
-    if (!host::Clock::instance().isVirtual())
+    static const std::int64_t start = Clock::instance().now();
+    if (!Clock::instance().isVirtual())
         return std::time(nullptr);
-    return VIRTUAL_START + (host::Clock::instance().now() - start) / SECOND;
+    return VIRTUAL_START + (Clock::instance().now() - start) / SECOND;
 }
 
 std::tm WallClock::local(std::time_t moment)
 {
     std::tm parts{};
-    if (host::Clock::instance().isVirtual())
+    if (Clock::instance().isVirtual())
         gmtime_r(&moment, &parts);
     else
         localtime_r(&moment, &parts);
     return parts;
+}
+
+int WallClock::timeOfDay()
+{
+    const std::tm parts = local(now());
+    return (parts.tm_hour * 60 + parts.tm_min) * 60 + parts.tm_sec;
 }
 
 std::string WallClock::date(std::time_t moment, std::string format)
@@ -62,4 +68,4 @@ std::string WallClock::time(std::time_t moment, const std::string& format)
     return std::to_string((parts.tm_hour + 11) % 12 + 1) + minutes + (parts.tm_hour < 12 ? " AM" : " PM");
 }
 
-} // namespace deskphone
+} // namespace host

@@ -3,7 +3,7 @@
 #include <ctime>
 #include <string>
 
-namespace deskphone {
+namespace host {
 
 /// The time of day where the telephone stands. On a virtual clock it begins on 9 March 2026 at 09:41:00, so that what
 /// is shown is always the same. Safe from any thread.
@@ -14,6 +14,9 @@ public:
     /// Hours, minutes and seconds of a moment, and its date.
     static std::tm local(std::time_t moment);
 
+    /// The seconds since midnight.
+    static int timeOfDay();
+
     /// `format` is "dd.mm.yyyy" or the like.
     static std::string date(std::time_t moment, std::string format);
 
@@ -21,4 +24,4 @@ public:
     static std::string time(std::time_t moment, const std::string& format);
 };
 
-} // namespace deskphone
+} // namespace host
