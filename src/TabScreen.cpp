@@ -304,9 +304,9 @@ void TabScreen::removeAt(int index)
 {
     if (!hasTab(index))
         return;
+    mDisplayableItems.erase(mDisplayableItems.begin() + index);
     if (mImplementation != nullptr)
         mImplementation->removeTabAtIndex(index);
-    mDisplayableItems.erase(mDisplayableItems.begin() + index);
 }
 
 /// A negative index is the first tab's.
@@ -324,26 +324,26 @@ int TabScreen::indexOf(Displayable* page)
 
 Command* TabScreen::TABFWD_COMMAND()
 {
-    static Command command("", Command::TABFWD);
-    return &command;
+    static auto* const command = new Command("", Command::TABFWD);
+    return command;
 }
 
 Command* TabScreen::TABBACK_COMMAND()
 {
-    static Command command("", Command::TABBACK);
-    return &command;
+    static auto* const command = new Command("", Command::TABBACK);
+    return command;
 }
 
 Command* TabScreen::OK()
 {
-    static Command command("", Command::OK);
-    return &command;
+    static auto* const command = new Command("", Command::OK);
+    return command;
 }
 
 Command* TabScreen::BACK_COMMAND()
 {
-    static Command command("", Command::BACK);
-    return &command;
+    static auto* const command = new Command("", Command::BACK);
+    return command;
 }
 
 } // namespace DisplayAPI

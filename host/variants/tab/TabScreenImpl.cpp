@@ -159,11 +159,14 @@ bool TabScreenSide::Impl::isPageIn() const
     return window != nullptr && page != nullptr && window->page() != nullptr && window->page() == page->getWidget();
 }
 
+/// While nobody sees the tab screen, its page may be on the screen by itself.
 void TabScreenSide::Impl::putPageIn()
 {
     if (window == nullptr)
         return;
     window->bar().setCurrent(current);
+    if (!isOnScreen() && self.display() == nullptr)
+        return;
     DisplayablePrivateIfc* const page = currentPage();
     PegThing* const widget = page != nullptr ? page->getWidget() : nullptr;
     if (widget == nullptr)

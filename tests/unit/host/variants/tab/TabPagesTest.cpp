@@ -2,6 +2,7 @@
 
 #include "DisplayAPI/ContextMenu.h"
 #include "DisplayAPI/DisplayEventIfc.h"
+#include "support/LogLines.h"
 #include "unit/host/variants/tab/TabScreenVariantTest.h"
 
 using namespace DisplayAPI;
@@ -195,6 +196,37 @@ TEST_P(TabPagesTest, PageThatIsShownByItselfComesBackWithItsTabScreen)
     EXPECT_EQ(widgetOf(*all)->Area().top, 0);
     open();
     expectInPage(*all);
+}
+
+TEST_P(TabPagesTest, PageThatIsOnTheScreenStaysThereUntilItsTabScreenIsShown)
+{
+    List list(0);
+    list.append("Dora");
+    list.append("Emil");
+    display.setCurrent(&list);
+    tabs->setCurrentDisplayable(&list);
+    EXPECT_EQ(widgetOf(list)->Parent(), gpPresent);
+    EXPECT_EQ(gpPresent->Focus(), widgetOf(list));
+    open();
+    expectInPage(list);
+    display.setCurrent(nullptr);
+}
+
+TEST_P(TabPagesTest, ObserverCountsAsManyTabsAsThereAre)
+{
+    struct Counting : DisplayEventIfc {
+        explicit Counting(TabScreen& counted) : screen(counted) {}
+        void displayChanged(std::string) override { screen.numberOfTabs(); }
+        TabScreen& screen;
+    } counting(*tabs);
+    open();
+    display.subscribe(&counting);
+    const host::LogCapture log;
+    tabs->addTab("Nothing", nullptr, true);
+    tabs->removeTabAtIndex(0);
+    tabs->removeTab(nullptr);
+    EXPECT_TRUE(test::linesOf(log, "DisplayAPI::TabScreen").empty());
+    display.unSubscribe();
 }
 
 TEST_P(TabPagesTest, TabScreenThatGoesLeavesItsPages)
