@@ -229,6 +229,24 @@ TEST_P(TabPagesTest, ObserverCountsAsManyTabsAsThereAre)
     display.unSubscribe();
 }
 
+/// Notes its end.
+struct Mark : PegThing {
+    explicit Mark(bool& end) : isGone(end) {}
+    ~Mark() override { isGone = true; }
+    bool& isGone;
+};
+
+TEST_P(TabPagesTest, PageThatHasLeftDeletesItsWidgetItself)
+{
+    bool isGone = false;
+    widgetOf(*all)->Add(new Mark(isGone));
+    open();
+    tabs->setCurrentTabIndex(1);
+    EXPECT_FALSE(isGone);
+    all.reset();
+    EXPECT_TRUE(isGone);
+}
+
 TEST_P(TabPagesTest, TabScreenThatGoesLeavesItsPages)
 {
     open();
