@@ -173,6 +173,11 @@ int PegPainter::textWidth(const PegString& text, Font font, int most)
     return text.empty() ? 0 : mRenderer.mask(font, text, most).width;
 }
 
+bool PegPainter::beginsAtTheRight(const PegString& text, Font font)
+{
+    return !text.empty() && mRenderer.mask(font, text, TextMask::MAX_WIDTH).rightToLeft;
+}
+
 void PegPainter::note(TextRun run)
 {
     run.widget = mWidget;

@@ -60,6 +60,9 @@ public:
     /// The pixels that text() takes in a cell that is `most` pixels wide.
     int textWidth(const PegString& text, host::Font font, int most);
 
+    /// Whether its own characters make the text one that is read from the right.
+    bool beginsAtTheRight(const PegString& text, host::Font font);
+
 private:
     void fillClipped(const PegRect& area, host::Level level);
     void note(host::TextRun run);

@@ -38,6 +38,12 @@ enum PegKey : std::int32_t {
     PK_FPK_LAST = PK_FPK1 + 15
 };
 
+/// Whether it is a digit, star or hash.
+constexpr bool isOfKeypad(int key)
+{
+    return (key >= PK_0 && key <= PK_9) || key == PK_STAR || key == PK_HASH;
+}
+
 /// One message of the toolkit. A record is in exactly one place: the free pool, the main queue, or a dispatcher's
 /// hands.
 struct PegMessage {

@@ -26,6 +26,10 @@ public:
     /// Not owned; null tells nobody.
     void setMessageTarget(PegThing* target);
 
+    /// Whether digits, star and hash that the current row has no use for are the target's, as PM_KEY, and not the
+    /// parent's. They are not at first.
+    void setTellsKeypad(bool on);
+
     int numItems() const;
     KestrelListBoxItem* itemAt(int row) const;       ///< null outside 0 to numItems() - 1
     int rowOf(const KestrelListBoxItem* item) const; ///< -1 where it is not in the list

@@ -15,7 +15,8 @@ constexpr std::int32_t CANDIDATE = 1;
 constexpr int CANDIDATE_MS = 1000;
 constexpr std::int32_t LONG_ZERO = 2;
 constexpr int LONG_ZERO_MS = 600;
-constexpr int INSET = 3; ///< of the text, from the line's edges
+constexpr int CURSOR_WIDTH = 2; ///< with the air beside it
+constexpr int INSET = 3;        ///< of the text, from the line's edges
 constexpr int MODE_WIDTH = 30;
 constexpr char16_t DOT = u'\u2022';
 
@@ -265,24 +266,33 @@ void EditLine::Draw(PegPainter& painter)
     painter.fill(Area(), Level::BARE);
     painter.frame(Area(), hasFocus() ? Level::DARK : Level::MIDDLE);
     const int before = Lcd::current()->textWidth(font(), shown(mCursor));
-    const int gone = std::max(0, before + 2 - widthOf(where.text));
+    const int gone = std::max(0, before + CURSOR_WIDTH - widthOf(where.text));
     if (mText.empty())
-        painter.text(where.text, mHint, {.font = font(), .align = startAlign()});
+        drawHint(painter, where.text);
     else
-        painter.scrolledText(where.text, shown(mText.size()), {.font = font(), .align = startAlign()}, gone,
-                             widthOf(where.text));
+        painter.scrolledText(where.text, shown(), {.font = font()}, gone, widthOf(where.text));
     if (!isEmpty(where.mode))
         painter.text(where.mode, nameOf(mode()), {.font = font(), .align = endAlign()});
     if (hasFocus())
         drawCursor(painter, where.text, before - gone);
 }
 
-/// A bar, or a line under the character that is being chosen.
+/// Clear of the cursor.
+void EditLine::drawHint(PegPainter& painter, const PegRect& cell) const
+{
+    const int left = cell.left + (isReadFromTheRight() ? 0 : CURSOR_WIDTH);
+    painter.text(rectAt(left, cell.top, widthOf(cell) - CURSOR_WIDTH, heightOf(cell)), mHint,
+                 {.font = font(), .align = startAlign()});
+}
+
+/// A bar, or a line under the character that is being chosen; on the side where the text begins, which may be a number
+/// in a language that is read from the right.
 void EditLine::drawCursor(PegPainter& painter, const PegRect& cell, int at) const
 {
     const int length = mCandidateKey == 0 ? 1 : Lcd::current()->textWidth(font(), toPegString({mText[mCursor - 1]}));
     const int begin = mCandidateKey == 0 ? at : at - length;
-    const int left = isReadFromTheRight() ? cell.right - begin - length + 1 : cell.left + begin;
+    const bool fromTheRight = mText.empty() ? isReadFromTheRight() : painter.beginsAtTheRight(shown(), font());
+    const int left = fromTheRight ? cell.right - begin - length + 1 : cell.left + begin;
     if (mCandidateKey == 0)
         painter.fill(rectAt(left, cell.top + 2, 1, heightOf(cell) - 4), Level::DARK);
     else

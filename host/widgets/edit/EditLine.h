@@ -84,6 +84,7 @@ private:
     bool beginsWord() const;
     PegString shown(std::size_t characters) const;
     void changed();
+    void drawHint(PegPainter& painter, const PegRect& cell) const;
     void drawCursor(PegPainter& painter, const PegRect& cell, int at) const;
 
     std::u16string mText;

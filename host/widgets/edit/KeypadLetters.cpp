@@ -37,8 +37,7 @@ PegString withoutLetters(int key)
 
 PegString keypadLetters(int key, InputMode mode, bool beginsWord)
 {
-    const bool isKeypad = (key >= PK_0 && key <= PK_9) || key == PK_STAR || key == PK_HASH;
-    if (!isKeypad)
+    if (!isOfKeypad(key))
         return {};
     if (mode == InputMode::NUMBERS)
         return oneCharacter(key);

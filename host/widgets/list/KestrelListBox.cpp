@@ -41,6 +41,11 @@ void KestrelListBox::setMessageTarget(PegThing* target)
     mImpl->target = target;
 }
 
+void KestrelListBox::setTellsKeypad(bool on)
+{
+    mImpl->tellsKeypad = on;
+}
+
 int KestrelListBox::numItems() const
 {
     return mImpl->rows.size();

@@ -88,8 +88,16 @@ bool KestrelListBox::Impl::key(int key)
     case PK_LEFT: tell(PM_LEFT, current); return true;
     case PK_RIGHT: tellIfRow(PM_RIGHT); return true;
     case PK_OK: tellIfRow(PM_CLICKED); return true;
-    default: return false;
+    default: return tellIfTyped(key);
     }
+}
+
+bool KestrelListBox::Impl::tellIfTyped(int key)
+{
+    if (!tellsKeypad || !isOfKeypad(key))
+        return false;
+    tell(PM_KEY, key);
+    return true;
 }
 
 /// At the ends the key is somebody else's: above a list in a tab stands the tab bar.

@@ -29,6 +29,7 @@ struct KestrelListBox::Impl final : host::StatusTimeView {
     void languageChanged();
 
     bool key(int key);
+    bool tellIfTyped(int key);
     bool step(int by);
     void tell(std::uint16_t type, int data);
     void tellIfRow(std::uint16_t type);
@@ -62,6 +63,7 @@ struct KestrelListBox::Impl final : host::StatusTimeView {
     int top = 0;
     int lastTop = 0; ///< that of a view that ends with the last row
     bool highlight = true;
+    bool tellsKeypad = false;
     bool active = true;
     bool back = false;
     bool exclusive = false;

@@ -14,11 +14,6 @@ namespace {
 
 constexpr int GAP = 4; ///< between the prefix and the edit line
 
-bool isOfKeypad(int key)
-{
-    return (key >= PK_0 && key <= PK_9) || key == PK_STAR || key == PK_HASH;
-}
-
 } // namespace
 
 DialerField::DialerField() : mLine(new EditLine)

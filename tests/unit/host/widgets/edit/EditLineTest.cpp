@@ -181,3 +181,70 @@ TEST_F(EditLineTest, IsReplacedWhole)
     EXPECT_EQ(text(), "Zoë");
     EXPECT_EQ(line.cursor(), 3);
 }
+
+TEST_F(EditLineTest, ZeroThatIsHeldIsAPlusWhereAskedFor)
+{
+    press(line, "0");
+    pass(1000);
+    EXPECT_EQ(text(), "0");
+    line.setText(PegString());
+    line.setPlusByLongZero(true);
+    press(line, "10");
+    pass(599);
+    EXPECT_EQ(text(), "10");
+    listener.heard.clear();
+    pass(1);
+    EXPECT_EQ(text(), "1+");
+    EXPECT_THAT(listener.heard, testing::ElementsAre(testing::Pair(PM_CURRENT_CHANGED, 2)));
+    EXPECT_FALSE(isTimerRunning());
+}
+
+TEST_F(EditLineTest, WhateverEndsALongZeroLeavesTheZero)
+{
+    line.setPlusByLongZero(true);
+    for (const auto& end : std::vector<std::function<void()>>{
+             [&] { line.released('0'); }, [&] { line.Message({.wType = PM_KEYRELEASE, .iData = '0'}); },
+             [&] { line.setFocus(false); }, [&] { line.setText(peg("0")); }}) {
+        line.setFocus(true);
+        line.setText(PegString());
+        press(line, "0");
+        end();
+        pass(1000);
+        EXPECT_EQ(text(), "0");
+    }
+    line.setText(PegString());
+    press(line, "0<");
+    pass(1000);
+    EXPECT_EQ(text(), "0");
+}
+
+TEST_F(EditLineTest, LettersOfTheZeroKeyKeepTheirTime)
+{
+    line.setPlusByLongZero(true);
+    line.setModes({InputMode::LOWER});
+    press(line, "0");
+    pass(700);
+    press(line, "0");
+    EXPECT_EQ(text(), "0");
+}
+
+TEST_F(EditLineTest, SaysWhichKeysType)
+{
+    EXPECT_TRUE(line.types('*'));
+    EXPECT_FALSE(line.types(PK_OK));
+    line.setModes({InputMode::LOWER, InputMode::UPPER});
+    EXPECT_TRUE(line.types('2'));
+    EXPECT_FALSE(line.types('#'));
+    line.setMaximum(0);
+    EXPECT_FALSE(line.types('2'));
+}
+
+TEST_F(EditLineTest, ShowsItsHintUntilThereIsAText)
+{
+    line.setHint(peg("Number?"));
+    EXPECT_EQ(line.shown(), peg("Number?"));
+    press(line, "4");
+    EXPECT_EQ(line.shown(), peg("4"));
+    line.setHidden(true);
+    EXPECT_EQ(line.shown(), peg("\u2022"));
+}

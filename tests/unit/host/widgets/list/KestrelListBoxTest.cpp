@@ -232,6 +232,18 @@ TEST_F(KestrelListBoxTest, OtherKeysGoToTheParent)
     parent.Remove(list.get());
 }
 
+TEST_F(KestrelListBoxTest, KeypadGoesToTheTargetWhereAskedFor)
+{
+    MessageNotes parent;
+    parent.Add(list.get());
+    list->setTellsKeypad(true);
+    for (int key : {static_cast<int>(PK_0), static_cast<int>(PK_HASH), static_cast<int>(PK_HOOK)})
+        press(key);
+    EXPECT_THAT(target.take(), ElementsAre(Pair(PM_KEY, PK_0), Pair(PM_KEY, PK_HASH)));
+    EXPECT_THAT(parent.take(), ElementsAre(Pair(PM_KEY, PK_HOOK)));
+    parent.Remove(list.get());
+}
+
 TEST_F(KestrelListBoxTest, TargetMayDeleteTheList)
 {
     struct Deleter : PegThing {

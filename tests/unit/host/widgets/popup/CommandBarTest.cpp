@@ -112,3 +112,36 @@ TEST_F(CommandBarTest, LeavesOtherKeysToItsHolder)
     for (const char* key : {"^", "v", "5", "#"})
         EXPECT_FALSE(press(bar, key)) << key;
 }
+
+TEST_F(CommandBarTest, TakesAndGivesBackSingleCommands)
+{
+    bar.append(test::peg("Yes"));
+    bar.append(test::peg("No"));
+    bar.append(test::peg("Later"));
+    EXPECT_EQ(bar.current(), 0);
+    bar.setCurrent(2);
+    bar.remove(0);
+    EXPECT_EQ(bar.current(), 1);
+    bar.remove(1);
+    EXPECT_EQ(bar.current(), 0);
+    EXPECT_EQ(bar.text(0), test::peg("No"));
+    bar.remove(1);
+    bar.remove(-1);
+    EXPECT_EQ(bar.count(), 1);
+    bar.remove(0);
+    EXPECT_EQ(bar.current(), -1);
+    bar.append(test::peg("Call"));
+    EXPECT_EQ(bar.current(), 0);
+}
+
+TEST_F(CommandBarTest, MakesRoomForANewText)
+{
+    bar.append(test::peg("Yes"));
+    bar.append(test::peg("No"));
+    bar.setCurrent(1);
+    bar.setText(0, test::peg("Certainly not"));
+    EXPECT_EQ(bar.current(), 1);
+    EXPECT_THAT(shownOn(60), ElementsAre("No"));
+    bar.remove(0);
+    EXPECT_THAT(shownOn(60), ElementsAre("No"));
+}
