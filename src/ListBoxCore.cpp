@@ -48,6 +48,7 @@ int ListBoxCore::Message(const PegMessage& message)
     case PM_CLICKED: raise(isOnBackRow() ? mCommands.back : mCommands.select); break;
     case PM_RIGHT: raise(isOnBackRow() ? nullptr : mCommands.right); break;
     case PM_LEFT: raise(mCommands.back); break;
+    case PM_KEY: typed(message.iData); break;
     case PM_APPLICATION_CHANGED: applicationChanged(message); break;
     default: return PegThing::Message(message);
     }
@@ -58,6 +59,12 @@ void ListBoxCore::raise(Commands::Accessor command)
 {
     if (command != nullptr)
         mSelf.postCommand(command(), mOwner);
+}
+
+void ListBoxCore::typed(int key)
+{
+    if (mTyped)
+        mTyped(key);
 }
 
 /// Rows and title, also while the list is not on screen. The display is told once, when all of it is done.

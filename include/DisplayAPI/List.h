@@ -130,9 +130,15 @@ public:
     /// Whether the selected row is shown inverted; it is at first.
     void setSelectionHighlight(bool on);
 
-    /// Kept for dialers, of which nothing is shown yet; null takes the dialer away.
+    /// The dialer in which the user types where that is asked for; null takes the present one away. Not owned: take it
+    /// away before it is deleted.
     void addDialer(PopupDialer* dialer);
+
+    /// Null where it has none.
     PopupDialer* getDialer();
+
+    /// Whether a digit, star or hash on the list opens its dialer over it, with this key alone in the edit line. It
+    /// does not at first.
     void showDiallerOnInitialKeyEvent(bool on);
 
     /// Here: whether the list carries a row that goes back: false on the 240 x 128 panel, and until the list has been

@@ -13,6 +13,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace DisplayAPI {
 
@@ -45,6 +46,9 @@ public:
     ~ListBoxCore() override;
 
     int Message(const PegMessage& message) override;
+
+    /// Told of digits, star and hash that the current row has no use for. Replaces the one before.
+    void setTyped(std::function<void(int key)> typed) { mTyped = std::move(typed); }
 
     /// Null when it has died: the presentation manager owns it while it is on screen.
     KestrelListBox* box() const { return mBox.get(); }
@@ -90,6 +94,7 @@ private:
     template <typename Change>
     void changeRows(Change apply);
     void raise(Commands::Accessor command);
+    void typed(int key);
     bool isOnBackRow() const;
     void applicationChanged(const PegMessage& message);
     void showTitle();
@@ -103,6 +108,7 @@ private:
     std::unique_ptr<KestrelListBoxItem> mBackRow; ///< null where there is none
     TranslatedText mTitle;
     std::optional<ApplicationWatch> mApplication;
+    std::function<void(int key)> mTyped; ///< empty is nobody
 };
 
 } // namespace DisplayAPI

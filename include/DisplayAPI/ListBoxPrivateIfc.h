@@ -71,9 +71,11 @@ public:
     /// Takes the widget off the screen and back from the presentation manager.
     virtual void hide() = 0;
 
-    /// What lists keep for dialers.
+    /// Whether a digit, star or hash that no row has a use for opens the dialer with it.
     virtual void showDiallerOnInitialKeyEvent(bool on) = 0;
     virtual void setDialler(PopupDialer* dialler) = 0;
+
+    /// Takes it off the screen; it stays the list's.
     virtual void dismissDialler() = 0;
 
     /// Whether the selected row is shown inverted.

@@ -5,6 +5,7 @@
 #include "DisplayAPI/ListBoxText.h"
 #include "DisplayAPI/TickerPlace.h"
 #include "DisplayAPI/TickerPrivateIfc.h"
+#include "host/variants/popup/InitialKey.h"
 #include "utilities/ICC.h"
 #include "widgets/KestrelListBoxWP1.h"
 #include "widgets/KestrelListBoxWithTitle.h"
@@ -39,10 +40,7 @@ struct ListBoxSide::Impl {
 
     ListBoxCore core;
     TickerPlace tickers = {};
-
-    // Kept for the parts of a list that are still to be shown.
-    PopupDialer* dialler = nullptr;
-    bool diallerOnInitialKey = false;
+    PopupDialer* dialler = nullptr; ///< not owned
 };
 
 ListBoxSide::ListBoxSide(List* owner, bool backItem, Panel panel)
@@ -52,6 +50,7 @@ ListBoxSide::ListBoxSide(List* owner, bool backItem, Panel panel)
                    owner->localeChanged(locale);
            }}})
 {
+    mImpl->core.setTyped([this](int key) { openWithInitialKey(mImpl->dialler, key, *this); });
 }
 
 ListBoxSide::~ListBoxSide() = default;
@@ -229,7 +228,8 @@ void ListBoxSide::hide()
 
 void ListBoxSide::showDiallerOnInitialKeyEvent(bool on)
 {
-    mImpl->diallerOnInitialKey = on;
+    if (KestrelListBox* const box = mImpl->core.box())
+        box->setTellsKeypad(on);
 }
 
 void ListBoxSide::setDialler(PopupDialer* dialler)
@@ -239,7 +239,8 @@ void ListBoxSide::setDialler(PopupDialer* dialler)
 
 void ListBoxSide::dismissDialler()
 {
-    mImpl->dialler = nullptr;
+    if (mImpl->dialler != nullptr)
+        mImpl->dialler->dismiss();
 }
 
 void ListBoxSide::setSelectionHighlight(bool on)
