@@ -26,6 +26,7 @@ std::vector<Case> libraryCases();
 std::vector<Case> neighbourCases();
 std::vector<Case> listCases();
 std::vector<Case> menuCases();
+std::vector<Case> dialerCases();
 std::vector<Case> tabCases();
 std::vector<Case> idleCases();
 std::vector<Case> destroyingCases();
