@@ -1,9 +1,11 @@
 #include "apps/deskphone/Call.h"
 
 #include "DisplayAPI/List.h"
+#include "apps/deskphone/CallHistory.h"
 #include "apps/deskphone/StatusLines.h"
 #include "apps/deskphone/Telephone.h"
 #include "host/clock/Clock.h"
+#include "host/clock/WallClock.h"
 #include "kit/WayBack.h"
 
 #include <cstdio>
@@ -29,19 +31,20 @@ std::string durationText(std::int64_t ms)
 
 } // namespace
 
-Call::Call(Telephone& telephone, StatusLines& status)
+Call::Call(Telephone& telephone, StatusLines& status, CallHistory& history)
     : Screen(telephone, nullptr, "Call.title",
              std::make_unique<DisplayAPI::List>(kit::listType(kit::WayBack::EVERYWHERE))),
-      mStatus(status), mEnded(text("Call.ended", {[this] { return mDuration; }}))
+      mStatus(status), mHistory(history), mEnded(text("Call.ended", {[this] { return mDuration; }}))
 {
 }
 
-void Call::begin(Screen& from, const std::string& party)
+void Call::begin(Screen& from, const std::string& party, const std::string& number)
 {
     setParent(&from);
     mStart = Clock::instance().now();
     open();
     mStatus.callBegins(party);
+    mHistory.add({PastCall::Kind::DIALLED, host::WallClock::now(), party, number});
 }
 
 void Call::build()

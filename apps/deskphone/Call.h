@@ -6,15 +6,16 @@
 
 namespace deskphone {
 
+class CallHistory;
 class StatusLines;
 
 /// A call, as far as this telephone has any: it is answered at once and lasts until the user goes back or hangs up.
 class Call : public Screen {
 public:
-    Call(Telephone& telephone, StatusLines& status);
+    Call(Telephone& telephone, StatusLines& status, CallHistory& history);
 
     /// Calls `party` and goes back to `from` afterwards.
-    void begin(Screen& from, const std::string& party);
+    void begin(Screen& from, const std::string& party, const std::string& number);
 
 private:
     void build() override;
@@ -22,6 +23,7 @@ private:
     void left() override;
 
     StatusLines& mStatus;
+    CallHistory& mHistory;
     std::int64_t mStart = 0;
     std::string mDuration;
     Text& mEnded;

@@ -1,41 +1,67 @@
 #include "apps/deskphone/CallLog.h"
 
+#include "DisplayAPI/List.h"
+#include "DisplayAPI/ListItem.h"
 #include "apps/deskphone/Call.h"
-#include "host/clock/WallClock.h"
-#include "utilities/ICC.h"
-#include "widgets/KestrelApplication.h"
+#include "apps/deskphone/CallDetails.h"
+#include "apps/deskphone/Moment.h"
+#include "apps/deskphone/Telephone.h"
+
+#include <algorithm>
+#include <memory>
 
 namespace deskphone {
 
-using host::WallClock;
-
-namespace {
-
-/// In the formats that the display has now; on the GUI thread, whose they are.
-std::string shown(std::time_t moment)
+CallLog::CallLog(Telephone& telephone, Screen* parent, const std::string& title, std::optional<PastCall::Kind> kind,
+                 CallHistory& history, Call& call, CallDetails& details)
+    : Screen(telephone, parent, title), mKind(kind), mHistory(history), mCall(call)
 {
-    const KestrelApplication& application = *KestrelApplication::getCurrentApplication();
-    const bool isToday = WallClock::local(moment).tm_yday == WallClock::local(WallClock::now()).tm_yday;
-    return isToday ? WallClock::time(moment, ICC::fromUNICODEtoUTF8(application.getTimeFormat()))
-                   : WallClock::date(moment, ICC::fromUNICODEtoUTF8(application.getDateFormat()));
-}
-
-} // namespace
-
-CallLog::CallLog(Telephone& telephone, Screen* parent, const std::string& title, std::vector<Entry> entries, Call& call)
-    : Screen(telephone, parent, title), mEntries(std::move(entries)), mCall(call)
-{
-}
-
-void CallLog::build()
-{
-    for (const Entry& entry : mEntries)
-        append(text("Call.log.entry", {[&entry] { return shown(entry.moment); }, [&entry] { return entry.party; }}));
+    setRowMenu({{"Row.call", [this](int row) { chosen(row); }},
+                {"Row.details", [this, &details](int row) { details.show(*this, callAt(row)); }},
+                {"Row.copy", [this](int row) { this->telephone().copy(callAt(row).number); }},
+                {"Row.delete", [this](int row) { mHistory.forget(callAt(row)); }}});
+    for (PastCall& past : history.calls())
+        if (shows(past))
+            list().append(mRows.emplace_back(&past, makeItem(past)).item);
+    history.addListener([this](PastCall& past) { added(past); }, [this](PastCall& past) { forgotten(past); });
 }
 
 void CallLog::chosen(int row)
 {
-    mCall.begin(*this, mEntries.at(static_cast<std::size_t>(row)).party);
+    const PastCall& past = callAt(row);
+    mCall.begin(*this, past.party, past.number);
+}
+
+PastCall& CallLog::callAt(int row) const
+{
+    return *mRows.at(static_cast<std::size_t>(row)).call;
+}
+
+DisplayAPI::ListItem* CallLog::makeItem(const PastCall& call)
+{
+    Text& entry = text("Call.log.entry", {[&call] { return shown(call.moment); }, [&call] { return call.party; }});
+    return new DisplayAPI::ListItem(entry.info(), false);
+}
+
+bool CallLog::shows(const PastCall& call) const
+{
+    return !mKind || call.kind == *mKind;
+}
+
+void CallLog::added(PastCall& call)
+{
+    if (shows(call))
+        list().insertAt(mRows.emplace_front(&call, makeItem(call)).item, 0);
+}
+
+void CallLog::forgotten(const PastCall& call)
+{
+    const auto row = std::ranges::find(mRows, &call, &Row::call);
+    if (row == mRows.end())
+        return;
+    const std::unique_ptr<DisplayAPI::ListItem> item(row->item);
+    list().remove(item.get());
+    mRows.erase(row);
 }
 
 } // namespace deskphone

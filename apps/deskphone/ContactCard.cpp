@@ -23,7 +23,7 @@ void ContactCard::show(int entry)
 
 void ContactCard::chosen(int)
 {
-    mCall.begin(*this, PhoneBook::name(mEntry));
+    mCall.begin(*this, PhoneBook::name(mEntry), PhoneBook::number(mEntry));
 }
 
 } // namespace deskphone

@@ -1,13 +1,26 @@
 #include "apps/deskphone/Contacts.h"
 
 #include "DisplayAPI/List.h"
+#include "DisplayAPI/ListItem.h"
+#include "apps/deskphone/Call.h"
 #include "apps/deskphone/PhoneBook.h"
+#include "apps/deskphone/Telephone.h"
+
+#include <numeric>
 
 namespace deskphone {
 
 Contacts::Contacts(Telephone& telephone, Screen* parent, Call& call)
-    : Screen(telephone, parent, "Contacts.title"), mCard(telephone, this, call)
+    : Screen(telephone, parent, "Contacts.title"), mCard(telephone, this, call), mCall(call),
+      mEntries(static_cast<std::size_t>(PhoneBook::size()))
 {
+    std::iota(mEntries.begin(), mEntries.end(), 0);
+    setRowMenu(
+        {{"Row.call",
+          [this](int row) { mCall.begin(*this, PhoneBook::name(entryAt(row)), PhoneBook::number(entryAt(row))); }},
+         {"Row.details", [this](int row) { chosen(row); }},
+         {"Row.copy", [this](int row) { this->telephone().copy(PhoneBook::number(entryAt(row))); }},
+         {"Row.delete", [this](int row) { forget(row); }}});
 }
 
 void Contacts::build()
@@ -18,7 +31,14 @@ void Contacts::build()
 
 void Contacts::chosen(int row)
 {
-    mCard.show(row);
+    mCard.show(entryAt(row));
+}
+
+/// Rows are still appended behind those that the user sees.
+void Contacts::forget(int row)
+{
+    mEntries.erase(mEntries.begin() + row);
+    delete list().removeAt(row);
 }
 
 } // namespace deskphone

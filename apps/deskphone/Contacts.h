@@ -3,6 +3,8 @@
 #include "apps/deskphone/ContactCard.h"
 #include "apps/deskphone/Screen.h"
 
+#include <vector>
+
 namespace deskphone {
 
 class Call;
@@ -18,7 +20,12 @@ private:
     void build() override;
     void chosen(int row) override;
 
+    int entryAt(int row) const { return mEntries.at(static_cast<std::size_t>(row)); }
+    void forget(int row);
+
     ContactCard mCard;
+    Call& mCall;
+    std::vector<int> mEntries; ///< of the phone book, in the order of the rows
 };
 
 } // namespace deskphone

@@ -9,23 +9,31 @@ using host::WallClock;
 
 namespace {
 
+using enum PastCall::Kind;
+
 std::time_t ago(int days, int minutes)
 {
     return WallClock::now() - (days * 24 * 60 + minutes) * 60;
+}
+
+std::deque<PastCall> recentCalls()
+{
+    return {{RECEIVED, ago(0, 10), "Zoë Ångström", "030 1000000"}, {DIALLED, ago(0, 21), "Jürgen Müller", "030 4711"},
+            {MISSED, ago(0, 29), "Ελένη Ιωάννου", "030 1015838"},  {MISSED, ago(1, 54), "030 1234567", "030 1234567"},
+            {RECEIVED, ago(2, 80), "Иван Орлик", "030 815"},       {RECEIVED, ago(3, 0), "佐藤 美咲", "030 2026"},
+            {DIALLED, ago(7, 43), "משה כהן", "030 1031676"}};
 }
 
 } // namespace
 
 Desk::Desk(DisplayAPI::Display& display, const std::string& language)
     : mTelephone(display), mComplaint(mTelephone.useLanguage(language)), mStatus(mTelephone),
-      mNewsText(&mTelephone.languages(), "News.ticker"), mNews(mNewsText.get()), mCall(mTelephone, mStatus),
-      mMainMenu(mTelephone, nullptr, "Menu.title"), mCallLogs(mTelephone, &mMainMenu, "Call.log.title"),
-      mMissed(mTelephone, &mCallLogs, "Call.log.missed.title",
-              {{ago(0, 29), "Ελένη Ιωάννου"}, {ago(1, 54), "030 1234567"}}, mCall),
-      mReceived(mTelephone, &mCallLogs, "Call.log.received.title",
-                {{ago(0, 10), "Zoë Ångström"}, {ago(2, 80), "Иван Орлик"}, {ago(3, 0), "佐藤 美咲"}}, mCall),
-      mDialled(mTelephone, &mCallLogs, "Call.log.dialled.title",
-               {{ago(0, 21), "Jürgen Müller"}, {ago(7, 43), "משה כהן"}}, mCall),
+      mNewsText(&mTelephone.languages(), "News.ticker"), mNews(mNewsText.get()), mHistory(recentCalls()),
+      mCall(mTelephone, mStatus, mHistory), mDetails(mTelephone, mCall), mMainMenu(mTelephone, nullptr, "Menu.title"),
+      mCallLogs(mTelephone, &mMainMenu, "Call.log.title"),
+      mMissed(mTelephone, &mCallLogs, "Call.log.missed.title", MISSED, mHistory, mCall, mDetails),
+      mReceived(mTelephone, &mCallLogs, "Call.log.received.title", RECEIVED, mHistory, mCall, mDetails),
+      mDialled(mTelephone, &mCallLogs, "Call.log.dialled.title", DIALLED, mHistory, mCall, mDetails),
       mContacts(mTelephone, &mMainMenu, mCall), mSettings(mTelephone, &mMainMenu), mAbout(mTelephone, &mMainMenu)
 {
     mMainMenu.setEntries({{"Menu.call.log", &mCallLogs},
@@ -61,8 +69,8 @@ void Desk::close()
 
 std::vector<Screen*> Desk::screens()
 {
-    std::vector<Screen*> all = {&mMainMenu, &mCallLogs, &mMissed,          &mReceived, &mDialled,
-                                &mContacts, &mSettings, &mContacts.card(), &mAbout,    &mCall};
+    std::vector<Screen*> all = {&mMainMenu, &mCallLogs,        &mMissed, &mReceived, &mDialled, &mContacts,
+                                &mSettings, &mContacts.card(), &mAbout,  &mCall,     &mDetails};
     for (Choice* choice : mSettings.choices())
         all.push_back(choice);
     return all;

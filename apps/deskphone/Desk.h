@@ -3,6 +3,8 @@
 #include "DisplayAPI/Ticker.h"
 #include "apps/deskphone/About.h"
 #include "apps/deskphone/Call.h"
+#include "apps/deskphone/CallDetails.h"
+#include "apps/deskphone/CallHistory.h"
 #include "apps/deskphone/CallLog.h"
 #include "apps/deskphone/Contacts.h"
 #include "apps/deskphone/Menu.h"
@@ -36,7 +38,9 @@ private:
     StatusLines mStatus;
     Text mNewsText;
     DisplayAPI::Ticker mNews;
+    CallHistory mHistory;
     Call mCall;
+    CallDetails mDetails;
     Menu mMainMenu;
     Menu mCallLogs;
     CallLog mMissed;

@@ -45,6 +45,13 @@ void Screen::open()
     mTelephone.display().setCurrent(mList.get());
 }
 
+void Screen::stopListening()
+{
+    mCommands.end();
+    if (mRowMenu != nullptr)
+        mRowMenu->stopListening();
+}
+
 void Screen::stopWorking()
 {
     if (mBuilder.joinable())
@@ -63,8 +70,17 @@ void Screen::answer(Command* command)
     }
     const bool isChoice = command == List::SELECT_COMMAND() || command == List::RIGHT_COMMAND();
     const int row = isChoice ? mList->getSelectedIndex() : -1;
-    if (row >= 0)
+    if (row < 0)
+        return;
+    if (command == List::RIGHT_COMMAND() && mRowMenu != nullptr)
+        mRowMenu->open(row);
+    else
         chosen(row);
+}
+
+void Screen::setRowMenu(const std::vector<RowMenu::Action>& actions)
+{
+    mRowMenu = std::make_unique<RowMenu>(mTelephone, actions);
 }
 
 Text& Screen::text(const std::string& key, std::vector<Text::Argument> arguments)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "apps/deskphone/RowMenu.h"
 #include "kit/Subscription.h"
 #include "kit/Text.h"
 
@@ -37,7 +38,7 @@ public:
     void open();
 
     /// The user's commands are not heard after this. Not on the GUI thread.
-    void stopListening() { mCommands.end(); }
+    void stopListening();
 
     /// Ends the thread that fills the screen. Not on the GUI thread, which the other one may be waiting for.
     virtual void stopWorking();
@@ -60,6 +61,9 @@ protected:
     /// Puts a row that looks `text` up again in the place of `row`: a row's text is fixed. The selection stays. Waits.
     void renewRow(DisplayAPI::ListItem*& row, Text& text);
 
+    /// The right key offers these for the selected row; without a menu it chooses the row. In the constructor.
+    void setRowMenu(const std::vector<RowMenu::Action>& actions);
+
 private:
     /// Fills the list. On the screen's own thread.
     virtual void build() = 0;
@@ -76,6 +80,7 @@ private:
     Screen* mParent;
     std::deque<Text> mTexts; ///< before the list, whose rows show them
     std::unique_ptr<DisplayAPI::List> mList;
+    std::unique_ptr<RowMenu> mRowMenu;
     DisplayAPI::kit::Subscription mCommands;
     std::once_flag mIsBuilt;
     std::thread mBuilder;

@@ -13,7 +13,8 @@ constexpr unsigned int MESSAGE_MS = 2000;
 
 } // namespace
 
-Telephone::Telephone(DisplayAPI::Display& display) : mDisplay(display), mLanguageChange(AT_ONCE)
+Telephone::Telephone(DisplayAPI::Display& display)
+    : mDisplay(display), mLanguageChange(AT_ONCE), mNumberCopied(&mLanguages, "Number.copied")
 {
     mLanguageChange.addEventListener(this);
 }
@@ -41,6 +42,21 @@ void Telephone::useTimeFormat(const std::string& format)
 void Telephone::addLanguageListener(std::function<void()> listener)
 {
     mLanguageListeners.push_back(std::move(listener));
+}
+
+void Telephone::copy(const std::string& number)
+{
+    {
+        const std::lock_guard lock(mMutex);
+        mCopied = number;
+    }
+    tell(mNumberCopied.get());
+}
+
+std::string Telephone::copied() const
+{
+    const std::lock_guard lock(mMutex);
+    return mCopied;
 }
 
 void Telephone::tell(const std::string& message)

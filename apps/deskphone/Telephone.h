@@ -3,8 +3,10 @@
 #include "DisplayAPI/Timer.h"
 #include "DisplayAPI/TimerEvent.h"
 #include "host/languages/Languages.h"
+#include "kit/Text.h"
 
 #include <functional>
+#include <mutex>
 #include <string>
 #include <vector>
 
@@ -33,6 +35,12 @@ public:
     /// `listener` is called on the GUI thread each time that the language has changed. REQUIRES: on the GUI thread.
     void addLanguageListener(std::function<void()> listener);
 
+    /// Keeps a number that the user may want to dial later, and says so.
+    void copy(const std::string& number);
+
+    /// What was copied last; empty where nothing was.
+    std::string copied() const;
+
     /// Shows a message that goes away by itself.
     void tell(const std::string& message);
 
@@ -44,6 +52,9 @@ private:
     host::Languages mLanguages;
     std::vector<std::function<void()>> mLanguageListeners;
     DisplayAPI::Timer mLanguageChange; ///< runs out at once: a way to the GUI thread
+    DisplayAPI::kit::Text mNumberCopied;
+    mutable std::mutex mMutex; ///< guards what follows
+    std::string mCopied;
 };
 
 } // namespace deskphone

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "apps/deskphone/CallHistory.h"
+#include "apps/deskphone/Screen.h"
+
+#include <atomic>
+
+namespace deskphone {
+
+class Call;
+
+/// All that is known of a call of the log, filled anew for each. Choosing a row calls back.
+class CallDetails : public Screen {
+public:
+    CallDetails(Telephone& telephone, Call& call);
+
+    /// Goes back to `from` afterwards. The call lives as long as this.
+    void show(Screen& from, const PastCall& past);
+
+private:
+    void build() override {}
+    void chosen(int row) override;
+
+    Text& kindOf(const PastCall& past);
+
+    Call& mCall;
+    std::atomic<const PastCall*> mShown{nullptr};
+    Text& mMissed;
+    Text& mReceived;
+    Text& mDialled;
+    Text& mMoment;
+};
+
+} // namespace deskphone

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <ctime>
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace deskphone {
+
+/// A call that is over, or was never answered.
+struct PastCall {
+    enum class Kind { MISSED, RECEIVED, DIALLED };
+
+    Kind kind;
+    std::time_t moment;
+    std::string party;
+    std::string number;
+    bool isForgotten = false;
+};
+
+/// The calls of the last days, the latest first. On the threads that answer the user, of which one runs at a time, and
+/// before them on the GUI thread.
+class CallHistory {
+public:
+    explicit CallHistory(std::deque<PastCall> calls) : mCalls(std::move(calls)) {}
+
+    /// Each stays where it is as long as the history lives.
+    std::deque<PastCall>& calls() { return mCalls; }
+
+    void add(PastCall call);
+    void forget(PastCall& call);
+
+    /// `added` and `forgotten` are called for each call that comes and goes.
+    void addListener(std::function<void(PastCall&)> added, std::function<void(PastCall&)> forgotten);
+
+private:
+    struct Listener {
+        std::function<void(PastCall&)> added;
+        std::function<void(PastCall&)> forgotten;
+    };
+
+    std::deque<PastCall> mCalls;
+    std::vector<Listener> mListeners;
+};
+
+} // namespace deskphone
