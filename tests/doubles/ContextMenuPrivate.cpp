@@ -164,4 +164,15 @@ void ContextMenuSide::setSysWindowSize(int lines)
     mImpl->note("setSysWindowSize", lines);
 }
 
+void ContextMenuSide::setSysWindowText(std::string text, int line)
+{
+    mImpl->note("setSysWindowText", text, line);
+}
+
+bool ContextMenuSide::hasSystemWindow()
+{
+    mImpl->note("hasSystemWindow");
+    return false;
+}
+
 } // namespace DisplayAPI

@@ -99,6 +99,7 @@ TEST_P(MenuPictures, UnderAStatusLine)
     showMenu();
     for (const char* label : {"Call", "Edit", "Delete", "Copy", "Search"})
         add(label);
+    mMenu->setSysWindowText("Line 1", 0);
     mMenu->setSysWindowSize(1);
     expectScreen("menu-status-line");
 }

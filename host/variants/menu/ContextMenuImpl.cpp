@@ -187,7 +187,7 @@ void ContextMenuSide::Impl::layOut()
         return;
     const int free = std::clamp(statusLines, 0, mostRows(panel) - 1);
     column->setMostRows(mostRows(panel) - free);
-    box->setFreeAbove(free * host::Field::lineHeight());
+    box->setStatusLines(free);
 }
 
 void ContextMenuSide::Impl::restartTimeout()

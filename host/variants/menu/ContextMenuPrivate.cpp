@@ -156,4 +156,16 @@ void ContextMenuSide::setSysWindowSize(int lines)
     mImpl->changed();
 }
 
+void ContextMenuSide::setSysWindowText(std::string text, int line)
+{
+    if (mImpl->box != nullptr)
+        mImpl->box->setStatusText(line, std::move(text));
+}
+
+/// On two lines the system window pops up instead.
+bool ContextMenuSide::hasSystemWindow()
+{
+    return mImpl->box != nullptr && mImpl->panel == Panel::FULL;
+}
+
 } // namespace DisplayAPI

@@ -60,6 +60,23 @@ void PopupBox::setFreeAbove(int height)
     layOut();
 }
 
+void PopupBox::setStatusLines(int lines)
+{
+    mLinesAbove = lines;
+    mStatus.strip().setLines(hasTwoLines() ? 0 : lines);
+    layOut();
+}
+
+void PopupBox::setStatusText(int line, std::string text)
+{
+    mStatus.strip().setText(line, std::move(text));
+}
+
+void PopupBox::VisibilityChanged()
+{
+    mStatus.show(StatusIs(PSF_VISIBLE));
+}
+
 void PopupBox::setCommands(std::vector<PegString> texts)
 {
     mBar->setCommands(std::move(texts));
@@ -89,7 +106,8 @@ int PopupBox::Message(const PegMessage& message)
 PopupBox::Parts PopupBox::parts() const
 {
     const auto [width, panelHeight] = runningPanel();
-    const int height = panelHeight - mFreeAbove;
+    const int above = mFreeAbove + mLinesAbove * Field::lineHeight();
+    const int height = panelHeight - above;
     const bool framed = !hasTwoLines();
     const int line = Field::lineHeight();
     const int inner = framed ? width - 2 * (INDENT + FRAME_WIDTH + MARGIN) : width;
@@ -102,7 +120,7 @@ PopupBox::Parts PopupBox::parts() const
     const int total = framed ? std::min(wanted + 2 * edge, most) : height;
 
     Parts parts;
-    parts.box = rectAt((width - inner) / 2 - edge, mFreeAbove + (height - total) / 2, inner + 2 * edge, total);
+    parts.box = rectAt((width - inner) / 2 - edge, above + (height - total) / 2, inner + 2 * edge, total);
     Column column(rectAt(parts.box.left + edge, parts.box.top + edge, inner, total - 2 * edge));
     parts.bar = column.fromBottom(bar);
     parts.field = column.fromBottom(field);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/widgets/popup/CommandBar.h"
+#include "host/widgets/popup/PopupStatus.h"
 #include "toolkit/PString.h"
 #include "toolkit/PegWindow.h"
 
@@ -37,6 +38,10 @@ public:
     /// Pixels at the panel's top that stay free.
     void setFreeAbove(int height);
 
+    /// Status lines at the panel's top while the box is on screen, and room for them. On two lines there is only room.
+    void setStatusLines(int lines);
+    void setStatusText(int line, std::string text);
+
     CommandBar& bar() { return *mBar; }
 
     /// Adds them to the bar, and room for it; none gives the room back.
@@ -47,6 +52,7 @@ public:
 
     int Message(const PegMessage& message) override;
     void Draw(PegPainter& painter) override;
+    void VisibilityChanged() override;
 
 private:
     /// Where the parts stand; one that is not there is empty. Painting and laying out both ask here.
@@ -67,6 +73,8 @@ private:
     Field* mField = nullptr;
     PegThing* mTarget = nullptr;
     int mFreeAbove = 0;
+    int mLinesAbove = 0;
+    PopupStatus mStatus;
 };
 
 } // namespace host

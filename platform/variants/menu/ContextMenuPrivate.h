@@ -40,6 +40,8 @@ public:
     void setRightArrowEqualsOK(bool on) override;
     void setAutoHideTimeout(int milliseconds) override;
     void setSysWindowSize(int lines) override;
+    void setSysWindowText(std::string text, int line) override;
+    bool hasSystemWindow() override;
 
 protected:
     ContextMenuSide(ContextMenu* owner, bool wayBack, Panel panel);

@@ -91,13 +91,27 @@ TEST_P(PopupBoxTest, LeavesFreeWhatIsToStayFree)
 {
     const int line = host::Field::lineHeight();
     box.setBody(std::vector<PegString>(50, test::peg("Line")));
-    box.setFreeAbove(line);
+    box.setStatusLines(1);
     EXPECT_GE(box.Area().top, line);
     EXPECT_TRUE(host::contains(gpPresent->Area(), box.Area()));
     if (isSmall())
         EXPECT_EQ(box.Area().top, line);
     else
         EXPECT_EQ(box.Area().top - line, gpPresent->Area().bottom - box.Area().bottom);
+}
+
+TEST_P(PopupBoxTest, StatusLinesAreOnScreenAsLongAsTheBoxIs)
+{
+    box.setStatusLines(1);
+    box.setStatusText(0, "Line 1");
+    EXPECT_EQ(gpPresent->First(), nullptr);
+    gpPresent->Add(&box);
+    EXPECT_EQ(box.NextSibling() != nullptr, !isSmall());
+    box.setStatusLines(0);
+    EXPECT_EQ(box.NextSibling(), nullptr);
+    box.setStatusLines(1);
+    gpPresent->Remove(&box);
+    EXPECT_EQ(gpPresent->First(), nullptr);
 }
 
 TEST_P(PopupBoxTest, FitsAFieldThatHasGrown)
