@@ -24,7 +24,7 @@ bool isSmallPanel()
 } // namespace
 
 StatusLines::StatusLines(Telephone& telephone)
-    : mTelephone(telephone), mOwnName(&telephone.languages(), "Status.own.name")
+    : mTelephone(telephone), mLines(telephone.display()), mOwnName(&telephone.languages(), "Status.own.name")
 {
     telephone.addLanguageListener([this] { showOwnName(); });
 }
@@ -40,9 +40,9 @@ void StatusLines::open()
 void StatusLines::callBegins(const std::string& party)
 {
     DisplayAPI::Display& display = mTelephone.display();
-    display.setSystemWindowText(isSmallPanel() ? OWN_NAME : PARTY, party);
+    mLines.setText(isSmallPanel() ? OWN_NAME : PARTY, party);
     display.setTimer("00:00:00");
-    display.setSystemWindowSize(isSmallPanel() ? 1 : 2);
+    mLines.setSize(isSmallPanel() ? 1 : 2);
 }
 
 void StatusLines::callEnds()
@@ -50,17 +50,17 @@ void StatusLines::callEnds()
     DisplayAPI::Display& display = mTelephone.display();
     display.stopTimer();
     if (isSmallPanel())
-        display.setSystemWindowText(OWN_NAME, BLANK_LINE);
+        mLines.setText(OWN_NAME, BLANK_LINE);
     else
-        display.setSystemWindowSize(1);
+        mLines.setSize(1);
 }
 
 void StatusLines::showOwnName()
 {
     if (isSmallPanel())
         return;
-    mTelephone.display().setSystemWindowText(OWN_NAME, mOwnName.get());
-    mTelephone.display().setSystemWindowSize(1);
+    mLines.setText(OWN_NAME, mOwnName.get());
+    mLines.setSize(1);
 }
 
 } // namespace deskphone

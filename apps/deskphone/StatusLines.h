@@ -1,5 +1,6 @@
 #pragma once
 
+#include "kit/StatusLines.h"
 #include "kit/Text.h"
 
 namespace deskphone {
@@ -24,6 +25,7 @@ private:
     void showOwnName();
 
     Telephone& mTelephone;
+    DisplayAPI::kit::StatusLines mLines;
     Text mOwnName;
 };
 
