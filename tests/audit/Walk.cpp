@@ -10,7 +10,7 @@ namespace audit {
 
 namespace {
 
-/// A list remembers its row: up again, however many rows it has.
+/// A list remembers its row: up again, however many rows it has. A menu begins with the first one, and goes round.
 const std::string FIRST_ROW = "hold up 1000\n";
 
 /// Longer than a message stays.
@@ -37,8 +37,8 @@ std::string dump(const std::string& name)
 std::string visit(const Screen& screen)
 {
     std::string script = NO_MESSAGE + FIRST_ROW;
-    for (const int row : screen.path)
-        script += repeated(row, "key down\n") + "key ok\n" + FIRST_ROW;
+    for (const Step& step : screen.path)
+        script += repeated(step.row, "key down\n") + (step.opensMenu ? "key right\n" : "key ok\n" + FIRST_ROW);
     script += dump(screen.name);
     for (int row = 1; row < screen.rows; ++row)
         script += "key down\n" + dump(screen.name + '.' + std::to_string(row));
@@ -57,8 +57,8 @@ std::vector<Screen> readScreens(const std::string& fileName)
         Screen screen;
         if (line.starts_with('#') || !(words >> screen.name >> screen.rows))
             continue;
-        for (int row = 0; words >> row;)
-            screen.path.push_back(row);
+        for (std::string word; words >> word;)
+            screen.path.push_back({std::stoi(word), word.ends_with('>')});
         screens.push_back(screen);
     }
     return screens;

@@ -6,11 +6,17 @@
 
 namespace audit {
 
-/// A screen, and the rows that lead to it from the first one.
+/// A step on the way to a screen: the row that is chosen, or whose menu the right key opens.
+struct Step {
+    int row = 0;
+    bool opensMenu = false;
+};
+
+/// A screen, and the steps that lead to it from the first one.
 struct Screen {
     std::string name;
     int rows = 0;
-    std::vector<int> path;
+    std::vector<Step> path;
 };
 
 /// Reads a list of screens: see the file `screens`. Throws where it cannot be read.
