@@ -53,6 +53,11 @@ struct PopupDialerSide::Impl : public PegThing {
     bool isComingUp = false; ///< the display has said that it will show it
     bool userHasMoved = false;
     const ApplicationWatch application{*this};
+    CommandTexts texts;
+    std::vector<MenuCommand*> commands;
+    MenuCommand* defaultCommand = nullptr;
+    bool stimulusInHeader = false;
+    bool editFieldIsShown = false;
 
 private:
     void key(int key);
@@ -69,12 +74,6 @@ private:
 
     /// Tells the display when a dialer on screen looks different.
     void changed();
-
-    CommandTexts texts;
-    std::vector<MenuCommand*> commands;
-    MenuCommand* defaultCommand = nullptr;
-    bool stimulusInHeader = false;
-    bool editFieldIsShown = false;
 };
 
 } // namespace DisplayAPI

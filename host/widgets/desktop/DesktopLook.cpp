@@ -44,15 +44,15 @@ const Sizes& sizesOf(const PegRect& area)
 
 const Icon& iconOf(std::size_t which)
 {
-    static const std::array<const Icon*, DESKTOP_ICONS> ICONS{&icons::PADLOCK, &icons::NO_ENTRY, &icons::BELL_OFF,
-                                                              &icons::MOBILE,  &icons::WRENCH,   &icons::CALLBACK};
+    static constexpr std::array<const Icon*, DESKTOP_ICONS> ICONS{&icons::PADLOCK, &icons::NO_ENTRY, &icons::BELL_OFF,
+                                                                  &icons::MOBILE,  &icons::WRENCH,   &icons::CALLBACK};
     return *ICONS[which];
 }
 
 const Icon& postTimeIcon(int number)
 {
-    static const std::array<const Icon*, POST_TIME_ICONS> ICONS{&icons::LETTER, &icons::FORWARD, &icons::PERSON,
-                                                                &icons::HANDSET};
+    static constexpr std::array<const Icon*, POST_TIME_ICONS> ICONS{&icons::LETTER, &icons::FORWARD, &icons::PERSON,
+                                                                    &icons::HANDSET};
     return *ICONS[static_cast<std::size_t>(number - 1)];
 }
 
