@@ -331,6 +331,18 @@ TEST_P(PopupDialerPrivateTest, ShowingBringsItToTheTopAndTellsTheObserver)
     EXPECT_EQ(display.getCurrent(), &other);
 }
 
+TEST_P(PopupDialerPrivateTest, ComesToTheTopAfterItWasCoveredOnAHiddenDisplay)
+{
+    PopupDialer other(true, 3);
+    display.hide();
+    dialer->show();
+    other.show();
+    display.show();
+    dialer->show();
+    EXPECT_EQ(display.getCurrent(), dialer.get());
+    EXPECT_TRUE(isOnScreen());
+}
+
 TEST_P(PopupDialerPrivateTest, DismissingWhatIsNotOnScreenDoesNothing)
 {
     dialer->dismiss();
