@@ -58,20 +58,15 @@ std::string menuAsText(const host::IdleScreen& idle, const std::vector<DisplayAP
 
 } // namespace
 
-/// An open menu hides what lies under it.
 std::string IdleDisplaySide::Impl::asText(const std::vector<DisplayAPIUtils::Rect>& visible) const
 {
     if (screen == nullptr || !isVisible(screen->Area(), visible))
         return {};
-    const bool hasMenu = screen->isMenuOpen();
-    const std::vector<DisplayAPIUtils::Rect> menu{toRect(hasMenu ? screen->menuArea() : PegRect{0, 0, -1, -1})};
     std::string contents;
-    for (const IdlePart& part : screen->parts()) {
-        const bool isCovered = hasMenu && contains(menu.front(), toRect(part.area));
-        if (!isCovered && isVisible(part.area, visible))
+    for (const IdlePart& part : screen->parts())
+        if (isVisible(part.area, visible))
             contents += describe(part);
-    }
-    if (hasMenu)
+    if (screen->isMenuOpen())
         contents += menuAsText(*screen, visible);
     return screen::object("IdleDisplay", contents);
 }

@@ -100,7 +100,11 @@ IdleState IdleScreen::state() const
 
 std::vector<IdlePart> IdleScreen::parts() const
 {
-    return idleParts(Area(), state());
+    std::vector<IdlePart> all = idleParts(Area(), state());
+    if (isMenuOpen())
+        std::erase_if(
+            all, [bar = idleBar(Area())](const IdlePart& part) { return hasTwoLines() || part.area.top > bar.bottom; });
+    return all;
 }
 
 int IdleScreen::Message(const PegMessage& message)
@@ -128,7 +132,7 @@ void IdleScreen::openMenu()
     mColumn->setCurrent(0);
     mColumn->setCurrent(mDefaultCommand);
     Add(&mMenu, false);
-    mMenu.Invalidate();
+    Invalidate();
     tell(PM_CURRENT_CHANGED, mColumn->current());
 }
 
@@ -136,8 +140,8 @@ void IdleScreen::closeMenu()
 {
     if (!isMenuOpen())
         return;
-    mMenu.Invalidate();
     Remove(&mMenu, false);
+    Invalidate();
     tell(PM_CURRENT_CHANGED, -1);
 }
 
@@ -146,8 +150,8 @@ void IdleScreen::menuTells(const PegMessage& message)
     if (message.wType == PM_KEY && message.iData == PK_LEFT)
         return closeMenu();
     if (message.wType == PM_CLICKED) {
-        mMenu.Invalidate();
         Remove(&mMenu, false);
+        Invalidate();
     }
     tell(message.wType, message.iData);
 }

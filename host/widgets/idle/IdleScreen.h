@@ -37,9 +37,8 @@ public:
     bool isMenuOpen() const { return mMenu.Parent() != nullptr; }
     void closeMenu();
     const CommandColumn& commands() const { return *mColumn; }
-    const PegRect& menuArea() const { return mMenu.Area(); }
 
-    /// What is shown below the menu.
+    /// What is in sight; with the menu open the bar alone, where there is room for both.
     std::vector<IdlePart> parts() const;
 
     /// The formats have changed.
