@@ -29,6 +29,7 @@ std::vector<Case> menuCases();
 std::vector<Case> dialerCases();
 std::vector<Case> tabCases();
 std::vector<Case> idleCases();
+std::vector<Case> desktopCases();
 std::vector<Case> destroyingCases();
 std::vector<Case> repaintCases();
 std::vector<Case> screenTextCases();
