@@ -63,6 +63,13 @@ void Broadcaster::frameReady(std::string language)
     mChanged.notify_all();
 }
 
+void Broadcaster::lampsChanged(std::vector<bool> lamps)
+{
+    std::lock_guard lock(mMutex);
+    mLamps = std::move(lamps);
+    mChanged.notify_all();
+}
+
 void Broadcaster::pageChanged()
 {
     std::lock_guard lock(mMutex);
@@ -84,7 +91,7 @@ void Broadcaster::run()
 {
     Lock lock(mMutex);
     while (!mEnding)
-        serve(lock, mStandsStill());
+        serve(lock, {mStandsStill(), mLamps});
     const Pages pages = mPages;
     lock.unlock();
     for (const auto& page : pages)
@@ -92,17 +99,17 @@ void Broadcaster::run()
 }
 
 /// What a page hears goes first: a GUI thread that stands still while it paints lets the picture wait.
-void Broadcaster::serve(Lock& lock, bool standsStill)
+void Broadcaster::serve(Lock& lock, const News& news)
 {
     const std::uint32_t frame = mFrame;
     const std::string language = mLanguage;
-    const Pages unaware = chosen(mPages, [=](const auto& page) { return page->needsToHear(standsStill); });
+    const Pages unaware = chosen(mPages, [&](const auto& page) { return page->needsToHear(news); });
     const Pages ready = chosen(mPages, [=](const auto& page) { return page->wants(frame); });
     if (unaware.empty() && ready.empty())
         return waitForChange(lock);
     lock.unlock();
     for (const auto& page : unaware)
-        page->tell(standsStill);
+        page->tell(news);
     if (!ready.empty()) {
         const FrameMessage message = makeFrameMessage(mTakePicture(), frame, language);
         for (const auto& page : ready)

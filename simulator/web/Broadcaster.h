@@ -36,6 +36,9 @@ public:
     /// There is a new frame, in a telephone of this language.
     void frameReady(std::string language);
 
+    /// The lamps of the programmable keys are these now.
+    void lampsChanged(std::vector<bool> lamps);
+
     /// Looks again at who can take a frame.
     void pageChanged();
 
@@ -46,7 +49,7 @@ private:
     using Lock = std::unique_lock<std::mutex>;
 
     void run();
-    void serve(Lock& lock, bool standsStill);
+    void serve(Lock& lock, const News& news);
     void waitForChange(Lock& lock);
 
     std::function<host::Picture()> mTakePicture;
@@ -56,6 +59,7 @@ private:
     Pages mPages;
     std::uint32_t mFrame = 1;
     std::string mLanguage;
+    std::vector<bool> mLamps;
     bool mEnding = false;
     std::thread mSender;
 };

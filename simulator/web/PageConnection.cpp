@@ -3,6 +3,7 @@
 #include "simulator/web/ServerMessages.h"
 
 #include <civetweb.h>
+#include <utility>
 
 namespace simulator {
 
@@ -12,10 +13,10 @@ bool PageConnection::wants(std::uint32_t frame) const
     return !mIsBroken && mSent == mSeen && mSent != frame;
 }
 
-bool PageConnection::needsToHear(bool standsStill) const
+bool PageConnection::needsToHear(const News& news) const
 {
     std::lock_guard lock(mMutex);
-    return !mIsBroken && mToldStandsStill != standsStill;
+    return !mIsBroken && mTold != news;
 }
 
 void PageConnection::send(const FrameMessage& message)
@@ -37,13 +38,17 @@ void PageConnection::sendText(const std::string& message)
     write(MG_WEBSOCKET_OPCODE_TEXT, message);
 }
 
-void PageConnection::tell(bool standsStill)
+void PageConnection::tell(const News& news)
 {
+    News before;
     {
         std::lock_guard lock(mMutex);
-        mToldStandsStill = standsStill;
+        before = std::exchange(mTold, news);
     }
-    sendText(standingMessage(standsStill));
+    if (before.standsStill != news.standsStill)
+        sendText(standingMessage(news.standsStill));
+    if (before.lamps != news.lamps)
+        sendText(lampsMessage(news.lamps));
 }
 
 void PageConnection::sendLast(const std::string& message)

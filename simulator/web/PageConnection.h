@@ -5,10 +5,19 @@
 #include <cstdint>
 #include <mutex>
 #include <string>
+#include <vector>
 
 struct mg_connection;
 
 namespace simulator {
+
+/// What a page hears besides frames, each time that it changes.
+struct News {
+    bool standsStill = false; ///< the GUI thread
+    std::vector<bool> lamps{};
+
+    friend bool operator==(const News&, const News&) = default;
+};
 
 /// One open page. It has at most one frame on its way: the next one goes out when the page has drawn the last. So a
 /// page that is slow costs nothing but its own frames, and what lies in the network's buffers stays small.
@@ -20,12 +29,12 @@ public:
     /// Whether it could take a frame of that number now.
     bool wants(std::uint32_t frame) const;
 
-    /// Whether it has not been told yet that the GUI thread stands still, or that it goes on.
-    bool needsToHear(bool standsStill) const;
+    /// Whether it has been told something else last.
+    bool needsToHear(const News& news) const;
 
     void send(const FrameMessage& message);
     void sendText(const std::string& message);
-    void tell(bool standsStill);
+    void tell(const News& news);
 
     /// Tells the page why there is nothing more for it, and closes it.
     void sendLast(const std::string& message);
@@ -48,7 +57,7 @@ private:
     bool mIsBroken = false;
     std::uint32_t mSent = 0;
     std::uint32_t mSeen = 0;
-    bool mToldStandsStill = false;
+    News mTold; ///< what a page takes for granted at first
     std::string mRows;
 };
 

@@ -56,6 +56,11 @@ std::string standingMessage(bool isStanding)
     return dump({{"standing", isStanding}});
 }
 
+std::string lampsMessage(const std::vector<bool>& lamps)
+{
+    return dump({{"lamps", lamps}});
+}
+
 std::string fullMessage(std::size_t pages)
 {
     return dump({{"full", pages}});

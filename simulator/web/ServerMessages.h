@@ -22,6 +22,10 @@ std::string rowsMessage(const std::vector<ScreenRow>& rows, std::string_view lan
 /// The GUI thread stands still, or goes on.
 std::string standingMessage(bool isStanding);
 
+/// The programmable keys beside the panel, from the first on: whether the lamp of each is lit.
+/// {"lamps":[true,false]}
+std::string lampsMessage(const std::vector<bool>& lamps);
+
 /// So many pages are open, and there is no room for this one.
 std::string fullMessage(std::size_t pages);
 

@@ -1,6 +1,7 @@
 #include "simulator/web/WebFrontEnd.h"
 
 #include "host/Phone.h"
+#include "host/input/KeyLamps.h"
 #include "host/lcd/Lcd.h"
 #include "host/toolkit/Loop.h"
 #include "simulator/web/QuitOnSignal.h"
@@ -45,11 +46,13 @@ struct WebFrontEnd::Session {
           server(endpoint, greeting(), broadcaster, keys)
     {
         lcd.setFrameListener([this] { broadcaster.frameReady(language()); });
+        host::KeyLamps::setListener([this] { broadcaster.lampsChanged(host::KeyLamps::current()); });
     }
 
     ~Session()
     {
         lcd.setFrameListener({});
+        host::KeyLamps::setListener({});
         broadcaster.end();
     }
 

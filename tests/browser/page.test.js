@@ -3,7 +3,7 @@
 import assert from "node:assert/strict";
 import { after, afterEach, before, beforeEach, describe, test } from "node:test";
 import { openBrowser, Tab } from "./support/browser.js";
-import { LIMIT, Phone, SUITE_LIMIT, until } from "./support/phone.js";
+import { LIMIT, Phone, program, SUITE_LIMIT, until } from "./support/phone.js";
 
 const looksPressed = (button, isPressed) =>
   until(async () => /pressed/.test(await button.getAttribute("class") ?? "") === isPressed,
@@ -143,5 +143,49 @@ describe("the page", SUITE_LIMIT, () => {
     const uptime = async () => (await tab.rows()).find((row) => row.startsWith("Up "));
     const first = await uptime();
     await until(async () => (await uptime()) !== first, "the row is renewed");
+  });
+});
+
+describe("the programmable keys", SUITE_LIMIT, () => {
+  let browser;
+
+  before(async () => (browser = await openBrowser()));
+  after(() => browser.close());
+
+  const namesOf = (tab) => tab.page.locator(".programmable button").evaluateAll(
+    (buttons) => buttons.map((button) => button.getAttribute("aria-label")));
+
+  for (const [variant, count] of [["plain", 5], ["wp1", 3]]) {
+    test(`are as many as there are labels, beside the display of ${variant}`, LIMIT, async (t) => {
+      const phone = await Phone.start({ variant, app: [program("desktop")] });
+      t.after(() => phone.stop());
+      const tab = await Tab.open(browser, phone.url);
+      t.after(() => tab.close());
+      await tab.shows("Quiet");
+      await until(async () => (await namesOf(tab)).length === count, "the page has the keys");
+      const glass = await tab.page.locator(".glass").boundingBox();
+      const first = await tab.button("fpk1").boundingBox();
+      assert.ok(first.x >= glass.x + glass.width && first.height >= 24, "they are beside it, and can be hit");
+      assert.ok(await tab.page.evaluate(() => document.documentElement.scrollWidth <= innerWidth), "no scrolling sideways");
+
+      await tab.button("fpk1").click();
+      await tab.shows("Do not disturb");
+      await until(async () => (await namesOf(tab))[0] === "Programmable key 1, lit", "its lamp is lit");
+      const late = await Tab.open(browser, phone.url);
+      t.after(() => late.close());
+      await until(async () => (await namesOf(late))[0] === "Programmable key 1, lit", "a later tab sees it lit");
+      await tab.button("fpk1").click();
+      await until(async () => (await namesOf(tab))[0] === "Programmable key 1", "its lamp is dark");
+      assert.deepEqual(tab.errors, []);
+    });
+  }
+
+  test("are none without a desktop", LIMIT, async (t) => {
+    const phone = await Phone.start();
+    t.after(() => phone.stop());
+    const tab = await Tab.open(browser, phone.url);
+    t.after(() => tab.close());
+    await tab.shows("About");
+    assert.deepEqual(await namesOf(tab), []);
   });
 });

@@ -36,7 +36,7 @@ class Keys {
   show(name) {
     setTimeout(() => {
       const isHeld = [...this.holders.values()].includes(name);
-      document.querySelector(`[data-key="${name}"]`).classList.toggle("pressed", isHeld);
+      document.querySelector(`[data-key="${name}"]`)?.classList.toggle("pressed", isHeld);
     });
   }
 }

@@ -52,10 +52,12 @@ const link = new Link({
   application(told) {
     application = told;
     setName(told);
+    programmable.show([]); // until it tells of some
     size.fit();
   },
   language: (language) => rows.setLanguage(language),
   rows: (received) => rows.show(received),
+  lamps: (lamps) => programmable.show(lamps),
   standing: (isStanding) => setState(isStanding ? "standing" : "open"),
   ended() {
     goodbye = "ended";
@@ -67,6 +69,8 @@ const keys = new Keys((text) => {
   rows.keyPressed();
   link.send(text);
 });
+const programmable = new Programmable(document.querySelector(".programmable"),
+                                      (button) => listenToButton(keys, button), () => size.fit());
 document.querySelectorAll("[data-key]").forEach((button) => listenToButton(keys, button));
 listenToKeyboard(keys);
 listenForHelp(keys);

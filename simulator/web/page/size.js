@@ -17,15 +17,19 @@ const root = document.documentElement;
 const desk = document.querySelector(".desk");
 const screenPlace = document.querySelector(".screen");
 const bezel = document.querySelector(".bezel");
+const programmablePlace = document.querySelector(".programmable");
 const isTouched = matchMedia("(pointer: coarse)");
 
 /* A whole number of device pixels: with that, all pixels of the panel are of one size. */
 const toDevice = (size, round) => Math.max(1, round(size * devicePixelRatio)) / devicePixelRatio;
 
+/* The panel in its frame, and the programmable keys beside it. */
+const screenWidth = () => programmablePlace.getBoundingClientRect().right - bezel.getBoundingClientRect().left;
+
 function pixelOf(layout, full) {
   const wanted = toDevice(PIXEL * full, Math.round);
   if (!LAYOUTS[layout].fillsWidth) return wanted;
-  const room = screenPlace.clientWidth - (bezel.offsetWidth - canvas.offsetWidth);
+  const room = screenPlace.clientWidth - (screenWidth() - canvas.offsetWidth);
   return Math.min(wanted, toDevice(room / canvas.width, Math.floor));
 }
 

@@ -26,6 +26,8 @@ TEST(ServerMessages, ApplicationHasAProgramAndAPanel)
 TEST(ServerMessages, OtherNewsAreOneWord)
 {
     EXPECT_EQ(simulator::standingMessage(true), R"({"standing":true})");
+    EXPECT_EQ(simulator::lampsMessage({true, false}), R"({"lamps":[true,false]})");
+    EXPECT_EQ(simulator::lampsMessage({}), R"({"lamps":[]})");
     EXPECT_EQ(simulator::fullMessage(16), R"({"full":16})");
     EXPECT_EQ(simulator::endedMessage(), R"({"ended":true})");
 }
