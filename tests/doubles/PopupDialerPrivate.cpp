@@ -232,4 +232,20 @@ void PopupDialerSide::showStimulusTextInHeader(bool on)
     mImpl->note("showStimulusTextInHeader", on);
 }
 
+void PopupDialerSide::setSysWindowSize(int lines)
+{
+    mImpl->note("setSysWindowSize", lines);
+}
+
+void PopupDialerSide::setSysWindowText(std::string text, int line)
+{
+    mImpl->note("setSysWindowText", text, line);
+}
+
+bool PopupDialerSide::hasSystemWindow()
+{
+    mImpl->note("hasSystemWindow");
+    return false;
+}
+
 } // namespace DisplayAPI

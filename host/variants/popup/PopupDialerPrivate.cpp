@@ -224,4 +224,22 @@ void PopupDialerSide::showStimulusTextInHeader(bool on)
     mImpl->setStimulusInHeader(on);
 }
 
+void PopupDialerSide::setSysWindowSize(int lines)
+{
+    if (mImpl->box != nullptr)
+        mImpl->box->setStatusLines(lines);
+}
+
+void PopupDialerSide::setSysWindowText(std::string text, int line)
+{
+    if (mImpl->box != nullptr)
+        mImpl->box->setStatusText(line, std::move(text));
+}
+
+/// On two lines the system window pops up instead.
+bool PopupDialerSide::hasSystemWindow()
+{
+    return mImpl->box != nullptr && !host::hasTwoLines();
+}
+
 } // namespace DisplayAPI

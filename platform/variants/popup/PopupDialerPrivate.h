@@ -51,6 +51,10 @@ public:
     void setStimulusText(TranslationInfo* text) override;
     void showStimulusTextInHeader(bool on) override;
 
+    void setSysWindowSize(int lines) override;
+    void setSysWindowText(std::string text, int line) override;
+    bool hasSystemWindow() override;
+
 protected:
     PopupDialerSide(PopupDialer* owner, bool wayBack, Panel panel);
 

@@ -343,6 +343,20 @@ TEST_P(PopupDialerPrivateTest, ComesToTheTopAfterItWasCoveredOnAHiddenDisplay)
     EXPECT_TRUE(isOnScreen());
 }
 
+TEST_P(PopupDialerPrivateTest, StatusLinesStandAboveItAsLongAsItIsOnScreen)
+{
+    display.setSystemWindowText(0, "Line 1");
+    display.setSystemWindowSize(1);
+    display.setCurrent(dialer.get());
+    const PegThing* const box = side().getWidget();
+    const PegThing* const strip = box->NextSibling();
+    ASSERT_NE(strip, nullptr);
+    EXPECT_EQ(strip->Type() == TYPE_SYSTEM_WINDOW, isSmall());
+    EXPECT_TRUE(isSmall() || strip->Area().bottom < box->Area().top);
+    dialer->dismiss();
+    EXPECT_EQ(side().getWidget()->NextSibling(), nullptr);
+}
+
 TEST_P(PopupDialerPrivateTest, DismissingWhatIsNotOnScreenDoesNothing)
 {
     dialer->dismiss();
