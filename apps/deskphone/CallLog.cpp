@@ -16,6 +16,7 @@ CallLog::CallLog(Telephone& telephone, Screen* parent, const std::string& title,
                  CallHistory& history, Call& call, CallDetails& details)
     : Screen(telephone, parent, title), mKind(kind), mHistory(history), mCall(call)
 {
+    setDialer(call);
     setRowMenu({{"Row.call", [this](int row) { chosen(row); }},
                 {"Row.details", [this, &details](int row) { details.show(*this, callAt(row)); }},
                 {"Row.copy", [this](int row) { this->telephone().copy(callAt(row).number); }},

@@ -15,6 +15,7 @@ Contacts::Contacts(Telephone& telephone, Screen* parent, Call& call)
       mEntries(static_cast<std::size_t>(PhoneBook::size()))
 {
     std::iota(mEntries.begin(), mEntries.end(), 0);
+    setDialer(call);
     setRowMenu(
         {{"Row.call",
           [this](int row) { mCall.begin(*this, PhoneBook::name(entryAt(row)), PhoneBook::number(entryAt(row))); }},

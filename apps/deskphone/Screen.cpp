@@ -4,6 +4,7 @@
 #include "DisplayAPI/Display.h"
 #include "DisplayAPI/List.h"
 #include "DisplayAPI/ListItem.h"
+#include "apps/deskphone/Call.h"
 #include "apps/deskphone/Telephone.h"
 #include "kit/WayBack.h"
 
@@ -50,6 +51,8 @@ void Screen::stopListening()
     mCommands.end();
     if (mRowMenu != nullptr)
         mRowMenu->stopListening();
+    if (mDialer != nullptr)
+        mDialer->stopListening();
 }
 
 void Screen::stopWorking()
@@ -81,6 +84,14 @@ void Screen::answer(Command* command)
 void Screen::setRowMenu(const std::vector<RowMenu::Action>& actions)
 {
     mRowMenu = std::make_unique<RowMenu>(mTelephone, actions);
+}
+
+void Screen::setDialer(Call& call)
+{
+    mDialer = std::make_unique<Dialer>(mTelephone,
+                                       [this, &call](const std::string& number) { call.begin(*this, number, number); });
+    mList->addDialer(&mDialer->popup());
+    mList->showDiallerOnInitialKeyEvent(true);
 }
 
 Text& Screen::text(const std::string& key, std::vector<Text::Argument> arguments)

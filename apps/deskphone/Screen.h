@@ -1,5 +1,6 @@
 #pragma once
 
+#include "apps/deskphone/Dialer.h"
 #include "apps/deskphone/RowMenu.h"
 #include "kit/Subscription.h"
 #include "kit/Text.h"
@@ -21,6 +22,7 @@ namespace deskphone {
 
 using DisplayAPI::kit::Text;
 
+class Call;
 class Telephone;
 
 /// One screen of the telephone: a list, the thread that fills it, and what happens when the user chooses a row.
@@ -64,6 +66,9 @@ protected:
     /// The right key offers these for the selected row; without a menu it chooses the row. In the constructor.
     void setRowMenu(const std::vector<RowMenu::Action>& actions);
 
+    /// A digit opens a dialer, which calls with `call`. In the constructor.
+    void setDialer(Call& call);
+
 private:
     /// Fills the list. On the screen's own thread.
     virtual void build() = 0;
@@ -78,7 +83,8 @@ private:
 
     Telephone& mTelephone;
     Screen* mParent;
-    std::deque<Text> mTexts; ///< before the list, whose rows show them
+    std::deque<Text> mTexts;         ///< before the list, whose rows show them
+    std::unique_ptr<Dialer> mDialer; ///< before the list that opens it
     std::unique_ptr<DisplayAPI::List> mList;
     std::unique_ptr<RowMenu> mRowMenu;
     DisplayAPI::kit::Subscription mCommands;

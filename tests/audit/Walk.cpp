@@ -34,17 +34,27 @@ std::string dump(const std::string& name)
     return "dump --json " + name + ".json\n";
 }
 
+/// "2" or "2:right".
+Step toStep(const std::string& word)
+{
+    const std::size_t colon = word.find(':');
+    if (colon == std::string::npos)
+        return {std::stoi(word)};
+    return {std::stoi(word.substr(0, colon)), word.substr(colon + 1)};
+}
+
 std::string visit(const Screen& screen)
 {
     std::string script = NO_MESSAGE + FIRST_ROW;
     for (const Step& step : screen.path)
-        script += repeated(step.row, "key down\n") + (step.opensMenu ? "key right\n" : "key ok\n" + FIRST_ROW);
+        script += repeated(step.row, "key down\n") + "key " + step.key + '\n' + (step.key == "ok" ? FIRST_ROW : "");
     script += dump(screen.name);
     for (int row = 1; row < screen.rows; ++row)
         script += "key down\n" + dump(screen.name + '.' + std::to_string(row));
     if (!screen.path.empty())
         script += "key left\n" + dump("from-" + screen.name);
-    return script + repeated(static_cast<int>(screen.path.size()) - 1, "key left\n");
+    // One more than there are steps: in a dialer the first one takes back what has been typed.
+    return script + repeated(static_cast<int>(screen.path.size()), "key left\n");
 }
 
 } // namespace
@@ -58,7 +68,7 @@ std::vector<Screen> readScreens(const std::string& fileName)
         if (line.starts_with('#') || !(words >> screen.name >> screen.rows))
             continue;
         for (std::string word; words >> word;)
-            screen.path.push_back({std::stoi(word), word.ends_with('>')});
+            screen.path.push_back(toStep(word));
         screens.push_back(screen);
     }
     return screens;

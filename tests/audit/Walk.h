@@ -6,10 +6,10 @@
 
 namespace audit {
 
-/// A step on the way to a screen: the row that is chosen, or whose menu the right key opens.
+/// A step on the way to a screen: the row that is chosen, or where another key than OK is pressed on it.
 struct Step {
     int row = 0;
-    bool opensMenu = false;
+    std::string key = "ok";
 };
 
 /// A screen, and the steps that lead to it from the first one.

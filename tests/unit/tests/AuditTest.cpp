@@ -77,9 +77,9 @@ TEST(AuditWalk, VisitsEachScreenAndEachOfItsRows)
                           "dump --json log.1.json\nkey left\ndump --json from-log.json\nkey left\n"));
 }
 
-TEST(AuditWalk, OpensTheMenuOfARowAtItsFirstOne)
+TEST(AuditWalk, AnotherKeyThanOkLeavesTheSelectionAlone)
 {
-    const auto screens = audit::readScreens(fileWith("menu 1 0 1>\n"));
+    const auto screens = audit::readScreens(fileWith("menu 1 0 1:right\n"));
     ASSERT_EQ(screens.size(), 1u);
     EXPECT_THAT(audit::scriptThrough(screens, 0),
                 HasSubstr("key ok\nhold up 1000\nkey down\nkey right\ndump --json menu.json\nkey left\n"));

@@ -1,0 +1,53 @@
+#include "apps/deskphone/Dialer.h"
+
+#include "apps/deskphone/Telephone.h"
+#include "kit/Fence.h"
+
+#include <utility>
+
+namespace deskphone {
+
+using DisplayAPI::Command;
+using DisplayAPI::Displayable;
+
+namespace {
+
+constexpr bool HAS_WAY_BACK = true;
+
+TranslationInfo* translated(Telephone& telephone, const std::string& key)
+{
+    return new TranslationInfo(key, &telephone.languages());
+}
+
+} // namespace
+
+Dialer::Dialer(Telephone& telephone, std::function<void(const std::string&)> dial)
+    : mTelephone(telephone), mDial(std::move(dial)), mDialCommand(translated(telephone, "Dialer.dial"), 0),
+      mPasteCommand(translated(telephone, "Dialer.paste"), 0), mPopup(HAS_WAY_BACK, 0)
+{
+    mPopup.addCommand(&mDialCommand);
+    mPopup.addCommand(&mPasteCommand);
+    mPopup.addCommandListener(this);
+}
+
+/// A dialer keeps its listeners, so this one is deaf from then on.
+void Dialer::stopListening()
+{
+    mIsDeaf = true;
+    DisplayAPI::kit::Fence().wait();
+}
+
+void Dialer::commandAction(Command* command, Displayable*)
+{
+    if (mIsDeaf)
+        return;
+    if (command == &mPasteCommand)
+        return mPopup.setLineEditText(mTelephone.copied());
+    const std::string number = command == &mDialCommand ? mPopup.getLineEditText() : std::string();
+    if (number.empty())
+        return;
+    mPopup.dismiss();
+    mDial(number);
+}
+
+} // namespace deskphone
