@@ -99,8 +99,17 @@ void PopupDialerSide::Impl::goBack()
     leave();
 }
 
+void PopupDialerSide::Impl::letGo()
+{
+    isComingUp = false;
+    if (box != nullptr)
+        field->released(0);
+}
+
+/// A display that is hidden has not brought it up.
 void PopupDialerSide::Impl::leave()
 {
+    letGo();
     self.widgetDismissed(&self);
 }
 
@@ -129,10 +138,14 @@ void PopupDialerSide::Impl::arrived()
 }
 
 /// It is shown while the dialer is, and no text stands in its place.
+bool PopupDialerSide::Impl::showsEditField() const
+{
+    return isOnScreen() && (field->line().hint().empty() || !field->line().text().empty());
+}
+
 void PopupDialerSide::Impl::followEditField()
 {
-    const host::EditLine& line = field->line();
-    const bool isShown = isOnScreen() && (line.hint().empty() || !line.text().empty());
+    const bool isShown = showsEditField();
     if (isShown && !editFieldIsShown)
         self.postCommand(PopupDialer::EditFieldShownCommand(), owner);
     editFieldIsShown = isShown;
@@ -266,7 +279,7 @@ std::string PopupDialerSide::Impl::asText(const std::vector<DisplayAPIUtils::Rec
     if (box == nullptr || !isVisible(box->Area(), visible))
         return {};
     std::string contents;
-    if (!box->header().empty())
+    if (isVisible(box->headerArea(), visible))
         contents += screen::caption(utf8(box->header()));
     if (isVisible(field->Area(), visible))
         contents += screen::textLine(0, utf8(field->prefix()) + utf8(field->line().shown()));

@@ -37,6 +37,9 @@ struct PopupDialerSide::Impl : public PegThing {
     void clear();
     void setDefault(MenuCommand* command);
 
+    /// The key that is held is somebody else's from now on, and so is the place on top.
+    void letGo();
+
     /// Ends with the dialer gone, perhaps.
     void leave();
 
@@ -68,6 +71,7 @@ private:
     void userHasEdited();
     void showTexts();
     void layOut();
+    bool showsEditField() const;
     void followEditField();
     void languageChanged();
     void selectDefault();

@@ -50,12 +50,9 @@ void PopupDialerSide::show()
         bringUp(mImpl->owner, display());
 }
 
-/// The key that is held is somebody else's from now on, and so is the place on top.
 void PopupDialerSide::lostFocus()
 {
-    mImpl->isComingUp = false;
-    if (mImpl->box != nullptr)
-        mImpl->field->released(0);
+    mImpl->letGo();
 }
 
 bool PopupDialerSide::hideOldWidgetOnFocusGained()

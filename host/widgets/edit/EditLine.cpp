@@ -59,6 +59,7 @@ void EditLine::setModes(std::vector<InputMode> modes)
     if (modes.empty())
         return;
     endCandidate();
+    endLongZero();
     mModes = std::move(modes);
     mMode = 0;
     Invalidate();

@@ -40,6 +40,13 @@ void DialerField::setRoomForSecond(bool on)
     layOut();
 }
 
+void DialerField::setIgnoresKeypad(bool on)
+{
+    mIgnoresKeypad = on;
+    if (on)
+        mLine->released(0);
+}
+
 int DialerField::heightFor(int) const
 {
     return (hasSecond() ? 2 : 1) * lineHeight();

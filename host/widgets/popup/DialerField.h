@@ -24,8 +24,8 @@ public:
     /// Empty where it is not shown.
     PegRect secondArea() const;
 
-    /// While on, the keypad types nothing.
-    void setIgnoresKeypad(bool on) { mIgnoresKeypad = on; }
+    /// While on, the keypad types nothing, and a key that is held does nothing more.
+    void setIgnoresKeypad(bool on);
 
     /// Whether the key would put a character into an empty line.
     bool types(int key) const { return !mIgnoresKeypad && mLine->types(key); }

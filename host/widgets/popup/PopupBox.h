@@ -22,6 +22,9 @@ public:
     void setHeader(PegString text);
     const PegString& header() const { return mHeader; }
 
+    /// Empty where it is not shown.
+    PegRect headerArea() const { return parts().header; }
+
     /// A line each, cut with an ellipsis.
     void setBody(std::vector<PegString> lines);
 

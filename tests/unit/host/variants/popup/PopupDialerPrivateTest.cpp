@@ -5,6 +5,8 @@
 #include "utilities/TranslationInfo.h"
 #include "utilities/TranslatorIfc.h"
 
+#include <functional>
+
 using namespace DisplayAPI;
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -43,6 +45,12 @@ protected:
     {
         dictionary.language = std::string(language) + ":";
         display.localeChanged(language);
+    }
+
+    /// The small panel has no room for a header above two lines.
+    static std::string aboveTwoLines(const std::string& header)
+    {
+        return isSmall() ? std::string() : "caption:" + header + "\n";
     }
 
     Dictionary dictionary;
@@ -84,6 +92,22 @@ TEST_P(PopupDialerPrivateTest, ZeroThatIsHeldWhileSomethingElseComesStaysAZero)
     display.setCurrent(&list);
     time.pass(700);
     EXPECT_EQ(dialer->getLineEditText(), "20");
+}
+
+TEST_P(PopupDialerPrivateTest, ZeroThatIsHeldStaysAZeroWhenTheApplicationStepsIn)
+{
+    dialer->show();
+    const std::vector<std::function<void()>> steps{[this] { dialer->setIgnoreKeypadEvents(true); },
+                                                   [this] { dialer->setMode(PopupDialer::HIDDEN); },
+                                                   [this] { dialer->dismiss(); }};
+    for (const auto& step : steps) {
+        dialer->setIgnoreKeypadEvents(false);
+        dialer->setLineEditText("");
+        press('0');
+        step();
+        time.pass(700);
+        EXPECT_EQ(dialer->getLineEditText(), "0");
+    }
 }
 
 TEST_P(PopupDialerPrivateTest, LeftDeletesAndThenGoesBack)
@@ -203,9 +227,13 @@ TEST_P(PopupDialerPrivateTest, TextsStandInTheirPlaces)
     EXPECT_EQ(shown(), asText("string0:To: Number?\nstring1:Ada\n"));
     dialer->showStimulusTextInHeader(true);
     type("1");
-    EXPECT_EQ(shown(), asText("caption:Line 2\nstring0:To: 1\nstring1:Ada\n"));
-    dialer->clearStimulusText();
+    EXPECT_EQ(shown(), asText(aboveTwoLines("Line 2") + "string0:To: 1\nstring1:Ada\n"));
     dialer->setLine2Text("");
+    EXPECT_EQ(shown(), asText("caption:Line 2\nstring0:To: 1\n"));
+    dialer->addCommand(dial.get());
+    EXPECT_EQ(shown(), asText(aboveTwoLines("Line 2") + "string0:To: 1\n" + inBar("Dial")));
+    dialer->removeCommand(dial.get());
+    dialer->clearStimulusText();
     EXPECT_EQ(shown(), asText("string0:To: 1\n"));
 }
 
@@ -237,7 +265,7 @@ TEST_P(PopupDialerPrivateTest, TranslationsFollowTheLanguageUntilTheUserTypes)
     dialer->showStimulusTextInHeader(true);
     dialer->show();
     changeLanguage("de");
-    EXPECT_EQ(shown(), asText("caption:de:key\nstring0:de:to de:number\nstring1:de:two\n"));
+    EXPECT_EQ(shown(), asText(aboveTwoLines("de:key") + "string0:de:to de:number\nstring1:de:two\n"));
     dialer->setLineEditText(translated("a"));
     changeLanguage("fr");
     EXPECT_EQ(dialer->getLineEditText(), "fr:a");
@@ -357,6 +385,17 @@ TEST_P(PopupDialerPrivateTest, StatusLinesStandAboveItAsLongAsItIsOnScreen)
     EXPECT_EQ(side().getWidget()->NextSibling(), nullptr);
 }
 
+TEST_P(PopupDialerPrivateTest, ComesUpAfterItWasDismissedOnAHiddenDisplay)
+{
+    display.hide();
+    dialer->show();
+    dialer->dismiss();
+    display.show();
+    dialer->show();
+    EXPECT_EQ(display.getCurrent(), dialer.get());
+    EXPECT_TRUE(isOnScreen());
+}
+
 TEST_P(PopupDialerPrivateTest, DismissingWhatIsNotOnScreenDoesNothing)
 {
     dialer->dismiss();
@@ -385,6 +424,8 @@ TEST_P(PopupDialerPrivateTest, KeepsItsTextsWhenTheDisplayHasTakenTheWidgetAlong
     EXPECT_EQ(dialer->getLineEditText(), "");
     EXPECT_EQ(dialer->getSelectedIndex(), -1);
     EXPECT_EQ(shown(), "");
+    dialer->show();
+    dialer->dismiss();
     display.setCurrent(&list);
 }
 
