@@ -92,10 +92,18 @@ void IdleDisplaySide::Impl::openDialer(int key)
         change([](host::IdleScreen& idle) { idle.closeMenu(); });
 }
 
+/// Where no text is another one, the side from which it is read may be.
+void IdleDisplaySide::Impl::localeChanged(const std::string& locale)
+{
+    if (owner != nullptr)
+        owner->localeChanged(locale);
+    change([](host::IdleScreen& idle) { idle.Invalidate(); });
+}
+
 void IdleDisplaySide::Impl::applicationChanged(const PegMessage& message)
 {
-    if (message.iData == KestrelApplication::LOCALE && owner != nullptr)
-        owner->localeChanged(ICC::fromUNICODEtoUTF8(*static_cast<const PegString*>(message.pData)));
+    if (message.iData == KestrelApplication::LOCALE)
+        localeChanged(ICC::fromUNICODEtoUTF8(*static_cast<const PegString*>(message.pData)));
     change([](host::IdleScreen& idle) { idle.renewClock(); });
 }
 

@@ -71,6 +71,7 @@ struct IdleDisplaySide::Impl : public PegThing {
     const ApplicationWatch application{*this};
 
 private:
+    void localeChanged(const std::string& locale);
     void applicationChanged(const PegMessage& message);
     void key(int key);
     void openDialer(int key);

@@ -30,7 +30,9 @@ void IdleScreen::setContents(IdleContents contents)
 {
     if (contents == mContents)
         return;
+    const std::size_t before = idleTurns(state());
     mContents = std::move(contents);
+    keepMessage(before);
     scheduleTurns();
     changed();
 }
@@ -43,10 +45,23 @@ void IdleScreen::setLogo(std::string path)
 
 void IdleScreen::addMessage(PegString message)
 {
+    const std::size_t turns = idleTurns(state());
+    mTurn = turns > 0 ? mTurn % turns : 0;
     mMessages.push_back(std::move(message));
     scheduleTurns();
-    if (mMessages.size() == 1)
+    if (turns == 0)
         changed();
+}
+
+/// Addresses come and go in front of the messages; the one on screen stays there.
+void IdleScreen::keepMessage(std::size_t turnsBefore)
+{
+    if (turnsBefore == 0)
+        return;
+    const std::size_t addresses = turnsBefore - mMessages.size();
+    mTurn %= turnsBefore;
+    if (mTurn >= addresses)
+        mTurn += idleTurns(state()) - turnsBefore;
 }
 
 void IdleScreen::clearMessages()

@@ -21,6 +21,7 @@ public:
     void setContents(IdleContents contents);
     void setLogo(std::string path);
 
+    /// The last in turn; what is on screen stays.
     void addMessage(PegString message);
     void clearMessages();
 
@@ -69,6 +70,7 @@ private:
     void changed();
     void ticked();
     void nextMessage();
+    void keepMessage(std::size_t turnsBefore);
     void scheduleTurns();
     void invalidate(IdleKind kind);
     static void drawPart(PegPainter& painter, const IdlePart& part);

@@ -133,6 +133,22 @@ TEST_P(IdleDisplayPrivateTest, MessagesAreShownInTurn)
     idle.reset();
 }
 
+TEST_P(IdleDisplayPrivateTest, MessageOnScreenStaysWhenOthersCome)
+{
+    for (const char* message : {"One", "Two"})
+        idle->addSystemMessage(message);
+    time.pass(3 * TURN);
+    EXPECT_TRUE(shows("Two"));
+    idle->addSystemMessage("Three");
+    EXPECT_TRUE(shows("Two"));
+    idle->setForwardingAddress("030");
+    EXPECT_TRUE(shows("Two"));
+    idle->clearForwardingAddress();
+    EXPECT_TRUE(shows("Two"));
+    time.pass(TURN);
+    EXPECT_TRUE(shows("Three"));
+}
+
 TEST_P(IdleDisplayPrivateTest, AddressesTakeTurnsWithMessagesOnTwoLines)
 {
     idle->setForwardingAddress("030");
@@ -163,6 +179,19 @@ TEST_P(IdleDisplayPrivateTest, LanguageChangesTexts)
     idle->setForwardingAddress(&text);
     EXPECT_TRUE(shows(item("Forwarding", "de Text")));
     idle.reset();
+}
+
+TEST_P(IdleDisplayPrivateTest, ReadingDirectionTurnsPlainTextsRound)
+{
+    host::Lcd& lcd = *host::Lcd::current();
+    idle->setCurrentPhoneNumber("4711");
+    lcd.paint();
+    display.localeChanged("ar_EG");
+    lcd.paint();
+    const auto turned = lcd.picture();
+    idle->getPrivateImpl()->getWidget()->Invalidate();
+    lcd.paint();
+    EXPECT_TRUE(turned.pixels == lcd.picture().pixels);
 }
 
 TEST_P(IdleDisplayPrivateTest, FormatsAreThoseOfTheTelephone)
