@@ -88,8 +88,8 @@ public:
     void addSystemMessage(TranslationInfo* message);
     void clearSystemMessages();
 
-    /// The path of a PNG file, which is read at once and shown in the panel's greys. One that is missing or broken
-    /// shows nothing.
+    /// The path of a PNG file, shown in the panel's greys. It is read when it is painted first, and again whenever its
+    /// room changes. One that is missing or broken shows nothing.
     void changeLogo(std::string path);
 
     /// Stands with the logo.
@@ -135,7 +135,7 @@ public:
     void fireBackCommand();
     void fireMenuCommand(int index);
 
-    /// One object per process, recognised by its address. Here.
+    /// One object per process, recognised by its address and never destroyed. Here.
     static Command* BACK_COMMAND();
 
 private:

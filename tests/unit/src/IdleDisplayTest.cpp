@@ -12,6 +12,8 @@
 #include "unit/src/FacadeTest.h"
 #include "utilities/TranslationInfo.h"
 
+#include <cstdlib>
+
 using namespace DisplayAPI;
 using doubles::callText;
 using test::From;
@@ -223,6 +225,19 @@ TEST_P(IdleDisplayTest, BackCommandIsOneWithoutALabel)
     EXPECT_EQ(IdleDisplay::BACK_COMMAND(), IdleDisplay::BACK_COMMAND());
     EXPECT_EQ(IdleDisplay::BACK_COMMAND()->getText(), "");
     EXPECT_EQ(IdleDisplay::BACK_COMMAND()->getType(), Command::BACK);
+}
+
+/// Looked at when all that was made before is gone.
+TEST(IdleDisplayExitTest, BackCommandIsThereToTheEnd)
+{
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    EXPECT_EXIT(
+        {
+            std::atexit([] { std::_Exit(Command::exists(IdleDisplay::BACK_COMMAND()) ? 0 : 1); });
+            IdleDisplay::BACK_COMMAND();
+            std::exit(0);
+        },
+        testing::ExitedWithCode(0), "");
 }
 
 TEST_P(IdleDisplayTest, MakesADialerWhenItIsAskedForOne)
