@@ -39,7 +39,8 @@ public:
     void processGuiRequest(GuiRequestEvent& request) override;
     DisplayablePrivateIfc* getPrivateImpl() override;
 
-    /// Raised for the listeners when the desktop has left the screen. The library's; the same one each time.
+    /// Raised for the listeners when the desktop has left the screen, not when a popup above it comes or goes. The
+    /// library's; the same one each time.
     static MenuCommand* HIDDEN_COMMAND();
 
     // What stands on the desktop; an empty text takes no room.

@@ -9,7 +9,7 @@ namespace host {
 
 namespace {
 
-enum Timer : std::int32_t { CLOCK = 1, PICTURE = 2 };
+enum Timer : std::int32_t { CLOCK = 1, PICTURE = 2, LEAVING = 3 };
 
 bool isProgrammable(int key)
 {
@@ -36,15 +36,24 @@ int DesktopWidget::Message(const PegMessage& message)
 {
     if (message.wType == PM_KEY && (mScreensaver.isOn() || isTaken(message.iData))) {
         key(message.iData);
-    } else if (message.wType == PM_TIMER && message.iData == CLOCK) {
-        clockChanged();
-    } else if (message.wType == PM_TIMER && message.iData == PICTURE) {
-        mScreensaver.next();
-        screensaverChanged();
+    } else if (message.wType == PM_TIMER) {
+        timer(message.iData);
     } else {
         return PegWindow::Message(message);
     }
     return 0;
+}
+
+void DesktopWidget::timer(int id)
+{
+    if (id == CLOCK) {
+        clockChanged();
+    } else if (id == PICTURE) {
+        mScreensaver.next();
+        screensaverChanged();
+    } else if (id == LEAVING && mListener != nullptr) {
+        mListener->desktopHidden();
+    }
 }
 
 /// The key that ends the screensaver is used up.
@@ -67,14 +76,17 @@ void DesktopWidget::Draw(PegPainter& painter)
     painter.picture(mScreensaver.picture(widthOf(Area()), heightOf(Area())), Area());
 }
 
-/// What comes to the screen is painted whole.
+/// What comes to the screen is painted whole. The display takes a screen out and puts it back when what lay above has
+/// gone: whether it has left shows on the loop's next turn.
 void DesktopWidget::VisibilityChanged()
 {
     PegWindow::VisibilityChanged();
     readClock();
     schedule();
-    if (!StatusIs(PSF_VISIBLE) && mListener != nullptr)
-        mListener->desktopHidden();
+    if (StatusIs(PSF_VISIBLE))
+        KillTimer(LEAVING);
+    else
+        SetTimer(LEAVING, 0, false);
 }
 
 void DesktopWidget::tellChanged()
@@ -172,22 +184,27 @@ bool DesktopWidget::readClock()
     return isOtherTime || isOtherDate || isOtherDay;
 }
 
+/// The picture keeps its turn.
 void DesktopWidget::clockChanged()
 {
-    schedule();
+    scheduleClock();
     if (readClock())
         tellChanged();
 }
 
 /// Nothing runs for a screen that nobody sees.
-void DesktopWidget::schedule()
+void DesktopWidget::scheduleClock()
 {
-    const bool isSeen = StatusIs(PSF_VISIBLE);
-    if (isSeen && mClock.runs() && !mScreensaver.isOn())
+    if (StatusIs(PSF_VISIBLE) && mClock.runs() && !mScreensaver.isOn())
         SetTimer(CLOCK, mClock.untilNextText(), false);
     else
         KillTimer(CLOCK);
-    if (isSeen && mScreensaver.turns())
+}
+
+void DesktopWidget::schedule()
+{
+    scheduleClock();
+    if (StatusIs(PSF_VISIBLE) && mScreensaver.turns())
         SetTimer(PICTURE, Screensaver::TURN, false);
     else
         KillTimer(PICTURE);

@@ -81,8 +81,10 @@ private:
     template <typename Field>
     void change(Field& field, Field value, const PegRect& part);
     void key(int key);
+    void timer(int id);
     bool readClock();
     void clockChanged();
+    void scheduleClock();
     void schedule();
     void screensaverChanged();
     void tellChanged();

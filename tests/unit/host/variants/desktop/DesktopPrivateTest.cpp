@@ -1,5 +1,6 @@
 #include "DisplayAPI/Desktop.h"
 
+#include "DisplayAPI/ContextMenu.h"
 #include "DisplayAPI/DesktopPrivateIfc.h"
 #include "DisplayAPI/Display.h"
 #include "DisplayAPI/DisplayEventIfc.h"
@@ -272,6 +273,7 @@ TEST_P(DesktopPrivateTest, ClockStandsStillWhileNobodySeesIt)
 {
     desktop->setTime(9, 41, 0);
     display.setCurrent(&list);
+    time.pass(1);
     EXPECT_FALSE(test::VirtualTime::isTimerRunning());
     time.pass(3 * MINUTE);
     display.setCurrent(desktop.get());
@@ -399,7 +401,19 @@ TEST_P(DesktopPrivateTest, LampsAreTheHighlights)
 TEST_P(DesktopPrivateTest, LeavingTheScreenRaisesTheHiddenCommand)
 {
     display.setCurrent(&list);
+    time.pass(1);
     EXPECT_THAT(raised, ElementsAre(Desktop::HIDDEN_COMMAND()->getId()));
+}
+
+TEST_P(DesktopPrivateTest, PopupThatComesAndGoesLeavesItOnTheScreen)
+{
+    DisplayAPI::ContextMenu menu(false);
+    display.setCurrent(&menu);
+    time.pass(1);
+    menu.dismiss();
+    time.pass(1);
+    EXPECT_EQ(display.getCurrent(), desktop.get());
+    EXPECT_THAT(raised, IsEmpty());
 }
 
 TEST_P(DesktopPrivateTest, ShowBringsItToItsDisplay)
@@ -442,6 +456,18 @@ TEST_P(DesktopPrivateTest, PicturesComeInTurn)
     EXPECT_THAT(painted().texts, IsEmpty());
     desktop->screensaverStop();
     EXPECT_FALSE(test::VirtualTime::isTimerRunning());
+}
+
+TEST_P(DesktopPrivateTest, SettingTheTimeDoesNotHoldThePicture)
+{
+    std::list<std::string> paths{pictureOf(3, "dark.png"), pictureOf(1, "light.png")};
+    desktop->screensaverSetImages(&paths);
+    desktop->screensaverStart();
+    for (int second = 5; second <= 10; second += 5) {
+        desktop->setTime(9, 41, second);
+        time.pass(TURN / 2);
+    }
+    EXPECT_EQ(painted().pixels[static_cast<std::size_t>(host::panelSize().width) * 20 + 100], 1);
 }
 
 TEST_P(DesktopPrivateTest, MissingPicturesLeaveThePanelBareAndAreNamedOnce)
