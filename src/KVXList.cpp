@@ -38,6 +38,8 @@ void setText(ListBoxPrivateIfc& list, unsigned int line, const std::string& text
     kvx(list).titletext(line, text);
 }
 
+/// The translation is no owned argument: it may be set again while its line has it, and a request that is lost must not
+/// free what the list owns.
 void setTranslation(ListBoxPrivateIfc& list, unsigned int line, TranslationInfo* text)
 {
     kvx(list).titletext(line, text);

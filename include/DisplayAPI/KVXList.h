@@ -8,7 +8,8 @@ namespace DisplayAPI {
 /// back.
 ///
 /// Threads and ownership as for List; here selectionHasChanged() waits as well. The list owns the translations of its
-/// display lines. A title is not shown; setTitle() says so on standard output.
+/// display lines. A title is not shown; setTitle() says so on standard output. No dialer opens over the list: the
+/// dialer operations do nothing, but getDialer() answers what addDialer() has been given.
 class DISPLAYAPI_EXPORT KVXList : public List {
 public:
     KVXList();
@@ -22,9 +23,10 @@ public:
 
     /// Sets a display line and makes it the last one: those below it are not shown until they are set again. A text
     /// that is empty or 24 blanks takes the line's text away and leaves the others. Lines count from 0; those past 5
-    /// have no place. Texts are UTF-8. A translation is the list's from now on, and its text does not follow the
-    /// language; null forgets the line's translation and leaves what is shown. One translation for one line. The
-    /// display's status lines have the same place: use one or the other.
+    /// have no place. Texts are UTF-8. A translation is the list's as soon as this has been carried out by a list that
+    /// is not cleaned up, and its text does not follow the language; null forgets the line's translation and leaves
+    /// what is shown. One translation for one line. The display's status lines have the same place: use one or the
+    /// other.
     void setDisplayText(unsigned int line, const std::string& text);
     void setDisplayText(unsigned int line, TranslationInfo* text);
 
