@@ -77,7 +77,7 @@ TabScreen::~TabScreen()
     Ops::call<CLEANUP>(*this, mImplementation);
 }
 
-/// The tab screens that the GUI thread has made. Never destroyed: a static one leaves it as late as at process exit.
+/// The tab screens that pages have been put into. Never destroyed: a static one leaves it as late as at process exit.
 std::vector<TabScreen*>& TabScreen::living()
 {
     static auto* const screens = new std::vector<TabScreen*>;
@@ -93,7 +93,6 @@ void TabScreen::create(IconType icon, bool wayBack, TabScreenPrivateIfc* impleme
         mImplementation = new TabScreenPrivate(this, icon);
     else
         mImplementation = new TabScreenPrivateWP1(this, icon, wayBack);
-    living().push_back(this);
 }
 
 void TabScreen::destroy()
@@ -235,16 +234,24 @@ void TabScreen::removeCommandListener(CommandListener* listener)
     Ops::call<REMOVE_COMMAND_LISTENER>(*this, mImplementation, listener);
 }
 
+/// Also after cleanup(), which has taken the screen off the list: a page that goes must not stay behind.
+void TabScreen::keep(Displayable* page)
+{
+    if (std::ranges::find(living(), this) == living().end())
+        living().push_back(this);
+    mDisplayableItems.push_back(page);
+}
+
 void TabScreen::appendTab(const std::string& title, Displayable* page, bool current)
 {
-    mDisplayableItems.push_back(page);
+    keep(page);
     if (mImplementation != nullptr)
         mImplementation->addTab(title, sideOf(page), current);
 }
 
 void TabScreen::appendTranslatedTab(TranslationInfo* title, Displayable* page, bool current)
 {
-    mDisplayableItems.push_back(page);
+    keep(page);
     if (mImplementation != nullptr)
         mImplementation->addTab(title, sideOf(page), current);
 }
@@ -291,13 +298,18 @@ void TabScreen::setPageAt(int index, Displayable* page)
         mDisplayableItems[static_cast<std::size_t>(index)] = page;
 }
 
+/// By its side alone a page without one cannot be told from an empty tab: the implementation ignores it and is told the
+/// tab instead.
 void TabScreen::remove(Displayable* page)
 {
-    const auto found = std::ranges::find(mDisplayableItems, page);
-    if (found != mDisplayableItems.end())
-        mDisplayableItems.erase(found);
-    if (mImplementation != nullptr)
-        mImplementation->removeTab(sideOf(page));
+    const int index = indexOf(page);
+    if (hasTab(index))
+        mDisplayableItems.erase(mDisplayableItems.begin() + index);
+    if (mImplementation == nullptr)
+        return;
+    mImplementation->removeTab(sideOf(page));
+    if (index >= 0 && sideOf(page) == nullptr)
+        mImplementation->removeTabAtIndex(index);
 }
 
 void TabScreen::removeAt(int index)

@@ -117,6 +117,7 @@ private:
 
     void create(IconType icon, bool wayBack, TabScreenPrivateIfc* implementation);
     void destroy();
+    void keep(Displayable* page);
     void appendTab(const std::string& title, Displayable* page, bool current);
     void appendTranslatedTab(TranslationInfo* title, Displayable* page, bool current);
     int countTabs();

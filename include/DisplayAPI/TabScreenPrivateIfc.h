@@ -29,7 +29,7 @@ public:
     virtual void setCurrentDisplayable(DisplayablePrivateIfc* page) = 0;
     virtual void setCurrentDisplayableForTabAtIndex(int index, DisplayablePrivateIfc* page) = 0;
 
-    /// The first tab with that page, which may be null.
+    /// The first tab with that page. Null is ignored: an empty tab is removed by its index.
     virtual void removeTab(DisplayablePrivateIfc* page) = 0;
     virtual void removeTabAtIndex(int index) = 0;
 

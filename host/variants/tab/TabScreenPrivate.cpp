@@ -112,6 +112,8 @@ void TabScreenSide::setCurrentDisplayableForTabAtIndex(int index, DisplayablePri
 
 void TabScreenSide::removeTab(DisplayablePrivateIfc* page)
 {
+    if (page == nullptr)
+        return;
     const auto found = std::ranges::find(mImpl->tabs, page, &Impl::Tab::page);
     if (found != mImpl->tabs.end())
         mImpl->remove(static_cast<int>(found - mImpl->tabs.begin()));

@@ -2,6 +2,7 @@
 
 #include "DisplayAPI/Command.h"
 #include "DisplayAPI/Display.h"
+#include "DisplayAPI/List.h"
 #include "DisplayPrivate.h"
 #include "doubles/FakeStartUp.h"
 #include "doubles/Screen.h"
@@ -289,6 +290,37 @@ TEST_P(TabScreenTest, PageThatIsDeletedLeavesItsTabsEmpty)
                              doubles::printed(static_cast<const void*>(nullptr)) + ")"),
               1);
     EXPECT_THAT(pages(), ElementsAre(nullptr, nullptr, &missed, nullptr));
+}
+
+TEST_P(TabScreenTest, PageThatIsDeletedLeavesACleanedUpScreenToo)
+{
+    madeWithTabs();
+    auto page = std::make_unique<doubles::Screen>("page");
+    run([&] {
+        tabs->cleanup();
+        tabs->addTab("New", page.get(), false);
+        tabs->numberOfTabs();
+        page.reset();
+    });
+    EXPECT_THAT(pages(), ElementsAre(nullptr));
+}
+
+TEST_P(TabScreenTest, PageWithoutASideIsRemovedByTheIndexOfItsTab)
+{
+    madeWithTabs();
+    DisplayAPI::List bare(nullptr), other(nullptr);
+    const DisplayablePrivateIfc* const none = nullptr;
+    run([&] {
+        tabs->addTab("Bare", &bare, false);
+        tabs->numberOfTabs();
+        reached();
+        tabs->removeTab(&other);
+        tabs->removeTab(&bare);
+    });
+    EXPECT_THAT(reached(), ElementsAre(callText("TabScreenPrivate::removeTab", none),
+                                       callText("TabScreenPrivate::removeTab", none),
+                                       callText("TabScreenPrivate::removeTabAtIndex", 3)));
+    EXPECT_THAT(pages(), ElementsAre(&all, nullptr, &missed));
 }
 
 TEST_P(TabScreenTest, CommandsAreOneObjectEach)

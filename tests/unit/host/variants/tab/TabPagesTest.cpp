@@ -77,6 +77,30 @@ TEST_P(TabPagesTest, PageThatIsInNoTabIsIgnored)
     expectInPage(*all);
 }
 
+TEST_P(TabPagesTest, PageWithoutASideIsTakenOutOfItsOwnTab)
+{
+    List bare(nullptr), other(nullptr);
+    tabs->addTab("Nothing", nullptr, false);
+    tabs->addTab("Bare", &bare, false);
+    const host::LogCapture log;
+    tabs->removeTab(&other);
+    EXPECT_EQ(tabs->numberOfTabs(), 4);
+    tabs->removeTab(&bare);
+    EXPECT_EQ(tabs->numberOfTabs(), 3);
+    EXPECT_EQ(tabs->getTitleForTabAtIndex(2), "Nothing");
+    EXPECT_TRUE(test::linesOf(log, "DisplayAPI::TabScreen").empty());
+}
+
+TEST_P(TabPagesTest, FirstEmptyTabIsTakenOutAndNotOneWithAPageWithoutASide)
+{
+    List bare(nullptr);
+    tabs->addTab("Bare", &bare, false);
+    tabs->addTab("Nothing", nullptr, false);
+    tabs->removeTab(nullptr);
+    EXPECT_EQ(tabs->numberOfTabs(), 3);
+    EXPECT_EQ(tabs->getTitleForTabAtIndex(2), "Bare");
+}
+
 TEST_P(TabPagesTest, EmptyTabGivesTheKeysToTheBar)
 {
     tabs->addTab("Nothing", nullptr, false);
