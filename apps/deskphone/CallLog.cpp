@@ -23,7 +23,7 @@ CallLog::CallLog(Telephone& telephone, Screen* parent, const std::string& title,
                 {"Row.delete", [this](int row) { mHistory.forget(callAt(row)); }}});
     for (PastCall& past : history.calls())
         if (shows(past))
-            list().append(mRows.emplace_back(&past, makeItem(past)).item);
+            list().append(mRows.emplace_back(Row{&past, makeItem(past)}).item);
     history.addListener([this](PastCall& past) { added(past); }, [this](PastCall& past) { forgotten(past); });
 }
 
@@ -52,7 +52,7 @@ bool CallLog::shows(const PastCall& call) const
 void CallLog::added(PastCall& call)
 {
     if (shows(call))
-        list().insertAt(mRows.emplace_front(&call, makeItem(call)).item, 0);
+        list().insertAt(mRows.emplace_front(Row{&call, makeItem(call)}).item, 0);
 }
 
 void CallLog::forgotten(const PastCall& call)
