@@ -97,7 +97,8 @@ public:
 
     /// Status lines of its own: 0 to 6, others are cut to that; lines outside 0 to 5 are ignored. Line 0 takes the
     /// place of the telephone's name. A queued text is discarded by the next, whatever its line: from another thread
-    /// set one line, and wait. Without effect on the 208 x 42 panel.
+    /// set one line, and wait. Forgotten, as any displayable's, when another one becomes current: say it again. Without
+    /// effect on the 208 x 42 panel.
     void setSystemWindowSize(int lines);
     void setSystemWindowText(int line, const std::string& text);
 

@@ -15,6 +15,7 @@
 #include "support/LogLines.h"
 #include "support/TemporaryFolder.h"
 #include "support/VirtualTime.h"
+#include "unit/host/variants/OnPanel.h"
 #include "utilities/Rect.h"
 #include "utilities/TranslatorIfc.h"
 #include "widgets/KestrelApplication.h"
@@ -92,21 +93,8 @@ protected:
         return path;
     }
 
-    struct Gui {
-        Gui()
-        {
-            host::setVariant(GetParam());
-            DisplayAPI::Widget::setGuiThreadId();
-        }
-        ~Gui()
-        {
-            DisplayAPI::Widget::setGuiThreadId(0);
-            host::setVariant(host::Variant::PLAIN);
-        }
-    };
-
     test::VirtualTime time;
-    Gui gui;
+    test::OnPanel gui{GetParam()};
     const test::TemporaryFolder folder;
     DisplayAPI::Display display{host::hardwareName(), "en_GB", "dd.mm.yyyy", "24h", host::isNarrow(), nullptr};
     DisplayAPI::List list{0};
@@ -518,8 +506,6 @@ TEST_P(DesktopPrivateTest, SetsNothingOnceItsWidgetIsGone)
     EXPECT_EQ(shown(), "");
 }
 
-INSTANTIATE_TEST_SUITE_P(Panel, DesktopPrivateTest,
-                         testing::Values(host::Variant::PLAIN, host::Variant::NARROW, host::Variant::WP1),
-                         [](const auto& tested) { return std::string(host::nameOf(tested.param)); });
+INSTANTIATE_ON_PANELS(DesktopPrivateTest);
 
 } // namespace

@@ -10,6 +10,7 @@
 #include "host/lcd/Lcd.h"
 #include "presentation/PRESCPresentationManager.h"
 #include "support/VirtualTime.h"
+#include "unit/host/variants/OnPanel.h"
 #include "utilities/ICC.h"
 #include "widgets/KestrelApplication.h"
 
@@ -62,21 +63,8 @@ protected:
             press(digit);
     }
 
-    struct Gui {
-        Gui()
-        {
-            host::setVariant(GetParam());
-            DisplayAPI::Widget::setGuiThreadId();
-        }
-        ~Gui()
-        {
-            DisplayAPI::Widget::setGuiThreadId(0);
-            host::setVariant(host::Variant::PLAIN);
-        }
-    };
-
     VirtualTime time;
-    Gui gui;
+    OnPanel gui{GetParam()};
     DisplayAPI::Display display{host::hardwareName(), "en_GB", "dd.mm.yyyy", "24h", host::isNarrow(), nullptr};
     testing::NiceMock<doubles::MockCommandListener> listener;
     std::vector<std::string> raised;
@@ -86,8 +74,3 @@ protected:
 };
 
 } // namespace test
-
-#define INSTANTIATE_ON_PANELS(suite)                                                                                   \
-    INSTANTIATE_TEST_SUITE_P(Panel, suite,                                                                             \
-                             testing::Values(host::Variant::PLAIN, host::Variant::NARROW, host::Variant::WP1),         \
-                             [](const auto& tested) { return std::string(host::nameOf(tested.param)); })

@@ -9,6 +9,7 @@
 #include "host/Phone.h"
 #include "presentation/PRESCPresentationManager.h"
 #include "support/VirtualTime.h"
+#include "unit/host/variants/OnPanel.h"
 #include "widgets/KestrelApplication.h"
 
 #include <gmock/gmock.h>
@@ -59,21 +60,8 @@ protected:
     /// To whoever has the focus.
     static void press(int key) { gpPresent->Focus()->Message({.wType = PM_KEY, .iData = key}); }
 
-    struct Gui {
-        Gui()
-        {
-            host::setVariant(GetParam());
-            DisplayAPI::Widget::setGuiThreadId();
-        }
-        ~Gui()
-        {
-            DisplayAPI::Widget::setGuiThreadId(0);
-            host::setVariant(host::Variant::PLAIN);
-        }
-    };
-
     VirtualTime time;
-    Gui gui;
+    OnPanel gui{GetParam()};
     DisplayAPI::Display display{host::hardwareName(), "en_GB", "dd.mm.yyyy", "24h", host::isNarrow(), nullptr};
     DisplayAPI::List list{0};
     testing::NiceMock<doubles::MockCommandListener> listener;
@@ -84,8 +72,3 @@ protected:
 };
 
 } // namespace test
-
-#define INSTANTIATE_ON_PANELS(suite)                                                                                   \
-    INSTANTIATE_TEST_SUITE_P(Panel, suite,                                                                             \
-                             testing::Values(host::Variant::PLAIN, host::Variant::NARROW, host::Variant::WP1),         \
-                             [](const auto& tested) { return std::string(host::nameOf(tested.param)); })

@@ -117,6 +117,6 @@ TEST_P(ListDialerTest, ListWithoutADialersSideOpensNothing)
     EXPECT_EQ(display.getCurrent(), &list);
 }
 
-INSTANTIATE_DIALER_ON_PANELS(ListDialerTest);
+INSTANTIATE_ON_PANELS(ListDialerTest);
 
 } // namespace

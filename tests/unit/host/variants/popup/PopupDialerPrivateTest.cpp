@@ -429,6 +429,6 @@ TEST_P(PopupDialerPrivateTest, KeepsItsTextsWhenTheDisplayHasTakenTheWidgetAlong
     display.setCurrent(&list);
 }
 
-INSTANTIATE_DIALER_ON_PANELS(PopupDialerPrivateTest);
+INSTANTIATE_ON_PANELS(PopupDialerPrivateTest);
 
 } // namespace
