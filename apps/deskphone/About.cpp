@@ -14,7 +14,7 @@ constexpr std::int64_t SECOND = 1000;
 
 } // namespace
 
-About::About(Telephone& telephone, Screen* parent)
+About::About(Telephone& telephone, Place* parent)
     : Screen(telephone, parent, "About.title"), mStart(Clock::instance().now())
 {
 }

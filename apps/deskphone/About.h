@@ -9,7 +9,7 @@ namespace deskphone {
 /// What this telephone is and how long it has been running; that row renews itself every second.
 class About : public Screen {
 public:
-    About(Telephone& telephone, Screen* parent);
+    About(Telephone& telephone, Place* parent);
 
     void stopWorking() override;
 

@@ -38,7 +38,7 @@ Call::Call(Telephone& telephone, StatusLines& status, CallHistory& history)
 {
 }
 
-void Call::begin(Screen& from, const std::string& party, const std::string& number)
+void Call::begin(Place& from, const std::string& party, const std::string& number)
 {
     setParent(&from);
     mStart = Clock::instance().now();

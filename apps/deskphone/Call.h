@@ -15,7 +15,7 @@ public:
     Call(Telephone& telephone, StatusLines& status, CallHistory& history);
 
     /// Calls `party` and goes back to `from` afterwards.
-    void begin(Screen& from, const std::string& party, const std::string& number);
+    void begin(Place& from, const std::string& party, const std::string& number);
 
 private:
     void build() override;

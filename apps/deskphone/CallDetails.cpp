@@ -19,7 +19,7 @@ CallDetails::CallDetails(Telephone& telephone, Call& call)
 {
 }
 
-void CallDetails::show(Screen& from, const PastCall& past)
+void CallDetails::show(Place& from, const PastCall& past)
 {
     setParent(&from);
     list().clear();

@@ -15,7 +15,7 @@ public:
     CallDetails(Telephone& telephone, Call& call);
 
     /// Goes back to `from` afterwards. The call lives as long as this.
-    void show(Screen& from, const PastCall& past);
+    void show(Place& from, const PastCall& past);
 
 private:
     void build() override {}

@@ -12,7 +12,7 @@
 
 namespace deskphone {
 
-CallLog::CallLog(Telephone& telephone, Screen* parent, const std::string& title, std::optional<PastCall::Kind> kind,
+CallLog::CallLog(Telephone& telephone, Place* parent, const std::string& title, std::optional<PastCall::Kind> kind,
                  CallHistory& history, Call& call, CallDetails& details)
     : Screen(telephone, parent, title), mKind(kind), mHistory(history), mCall(call)
 {

@@ -16,7 +16,7 @@ class CallDetails;
 class CallLog : public Screen {
 public:
     /// Without a `kind` it shows all.
-    CallLog(Telephone& telephone, Screen* parent, const std::string& title, std::optional<PastCall::Kind> kind,
+    CallLog(Telephone& telephone, Place* parent, const std::string& title, std::optional<PastCall::Kind> kind,
             CallHistory& history, Call& call, CallDetails& details);
 
 private:

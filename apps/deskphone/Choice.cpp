@@ -5,7 +5,7 @@
 
 namespace deskphone {
 
-Choice::Choice(Telephone& telephone, Screen* parent, const std::string& name, const std::vector<std::string>& values,
+Choice::Choice(Telephone& telephone, Place* parent, const std::string& name, const std::vector<std::string>& values,
                Values kind, Effect effect)
     : Screen(telephone, parent, name + ".title", std::make_unique<DisplayAPI::ExclusiveList>()),
       mSummary(text(name, {[this] { return chosenValue(); }})), mSaved(text("Status.saved")), mEffect(std::move(effect))

@@ -18,7 +18,7 @@ public:
     using Effect = std::function<std::string(std::size_t)>;
 
     /// `name` is the key of the setting's text, "Ring tone: %1", and with ".title" behind it that of its title.
-    Choice(Telephone& telephone, Screen* parent, const std::string& name, const std::vector<std::string>& values,
+    Choice(Telephone& telephone, Place* parent, const std::string& name, const std::vector<std::string>& values,
            Values kind, Effect effect);
 
     /// "Ring tone: Classic"

@@ -6,7 +6,7 @@
 
 namespace deskphone {
 
-ContactCard::ContactCard(Telephone& telephone, Screen* parent, Call& call)
+ContactCard::ContactCard(Telephone& telephone, Place* parent, Call& call)
     : Screen(telephone, parent, "Contacts.title"), mCall(call)
 {
 }

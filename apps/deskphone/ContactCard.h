@@ -9,7 +9,7 @@ class Call;
 /// One entry of the phone book, filled anew for each. Choosing a row calls it.
 class ContactCard : public Screen {
 public:
-    ContactCard(Telephone& telephone, Screen* parent, Call& call);
+    ContactCard(Telephone& telephone, Place* parent, Call& call);
 
     void show(int entry);
 

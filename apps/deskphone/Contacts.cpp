@@ -10,7 +10,7 @@
 
 namespace deskphone {
 
-Contacts::Contacts(Telephone& telephone, Screen* parent, Call& call)
+Contacts::Contacts(Telephone& telephone, Place* parent, Call& call)
     : Screen(telephone, parent, "Contacts.title"), mCard(telephone, this, call), mCall(call),
       mEntries(static_cast<std::size_t>(PhoneBook::size()))
 {

@@ -12,7 +12,7 @@ class Call;
 /// Everybody in the phone book. Choosing one shows the card.
 class Contacts : public Screen {
 public:
-    Contacts(Telephone& telephone, Screen* parent, Call& call);
+    Contacts(Telephone& telephone, Place* parent, Call& call);
 
     ContactCard& card() { return mCard; }
 

@@ -61,16 +61,16 @@ void Desk::open()
 
 void Desk::close()
 {
-    for (Screen* screen : screens())
-        screen->stopListening();
-    for (Screen* screen : screens())
-        screen->stopWorking();
+    for (Place* place : places())
+        place->stopListening();
+    for (Place* place : places())
+        place->stopWorking();
 }
 
-std::vector<Screen*> Desk::screens()
+std::vector<Place*> Desk::places()
 {
-    std::vector<Screen*> all = {&mMainMenu, &mCallLogs,        &mMissed, &mReceived, &mDialled, &mContacts,
-                                &mSettings, &mContacts.card(), &mAbout,  &mCall,     &mDetails};
+    std::vector<Place*> all = {&mMainMenu, &mCallLogs,        &mMissed, &mReceived, &mDialled, &mContacts,
+                               &mSettings, &mContacts.card(), &mAbout,  &mCall,     &mDetails};
     for (Choice* choice : mSettings.choices())
         all.push_back(choice);
     return all;

@@ -31,7 +31,7 @@ public:
 
 private:
     void close();
-    std::vector<Screen*> screens();
+    std::vector<Place*> places();
 
     Telephone mTelephone;
     std::string mComplaint; ///< about the first language

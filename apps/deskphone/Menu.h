@@ -15,7 +15,7 @@ class Menu : public Screen {
 public:
     struct Entry {
         std::string text; ///< its key
-        Screen* target;
+        Place* target;
     };
 
     using Screen::Screen;

@@ -19,19 +19,19 @@ namespace kit = DisplayAPI::kit;
 
 namespace {
 
-kit::WayBack wayBackTo(const Screen* parent)
+kit::WayBack wayBackTo(const Place* parent)
 {
     return parent != nullptr ? kit::WayBack::EVERYWHERE : kit::WayBack::NOWHERE;
 }
 
 } // namespace
 
-Screen::Screen(Telephone& telephone, Screen* parent, const std::string& title)
+Screen::Screen(Telephone& telephone, Place* parent, const std::string& title)
     : Screen(telephone, parent, title, std::make_unique<List>(kit::listType(wayBackTo(parent))))
 {
 }
 
-Screen::Screen(Telephone& telephone, Screen* parent, const std::string& title, std::unique_ptr<List> list)
+Screen::Screen(Telephone& telephone, Place* parent, const std::string& title, std::unique_ptr<List> list)
     : mTelephone(telephone), mParent(parent), mList(std::move(list)),
       mCommands(*mList, [this](Command* command) { answer(command); })
 {

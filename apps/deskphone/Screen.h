@@ -1,6 +1,7 @@
 #pragma once
 
 #include "apps/deskphone/Dialer.h"
+#include "apps/deskphone/Place.h"
 #include "apps/deskphone/RowMenu.h"
 #include "kit/Subscription.h"
 #include "kit/Text.h"
@@ -28,31 +29,25 @@ class Telephone;
 /// One screen of the telephone: a list, the thread that fills it, and what happens when the user chooses a row.
 ///
 /// Make and delete screens on the GUI thread. They answer the user on a thread of the library's.
-class Screen {
+class Screen : public Place {
 public:
     /// `parent` is where left leads back to; null for the first screen. `title` is the key of a text.
-    Screen(Telephone& telephone, Screen* parent, const std::string& title);
-    Screen(const Screen&) = delete;
-    Screen& operator=(const Screen&) = delete;
-    virtual ~Screen();
+    Screen(Telephone& telephone, Place* parent, const std::string& title);
+    ~Screen() override;
 
-    /// Shows the screen. The first time a thread of its own begins to fill it.
-    void open();
-
-    /// The user's commands are not heard after this. Not on the GUI thread.
-    void stopListening();
-
-    /// Ends the thread that fills the screen. Not on the GUI thread, which the other one may be waiting for.
-    virtual void stopWorking();
+    /// The first time a thread of its own begins to fill it.
+    void open() override;
+    void stopListening() override;
+    void stopWorking() override;
 
 protected:
     /// For screens with another kind of list.
-    Screen(Telephone& telephone, Screen* parent, const std::string& title, std::unique_ptr<DisplayAPI::List> list);
+    Screen(Telephone& telephone, Place* parent, const std::string& title, std::unique_ptr<DisplayAPI::List> list);
 
     Telephone& telephone() { return mTelephone; }
     DisplayAPI::List& list() { return *mList; }
-    Screen* parent() { return mParent; }
-    void setParent(Screen* parent) { mParent = parent; }
+    Place* parent() { return mParent; }
+    void setParent(Place* parent) { mParent = parent; }
 
     /// A text that lives as long as the screen. In the constructor, or on the thread that fills the screen.
     Text& text(const std::string& key, std::vector<Text::Argument> arguments = {});
@@ -82,7 +77,7 @@ private:
     void answer(DisplayAPI::Command* command);
 
     Telephone& mTelephone;
-    Screen* mParent;
+    Place* mParent;
     std::deque<Text> mTexts;         ///< before the list, whose rows show them
     std::unique_ptr<Dialer> mDialer; ///< before the list that opens it
     std::unique_ptr<DisplayAPI::List> mList;

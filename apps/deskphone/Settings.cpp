@@ -29,7 +29,7 @@ std::vector<std::string> namesOf(const std::vector<host::Language>& languages)
 
 } // namespace
 
-Settings::Settings(Telephone& telephone, Screen* parent)
+Settings::Settings(Telephone& telephone, Place* parent)
     : Screen(telephone, parent, "Settings.title"), mLanguages(telephone.languages().available()),
       mLanguage(telephone, this, "Settings.language", namesOf(mLanguages), AS_THEY_ARE,
                 [this](std::size_t value) { return useLanguage(value); }),

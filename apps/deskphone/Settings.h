@@ -12,7 +12,7 @@ namespace deskphone {
 /// The settings with their values. Choosing one leads to its possible values.
 class Settings : public Screen {
 public:
-    Settings(Telephone& telephone, Screen* parent);
+    Settings(Telephone& telephone, Place* parent);
 
     std::array<Choice*, 5> choices() { return {&mLanguage, &mRingTone, &mBrightness, &mDateFormat, &mTimeFormat}; }
 
