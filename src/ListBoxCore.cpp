@@ -28,6 +28,7 @@ ListBoxCore::ListBoxCore(DisplayablePrivate& self, Displayable* owner, WatchedWi
     if (back == Back::NONE)
         mCommands.back = nullptr;
     mBox->setMessageTarget(this);
+    mBox->setTellsLeft(back != Back::NONE);
     mBox->setBackArrow(back == Back::KEY);
     if (back == Back::KEY_AND_ROW) {
         mBackRow = std::make_unique<KestrelListBoxItem>(ICC::fromUTF8toUNICODE(BACK_ROW_TEXT));

@@ -12,9 +12,9 @@ class KestrelListBoxItem;
 /// A column of rows of which one is current, with the keys to move through it. GUI thread only.
 ///
 /// The message target is told what the user does: PM_CURRENT_CHANGED, PM_CLICKED (OK), PM_LEFT, PM_RIGHT.
-/// Up and down stop at the ends, where the key goes on to the parent. Ownership: rows belong to whoever appended them.
-/// Rows may differ in height; the list shows as many whole ones as it has room for, at least one.
-/// Cost: append, row access, scrolling and painting do not depend on the number of rows.
+/// Up and down stop at the ends, where the key goes on to the parent, as OK and right do where there are no rows.
+/// Ownership: rows belong to whoever appended them. Rows may differ in height; the list shows as many whole ones as it
+/// has room for, at least one. Cost: append, row access, scrolling and painting do not depend on the number of rows.
 class KestrelListBox : public PegThing {
 public:
     ~KestrelListBox() override;
@@ -29,6 +29,10 @@ public:
     /// Whether digits, star and hash that the current row has no use for are the target's, as PM_KEY, and not the
     /// parent's. They are not at first.
     void setTellsKeypad(bool on);
+
+    /// Whether left that the current row has no use for is the target's, as PM_LEFT, and not the parent's. It is at
+    /// first.
+    void setTellsLeft(bool on);
 
     int numItems() const;
     KestrelListBoxItem* itemAt(int row) const;       ///< null outside 0 to numItems() - 1

@@ -46,6 +46,11 @@ void KestrelListBox::setTellsKeypad(bool on)
     mImpl->tellsKeypad = on;
 }
 
+void KestrelListBox::setTellsLeft(bool on)
+{
+    mImpl->tellsLeft = on;
+}
+
 int KestrelListBox::numItems() const
 {
     return mImpl->rows.size();

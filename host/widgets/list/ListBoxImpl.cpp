@@ -85,9 +85,9 @@ bool KestrelListBox::Impl::key(int key)
     switch (key) {
     case PK_UP: return step(-1);
     case PK_DOWN: return step(1);
-    case PK_LEFT: tell(PM_LEFT, current); return true;
-    case PK_RIGHT: tellIfRow(PM_RIGHT); return true;
-    case PK_OK: tellIfRow(PM_CLICKED); return true;
+    case PK_LEFT: return tellLeft();
+    case PK_RIGHT: return tellIfRow(PM_RIGHT);
+    case PK_OK: return tellIfRow(PM_CLICKED);
     default: return tellIfTyped(key);
     }
 }
@@ -111,10 +111,20 @@ bool KestrelListBox::Impl::step(int by)
     return true;
 }
 
-void KestrelListBox::Impl::tellIfRow(std::uint16_t type)
+bool KestrelListBox::Impl::tellLeft()
 {
-    if (current >= 0)
+    const bool isTold = tellsLeft; // the target may delete the list
+    if (isTold)
+        tell(PM_LEFT, current);
+    return isTold;
+}
+
+bool KestrelListBox::Impl::tellIfRow(std::uint16_t type)
+{
+    const bool isTold = current >= 0;
+    if (isTold)
         tell(type, current);
+    return isTold;
 }
 
 /// The last thing that a handler does: the target may delete the list.

@@ -32,7 +32,8 @@ struct KestrelListBox::Impl final : host::StatusTimeView {
     bool tellIfTyped(int key);
     bool step(int by);
     void tell(std::uint16_t type, int data);
-    void tellIfRow(std::uint16_t type);
+    bool tellLeft();
+    bool tellIfRow(std::uint16_t type);
 
     /// After each change: keeps the current row in view, and repaints what looks different.
     void update();
@@ -64,6 +65,7 @@ struct KestrelListBox::Impl final : host::StatusTimeView {
     int lastTop = 0; ///< that of a view that ends with the last row
     bool highlight = true;
     bool tellsKeypad = false;
+    bool tellsLeft = true;
     bool active = true;
     bool back = false;
     bool exclusive = false;

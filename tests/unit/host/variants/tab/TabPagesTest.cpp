@@ -6,6 +6,7 @@
 #include "unit/host/variants/tab/TabScreenVariantTest.h"
 
 using namespace DisplayAPI;
+using testing::ElementsAre;
 
 namespace {
 
@@ -111,6 +112,37 @@ TEST_P(TabPagesTest, EmptyTabGivesTheKeysToTheBar)
     expectInBar();
     press(PK_LEFT);
     EXPECT_EQ(tabs->getCurrentTabIndex(), 1);
+}
+
+TEST_P(TabPagesTest, LeftIsTheBarsWhereThePageHasNoWayBack)
+{
+    open();
+    tabs->setCurrentTabIndex(1);
+    press(PK_LEFT);
+    expectInPage(*all);
+    press(PK_LEFT);
+    EXPECT_THAT(raised, ElementsAre(TabScreen::TABBACK_COMMAND(), TabScreen::BACK_COMMAND()));
+}
+
+TEST_P(TabPagesTest, LeftIsThePagesWhereItHasAWayBack)
+{
+    List dialled(3);
+    dialled.addCommandListener(&listener);
+    tabs->addTab("Dialled", &dialled, true);
+    open();
+    press(PK_LEFT);
+    EXPECT_EQ(tabs->currentTab(), &dialled);
+    EXPECT_THAT(raised, ElementsAre(List::BACK_COMMAND()));
+}
+
+TEST_P(TabPagesTest, RightIsTheBarsWhereThePageHasNoRows)
+{
+    open();
+    press(PK_RIGHT);
+    EXPECT_EQ(tabs->currentTab(), all.get());
+    all->clear();
+    press(PK_RIGHT);
+    EXPECT_EQ(tabs->currentTab(), missed.get());
 }
 
 TEST_P(TabPagesTest, AnotherPageTakesThePlaceOfTheCurrentOne)

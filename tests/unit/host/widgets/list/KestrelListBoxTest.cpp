@@ -206,11 +206,28 @@ TEST_F(KestrelListBoxTest, TellsWhatTheUserChooses)
     EXPECT_THAT(target.take(), ElementsAre(Pair(PM_CLICKED, 2), Pair(PM_RIGHT, 2), Pair(PM_LEFT, 2)));
 }
 
-TEST_F(KestrelListBoxTest, EmptyListOnlyGoesLeft)
+TEST_F(KestrelListBoxTest, EmptyListOnlyGoesLeftAndLeavesTheOtherKeysToTheParent)
 {
+    MessageNotes parent;
+    parent.Add(list.get());
     for (int key : {PK_UP, PK_DOWN, PK_OK, PK_RIGHT, PK_LEFT})
         press(key);
     EXPECT_THAT(target.take(), ElementsAre(Pair(PM_LEFT, -1)));
+    EXPECT_THAT(parent.take(),
+                ElementsAre(Pair(PM_KEY, PK_UP), Pair(PM_KEY, PK_DOWN), Pair(PM_KEY, PK_OK), Pair(PM_KEY, PK_RIGHT)));
+    parent.Remove(list.get());
+}
+
+TEST_F(KestrelListBoxTest, LeftGoesToTheParentWhereAskedFor)
+{
+    MessageNotes parent;
+    parent.Add(list.get());
+    rows.append(*list, "ab");
+    list->setTellsLeft(false);
+    press(PK_LEFT);
+    EXPECT_THAT(target.take(), IsEmpty());
+    EXPECT_THAT(parent.take(), ElementsAre(Pair(PM_KEY, PK_LEFT)));
+    parent.Remove(list.get());
 }
 
 TEST_F(KestrelListBoxTest, WithoutTargetKeysOnlyMove)
