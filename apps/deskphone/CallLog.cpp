@@ -1,7 +1,9 @@
 #include "apps/deskphone/CallLog.h"
 
+#include "DisplayAPI/Display.h"
 #include "DisplayAPI/List.h"
 #include "DisplayAPI/ListItem.h"
+#include "DisplayAPI/TabScreen.h"
 #include "apps/deskphone/Call.h"
 #include "apps/deskphone/CallDetails.h"
 #include "apps/deskphone/Moment.h"
@@ -12,10 +14,17 @@
 
 namespace deskphone {
 
-CallLog::CallLog(Telephone& telephone, Place* parent, const std::string& title, std::optional<PastCall::Kind> kind,
-                 CallHistory& history, Call& call, CallDetails& details)
-    : Screen(telephone, parent, title), mKind(kind), mHistory(history), mCall(call)
+namespace {
+
+const std::string WITHOUT_TITLE; // the tab has it
+
+} // namespace
+
+CallLog::CallLog(Telephone& telephone, DisplayAPI::TabScreen& tabs, const std::string& title,
+                 std::optional<PastCall::Kind> kind, CallHistory& history, Call& call, CallDetails& details)
+    : Screen(telephone, nullptr, WITHOUT_TITLE), mTabs(tabs), mKind(kind), mHistory(history), mCall(call)
 {
+    tabs.addTab(text(title).info(), &list(), false);
     setDialer(call);
     setRowMenu({{"Row.call", [this](int row) { chosen(row); }},
                 {"Row.details", [this, &details](int row) { details.show(*this, callAt(row)); }},
@@ -25,6 +34,17 @@ CallLog::CallLog(Telephone& telephone, Place* parent, const std::string& title, 
         if (shows(past))
             list().append(mRows.emplace_back(Row{&past, makeItem(past)}).item);
     history.addListener([this](PastCall& past) { added(past); }, [this](PastCall& past) { forgotten(past); });
+}
+
+void CallLog::show()
+{
+    mTabs.setCurrentTabIndex(mTabs.getIndexForTab(&list()));
+    telephone().display().setCurrent(&mTabs);
+}
+
+bool CallLog::isShown()
+{
+    return telephone().display().getCurrent() == &mTabs && mTabs.currentTab() == &list();
 }
 
 void CallLog::chosen(int row)

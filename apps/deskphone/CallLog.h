@@ -6,18 +6,22 @@
 #include <deque>
 #include <optional>
 
+namespace DisplayAPI {
+class TabScreen;
+}
+
 namespace deskphone {
 
 class Call;
 class CallDetails;
 
-/// Calls of one kind or of all, the latest first: those of today with their time, others with their date. Choosing one
-/// calls back.
+/// Calls of one kind or of all, the latest first: those of today with their time, others with their date. It is a page
+/// of a tab screen. Choosing a call calls back.
 class CallLog : public Screen {
 public:
-    /// Without a `kind` it shows all.
-    CallLog(Telephone& telephone, Place* parent, const std::string& title, std::optional<PastCall::Kind> kind,
-            CallHistory& history, Call& call, CallDetails& details);
+    /// Appends itself to `tabs`, which goes first. `title` is the tab's; without a `kind` all calls are shown.
+    CallLog(Telephone& telephone, DisplayAPI::TabScreen& tabs, const std::string& title,
+            std::optional<PastCall::Kind> kind, CallHistory& history, Call& call, CallDetails& details);
 
 private:
     struct Row {
@@ -25,6 +29,8 @@ private:
         DisplayAPI::ListItem* item;
     };
 
+    void show() override;
+    bool isShown() override;
     void build() override {}
     void chosen(int row) override;
 
@@ -34,6 +40,7 @@ private:
     void added(PastCall& call);
     void forgotten(const PastCall& call);
 
+    DisplayAPI::TabScreen& mTabs;
     std::optional<PastCall::Kind> mKind;
     CallHistory& mHistory;
     Call& mCall;

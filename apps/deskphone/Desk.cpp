@@ -30,19 +30,14 @@ Desk::Desk(DisplayAPI::Display& display, const std::string& language)
     : mTelephone(display), mComplaint(mTelephone.useLanguage(language)), mStatus(mTelephone),
       mNewsText(&mTelephone.languages(), "News.ticker"), mNews(mNewsText.get()), mHistory(recentCalls()),
       mCall(mTelephone, mStatus, mHistory), mDetails(mTelephone, mCall), mMainMenu(mTelephone, nullptr, "Menu.title"),
-      mCallLogs(mTelephone, &mMainMenu, "Call.log.title"),
-      mMissed(mTelephone, &mCallLogs, "Call.log.missed.title", MISSED, mHistory, mCall, mDetails),
-      mReceived(mTelephone, &mCallLogs, "Call.log.received.title", RECEIVED, mHistory, mCall, mDetails),
-      mDialled(mTelephone, &mCallLogs, "Call.log.dialled.title", DIALLED, mHistory, mCall, mDetails),
-      mContacts(mTelephone, &mMainMenu, mCall), mSettings(mTelephone, &mMainMenu), mAbout(mTelephone, &mMainMenu)
+      mCallLogs(mTelephone, mMainMenu, mHistory, mCall, mDetails), mContacts(mTelephone, &mMainMenu, mCall),
+      mSettings(mTelephone, &mMainMenu), mAbout(mTelephone, &mMainMenu)
 {
     mMainMenu.setEntries({{"Menu.call.log", &mCallLogs},
                           {"Menu.contacts", &mContacts},
                           {"Menu.settings", &mSettings},
                           {"Menu.about", &mAbout}});
     mMainMenu.setTicker(mNews);
-    mCallLogs.setEntries(
-        {{"Call.log.missed", &mMissed}, {"Call.log.received", &mReceived}, {"Call.log.dialled", &mDialled}});
     mTelephone.addLanguageListener([this] { mNews.setText(mNewsText.get()); });
 }
 
@@ -69,8 +64,8 @@ void Desk::close()
 
 std::vector<Place*> Desk::places()
 {
-    std::vector<Place*> all = {&mMainMenu, &mCallLogs,        &mMissed, &mReceived, &mDialled, &mContacts,
-                               &mSettings, &mContacts.card(), &mAbout,  &mCall,     &mDetails};
+    std::vector<Place*> all = {&mMainMenu,        &mCallLogs, &mContacts, &mSettings,
+                               &mContacts.card(), &mAbout,    &mCall,     &mDetails};
     for (Choice* choice : mSettings.choices())
         all.push_back(choice);
     return all;

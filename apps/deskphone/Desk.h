@@ -5,7 +5,7 @@
 #include "apps/deskphone/Call.h"
 #include "apps/deskphone/CallDetails.h"
 #include "apps/deskphone/CallHistory.h"
-#include "apps/deskphone/CallLog.h"
+#include "apps/deskphone/CallLogs.h"
 #include "apps/deskphone/Contacts.h"
 #include "apps/deskphone/Menu.h"
 #include "apps/deskphone/Settings.h"
@@ -42,10 +42,7 @@ private:
     Call mCall;
     CallDetails mDetails;
     Menu mMainMenu;
-    Menu mCallLogs;
-    CallLog mMissed;
-    CallLog mReceived;
-    CallLog mDialled;
+    CallLogs mCallLogs;
     Contacts mContacts;
     Settings mSettings;
     About mAbout;

@@ -35,7 +35,8 @@ Screen::Screen(Telephone& telephone, Place* parent, const std::string& title, st
     : mTelephone(telephone), mParent(parent), mList(std::move(list)),
       mCommands(*mList, [this](Command* command) { answer(command); })
 {
-    mList->setTitle(text(title).info());
+    if (!title.empty())
+        mList->setTitle(text(title).info());
 }
 
 Screen::~Screen() = default;
@@ -43,7 +44,17 @@ Screen::~Screen() = default;
 void Screen::open()
 {
     std::call_once(mIsBuilt, [this] { mBuilder = std::thread([this] { build(); }); });
+    show();
+}
+
+void Screen::show()
+{
     mTelephone.display().setCurrent(mList.get());
+}
+
+bool Screen::isShown()
+{
+    return mTelephone.display().getCurrent() == mList.get();
 }
 
 void Screen::stopListening()
@@ -64,7 +75,7 @@ void Screen::stopWorking()
 /// Commands arrive later than they are raised: what the user did to a screen that has been left meanwhile is void.
 void Screen::answer(Command* command)
 {
-    if (mTelephone.display().getCurrent() != mList.get())
+    if (!isShown())
         return;
     if (command == List::BACK_COMMAND() && mParent != nullptr) {
         left();

@@ -31,7 +31,8 @@ class Telephone;
 /// Make and delete screens on the GUI thread. They answer the user on a thread of the library's.
 class Screen : public Place {
 public:
-    /// `parent` is where left leads back to; null for the first screen. `title` is the key of a text.
+    /// `parent` is where left leads back to; null where it does not. `title` is the key of a text; without one there is
+    /// none.
     Screen(Telephone& telephone, Place* parent, const std::string& title);
     ~Screen() override;
 
@@ -65,6 +66,10 @@ protected:
     void setDialer(Call& call);
 
 private:
+    /// Brings it to the display, and whether the user is there. A page of a tab screen is in its tab.
+    virtual void show();
+    virtual bool isShown();
+
     /// Fills the list. On the screen's own thread.
     virtual void build() = 0;
 

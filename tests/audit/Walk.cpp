@@ -10,7 +10,8 @@ namespace audit {
 
 namespace {
 
-/// A list remembers its row: up again, however many rows it has. A menu begins with the first one, and goes round.
+/// A list remembers its row: up again, however many rows it has, and in a tab on to the bar. A menu begins with the
+/// first one, and goes round.
 const std::string FIRST_ROW = "hold up 1000\n";
 
 /// Longer than a message stays.
@@ -18,6 +19,8 @@ const std::string NO_MESSAGE = "wait 3000\n";
 
 /// The first setting of the third row of the main menu.
 const std::string LANGUAGES = FIRST_ROW + "key down\nkey down\nkey ok\n" + FIRST_ROW + "key ok\n" + FIRST_ROW;
+
+constexpr int OTHER_TABS = 3;
 
 const std::string CONTACTS = FIRST_ROW + "key down\nkey ok\n" + FIRST_ROW;
 
@@ -43,18 +46,27 @@ Step toStep(const std::string& word)
     return {std::stoi(word.substr(0, colon)), word.substr(colon + 1)};
 }
 
-std::string visit(const Screen& screen)
+std::string nameOf(const std::string& key, bool fromTheRight)
+{
+    if (key != "next")
+        return key;
+    return fromTheRight ? "left" : "right";
+}
+
+std::string visit(const Screen& screen, bool fromTheRight)
 {
     std::string script = NO_MESSAGE + FIRST_ROW;
     for (const Step& step : screen.path)
-        script += repeated(step.row, "key down\n") + "key " + step.key + '\n' + (step.key == "ok" ? FIRST_ROW : "");
+        script += repeated(step.row, "key down\n") + "key " + nameOf(step.key, fromTheRight) + '\n' +
+                  (step.key == "ok" ? FIRST_ROW : "");
     script += dump(screen.name);
     for (int row = 1; row < screen.rows; ++row)
         script += "key down\n" + dump(screen.name + '.' + std::to_string(row));
     if (!screen.path.empty())
         script += "key left\n" + dump("from-" + screen.name);
-    // One more than there are steps: in a dialer the first one takes back what has been typed.
-    return script + repeated(static_cast<int>(screen.path.size()), "key left\n");
+    // More than there are steps: in a dialer the first one takes back what has been typed, and from a tab left may lead
+    // through all the others.
+    return script + repeated(static_cast<int>(screen.path.size()) + OTHER_TABS, "key left\n");
 }
 
 } // namespace
@@ -74,12 +86,12 @@ std::vector<Screen> readScreens(const std::string& fileName)
     return screens;
 }
 
-std::string scriptThrough(const std::vector<Screen>& screens, int language)
+std::string scriptThrough(const std::vector<Screen>& screens, int language, bool fromTheRight)
 {
     std::string script =
         LANGUAGES + repeated(language, "key down\n") + "key ok\n" + dump("language-chosen") + "key left\n";
     for (const Screen& screen : screens)
-        script += visit(screen);
+        script += visit(screen, fromTheRight);
     return script;
 }
 

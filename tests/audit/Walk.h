@@ -6,7 +6,8 @@
 
 namespace audit {
 
-/// A step on the way to a screen: the row that is chosen, or where another key than OK is pressed on it.
+/// A step on the way to a screen: the row that is chosen, or where another key than OK is pressed on it. "next" is the
+/// key that goes to the next tab.
 struct Step {
     int row = 0;
     std::string key = "ok";
@@ -24,8 +25,8 @@ std::vector<Screen> readScreens(const std::string& fileName);
 
 /// A script that chooses the language in row `language` of the settings, and writes what each screen shows with each
 /// row selected, and what the screen shows that it is left for, as NAME.json, NAME.1.json and so on, and
-/// from-NAME.json.
-std::string scriptThrough(const std::vector<Screen>& screens, int language);
+/// from-NAME.json. Where the language is read `fromTheRight`, the next tab stands to the left.
+std::string scriptThrough(const std::vector<Screen>& screens, int language, bool fromTheRight);
 
 /// A number from 1 on; throws where `text` is none.
 int toContacts(std::string_view text);

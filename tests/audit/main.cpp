@@ -83,6 +83,12 @@ void lookForUnseen(const std::string& language, const std::string& panel, Findin
             findings.faults.push_back({"unseen", language, panel, key, languages.translate(key)});
 }
 
+bool isReadFromTheRight(const std::string& language)
+{
+    static const std::set<std::string> CODES{"ar", "fa", "he", "ur"};
+    return CODES.contains(language);
+}
+
 std::vector<Fault> auditLanguages(const Arguments& arguments)
 {
     std::vector<Fault> faults;
@@ -91,7 +97,8 @@ std::vector<Fault> auditLanguages(const Arguments& arguments)
     for (std::size_t row = 0; row < languages.size(); ++row) {
         const std::string& language = languages[row].code;
         Findings findings;
-        runScript(arguments, arguments.out / language, scriptThrough(screens, static_cast<int>(row)));
+        runScript(arguments, arguments.out / language,
+                  scriptThrough(screens, static_cast<int>(row), isReadFromTheRight(language)));
         lookAtAll(arguments.out / language, language, arguments.panel, findings);
         lookForUnseen(language, arguments.panel, findings);
         faults.insert(faults.end(), findings.faults.begin(), findings.faults.end());

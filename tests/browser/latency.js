@@ -47,7 +47,7 @@ try {
   const tab = await Tab.open(browser, phone.url);
   await tab.selects("Call log");
   await tab.page.keyboard.press("Enter");
-  await tab.selects("Missed");
+  await tab.shows("Missed");
   const second = await levelsWith(tab, "ArrowDown");
   const first = await levelsWith(tab, "ArrowUp");
   await tab.page.evaluate(watch, [first, second]);

@@ -56,10 +56,8 @@ describe("the page", SUITE_LIMIT, () => {
   });
 
   test("a key that comes with another one leaves no call behind that nobody can end", LIMIT, async () => {
-    for (const shown of ["Missed", "Ελένη Ιωάννου"]) {
-      await tab.button("ok").click();
-      await tab.shows(shown);
-    }
+    await tab.button("ok").click();
+    await tab.shows("Ελένη Ιωάννου");
     for (let round = 0; round < 5; ++round) {
       await tab.page.evaluate(() => {
         for (const key of ["Enter", "ArrowLeft"])
@@ -69,7 +67,7 @@ describe("the page", SUITE_LIMIT, () => {
       // Left may come to the call, which it ends, or to the screen before, which has been left.
       await new Promise((resolve) => setTimeout(resolve, 300));
       if ((await tab.rows()).includes("Hang up")) await tab.button("ok").click();
-      await tab.shows("Missed calls");
+      await tab.shows("Missed");
       assert.match((await tab.rows())[0], /^Line 1  \d\d:\d\d$/);
     }
   });

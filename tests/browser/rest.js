@@ -36,7 +36,7 @@ try {
   await tab.selects("Call log");
   await measure(phone.applicationPid, "main menu, clock and ticker");
   await tab.page.keyboard.press("Enter");
-  await tab.selects("Missed");
+  await tab.shows("Missed");
   await measure(phone.applicationPid, "call log, clock");
 } finally {
   await browser.close();

@@ -72,7 +72,7 @@ TEST(AuditWalk, VisitsEachScreenAndEachOfItsRows)
 {
     const auto screens = audit::readScreens(fileWith("# a comment\nlog 2 1 0\n"));
     ASSERT_EQ(screens.size(), 1u);
-    EXPECT_THAT(audit::scriptThrough(screens, 2),
+    EXPECT_THAT(audit::scriptThrough(screens, 2, false),
                 HasSubstr("key down\nkey ok\nhold up 1000\nkey ok\nhold up 1000\ndump --json log.json\nkey down\n"
                           "dump --json log.1.json\nkey left\ndump --json from-log.json\nkey left\n"));
 }
@@ -81,8 +81,16 @@ TEST(AuditWalk, AnotherKeyThanOkLeavesTheSelectionAlone)
 {
     const auto screens = audit::readScreens(fileWith("menu 1 0 1:right\n"));
     ASSERT_EQ(screens.size(), 1u);
-    EXPECT_THAT(audit::scriptThrough(screens, 0),
+    EXPECT_THAT(audit::scriptThrough(screens, 0, false),
                 HasSubstr("key ok\nhold up 1000\nkey down\nkey right\ndump --json menu.json\nkey left\n"));
+}
+
+TEST(AuditWalk, NextTabStandsWhereTheLanguageGoesOn)
+{
+    const auto screens = audit::readScreens(fileWith("tab 1 0 0:next 1\n"));
+    ASSERT_EQ(screens.size(), 1u);
+    EXPECT_THAT(audit::scriptThrough(screens, 0, false), HasSubstr("key right\nkey down\nkey ok\n"));
+    EXPECT_THAT(audit::scriptThrough(screens, 0, true), HasSubstr("key left\nkey down\nkey ok\n"));
 }
 
 TEST(AuditWalk, NumberOfContactsIsAPositiveNumber)

@@ -1,0 +1,66 @@
+#include "apps/deskphone/CallLogs.h"
+
+#include "DisplayAPI/Command.h"
+#include "DisplayAPI/Display.h"
+#include "apps/deskphone/Telephone.h"
+
+#include <array>
+#include <optional>
+#include <string>
+#include <utility>
+
+namespace deskphone {
+
+using DisplayAPI::Command;
+using DisplayAPI::TabScreen;
+
+namespace {
+
+using enum PastCall::Kind;
+
+const std::array<std::pair<std::string, std::optional<PastCall::Kind>>, 4> PAGES{{{"Call.log.all", {}},
+                                                                                  {"Call.log.missed", MISSED},
+                                                                                  {"Call.log.received", RECEIVED},
+                                                                                  {"Call.log.dialled", DIALLED}}};
+
+constexpr bool HAS_WAY_BACK = true;
+
+} // namespace
+
+CallLogs::CallLogs(Telephone& telephone, Place& parent, CallHistory& history, Call& call, CallDetails& details)
+    : mTelephone(telephone), mParent(parent), mTabs(TabScreen::CALLS, HAS_WAY_BACK),
+      mCommands(mTabs, [this](Command* command) {
+          if (command == TabScreen::BACK_COMMAND())
+              goBack();
+      })
+{
+    for (const auto& [title, kind] : PAGES)
+        mPages.emplace_back(telephone, mTabs, title, kind, history, call, details);
+}
+
+void CallLogs::open()
+{
+    mPages.front().open();
+}
+
+void CallLogs::stopListening()
+{
+    mCommands.end();
+    for (CallLog& page : mPages)
+        page.stopListening();
+}
+
+void CallLogs::stopWorking()
+{
+    for (CallLog& page : mPages)
+        page.stopWorking();
+}
+
+/// Commands arrive later than they are raised: the user may be elsewhere.
+void CallLogs::goBack()
+{
+    if (mTelephone.display().getCurrent() == &mTabs)
+        mParent.open();
+}
+
+} // namespace deskphone

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "DisplayAPI/TabScreen.h"
+#include "apps/deskphone/CallLog.h"
+#include "apps/deskphone/Place.h"
+#include "kit/Subscription.h"
+
+#include <deque>
+
+namespace deskphone {
+
+class Call;
+class CallDetails;
+class CallHistory;
+class Telephone;
+
+/// The call logs, one behind the other: all calls, those missed, received and dialled.
+class CallLogs : public Place {
+public:
+    CallLogs(Telephone& telephone, Place& parent, CallHistory& history, Call& call, CallDetails& details);
+
+    /// With all calls, whichever were shown last.
+    void open() override;
+    void stopListening() override;
+    void stopWorking() override;
+
+private:
+    void goBack();
+
+    Telephone& mTelephone;
+    Place& mParent;
+    std::deque<CallLog> mPages; ///< before the tabs, which show their titles
+    DisplayAPI::TabScreen mTabs;
+    DisplayAPI::kit::Subscription mCommands;
+};
+
+} // namespace deskphone
