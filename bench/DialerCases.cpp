@@ -8,7 +8,9 @@
 #include "DisplayAPI/PopupDialerPrivateIfc.h"
 #include "kit/OnGuiThread.h"
 
+#include <chrono>
 #include <cstdio>
+#include <thread>
 
 namespace bench {
 
@@ -37,10 +39,12 @@ public:
 
     DisplayAPI::PopupDialer& dialer() { return mDialer; }
 
+    /// The list has been on the screen for longer than a frame: a user does not open what he has just closed.
     double open()
     {
         mDialer.dismiss();
         waitUntilShown();
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
         const double spent = cpuToFrame(1, [](int) { return static_cast<PegKey>('4'); });
         if (mDialer.getLineEditText() != "4")
             std::fprintf(stderr, "benchmark broken: the dialer has not opened\n");
