@@ -33,6 +33,16 @@ void drawTree(PegThing& thing, const PegPainter& painter)
         drawTree(*child, own);
 }
 
+/// The topmost thing in the area, where it is a window that fills it: nothing below shows. Null where it is not.
+PegThing* coverOf(const PegRect& area)
+{
+    PegThing* topmost = nullptr;
+    for (PegThing* child = gpPresent->First(); child != nullptr; child = child->NextSibling())
+        if (overlap(child->Area(), area))
+            topmost = child;
+    return topmost != nullptr && topmost->Type() == TYPE_WINDOW && contains(topmost->Area(), area) ? topmost : nullptr;
+}
+
 PegRect focusArea()
 {
     const PegThing* focus = gpPresent == nullptr ? nullptr : gpPresent->Focus();
@@ -61,6 +71,9 @@ struct Lcd::Impl {
 void Lcd::Impl::paintArea(const PegRect& area)
 {
     PegPainter painter(buffer, texts, renderer, area);
+    PegThing* const cover = gpPresent != nullptr ? coverOf(area) : nullptr;
+    if (cover != nullptr)
+        return drawTree(*cover, painter);
     texts.forget(area);
     painter.fill(area, Level::BARE);
     if (gpPresent == nullptr)

@@ -67,7 +67,8 @@ public:
     int untilFrameDue() const;
 
     /// Paints what is dirty: from the presentation manager's bottom child to its top one, clipped to the dirty
-    /// rectangles. Then tells the frame listener. Nothing is done where nothing is dirty.
+    /// rectangles; a window on top that fills a rectangle is all that is painted there. Then tells the frame listener.
+    /// Nothing is done where nothing is dirty.
     void paint();
 
     /// How wide the text is when nothing of it is cut off; at most TextMask::MAX_WIDTH. GUI thread only.

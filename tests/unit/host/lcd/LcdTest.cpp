@@ -1,13 +1,18 @@
 #include "host/lcd/Lcd.h"
 
+#include "host/lcd/Geometry.h"
 #include "host/lcd/Painter.h"
 #include "presentation/PRESCPresentationManager.h"
 #include "support/RunningToolkit.h"
+#include "support/Seeds.h"
+#include "toolkit/PegWindow.h"
 #include "utilities/ICC.h"
 #include "widgets/SystemWindow.h"
 
 #include <chrono>
 #include <gmock/gmock.h>
+#include <memory>
+#include <random>
 #include <thread>
 
 using testing::Each;
@@ -160,6 +165,68 @@ TEST_F(LcdTest, TextShowsWhileItIsCoveredInPart)
     gpPresent->Add(&top);
     lcd.paint();
     EXPECT_THAT(texts(), ElementsAre("below"));
+}
+
+TEST_F(LcdTest, WhatAWindowCoversIsNotPainted)
+{
+    Patch below({0, 0, 239, 127}, Level::LIGHT, "below");
+    PegWindow window;
+    window.Resize({20, 0, 219, 127});
+    auto* const inside = new Patch({30, 0, 99, 127}, Level::DARK, "inside");
+    window.Add(inside);
+    gpPresent->Add(&below);
+    gpPresent->Add(&window);
+    lcd.paint();
+    below.clips.clear();
+    inside->clips.clear();
+    window.Invalidate();
+    lcd.paint();
+    EXPECT_THAT(below.clips, IsEmpty());
+    EXPECT_THAT(inside->clips, ElementsAre(inside->Area()));
+    EXPECT_THAT(texts(), ElementsAre("below", "inside"));
+}
+
+TEST_F(LcdTest, WhatIsAboveAWindowIsPainted)
+{
+    PegWindow window;
+    window.Resize({0, 0, 239, 127});
+    Patch above({10, 10, 99, 29}, Level::DARK, "above");
+    gpPresent->Add(&window);
+    gpPresent->Add(&above);
+    lcd.paint();
+    window.Invalidate();
+    lcd.paint();
+    EXPECT_THAT(texts(), ElementsAre("above"));
+    EXPECT_EQ(pixel(90, 11), 3);
+}
+
+/// Windows and patches one above the other, painted in parts as they come: as if all were painted anew.
+TEST_F(LcdTest, PartsMakeTheSamePictureAsTheWhole)
+{
+    for (const unsigned int seed : test::seeds()) {
+        std::mt19937 random(seed);
+        const auto upTo = [&](int most) { return static_cast<int>(random() % static_cast<unsigned int>(most)); };
+        const auto somewhere = [&] { return rectAt(upTo(200), upTo(100), 20 + upTo(100), 20 + upTo(60)); };
+        std::vector<std::unique_ptr<PegThing>> things;
+        for (int step = 0; step < 60; ++step) {
+            if (upTo(2) == 0) {
+                things.push_back(std::make_unique<Patch>(somewhere(), Level::LIGHT, std::to_string(step)));
+            } else {
+                things.push_back(std::make_unique<PegWindow>());
+                things.back()->Resize(somewhere());
+                things.back()->Add(new Patch(things.back()->Area(), Level::DARK, std::to_string(step)));
+            }
+            gpPresent->Add(things.back().get());
+            if (upTo(3) == 0)
+                things.erase(things.begin() + upTo(static_cast<int>(things.size())));
+            lcd.paint();
+            const Picture inParts = lcd.picture();
+            lcd.invalidate(rectAt(0, 0, lcd.width(), lcd.height()));
+            lcd.paint();
+            ASSERT_EQ(inParts.pixels, lcd.picture().pixels) << "seed " << seed << ", step " << step;
+            ASSERT_EQ(inParts.texts, lcd.picture().texts) << "seed " << seed << ", step " << step;
+        }
+    }
 }
 
 TEST_F(LcdTest, InvisibleThingIsNotDirty)
