@@ -38,14 +38,16 @@ public:
         mDisplay.setSystemWindowText(line, text);
     }
 
-    /// How many lines there are; 0 takes them off the screen.
+    /// How many lines there are; 0 takes them off the screen. They may come back to another one, which has no texts yet.
     void setSize(int lines)
     {
-        {
-            const std::lock_guard lock(mMutex);
-            mLines.size = lines;
-        }
-        mDisplay.setSystemWindowSize(lines);
+        std::unique_lock lock(mMutex);
+        const bool comeBack = std::exchange(mLines.size, lines) == 0;
+        lock.unlock();
+        if (comeBack)
+            sendAgain();
+        else
+            mDisplay.setSystemWindowSize(lines);
     }
 
 private:

@@ -51,6 +51,19 @@ TEST_F(StatusLinesTest, StayAwayWhereTheyHaveBeenTakenDown)
     EXPECT_THAT(screen(), Not(HasSubstr("Line 1")));
 }
 
+TEST_F(StatusLinesTest, ComeWithTheirTextsToAnotherScreenThanTheyWereTakenDownFrom)
+{
+    lines.setText(0, "Line 1");
+    lines.setSize(1);
+    DisplayAPI::List other(0);
+    phone.display().setCurrent(&other);
+    lines.setSize(0);
+    phone.display().setCurrent(&list);
+    lines.setSize(1);
+    EXPECT_THAT(screen(), HasSubstr("Line 1"));
+    phone.display().setCurrent(nullptr);
+}
+
 TEST_F(StatusLinesTest, LinesThatDoNotExistAreIgnored)
 {
     lines.setText(-1, "Nowhere");
