@@ -38,7 +38,8 @@ public:
         mDisplay.setSystemWindowText(line, text);
     }
 
-    /// How many lines there are; 0 takes them off the screen. They may come back to another one, which has no texts yet.
+    /// How many lines there are; 0 takes them off the screen. They may come back to another one, which has no texts
+    /// yet.
     void setSize(int lines)
     {
         std::unique_lock lock(mMutex);

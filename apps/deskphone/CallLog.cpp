@@ -36,7 +36,7 @@ CallLog::CallLog(Telephone& telephone, DisplayAPI::TabScreen& tabs, const std::s
     history.addListener([this](PastCall& past) { added(past); }, [this](PastCall& past) { forgotten(past); });
 }
 
-void CallLog::show()
+void CallLog::bringUp()
 {
     mTabs.setCurrentTabIndex(mTabs.getIndexForTab(&list()));
     telephone().display().setCurrent(&mTabs);

@@ -29,7 +29,7 @@ private:
         DisplayAPI::ListItem* item;
     };
 
-    void show() override;
+    void bringUp() override;
     bool isShown() override;
     void build() override {}
     void chosen(int row) override;

@@ -44,10 +44,10 @@ Screen::~Screen() = default;
 void Screen::open()
 {
     std::call_once(mIsBuilt, [this] { mBuilder = std::thread([this] { build(); }); });
-    show();
+    bringUp();
 }
 
-void Screen::show()
+void Screen::bringUp()
 {
     mTelephone.display().setCurrent(mList.get());
 }

@@ -67,7 +67,7 @@ protected:
 
 private:
     /// Brings it to the display, and whether the user is there. A page of a tab screen is in its tab.
-    virtual void show();
+    virtual void bringUp();
     virtual bool isShown();
 
     /// Fills the list. On the screen's own thread.
