@@ -25,8 +25,16 @@ class MenuCommand;
 class DISPLAYAPI_EXPORT Desktop : public Displayable {
 public:
     /// The ids of the menu commands that keys raise. Digits, star and hash raise their character as id; programmable
-    /// key 0 FPK, the next one FPK + 1.
-    enum KeyCommand : unsigned int { OK_KEY = 1, UP_KEY, DOWN_KEY, LEFT_KEY, RIGHT_KEY, FPK = 0x100 };
+    /// key 0 FPK, the next one FPK + 1; and the key that ends the screensaver, whichever it is, SCREENSAVER_ENDED.
+    enum KeyCommand : unsigned int {
+        OK_KEY = 1,
+        UP_KEY,
+        DOWN_KEY,
+        LEFT_KEY,
+        RIGHT_KEY,
+        SCREENSAVER_ENDED,
+        FPK = 0x100
+    };
 
     enum VolumeDevice : int { HANDSET, HEADSET, SPEAKER, RINGER };
 
@@ -116,7 +124,8 @@ public:
     /// Display::setCurrent() shows it as well.
     void show();
 
-    // The screensaver: its pictures in turn, over all of the desktop. The key that ends it does nothing else.
+    // The screensaver: its pictures in turn, over all of the desktop. The key that ends it does nothing else, and
+    // raises SCREENSAVER_ENDED.
 
     void screensaverStart();
     void screensaverStop();

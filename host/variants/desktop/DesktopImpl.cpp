@@ -73,6 +73,11 @@ void DesktopSide::Impl::desktopHidden()
     self.postCommand(Desktop::HIDDEN_COMMAND(), owner);
 }
 
+void DesktopSide::Impl::desktopWoken()
+{
+    self.postCommand(wakeCommand(), owner);
+}
+
 void DesktopSide::Impl::setMode(const std::string& text, const std::string& detail)
 {
     if (text != mode.text)

@@ -18,6 +18,7 @@ struct DesktopSide::Impl final : public PegThing, public host::DesktopListener {
     void desktopKey(int key) override;
     void desktopChanged() override;
     void desktopHidden() override;
+    void desktopWoken() override;
 
     bool isKey(int key) const { return key >= 0 && key < lamps.keys(); }
 

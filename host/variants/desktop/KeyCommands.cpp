@@ -27,18 +27,26 @@ unsigned int idOf(int key)
     return key >= PK_HASH && key <= PK_9 ? static_cast<unsigned int>(key) : 0;
 }
 
-} // namespace
-
-MenuCommand* keyCommand(int key)
+MenuCommand* commandWith(unsigned int id)
 {
     static auto& commands = *new std::map<unsigned int, std::unique_ptr<MenuCommand>>;
-    const unsigned int id = idOf(key);
-    if (id == 0)
-        return nullptr;
     auto& command = commands[id];
     if (command == nullptr)
         command = std::make_unique<MenuCommand>("", id);
     return command.get();
+}
+
+} // namespace
+
+MenuCommand* keyCommand(int key)
+{
+    const unsigned int id = idOf(key);
+    return id != 0 ? commandWith(id) : nullptr;
+}
+
+MenuCommand* wakeCommand()
+{
+    return commandWith(Desktop::SCREENSAVER_ENDED);
 }
 
 } // namespace DisplayAPI

@@ -8,4 +8,7 @@ class MenuCommand;
 /// thread only.
 MenuCommand* keyCommand(int key);
 
+/// What the end of the screensaver raises. Never deleted. GUI thread only.
+MenuCommand* wakeCommand();
+
 } // namespace DisplayAPI

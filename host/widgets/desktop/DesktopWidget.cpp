@@ -60,12 +60,19 @@ void DesktopWidget::timer(int id)
 void DesktopWidget::key(int key)
 {
     if (mScreensaver.isOn())
-        return stopScreensaver();
+        return wake();
     const auto number = static_cast<std::size_t>(key - PK_FPK1);
     if (isProgrammable(key) && (number >= mState.keys.size() || !mState.label(number).enabled))
         return;
     if (mListener != nullptr)
         mListener->desktopKey(key);
+}
+
+void DesktopWidget::wake()
+{
+    if (mListener != nullptr)
+        mListener->desktopWoken();
+    stopScreensaver();
 }
 
 void DesktopWidget::Draw(PegPainter& painter)

@@ -11,13 +11,16 @@
 
 namespace host {
 
-/// Who hears a desktop. Each may delete it.
+/// Who hears a desktop. Each may delete it, but for desktopWoken().
 class DesktopListener {
 public:
     /// A key that the desktop has no use for itself; of the programmable ones only those that are enabled.
     virtual void desktopKey(int key) = 0;
     virtual void desktopChanged() = 0;
     virtual void desktopHidden() = 0;
+
+    /// A key ends the screensaver.
+    virtual void desktopWoken() = 0;
 
 protected:
     ~DesktopListener() = default;
@@ -81,6 +84,7 @@ private:
     template <typename Field>
     void change(Field& field, Field value, const PegRect& part);
     void key(int key);
+    void wake();
     void timer(int id);
     bool readClock();
     void clockChanged();

@@ -422,11 +422,18 @@ TEST_P(DesktopPrivateTest, AnyKeyEndsTheScreensaverAndDoesNothingElse)
         desktop->screensaverStart();
         EXPECT_EQ(shown(), "object:\nname:Desktop\nend:\n");
         press(key);
-        EXPECT_THAT(raised, IsEmpty()) << key;
+        EXPECT_THAT(std::exchange(raised, {}), ElementsAre(Desktop::SCREENSAVER_ENDED)) << key;
         EXPECT_THAT(shown(), HasSubstr("caption"));
     }
     press(PK_OK);
     EXPECT_THAT(raised, ElementsAre(Desktop::OK_KEY));
+}
+
+TEST_P(DesktopPrivateTest, ScreensaverThatTheApplicationStopsRaisesNothing)
+{
+    desktop->screensaverStart();
+    desktop->screensaverStop();
+    EXPECT_THAT(raised, IsEmpty());
 }
 
 TEST_P(DesktopPrivateTest, PicturesComeInTurn)
