@@ -4,6 +4,7 @@
 #include "DisplayAPI/DisplayEventIfc.h"
 
 #include <array>
+#include <functional>
 #include <mutex>
 #include <optional>
 #include <string>
@@ -21,7 +22,14 @@ class StatusLines : private DisplayEventIfc {
 public:
     static constexpr int MOST = 6;
 
-    explicit StatusLines(Display& display) : mDisplay(display) { mDisplay.subscribe(this); }
+    /// Called on the GUI thread with each displayable that has become the current one, or null.
+    using ScreenListener = std::function<void(Displayable*)>;
+
+    explicit StatusLines(Display& display, ScreenListener screenListener = nullptr)
+        : mDisplay(display), mScreenListener(std::move(screenListener))
+    {
+        mDisplay.subscribe(this);
+    }
     StatusLines(const StatusLines&) = delete;
     StatusLines& operator=(const StatusLines&) = delete;
     ~StatusLines() override { mDisplay.unSubscribe(); }
@@ -60,8 +68,12 @@ private:
     void displayChanged(std::string) override
     {
         Displayable* const current = mDisplay.getCurrent();
-        if (std::exchange(mCurrent, current) != current && current != nullptr)
+        if (std::exchange(mCurrent, current) == current)
+            return;
+        if (current != nullptr)
             sendAgain();
+        if (mScreenListener)
+            mScreenListener(current);
     }
 
     void sendAgain()
@@ -78,6 +90,7 @@ private:
     }
 
     Display& mDisplay;
+    ScreenListener mScreenListener;
     Displayable* mCurrent = nullptr; ///< the GUI thread's; not read
     std::mutex mMutex;               ///< guards what follows; nothing is called under it
     Lines mLines;

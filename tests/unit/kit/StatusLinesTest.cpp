@@ -5,6 +5,7 @@
 #include "unit/kit/KitTest.h"
 
 #include <gmock/gmock.h>
+#include <vector>
 
 namespace kit = DisplayAPI::kit;
 using testing::HasSubstr;
@@ -79,4 +80,18 @@ TEST_F(StatusLinesTest, CanBeSetFromAnyThread)
         lines.setSize(1);
         EXPECT_THAT(screen(), HasSubstr("Line 1"));
     });
+}
+
+TEST_F(StatusLinesTest, TellOfEachScreenThatBecomesTheCurrentOne)
+{
+    std::vector<const DisplayAPI::Displayable*> shown;
+    const kit::StatusLines telling(phone.display(),
+                                   [&](const DisplayAPI::Displayable* current) { shown.push_back(current); });
+    DisplayAPI::ContextMenu menu(false);
+    phone.display().setCurrent(&list);
+    menu.show();
+    list.setTitle("Another");
+    menu.dismiss();
+    phone.display().setCurrent(nullptr);
+    EXPECT_THAT(shown, testing::ElementsAre(&list, &menu, &list, nullptr));
 }
