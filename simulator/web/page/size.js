@@ -49,6 +49,19 @@ function fitsHeight() {
   return (isAlone ? phone.offsetHeight + 8 : desk.offsetHeight) <= root.clientHeight;
 }
 
+function putAside(x, y) {
+  root.style.setProperty("--aside-x", `${x}px`);
+  root.style.setProperty("--aside-y", `${y}px`);
+}
+
+/* To whole pixels, of CSS and of the device: between two of them its edge would be cut. */
+function alignPanel() {
+  const step = Math.max(1, 1 / devicePixelRatio);
+  const { left, top } = canvas.getBoundingClientRect();
+  const missing = (position) => Math.round(position / step) * step - position;
+  putAside(missing(left + window.scrollX), missing(top + window.scrollY));
+}
+
 class Size {
   constructor() {
     this.ratio = devicePixelRatio;
@@ -59,6 +72,7 @@ class Size {
   }
 
   fit() {
+    putAside(0, 0);
     const full = parseFloat(getComputedStyle(root).fontSize) / 16;
     root.style.overflowY = "hidden"; // no scroll bar takes room from what fits
     if (!this.layToFit(full)) {
@@ -66,6 +80,7 @@ class Size {
       this.layToScroll(full);
     }
     root.style.overflowY = "";
+    alignPanel();
   }
 
   layToFit(full) {
