@@ -2,7 +2,6 @@
 
 #include "DisplayAPI/List.h"
 #include "apps/deskphone/CallHistory.h"
-#include "apps/deskphone/StatusLines.h"
 #include "apps/deskphone/Telephone.h"
 #include "host/clock/Clock.h"
 #include "host/clock/WallClock.h"
@@ -31,10 +30,10 @@ std::string durationText(std::int64_t ms)
 
 } // namespace
 
-Call::Call(Telephone& telephone, StatusLines& status, CallHistory& history)
+Call::Call(Telephone& telephone, CallHistory& history)
     : Screen(telephone, nullptr, "Call.title",
              std::make_unique<DisplayAPI::List>(kit::listType(kit::WayBack::EVERYWHERE))),
-      mStatus(status), mHistory(history), mEnded(text("Call.ended", {[this] { return mDuration; }}))
+      mHistory(history), mEnded(text("Call.ended", {[this] { return mDuration; }}))
 {
 }
 
@@ -43,7 +42,7 @@ void Call::begin(Place& from, const std::string& party, const std::string& numbe
     setParent(&from);
     mStart = Clock::instance().now();
     open();
-    mStatus.callBegins(party);
+    telephone().status().callBegins(party);
     mHistory.add({PastCall::Kind::DIALLED, host::WallClock::now(), party, number});
 }
 
@@ -60,7 +59,7 @@ void Call::chosen(int)
 
 void Call::left()
 {
-    mStatus.callEnds();
+    telephone().status().callEnds();
     mDuration = durationText(Clock::instance().now() - mStart);
     telephone().tell(mEnded.get());
 }

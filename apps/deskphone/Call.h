@@ -7,12 +7,11 @@
 namespace deskphone {
 
 class CallHistory;
-class StatusLines;
 
 /// A call, as far as this telephone has any: it is answered at once and lasts until the user goes back or hangs up.
 class Call : public Screen {
 public:
-    Call(Telephone& telephone, StatusLines& status, CallHistory& history);
+    Call(Telephone& telephone, CallHistory& history);
 
     /// Calls `party` and goes back to `from` afterwards.
     void begin(Place& from, const std::string& party, const std::string& number);
@@ -22,7 +21,6 @@ private:
     void chosen(int row) override;
     void left() override;
 
-    StatusLines& mStatus;
     CallHistory& mHistory;
     std::int64_t mStart = 0;
     std::string mDuration;

@@ -1,5 +1,6 @@
 #include "apps/deskphone/CallHistory.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace deskphone {
@@ -9,6 +10,7 @@ void CallHistory::add(PastCall call)
     mCalls.push_front(std::move(call));
     for (const Listener& listener : mListeners)
         listener.added(mCalls.front());
+    tellMissed();
 }
 
 void CallHistory::forget(PastCall& call)
@@ -17,11 +19,36 @@ void CallHistory::forget(PastCall& call)
         return;
     for (const Listener& listener : mListeners)
         listener.forgotten(call);
+    tellMissed();
+}
+
+void CallHistory::see()
+{
+    for (PastCall& call : mCalls)
+        call.isSeen = true;
+    tellMissed();
 }
 
 void CallHistory::addListener(std::function<void(PastCall&)> added, std::function<void(PastCall&)> forgotten)
 {
     mListeners.push_back({std::move(added), std::move(forgotten)});
+}
+
+void CallHistory::addMissedListener(std::function<void(int)> listener)
+{
+    listener(missed());
+    mMissedListeners.push_back(std::move(listener));
+}
+
+int CallHistory::missed() const
+{
+    return static_cast<int>(std::ranges::count_if(mCalls, &PastCall::isNewMissedCall));
+}
+
+void CallHistory::tellMissed() const
+{
+    for (const auto& listener : mMissedListeners)
+        listener(missed());
 }
 
 } // namespace deskphone

@@ -17,6 +17,9 @@ struct PastCall {
     std::string party;
     std::string number;
     bool isForgotten = false;
+    bool isSeen = false;
+
+    bool isNewMissedCall() const { return kind == Kind::MISSED && !isForgotten && !isSeen; }
 };
 
 /// The calls of the last days, the latest first. On the threads that answer the user, of which one runs at a time, and
@@ -31,10 +34,19 @@ public:
     void add(PastCall call);
     void forget(PastCall& call);
 
+    /// The user has looked at them.
+    void see();
+
     /// `added` and `forgotten` are called for each call that comes and goes.
     void addListener(std::function<void(PastCall&)> added, std::function<void(PastCall&)> forgotten);
 
+    /// `listener` is called with the number of missed calls that the user has not seen: now, and with each change.
+    void addMissedListener(std::function<void(int)> listener);
+
 private:
+    int missed() const;
+    void tellMissed() const;
+
     struct Listener {
         std::function<void(PastCall&)> added;
         std::function<void(PastCall&)> forgotten;
@@ -42,6 +54,7 @@ private:
 
     std::deque<PastCall> mCalls;
     std::vector<Listener> mListeners;
+    std::vector<std::function<void(int)>> mMissedListeners;
 };
 
 } // namespace deskphone

@@ -39,7 +39,7 @@ CallLog::CallLog(Telephone& telephone, DisplayAPI::TabScreen& tabs, const std::s
 void CallLog::bringUp()
 {
     mTabs.setCurrentTabIndex(mTabs.getIndexForTab(&list()));
-    telephone().display().setCurrent(&mTabs);
+    telephone().show(mTabs);
 }
 
 bool CallLog::isShown()

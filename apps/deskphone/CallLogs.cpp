@@ -2,6 +2,7 @@
 
 #include "DisplayAPI/Command.h"
 #include "DisplayAPI/Display.h"
+#include "apps/deskphone/CallHistory.h"
 #include "apps/deskphone/Telephone.h"
 
 #include <array>
@@ -28,7 +29,7 @@ constexpr bool HAS_WAY_BACK = true;
 } // namespace
 
 CallLogs::CallLogs(Telephone& telephone, Place& parent, CallHistory& history, Call& call, CallDetails& details)
-    : mTelephone(telephone), mParent(parent), mTabs(TabScreen::CALLS, HAS_WAY_BACK),
+    : mTelephone(telephone), mParent(parent), mHistory(history), mTabs(TabScreen::CALLS, HAS_WAY_BACK),
       mCommands(mTabs, [this](Command* command) {
           if (command == TabScreen::BACK_COMMAND())
               goBack();
@@ -40,6 +41,7 @@ CallLogs::CallLogs(Telephone& telephone, Place& parent, CallHistory& history, Ca
 
 void CallLogs::open()
 {
+    mHistory.see();
     mPages.front().open();
 }
 

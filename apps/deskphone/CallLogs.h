@@ -29,6 +29,7 @@ private:
 
     Telephone& mTelephone;
     Place& mParent;
+    CallHistory& mHistory;
     std::deque<CallLog> mPages; ///< before the tabs, which show their titles
     DisplayAPI::TabScreen mTabs;
     DisplayAPI::kit::Subscription mCommands;

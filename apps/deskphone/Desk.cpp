@@ -27,17 +27,17 @@ std::deque<PastCall> recentCalls()
 } // namespace
 
 Desk::Desk(DisplayAPI::Display& display, const std::string& language)
-    : mTelephone(display), mComplaint(mTelephone.useLanguage(language)), mStatus(mTelephone),
+    : mTelephone(display), mComplaint(mTelephone.useLanguage(language)),
       mNewsText(&mTelephone.languages(), "News.ticker"), mNews(mNewsText.get()), mHistory(recentCalls()),
-      mCall(mTelephone, mStatus, mHistory), mDetails(mTelephone, mCall), mMainMenu(mTelephone, nullptr, "Menu.title"),
-      mCallLogs(mTelephone, mMainMenu, mHistory, mCall, mDetails), mContacts(mTelephone, &mMainMenu, mCall),
-      mSettings(mTelephone, &mMainMenu), mAbout(mTelephone, &mMainMenu)
+      mCall(mTelephone, mHistory), mDetails(mTelephone, mCall), mHome(mTelephone, mCall, mHistory),
+      mCallLogs(mTelephone, mHome, mHistory, mCall, mDetails), mContacts(mTelephone, &mHome, mCall),
+      mSettings(mTelephone, mHome), mAbout(mTelephone, &mHome)
 {
-    mMainMenu.setEntries({{"Menu.call.log", &mCallLogs},
-                          {"Menu.contacts", &mContacts},
-                          {"Menu.settings", &mSettings},
-                          {"Menu.about", &mAbout}});
-    mMainMenu.setTicker(mNews);
+    mHome.setMenu({{"Menu.call.log", "Key.call.log", &mCallLogs},
+                   {"Menu.contacts", "Key.contacts", &mContacts},
+                   {"Menu.settings", "Key.settings", &mSettings},
+                   {"Menu.about", "Key.about", &mAbout}});
+    mContacts.card().setTicker(mNews);
     mTelephone.addLanguageListener([this] { mNews.setText(mNewsText.get()); });
 }
 
@@ -48,8 +48,8 @@ Desk::~Desk()
 
 void Desk::open()
 {
-    mMainMenu.open();
-    mStatus.open();
+    mHome.open();
+    mTelephone.status().open();
     if (!mComplaint.empty())
         mTelephone.tell(mComplaint);
 }
@@ -64,8 +64,8 @@ void Desk::close()
 
 std::vector<Place*> Desk::places()
 {
-    std::vector<Place*> all = {&mMainMenu,        &mCallLogs, &mContacts, &mSettings,
-                               &mContacts.card(), &mAbout,    &mCall,     &mDetails};
+    std::vector<Place*> all = {&mHome,  &mCallLogs, &mContacts, &mSettings, &mContacts.card(),
+                               &mAbout, &mCall,     &mDetails};
     for (Choice* choice : mSettings.choices())
         all.push_back(choice);
     return all;

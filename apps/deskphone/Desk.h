@@ -7,9 +7,9 @@
 #include "apps/deskphone/CallHistory.h"
 #include "apps/deskphone/CallLogs.h"
 #include "apps/deskphone/Contacts.h"
+#include "apps/deskphone/Home.h"
 #include "apps/deskphone/Menu.h"
 #include "apps/deskphone/Settings.h"
-#include "apps/deskphone/StatusLines.h"
 #include "apps/deskphone/Telephone.h"
 
 #include <string>
@@ -26,7 +26,7 @@ public:
     /// First ends all that the screens do on other threads. REQUIRES: the display's loop does not run.
     ~Desk();
 
-    /// Shows the main menu. REQUIRES: the display is shown.
+    /// Shows the home screen. REQUIRES: the display is shown.
     void open();
 
 private:
@@ -35,13 +35,12 @@ private:
 
     Telephone mTelephone;
     std::string mComplaint; ///< about the first language
-    StatusLines mStatus;
     Text mNewsText;
     DisplayAPI::Ticker mNews;
     CallHistory mHistory;
     Call mCall;
     CallDetails mDetails;
-    Menu mMainMenu;
+    Home mHome;
     CallLogs mCallLogs;
     Contacts mContacts;
     Settings mSettings;

@@ -1,14 +1,12 @@
 #include "apps/deskphone/Dialer.h"
 
 #include "apps/deskphone/Telephone.h"
-#include "kit/Fence.h"
 
 #include <utility>
 
 namespace deskphone {
 
 using DisplayAPI::Command;
-using DisplayAPI::Displayable;
 
 namespace {
 
@@ -23,24 +21,22 @@ TranslationInfo* translated(Telephone& telephone, const std::string& key)
 
 Dialer::Dialer(Telephone& telephone, std::function<void(const std::string&)> dial)
     : mTelephone(telephone), mDial(std::move(dial)), mDialCommand(translated(telephone, "Dialer.dial"), 0),
-      mPasteCommand(translated(telephone, "Dialer.paste"), 0), mPopup(HAS_WAY_BACK, 0)
+      mPasteCommand(translated(telephone, "Dialer.paste"), 0), mChoice([this](Command* command) { chosen(command); }),
+      mPopup(HAS_WAY_BACK, 0)
 {
     mPopup.addCommand(&mDialCommand);
     mPopup.addCommand(&mPasteCommand);
-    mPopup.addCommandListener(this);
+    mPopup.addCommandListener(&mChoice);
 }
 
-/// A dialer keeps its listeners, so this one is deaf from then on.
-void Dialer::stopListening()
+void Dialer::open(char digit)
 {
-    mIsDeaf = true;
-    DisplayAPI::kit::Fence().wait();
+    mPopup.setLineEditText(std::string(1, digit));
+    mPopup.show();
 }
 
-void Dialer::commandAction(Command* command, Displayable*)
+void Dialer::chosen(const Command* command)
 {
-    if (mIsDeaf)
-        return;
     if (command == &mPasteCommand)
         return mPopup.setLineEditText(mTelephone.copied());
     const std::string number = command == &mDialCommand ? mPopup.getLineEditText() : std::string();

@@ -1,10 +1,9 @@
 #pragma once
 
-#include "DisplayAPI/CommandListener.h"
 #include "DisplayAPI/MenuCommand.h"
 #include "DisplayAPI/PopupDialer.h"
+#include "apps/deskphone/Ear.h"
 
-#include <atomic>
 #include <functional>
 #include <string>
 
@@ -13,7 +12,7 @@ namespace deskphone {
 class Telephone;
 
 /// The dialer of a screen: a digit opens it, and "Dial" calls the number. Make and delete it on the GUI thread.
-class Dialer : private DisplayAPI::CommandListener {
+class Dialer {
 public:
     /// `dial` takes what the user has typed, on a thread of the library's; it is not empty.
     Dialer(Telephone& telephone, std::function<void(const std::string& number)> dial);
@@ -21,16 +20,19 @@ public:
     DisplayAPI::PopupDialer& popup() { return mPopup; }
 
     /// What the user chooses is not heard after this. Not on the GUI thread.
-    void stopListening();
+    void stopListening() { mChoice.stop(); }
+
+    /// Comes up with the first digit. Screens that have been given the popup do so by themselves.
+    void open(char digit);
 
 private:
-    void commandAction(DisplayAPI::Command* command, DisplayAPI::Displayable* displayable) override;
+    void chosen(const DisplayAPI::Command* command);
 
     Telephone& mTelephone;
     std::function<void(const std::string&)> mDial;
     DisplayAPI::MenuCommand mDialCommand;
     DisplayAPI::MenuCommand mPasteCommand;
-    std::atomic<bool> mIsDeaf{false};
+    Ear mChoice;
     DisplayAPI::PopupDialer mPopup;
 };
 

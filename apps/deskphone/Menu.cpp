@@ -4,11 +4,6 @@
 
 namespace deskphone {
 
-void Menu::setTicker(DisplayAPI::Ticker& ticker)
-{
-    list().setTicker(&ticker);
-}
-
 void Menu::build()
 {
     for (const Entry& entry : mEntries)

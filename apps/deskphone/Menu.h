@@ -4,10 +4,6 @@
 
 #include <vector>
 
-namespace DisplayAPI {
-class Ticker;
-}
-
 namespace deskphone {
 
 /// A screen whose rows lead to other screens.
@@ -22,9 +18,6 @@ public:
 
     /// REQUIRES: before the first open().
     void setEntries(std::vector<Entry> entries) { mEntries = std::move(entries); }
-
-    /// The ticker outlives the menu.
-    void setTicker(DisplayAPI::Ticker& ticker);
 
 private:
     void build() override;

@@ -49,7 +49,12 @@ void Screen::open()
 
 void Screen::bringUp()
 {
-    mTelephone.display().setCurrent(mList.get());
+    mTelephone.show(*mList);
+}
+
+void Screen::setTicker(DisplayAPI::Ticker& ticker)
+{
+    mList->setTicker(&ticker);
 }
 
 bool Screen::isShown()

@@ -17,6 +17,7 @@ namespace DisplayAPI {
 class Command;
 class List;
 class ListItem;
+class Ticker;
 } // namespace DisplayAPI
 
 namespace deskphone {
@@ -35,6 +36,9 @@ public:
     /// none.
     Screen(Telephone& telephone, Place* parent, const std::string& title);
     ~Screen() override;
+
+    /// Runs above the rows; outlives the screen.
+    void setTicker(DisplayAPI::Ticker& ticker);
 
     /// The first time a thread of its own begins to fill it.
     void open() override;

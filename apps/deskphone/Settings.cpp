@@ -2,6 +2,7 @@
 
 #include "DisplayAPI/List.h"
 #include "DisplayAPI/ListItem.h"
+#include "apps/deskphone/Home.h"
 #include "apps/deskphone/Telephone.h"
 
 #include <algorithm>
@@ -14,6 +15,8 @@ using enum Choice::Values;
 
 const std::array<std::string, 3> DATE_FORMATS = {"dd.mm.yyyy", "mm/dd/yyyy", "yyyy-mm-dd"};
 const std::array<std::string, 2> TIME_FORMATS = {"24h", "12h"};
+constexpr std::array HOME_SCREENS = {Home::Kind::IDLE_SCREEN, Home::Kind::DESKTOP};
+constexpr std::array SCREENSAVER_MINUTES = {0, 1, 5, 15};
 
 std::string nothing(std::size_t)
 {
@@ -29,8 +32,8 @@ std::vector<std::string> namesOf(const std::vector<host::Language>& languages)
 
 } // namespace
 
-Settings::Settings(Telephone& telephone, Place* parent)
-    : Screen(telephone, parent, "Settings.title"), mLanguages(telephone.languages().available()),
+Settings::Settings(Telephone& telephone, Home& home)
+    : Screen(telephone, &home, "Settings.title"), mHome(home), mLanguages(telephone.languages().available()),
       mLanguage(telephone, this, "Settings.language", namesOf(mLanguages), AS_THEY_ARE,
                 [this](std::size_t value) { return useLanguage(value); }),
       mRingTone(telephone, this, "Settings.ring.tone",
@@ -42,7 +45,12 @@ Settings::Settings(Telephone& telephone, Place* parent)
       mDateFormat(telephone, this, "Settings.date", {"31.12.2026", "12/31/2026", "2026-12-31"}, AS_THEY_ARE,
                   [this](std::size_t value) { return useDateFormat(value); }),
       mTimeFormat(telephone, this, "Settings.time", {"14:30", "2:30 PM"}, AS_THEY_ARE,
-                  [this](std::size_t value) { return useTimeFormat(value); })
+                  [this](std::size_t value) { return useTimeFormat(value); }),
+      mHomeScreen(telephone, this, "Settings.home", {"Home.idle", "Home.desktop"}, TRANSLATED,
+                  [this](std::size_t value) { return useHomeScreen(value); }),
+      mScreensaver(telephone, this, "Settings.saver",
+                   {"Screensaver.never", "Screensaver.1.minute", "Screensaver.5.minutes", "Screensaver.15.minutes"},
+                   TRANSLATED, [this](std::size_t value) { return useScreensaver(value); })
 {
     const auto current = std::ranges::find(mLanguages, telephone.languages().current().code, &host::Language::code);
     if (current != mLanguages.end())
@@ -79,6 +87,18 @@ std::string Settings::useDateFormat(std::size_t value)
 std::string Settings::useTimeFormat(std::size_t value)
 {
     telephone().useTimeFormat(TIME_FORMATS.at(value));
+    return {};
+}
+
+std::string Settings::useHomeScreen(std::size_t value)
+{
+    mHome.use(HOME_SCREENS.at(value));
+    return {};
+}
+
+std::string Settings::useScreensaver(std::size_t value)
+{
+    mHome.setScreensaverMinutes(SCREENSAVER_MINUTES.at(value));
     return {};
 }
 

@@ -9,12 +9,17 @@
 
 namespace deskphone {
 
+class Home;
+
 /// The settings with their values. Choosing one leads to its possible values.
 class Settings : public Screen {
 public:
-    Settings(Telephone& telephone, Place* parent);
+    Settings(Telephone& telephone, Home& home);
 
-    std::array<Choice*, 5> choices() { return {&mLanguage, &mRingTone, &mBrightness, &mDateFormat, &mTimeFormat}; }
+    std::array<Choice*, 7> choices()
+    {
+        return {&mLanguage, &mRingTone, &mBrightness, &mDateFormat, &mTimeFormat, &mHomeScreen, &mScreensaver};
+    }
 
 private:
     void build() override;
@@ -23,14 +28,19 @@ private:
     std::string useLanguage(std::size_t value);
     std::string useDateFormat(std::size_t value);
     std::string useTimeFormat(std::size_t value);
+    std::string useHomeScreen(std::size_t value);
+    std::string useScreensaver(std::size_t value);
 
+    Home& mHome;
     std::vector<host::Language> mLanguages;
     Choice mLanguage;
     Choice mRingTone;
     Choice mBrightness;
     Choice mDateFormat;
     Choice mTimeFormat;
-    std::array<DisplayAPI::ListItem*, 5> mRows{};
+    Choice mHomeScreen;
+    Choice mScreensaver;
+    std::array<DisplayAPI::ListItem*, 7> mRows{};
 };
 
 } // namespace deskphone

@@ -8,6 +8,7 @@
 namespace deskphone {
 
 using host::WallClock;
+namespace kit = DisplayAPI::kit;
 
 namespace {
 
@@ -23,8 +24,8 @@ bool isSmallPanel()
 
 } // namespace
 
-StatusLines::StatusLines(Telephone& telephone)
-    : mTelephone(telephone), mLines(telephone.display()), mOwnName(&telephone.languages(), "Status.own.name")
+StatusLines::StatusLines(Telephone& telephone, kit::StatusLines& lines)
+    : mTelephone(telephone), mLines(lines), mOwnName(&telephone.languages(), "Status.own.name")
 {
     telephone.addLanguageListener([this] { showOwnName(); });
 }
@@ -37,12 +38,18 @@ void StatusLines::open()
     showOwnName();
 }
 
+void StatusLines::setVisible(bool visible)
+{
+    if (mIsVisible.exchange(visible) != visible && !isSmallPanel())
+        setCount(mCount);
+}
+
 void StatusLines::callBegins(const std::string& party)
 {
     DisplayAPI::Display& display = mTelephone.display();
     mLines.setText(isSmallPanel() ? OWN_NAME : PARTY, party);
     display.setTimer("00:00:00");
-    mLines.setSize(isSmallPanel() ? 1 : 2);
+    setCount(isSmallPanel() ? 1 : 2);
 }
 
 void StatusLines::callEnds()
@@ -52,7 +59,7 @@ void StatusLines::callEnds()
     if (isSmallPanel())
         mLines.setText(OWN_NAME, BLANK_LINE);
     else
-        mLines.setSize(1);
+        setCount(1);
 }
 
 void StatusLines::showOwnName()
@@ -60,7 +67,13 @@ void StatusLines::showOwnName()
     if (isSmallPanel())
         return;
     mLines.setText(OWN_NAME, mOwnName.get());
-    mLines.setSize(1);
+    setCount(1);
+}
+
+void StatusLines::setCount(int count)
+{
+    mCount = count;
+    mLines.setSize(mIsVisible ? count : 0);
 }
 
 } // namespace deskphone

@@ -3,6 +3,8 @@
 #include "kit/StatusLines.h"
 #include "kit/Text.h"
 
+#include <atomic>
+
 namespace deskphone {
 
 using DisplayAPI::kit::Text;
@@ -13,20 +15,26 @@ class Telephone;
 /// how long. On the small panel, where they cover the screen, there are none but in a call. Safe from any thread.
 class StatusLines {
 public:
-    explicit StatusLines(Telephone& telephone);
+    StatusLines(Telephone& telephone, DisplayAPI::kit::StatusLines& lines);
 
     /// REQUIRES: the display is shown.
     void open();
+
+    /// Takes them off the large panels, and puts them back.
+    void setVisible(bool visible);
 
     void callBegins(const std::string& party);
     void callEnds();
 
 private:
     void showOwnName();
+    void setCount(int count);
 
     Telephone& mTelephone;
-    DisplayAPI::kit::StatusLines mLines;
+    DisplayAPI::kit::StatusLines& mLines;
     Text mOwnName;
+    std::atomic<int> mCount{0};
+    std::atomic<bool> mIsVisible{true};
 };
 
 } // namespace deskphone

@@ -14,7 +14,12 @@ constexpr unsigned int MESSAGE_MS = 2000;
 } // namespace
 
 Telephone::Telephone(DisplayAPI::Display& display)
-    : mDisplay(display), mLanguageChange(AT_ONCE), mNumberCopied(&mLanguages, "Number.copied")
+    : mDisplay(display), mLines(display,
+                                [this](DisplayAPI::Displayable* current) {
+                                    for (const auto& listener : mScreenListeners)
+                                        listener(current);
+                                }),
+      mStatus(*this, mLines), mLanguageChange(AT_ONCE), mNumberCopied(&mLanguages, "Number.copied")
 {
     mLanguageChange.addEventListener(this);
 }
@@ -44,6 +49,11 @@ void Telephone::addLanguageListener(std::function<void()> listener)
     mLanguageListeners.push_back(std::move(listener));
 }
 
+void Telephone::addScreenListener(DisplayAPI::kit::StatusLines::ScreenListener listener)
+{
+    mScreenListeners.push_back(std::move(listener));
+}
+
 void Telephone::copy(const std::string& number)
 {
     {
@@ -70,6 +80,12 @@ void Telephone::timerExpired()
     renewTexts();
     for (const auto& listener : mLanguageListeners)
         listener();
+}
+
+void Telephone::show(DisplayAPI::Displayable& screen, Lines lines)
+{
+    mDisplay.setCurrent(&screen);
+    mStatus.setVisible(lines == Lines::ABOVE);
 }
 
 /// With the locale every screen looks its texts up again, dates and times among them.

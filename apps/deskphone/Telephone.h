@@ -2,7 +2,9 @@
 
 #include "DisplayAPI/Timer.h"
 #include "DisplayAPI/TimerEvent.h"
+#include "apps/deskphone/StatusLines.h"
 #include "host/languages/Languages.h"
+#include "kit/StatusLines.h"
 #include "kit/Text.h"
 
 #include <functional>
@@ -12,7 +14,8 @@
 
 namespace DisplayAPI {
 class Display;
-}
+class Displayable;
+} // namespace DisplayAPI
 
 namespace deskphone {
 
@@ -35,6 +38,18 @@ public:
     /// `listener` is called on the GUI thread each time that the language has changed. REQUIRES: on the GUI thread.
     void addLanguageListener(std::function<void()> listener);
 
+    /// The lines above the screens.
+    StatusLines& status() { return mStatus; }
+
+    enum class Lines { ABOVE, NONE };
+
+    /// Shows a screen, with the status lines above it or without them.
+    void show(DisplayAPI::Displayable& screen, Lines lines = Lines::ABOVE);
+
+    /// `listener` is called on the GUI thread with each displayable that is shown, or null. REQUIRES: on the GUI
+    /// thread.
+    void addScreenListener(DisplayAPI::kit::StatusLines::ScreenListener listener);
+
     /// Keeps a number that the user may want to dial later, and says so.
     void copy(const std::string& number);
 
@@ -51,6 +66,9 @@ private:
     DisplayAPI::Display& mDisplay;
     host::Languages mLanguages;
     std::vector<std::function<void()>> mLanguageListeners;
+    std::vector<DisplayAPI::kit::StatusLines::ScreenListener> mScreenListeners;
+    DisplayAPI::kit::StatusLines mLines;
+    StatusLines mStatus;
     DisplayAPI::Timer mLanguageChange; ///< runs out at once: a way to the GUI thread
     DisplayAPI::kit::Text mNumberCopied;
     mutable std::mutex mMutex; ///< guards what follows

@@ -71,7 +71,7 @@ void fill(Desktop& desktop, std::list<std::string>& pictures)
 int main()
 {
     DisplayAPI::kit::Phone phone(examples::phoneSettings());
-    std::list<std::string> pictures{EXAMPLE_PICTURES "/sea.png", EXAMPLE_PICTURES "/hills.png"};
+    std::list<std::string> pictures{APP_PICTURES "/sea.png", APP_PICTURES "/hills.png"};
     Keys keys;
     Desktop desktop;
     desktop.addCommandListener(&keys);

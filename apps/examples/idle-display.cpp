@@ -12,7 +12,7 @@ int main()
 {
     DisplayAPI::kit::Phone phone(examples::phoneSettings());
     MenuCommand read("Read all", 1), quiet("Quiet", 2);
-    IdleDisplay idle(EXAMPLE_PICTURES "/logo.png");
+    IdleDisplay idle(APP_PICTURES "/logo.png");
 
     DisplayAPI::kit::Subscription choice(idle, [&](Command* command) {
         if (command == &read)

@@ -17,12 +17,15 @@ const std::string FIRST_ROW = "hold up 1000\n";
 /// Longer than a message stays.
 const std::string NO_MESSAGE = "wait 3000\n";
 
-/// The first setting of the third row of the main menu.
-const std::string LANGUAGES = FIRST_ROW + "key down\nkey down\nkey ok\n" + FIRST_ROW + "key ok\n" + FIRST_ROW;
+/// The menu of the home screen begins with its first row.
+const std::string MENU = "key ok\n";
+
+/// The first setting of the third row of the menu.
+const std::string LANGUAGES = MENU + "key down\nkey down\nkey ok\n" + FIRST_ROW + "key ok\n" + FIRST_ROW;
 
 constexpr int OTHER_TABS = 3;
 
-const std::string CONTACTS = FIRST_ROW + "key down\nkey ok\n" + FIRST_ROW;
+const std::string CONTACTS = MENU + "key down\nkey ok\n" + FIRST_ROW;
 
 std::string repeated(int count, const std::string& line)
 {
@@ -55,10 +58,10 @@ std::string nameOf(const std::string& key, bool fromTheRight)
 
 std::string visit(const Screen& screen, bool fromTheRight)
 {
-    std::string script = NO_MESSAGE + FIRST_ROW;
+    std::string script = NO_MESSAGE;
     for (const Step& step : screen.path)
         script += repeated(step.row, "key down\n") + "key " + nameOf(step.key, fromTheRight) + '\n' +
-                  (step.key == "ok" ? FIRST_ROW : "");
+                  (&step != &screen.path.front() && step.key == "ok" ? FIRST_ROW : "");
     script += dump(screen.name);
     for (int row = 1; row < screen.rows; ++row)
         script += "key down\n" + dump(screen.name + '.' + std::to_string(row));

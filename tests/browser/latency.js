@@ -45,7 +45,7 @@ const browser = await openBrowser();
 const phone = await Phone.start();
 try {
   const tab = await Tab.open(browser, phone.url);
-  await tab.selects("Call log");
+  await tab.openMenu();
   await tab.page.keyboard.press("Enter");
   await tab.shows("Missed");
   const second = await levelsWith(tab, "ArrowDown");

@@ -30,7 +30,7 @@ describe("a session", SUITE_LIMIT, () => {
   test("is the same in all tabs", LIMIT, async (t) => {
     const phone = await start(t);
     const [one, other] = [await open(t, phone), await open(t, phone)];
-    await other.shows("About");
+    await other.openMenu();
     await one.button("down").click();
     await other.selects("Contacts");
     await other.page.keyboard.press("ArrowDown");
@@ -41,7 +41,7 @@ describe("a session", SUITE_LIMIT, () => {
   test("goes on when a tab closes or crashes", LIMIT, async (t) => {
     const phone = await start(t);
     const [one, other] = [await open(t, phone), await open(t, phone)];
-    await other.shows("About");
+    await other.openMenu();
     await one.close();
     const crashing = await open(t, phone);
     await Promise.all([crashing.page.waitForEvent("crash"), crashing.page.goto("chrome://crash").catch(() => {})]);
@@ -52,7 +52,7 @@ describe("a session", SUITE_LIMIT, () => {
   test("lets go of the keys that a vanished tab held", LIMIT, async (t) => {
     const phone = await start(t);
     const [one, other] = [await open(t, phone), await open(t, phone)];
-    await other.shows("About");
+    await other.openMenu();
     await other.button("down").click();
     await other.button("ok").click();
     await other.selects("Zoë Ångström, home");
@@ -69,7 +69,7 @@ describe("a session", SUITE_LIMIT, () => {
   test("tells of a crash, and takes up again what is started anew", LIMIT, async (t) => {
     const phone = await start(t);
     const tab = await open(t, phone);
-    await tab.shows("About");
+    await tab.shows("Line 1");
     assert.equal(await phone.kill(), 128 + 9);
     assert.match(phone.output, /The application was stopped by SIGKILL \(Killed\)\./);
     await tab.says(STOPPED);
@@ -78,7 +78,7 @@ describe("a session", SUITE_LIMIT, () => {
     await start(t, { port: phone.port });
     await tab.isConnected();
     assert.equal(await tab.notice(), "");
-    await tab.shows("About");
+    await tab.openMenu();
     await tab.button("down").click();
     await tab.selects("Contacts");
   });
@@ -96,7 +96,7 @@ describe("a session", SUITE_LIMIT, () => {
   test("tells of an orderly end, and takes up again what is started anew", LIMIT, async (t) => {
     const phone = await start(t);
     const tab = await open(t, phone);
-    await tab.shows("About");
+    await tab.shows("Line 1");
     assert.equal(await phone.stop(), 0);
     assert.match(phone.output, /The application has ended\./);
     await tab.says(ENDED);
@@ -105,7 +105,7 @@ describe("a session", SUITE_LIMIT, () => {
 
     await start(t, { port: phone.port });
     await tab.isConnected();
-    await tab.shows("About");
+    await tab.shows("Line 1");
   });
 
   test("tells that the application stands still, and when it goes on", LIMIT, async (t) => {
@@ -139,7 +139,7 @@ describe("a session", SUITE_LIMIT, () => {
     const phone = await start(t);
     const tabs = [];
     for (let i = 0; i < 16; ++i) tabs.push(await open(t, phone));
-    await tabs.at(-1).shows("Call log");
+    await tabs.at(-1).shows("Line 1");
     const late = await Tab.open(browser, phone.url, { connects: false });
     t.after(() => late.close());
     await late.says("16 tabs show this telephone already: close one of them.");
@@ -147,7 +147,7 @@ describe("a session", SUITE_LIMIT, () => {
     assert.equal(await late.state(), "full");
     await tabs[0].close();
     await late.isConnected();
-    await late.shows("Call log");
+    await late.shows("Line 1");
     assert.equal(await late.notice(), "");
   });
 
@@ -156,7 +156,7 @@ describe("a session", SUITE_LIMIT, () => {
     const phone = await start(t, { options });
     assert.ok(phone.url.endsWith("/?token=open_sesame"), phone.url);
     const tab = await open(t, phone);
-    await tab.shows("About");
+    await tab.shows("Line 1");
     for (const address of ["/", "/?token=open_sesam", "/?token="]) {
       const answer = await fetch(new URL(address, phone.url));
       assert.equal(answer.status, 403, address);

@@ -68,7 +68,7 @@ describe("the size", SUITE_LIMIT, () => {
   async function open(t, variant, options) {
     const tab = await Tab.open(browser, phones[variant].url, options);
     t.after(() => tab.close());
-    await tab.shows("Call log");
+    await tab.openMenu();
     return tab;
   }
 

@@ -115,8 +115,7 @@ TEST_P(DesktopPictures, ReadFromTheRight)
 
 TEST_P(DesktopPictures, Screensaver)
 {
-    const std::list<std::string> paths{DISPLAYAPI_EXAMPLE_PICTURES "/sea.png",
-                                       DISPLAYAPI_EXAMPLE_PICTURES "/hills.png"};
+    const std::list<std::string> paths{APP_PICTURES "/sea.png", APP_PICTURES "/hills.png"};
     mDesktop->screensaverSetImages(&paths);
     mDesktop->screensaverStart();
     expectScreen("desktop-sea");

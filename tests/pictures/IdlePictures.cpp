@@ -38,7 +38,7 @@ protected:
 
     IdleDisplaySide& withLogo()
     {
-        mIdle->changeLogo(DISPLAYAPI_EXAMPLE_PICTURES "/logo.png");
+        mIdle->changeLogo(APP_PICTURES "/logo.png");
         mIdle->setBrandingText("Two Peaks Telephony");
         return *mIdle;
     }

@@ -68,6 +68,14 @@ export class Tab {
     return this.page.locator(`[data-key="${key}"]`);
   }
 
+  /** Leaves the home screen for its menu, where another tab has not done so. */
+  async openMenu() {
+    const shows = async (text) => (await this.rows()).some((row) => row.includes(text));
+    await until(async () => (await shows("Line 1")) || (await shows("Call log")), "the telephone is there");
+    if (!(await shows("Call log"))) await this.button("ok").click();
+    await this.shows("Call log");
+  }
+
   /** The picture comes in a message of its own, before or after the rows. */
   looksOtherThan(before) {
     return until(async () => (await this.levels()) !== before, "the picture changes");

@@ -177,9 +177,10 @@ TEST(CataloguesTest, NoTextIsForNobody)
     const Keys used = keysOfTheDeskPhone();
     const auto isUsed = [&](const std::string& key) {
         static constexpr std::string_view WAY_BACK = "Back"; // what menus ask their translator for
+        static constexpr std::string_view DAY = "day";       // what a desktop asks its translator for
         static constexpr std::string_view TITLE = ".title";  // a setting's title is named after the setting
         return used.contains(key) || isTypingKey(key) || key == "Language.name" || key == WAY_BACK ||
-               (key.ends_with(TITLE) && used.contains(key.substr(0, key.size() - TITLE.size())));
+               key.ends_with(DAY) || (key.ends_with(TITLE) && used.contains(key.substr(0, key.size() - TITLE.size())));
     };
     Keys unused = keysOf(catalogueOf("en"));
     std::erase_if(unused, isUsed);

@@ -1,0 +1,61 @@
+#include "apps/deskphone/Home.h"
+
+#include "apps/deskphone/Call.h"
+#include "apps/deskphone/CallHistory.h"
+#include "apps/deskphone/Telephone.h"
+
+namespace deskphone {
+
+Home::Home(Telephone& telephone, Call& call, CallHistory& history)
+    : mTelephone(telephone),
+      mDialer(telephone, [this, &call](const std::string& number) { call.begin(*this, number, number); }),
+      mIdle(telephone, mDialer), mDesktop(telephone, mDialer, [this] { open(); }),
+      mScreensaver([this] { mDesktop.startScreensaver(); })
+{
+    telephone.addScreenListener([this](const DisplayAPI::Displayable* current) { shown(current); });
+    history.addMissedListener([this](int count) { setMissedCalls(count); });
+}
+
+void Home::open()
+{
+    if (mKind == Kind::DESKTOP)
+        mDesktop.open();
+    else
+        mIdle.open();
+    mScreensaver.wait();
+}
+
+void Home::stopListening()
+{
+    mDialer.stopListening();
+    mIdle.stopListening();
+    mDesktop.stopListening();
+}
+
+void Home::setMenu(const std::vector<MainMenu::Entry>& entries)
+{
+    mMenu = std::make_unique<MainMenu>(mTelephone, entries);
+    mIdle.setMenu(*mMenu);
+    mDesktop.setMenu(*mMenu);
+}
+
+void Home::use(Kind kind)
+{
+    mKind = kind;
+}
+
+void Home::shown(const DisplayAPI::Displayable* current)
+{
+    if (current == (mKind == Kind::DESKTOP ? &mDesktop.screen() : &mIdle.screen()))
+        mScreensaver.wait();
+    else
+        mScreensaver.stop();
+}
+
+void Home::setMissedCalls(int count)
+{
+    mIdle.setMissedCalls(count);
+    mDesktop.setMissedCalls(count);
+}
+
+} // namespace deskphone

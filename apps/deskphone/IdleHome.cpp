@@ -1,0 +1,51 @@
+#include "apps/deskphone/IdleHome.h"
+
+#include "DisplayAPI/Display.h"
+#include "apps/deskphone/Dialer.h"
+#include "apps/deskphone/MainMenu.h"
+#include "apps/deskphone/Telephone.h"
+
+namespace deskphone {
+
+using DisplayAPI::Command;
+
+IdleHome::IdleHome(Telephone& telephone, Dialer& dialer)
+    : mTelephone(telephone), mOwnName(&telephone.languages(), "Status.own.name"),
+      mTitle(&telephone.languages(), "Menu.title"), mCanteen(&telephone.languages(), "News.canteen"),
+      mLift(&telephone.languages(), "News.lift"), mIdle(APP_PICTURES "/logo.png"),
+      mChoice(mIdle, [this](Command* command) { chosen(command); })
+{
+    mIdle.addDialer(&dialer.popup());
+    mIdle.showDiallerOnInitialKeyEvent(true);
+    mIdle.setUseDisplayId(true);
+    mIdle.addSystemMessage(mCanteen.info());
+    mIdle.addSystemMessage(mLift.info());
+    renewTexts();
+    telephone.addLanguageListener([this] { renewTexts(); });
+}
+
+void IdleHome::open()
+{
+    mTelephone.show(mIdle, Telephone::Lines::NONE);
+}
+
+void IdleHome::setMenu(MainMenu& menu)
+{
+    mMenu = &menu;
+    mIdle.setCommands(menu.commands());
+    mIdle.setDefaultMenuCommand(menu.commands().front());
+}
+
+void IdleHome::renewTexts()
+{
+    mIdle.setDisplayIdUnicode(mOwnName.get());
+    mIdle.setBrandingText(mTitle.get());
+}
+
+void IdleHome::chosen(const Command* command)
+{
+    if (mTelephone.display().getCurrent() == &mIdle)
+        mMenu->choose(command);
+}
+
+} // namespace deskphone
