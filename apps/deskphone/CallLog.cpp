@@ -14,12 +14,6 @@
 
 namespace deskphone {
 
-namespace {
-
-const std::string WITHOUT_TITLE; // the tab has it
-
-} // namespace
-
 CallLog::CallLog(Telephone& telephone, DisplayAPI::TabScreen& tabs, const std::string& title,
                  std::optional<PastCall::Kind> kind, CallHistory& history, Call& call, CallDetails& details)
     : Screen(telephone, nullptr, WITHOUT_TITLE), mTabs(tabs), mKind(kind), mHistory(history), mCall(call)

@@ -31,11 +31,12 @@ Desk::Desk(DisplayAPI::Display& display, const std::string& language)
       mNewsText(&mTelephone.languages(), "News.ticker"), mNews(mNewsText.get()), mHistory(recentCalls()),
       mCall(mTelephone, mHistory), mDetails(mTelephone, mCall), mHome(mTelephone, mCall, mHistory),
       mCallLogs(mTelephone, mHome, mHistory, mCall, mDetails), mContacts(mTelephone, &mHome, mCall),
-      mSettings(mTelephone, mHome), mAbout(mTelephone, &mHome)
+      mSettings(mTelephone, mHome), mServices(mTelephone, &mHome, mCall), mAbout(mTelephone, &mHome)
 {
     mHome.setMenu({{"Menu.call.log", "Key.call.log", &mCallLogs},
                    {"Menu.contacts", "Key.contacts", &mContacts},
                    {"Menu.settings", "Key.settings", &mSettings},
+                   {"Menu.services", "Key.services", &mServices},
                    {"Menu.about", "Key.about", &mAbout}});
     mContacts.card().setTicker(mNews);
     mTelephone.addLanguageListener([this] { mNews.setText(mNewsText.get()); });
@@ -65,7 +66,7 @@ void Desk::close()
 std::vector<Place*> Desk::places()
 {
     std::vector<Place*> all = {&mHome,  &mCallLogs, &mContacts, &mSettings, &mContacts.card(),
-                               &mAbout, &mCall,     &mDetails};
+                               &mAbout, &mCall,     &mDetails,  &mServices};
     for (Choice* choice : mSettings.choices())
         all.push_back(choice);
     return all;

@@ -9,6 +9,7 @@
 #include "apps/deskphone/Contacts.h"
 #include "apps/deskphone/Home.h"
 #include "apps/deskphone/Menu.h"
+#include "apps/deskphone/Services.h"
 #include "apps/deskphone/Settings.h"
 #include "apps/deskphone/Telephone.h"
 
@@ -44,6 +45,7 @@ private:
     CallLogs mCallLogs;
     Contacts mContacts;
     Settings mSettings;
+    Services mServices;
     About mAbout;
 };
 

@@ -32,8 +32,8 @@ class Telephone;
 /// Make and delete screens on the GUI thread. They answer the user on a thread of the library's.
 class Screen : public Place {
 public:
-    /// `parent` is where left leads back to; null where it does not. `title` is the key of a text; without one there is
-    /// none.
+    /// `parent` is where left leads back to; null where it does not. `title` is the key of a text, or
+    /// WITHOUT_TITLE.
     Screen(Telephone& telephone, Place* parent, const std::string& title);
     ~Screen() override;
 
@@ -46,6 +46,8 @@ public:
     void stopWorking() override;
 
 protected:
+    static inline const std::string WITHOUT_TITLE;
+
     /// For screens with another kind of list.
     Screen(Telephone& telephone, Place* parent, const std::string& title, std::unique_ptr<DisplayAPI::List> list);
 
