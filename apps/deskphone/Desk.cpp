@@ -1,5 +1,6 @@
 #include "apps/deskphone/Desk.h"
 
+#include "DisplayAPI/Display.h"
 #include "host/clock/WallClock.h"
 #include "kit/OffGuiThread.h"
 
@@ -42,9 +43,11 @@ Desk::Desk(DisplayAPI::Display& display, const std::string& language)
     mTelephone.addLanguageListener([this] { mNews.setText(mNewsText.get()); });
 }
 
+/// Nothing is shown any more when the screens go: those that hear what is shown go one by one as well.
 Desk::~Desk()
 {
     DisplayAPI::kit::offGuiThread([this] { close(); });
+    mTelephone.display().setCurrent(nullptr);
 }
 
 void Desk::open()
