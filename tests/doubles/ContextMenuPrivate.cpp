@@ -2,41 +2,28 @@
 
 #include "DisplayAPI/ContextMenu.h"
 #include "DisplayAPI/MenuCommand.h"
-#include "DisplayAPI/OwnershipDelegate.h"
 #include "doubles/Answers.h"
-#include "doubles/Recorder.h"
-#include "toolkit/PegWindow.h"
+#include "doubles/PopupSide.h"
 
 namespace DisplayAPI {
 
-/// The recording context menu. Its widget is a real one, so that a display can show it.
-struct ContextMenuSide::Impl {
-    template <typename... Args>
-    void note(const char* call, const Args&... args) const
-    {
-        doubles::Recorder::instance().note(self, std::string(name) + "::" + call, args...);
-    }
+/// The recording context menu.
+struct ContextMenuSide::Impl : PopupSide::Popup {
+    using Popup::Popup;
 
-    const ContextMenuSide* self;
-    const char* name;
     Command* added = nullptr; ///< the last one: what is selected
-    PegThing* widget = new PegWindow;
-    OwnershipDelegate<PegThing> ownership{&widget, true};
 };
 
 ContextMenuSide::ContextMenuSide(ContextMenu* owner, bool wayBack, Panel panel)
-    : mImpl(new Impl{this, panel == Panel::FULL ? "ContextMenuPrivate" : "ContextMenuPrivateWP1"})
+    : mImpl(new Impl(*this, "ContextMenuPrivate", panel))
 {
     if (panel == Panel::FULL)
-        doubles::Recorder::instance().note(this, mImpl->name, owner);
+        mImpl->made(owner);
     else
-        doubles::Recorder::instance().note(this, mImpl->name, owner, wayBack);
+        mImpl->made(owner, wayBack);
 }
 
-ContextMenuSide::~ContextMenuSide()
-{
-    doubles::Recorder::instance().note(this, std::string("~") + mImpl->name);
-}
+ContextMenuSide::~ContextMenuSide() = default;
 
 ContextMenuPrivate::ContextMenuPrivate(ContextMenu* owner) : ContextMenuSide(owner, false, Panel::FULL) {}
 
@@ -45,43 +32,9 @@ ContextMenuPrivateWP1::ContextMenuPrivateWP1(ContextMenu* owner, bool wayBack)
 {
 }
 
-PegThing* ContextMenuSide::getWidget()
+PopupSide::Popup& ContextMenuSide::popup()
 {
-    return mImpl->widget;
-}
-
-void ContextMenuSide::releaseOwnership()
-{
-    mImpl->ownership.releaseOwnership();
-}
-
-void ContextMenuSide::gainOwnership()
-{
-    mImpl->ownership.gainOwnership();
-}
-
-void ContextMenuSide::show() {}
-
-void ContextMenuSide::lostFocus() {}
-
-bool ContextMenuSide::hideOldWidgetOnFocusGained()
-{
-    return false;
-}
-
-void ContextMenuSide::connectDisplayChangedSignal(DisplayPrivateIfc* display)
-{
-    DisplayablePrivate::connectDisplayChangedSignal(display);
-}
-
-std::string ContextMenuSide::serialise()
-{
-    return DisplayablePrivate::serialise();
-}
-
-std::string ContextMenuSide::serialise(const std::vector<DisplayAPIUtils::Rect>& visible)
-{
-    return DisplayablePrivate::serialise(visible);
+    return *mImpl;
 }
 
 void ContextMenuSide::open()
@@ -162,17 +115,6 @@ void ContextMenuSide::setAutoHideTimeout(int milliseconds)
 void ContextMenuSide::setSysWindowSize(int lines)
 {
     mImpl->note("setSysWindowSize", lines);
-}
-
-void ContextMenuSide::setSysWindowText(std::string text, int line)
-{
-    mImpl->note("setSysWindowText", text, line);
-}
-
-bool ContextMenuSide::hasSystemWindow()
-{
-    mImpl->note("hasSystemWindow");
-    return false;
 }
 
 } // namespace DisplayAPI

@@ -1,48 +1,26 @@
 #include "variants/popup/PopupDialerPrivate.h"
 
 #include "DisplayAPI/MenuCommand.h"
-#include "DisplayAPI/OwnershipDelegate.h"
 #include "doubles/Answers.h"
-#include "doubles/Recorder.h"
-#include "toolkit/PegWindow.h"
-#include "utilities/TranslationInfo.h"
+#include "doubles/PopupSide.h"
 
 namespace DisplayAPI {
 
-/// The recording dialer. Its widget is a real one, so that a display can show it.
-struct PopupDialerSide::Impl {
-    template <typename... Args>
-    void note(const char* call, const Args&... args) const
-    {
-        doubles::Recorder::instance().note(self, std::string(name) + "::" + call, args...);
-    }
-
-    /// By its key: the translation goes at once, as it is this side's now.
-    void take(const char* call, const TranslationInfo* text) const
-    {
-        const std::unique_ptr<const TranslationInfo> owned(text);
-        note(call, "translated " + (owned != nullptr ? owned->key() : std::string("nothing")));
-    }
-
-    const PopupDialerSide* self;
-    const char* name;
-    PegThing* widget = new PegWindow;
-    OwnershipDelegate<PegThing> ownership{&widget, true};
+/// The recording dialer.
+struct PopupDialerSide::Impl : PopupSide::Popup {
+    using Popup::Popup;
 };
 
 PopupDialerSide::PopupDialerSide(PopupDialer* owner, bool wayBack, Panel panel)
-    : mImpl(new Impl{this, panel == Panel::FULL ? "PopupDialerPrivate" : "PopupDialerPrivateWP1"})
+    : mImpl(new Impl(*this, "PopupDialerPrivate", panel))
 {
     if (panel == Panel::FULL)
-        doubles::Recorder::instance().note(this, mImpl->name, owner);
+        mImpl->made(owner);
     else
-        doubles::Recorder::instance().note(this, mImpl->name, owner, wayBack);
+        mImpl->made(owner, wayBack);
 }
 
-PopupDialerSide::~PopupDialerSide()
-{
-    doubles::Recorder::instance().note(this, std::string("~") + mImpl->name);
-}
+PopupDialerSide::~PopupDialerSide() = default;
 
 PopupDialerPrivate::PopupDialerPrivate(PopupDialer* owner) : PopupDialerSide(owner, true, Panel::FULL) {}
 
@@ -51,46 +29,21 @@ PopupDialerPrivateWP1::PopupDialerPrivateWP1(PopupDialer* owner, bool wayBack)
 {
 }
 
-PegThing* PopupDialerSide::getWidget()
+PopupSide::Popup& PopupDialerSide::popup()
 {
-    return mImpl->widget;
-}
-
-void PopupDialerSide::releaseOwnership()
-{
-    mImpl->ownership.releaseOwnership();
-}
-
-void PopupDialerSide::gainOwnership()
-{
-    mImpl->ownership.gainOwnership();
+    return *mImpl;
 }
 
 void PopupDialerSide::show()
 {
-    mImpl->note("show");
+    PopupSide::show();
 }
 
 void PopupDialerSide::lostFocus() {}
 
-bool PopupDialerSide::hideOldWidgetOnFocusGained()
-{
-    return false;
-}
-
 void PopupDialerSide::connectDisplayChangedSignal(DisplayPrivateIfc* display)
 {
-    DisplayablePrivate::connectDisplayChangedSignal(display);
-}
-
-std::string PopupDialerSide::serialise()
-{
-    return DisplayablePrivate::serialise();
-}
-
-std::string PopupDialerSide::serialise(const std::vector<DisplayAPIUtils::Rect>& visible)
-{
-    return DisplayablePrivate::serialise(visible);
+    PopupSide::connectDisplayChangedSignal(display);
 }
 
 void PopupDialerSide::destroy()
@@ -230,22 +183,6 @@ void PopupDialerSide::setStimulusText(TranslationInfo* text)
 void PopupDialerSide::showStimulusTextInHeader(bool on)
 {
     mImpl->note("showStimulusTextInHeader", on);
-}
-
-void PopupDialerSide::setSysWindowSize(int lines)
-{
-    mImpl->note("setSysWindowSize", lines);
-}
-
-void PopupDialerSide::setSysWindowText(std::string text, int line)
-{
-    mImpl->note("setSysWindowText", text, line);
-}
-
-bool PopupDialerSide::hasSystemWindow()
-{
-    mImpl->note("hasSystemWindow");
-    return false;
 }
 
 } // namespace DisplayAPI

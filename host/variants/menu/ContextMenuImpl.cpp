@@ -11,7 +11,6 @@ namespace DisplayAPI {
 
 namespace {
 
-constexpr int TIMEOUT = 1; ///< the timer's id
 constexpr const char* BACK_KEY = "Back";
 constexpr const char* BACK_ARROW = "\u2190"; ///< understood in every language
 
@@ -29,69 +28,57 @@ constexpr const char* nameIn(Panel panel)
 } // namespace
 
 ContextMenuSide::Impl::Impl(ContextMenuSide& menu, ContextMenu* facade, bool wayBack, Panel panelOfMenu)
-    : self(menu), owner(facade), panel(panelOfMenu), leftGoesBack(wayBack || panel == Panel::FULL),
+    : Popup(menu, facade, nullptr), panel(panelOfMenu), leftGoesBack(wayBack || panel == Panel::FULL),
       hasBackRow(wayBack && panel == Panel::SMALL)
 {
     box->setField(column);
-    box->setMessageTarget(this);
     column->setMessageTarget(this);
     clear();
 }
 
 ContextMenuSide::Impl::~Impl()
 {
-    if (box == nullptr)
-        return;
-    box->setMessageTarget(nullptr);
-    column->setMessageTarget(nullptr);
+    if (box != nullptr)
+        column->setMessageTarget(nullptr);
 }
 
-int ContextMenuSide::Impl::Message(const PegMessage& message)
+void ContextMenuSide::Impl::hear(const PegMessage& message)
 {
     switch (message.wType) {
-    case PM_CURRENT_CHANGED:
-        userHasMoved = true;
-        restartTimeout();
-        changed();
-        break;
+    case PM_CURRENT_CHANGED: moved(); break;
     case PM_CLICKED: choose(message.iData); break;
     case PM_KEY: key(message.iData); break;
-    case PM_TIMER: leave(); break;
-    case PM_APPLICATION_CHANGED: languageChanged(); break;
-    default: return PegThing::Message(message);
+    default: break;
     }
-    return 0;
+}
+
+void ContextMenuSide::Impl::moved()
+{
+    userHasMoved = true;
+    changed();
 }
 
 /// What neither the column nor a bar has a use for.
 void ContextMenuSide::Impl::key(int key)
 {
-    restartTimeout();
     const int row = column->current();
     if (key == PK_LEFT && leftGoesBack)
         leave();
     else if (key == PK_RIGHT && rightEqualsOk && row >= 0)
         choose(row);
     else if (key == PK_RIGHT && commandAt(row) != nullptr && rows[static_cast<std::size_t>(row)].second != nullptr)
-        raise(rows[static_cast<std::size_t>(row)].second);
+        raiseAndLeave(rows[static_cast<std::size_t>(row)].second);
 }
 
 void ContextMenuSide::Impl::choose(int row)
 {
-    raise(commandAt(row));
+    raiseAndLeave(commandAt(row));
 }
 
-void ContextMenuSide::Impl::raise(Command* command)
+void ContextMenuSide::Impl::raiseAndLeave(Command* command)
 {
-    if (Command::exists(command))
-        self.postCommand(command, owner);
-    leave();
-}
-
-void ContextMenuSide::Impl::leave()
-{
-    KillTimer(TIMEOUT);
-    self.widgetDismissed(&self);
+    if (!Command::exists(command) || raise(command))
+        leave();
 }
 
 Command* ContextMenuSide::Impl::commandAt(int row) const
@@ -190,24 +177,15 @@ void ContextMenuSide::Impl::layOut()
     box->setStatusLines(free);
 }
 
-void ContextMenuSide::Impl::restartTimeout()
+void ContextMenuSide::Impl::setStatusLines(int lines)
 {
-    if (timeout > 0 && isOnScreen())
-        SetTimer(TIMEOUT, timeout, false);
-    else
-        KillTimer(TIMEOUT);
-}
-
-void ContextMenuSide::Impl::changed()
-{
-    if (isOnScreen())
-        self.generateDisplayChangedEvent();
+    statusLines = lines;
+    layOut();
+    changed();
 }
 
 std::string ContextMenuSide::Impl::asText(const std::vector<DisplayAPIUtils::Rect>& visible) const
 {
-    if (box == nullptr || !isVisible(box->Area(), visible))
-        return {};
     std::string contents;
     for (int row = column->top(); row < column->count() && column->rowArea(row).bottom >= column->rowArea(row).top;
          ++row)

@@ -1,23 +1,18 @@
 #pragma once
 
-#include "DisplayAPI/OwnershipDelegate.h"
-#include "DisplayAPI/WatchedWidget.h"
 #include "host/variants/menu/CommandTexts.h"
+#include "host/variants/popup/Popup.h"
 #include "host/widgets/menu/CommandColumn.h"
-#include "host/widgets/popup/PopupBox.h"
 #include "variants/menu/ContextMenuPrivate.h"
-#include "widgets/ApplicationWatch.h"
 
 #include <vector>
 
 namespace DisplayAPI {
 
-/// A menu's data, and what hears its popup box, its time-out and the language.
-struct ContextMenuSide::Impl : public PegThing {
+/// A menu's data, and what hears its column of commands.
+struct ContextMenuSide::Impl : public PopupSide::Popup {
     Impl(ContextMenuSide& menu, ContextMenu* facade, bool wayBack, Panel panelOfMenu);
     ~Impl() override;
-
-    int Message(const PegMessage& message) override;
 
     /// The number of rows that are commands.
     int size() const { return static_cast<int>(rows.size()); }
@@ -26,37 +21,22 @@ struct ContextMenuSide::Impl : public PegThing {
     Command* commandAt(int row) const;
     int defaultRow() const;
 
-    bool isOnScreen() const { return box != nullptr && box->StatusIs(PSF_VISIBLE); }
-
-    void opened();
+    void opened() override;
     void add(Command* command, Command* second, bool marked);
     void clear();
     void setDefault(Command* command);
     void showWayBack();
-    void layOut();
-    void restartTimeout();
-
-    /// Tells the display when a menu on screen looks different.
-    void changed();
-
-    /// Both end with the menu gone, perhaps.
-    void leave();
-    void raise(Command* command);
-
-    std::string asText(const std::vector<DisplayAPIUtils::Rect>& visible) const;
+    void setStatusLines(int lines) override;
+    std::string asText(const std::vector<DisplayAPIUtils::Rect>& visible) const override;
 
     struct Row {
         Command* command;
         Command* second;
     };
 
-    ContextMenuSide& self;
-    ContextMenu* const owner;
     const Panel panel;
     const bool leftGoesBack;
     const bool hasBackRow;
-    WatchedWidget<host::PopupBox> box{std::in_place_type<host::PopupBox>};
-    OwnershipDelegate<host::PopupBox> ownership{box.slot(), true};
     host::CommandColumn* const column = new host::CommandColumn; ///< the box's, and lives as long
     CommandTexts texts;
     std::vector<Row> rows;
@@ -64,14 +44,18 @@ struct ContextMenuSide::Impl : public PegThing {
     TranslatorIfc* backTranslator = nullptr;
     bool userHasMoved = false;
     bool rightEqualsOk = false;
-    int timeout = 0;
     int statusLines = 0;
-    const ApplicationWatch application{*this};
+
+protected:
+    void hear(const PegMessage& message) override;
+    void languageChanged() override;
 
 private:
     void key(int key);
+    void moved();
     void choose(int row);
-    void languageChanged();
+    void raiseAndLeave(Command* command);
+    void layOut();
     PegString backText() const;
     void selectFirst();
 };

@@ -1,11 +1,8 @@
 #include "variants/menu/ContextMenuPrivate.h"
 
 #include "DisplayAPI/ContextMenu.h"
-#include "DisplayAPI/DisplayPrivateIfc.h"
 #include "DisplayAPI/MenuCommand.h"
-#include "DisplayAPI/Rectangles.h"
 #include "host/variants/menu/ContextMenuImpl.h"
-#include "host/variants/popup/BringUp.h"
 
 namespace DisplayAPI {
 
@@ -23,61 +20,14 @@ ContextMenuPrivateWP1::ContextMenuPrivateWP1(ContextMenu* owner, bool wayBack)
 {
 }
 
-PegThing* ContextMenuSide::getWidget()
+PopupSide::Popup& ContextMenuSide::popup()
 {
-    return mImpl->box.get();
-}
-
-void ContextMenuSide::releaseOwnership()
-{
-    mImpl->ownership.releaseOwnership();
-}
-
-void ContextMenuSide::gainOwnership()
-{
-    mImpl->ownership.gainOwnership();
-}
-
-/// Also when what lay above has gone: an observer learns of it here.
-void ContextMenuSide::show()
-{
-    mImpl->restartTimeout();
-    generateDisplayChangedEvent();
-}
-
-/// Something else has the user; the time-out runs on.
-void ContextMenuSide::lostFocus() {}
-
-bool ContextMenuSide::hideOldWidgetOnFocusGained()
-{
-    return false; // a popup leaves what is below it on screen
-}
-
-/// A display connects what comes to its stack before it shows it, and does not when it shows the same once more.
-void ContextMenuSide::connectDisplayChangedSignal(DisplayPrivateIfc* display)
-{
-    DisplayablePrivate::connectDisplayChangedSignal(display);
-    if (display != nullptr && mImpl->box != nullptr && mImpl->box->Parent() == nullptr)
-        mImpl->opened();
-}
-
-std::string ContextMenuSide::serialise()
-{
-    const PegThing* const box = getWidget();
-    return box != nullptr ? mImpl->asText({toRect(box->Area())}) : std::string();
-}
-
-std::string ContextMenuSide::serialise(const std::vector<DisplayAPIUtils::Rect>& visible)
-{
-    return mImpl->asText(visible);
+    return *mImpl;
 }
 
 void ContextMenuSide::open()
 {
-    if (mImpl->isOnScreen() && display() != nullptr && display()->getCurrent() == mImpl->owner)
-        show();
-    else
-        bringUp(mImpl->owner, display());
+    mImpl->comeUp();
 }
 
 void ContextMenuSide::dismiss()
@@ -145,27 +95,12 @@ void ContextMenuSide::setRightArrowEqualsOK(bool on)
 
 void ContextMenuSide::setAutoHideTimeout(int milliseconds)
 {
-    mImpl->timeout = milliseconds;
-    mImpl->restartTimeout();
+    mImpl->setTimeout(milliseconds);
 }
 
 void ContextMenuSide::setSysWindowSize(int lines)
 {
-    mImpl->statusLines = lines;
-    mImpl->layOut();
-    mImpl->changed();
-}
-
-void ContextMenuSide::setSysWindowText(std::string text, int line)
-{
-    if (mImpl->box != nullptr)
-        mImpl->box->setStatusText(line, std::move(text));
-}
-
-/// On two lines the system window pops up instead.
-bool ContextMenuSide::hasSystemWindow()
-{
-    return mImpl->box != nullptr && mImpl->panel == Panel::FULL;
+    mImpl->setStatusLines(lines);
 }
 
 } // namespace DisplayAPI

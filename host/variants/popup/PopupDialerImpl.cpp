@@ -6,8 +6,6 @@
 #include "DisplayAPI/ScreenText.h"
 #include "utilities/ICC.h"
 
-#include <algorithm>
-
 namespace DisplayAPI {
 
 namespace {
@@ -30,12 +28,11 @@ std::string utf8(const PegString& text)
 } // namespace
 
 PopupDialerSide::Impl::Impl(PopupDialerSide& dialer, PopupDialer* facade, bool wayBack)
-    : self(dialer), owner(facade), leftGoesBack(wayBack)
+    : Popup(dialer, facade, nullptr), leftGoesBack(wayBack)
 {
     field->setMessageTarget(this);
     field->line().setMessageTarget(this);
     field->line().setPlusByLongZero(true);
-    box->setMessageTarget(this);
     box->setField(field);
 }
 
@@ -43,22 +40,19 @@ PopupDialerSide::Impl::~Impl()
 {
     if (box == nullptr)
         return;
-    box->setMessageTarget(nullptr);
     field->setMessageTarget(nullptr);
     field->line().setMessageTarget(nullptr);
 }
 
-int PopupDialerSide::Impl::Message(const PegMessage& message)
+void PopupDialerSide::Impl::hear(const PegMessage& message)
 {
     switch (message.wType) {
     case PM_CURRENT_CHANGED: message.pSource == &field->line() ? userHasEdited() : moved(); break;
     case PM_CLICKED: choose(message.iData); break;
     case PM_LEFT: goBack(); break;
     case PM_KEY: key(message.iData); break;
-    case PM_APPLICATION_CHANGED: languageChanged(); break;
-    default: return PegThing::Message(message);
+    default: break;
     }
-    return 0;
 }
 
 /// What neither the field nor the bar has a use for. The left key is the edit line's: up and down move in the bar, too.
@@ -80,37 +74,28 @@ void PopupDialerSide::Impl::moveTo(int command)
 
 void PopupDialerSide::Impl::moved()
 {
-    userHasMoved = true;
+    commands.userMoved();
     changed();
 }
 
 void PopupDialerSide::Impl::choose(int command)
 {
-    MenuCommand* const chosen = commands.at(static_cast<std::size_t>(command));
-    if (Command::exists(chosen))
-        self.postCommand(chosen, owner);
+    if (MenuCommand* const chosen = commands.at(command))
+        raise(chosen);
 }
 
 void PopupDialerSide::Impl::goBack()
 {
-    if (!leftGoesBack)
-        return;
-    self.postCommand(PopupDialer::BackCommand(), owner);
-    leave();
+    if (leftGoesBack && raise(PopupDialer::BackCommand()))
+        leave();
 }
 
+/// A display that is hidden has not brought it up.
 void PopupDialerSide::Impl::letGo()
 {
     isComingUp = false;
     if (box != nullptr)
         field->released(0);
-}
-
-/// A display that is hidden has not brought it up.
-void PopupDialerSide::Impl::leave()
-{
-    letGo();
-    self.widgetDismissed(&self);
 }
 
 /// The text is no translation any more.
@@ -126,15 +111,14 @@ void PopupDialerSide::Impl::userHasEdited()
 void PopupDialerSide::Impl::opened()
 {
     editFieldIsShown = false;
-    userHasMoved = false;
-    selectDefault();
+    commands.begin();
 }
 
 void PopupDialerSide::Impl::arrived()
 {
     isComingUp = false;
     followEditField();
-    self.generateDisplayChangedEvent();
+    Popup::arrived();
 }
 
 /// It is shown while the dialer is, and no text stands in its place.
@@ -147,7 +131,7 @@ void PopupDialerSide::Impl::followEditField()
 {
     const bool isShown = showsEditField();
     if (isShown && !editFieldIsShown)
-        self.postCommand(PopupDialer::EditFieldShownCommand(), owner);
+        raise(PopupDialer::EditFieldShownCommand());
     editFieldIsShown = isShown;
 }
 
@@ -204,24 +188,16 @@ void PopupDialerSide::Impl::layOut()
 
 void PopupDialerSide::Impl::add(MenuCommand* command)
 {
-    const auto label = texts.textOf(command);
-    if (box == nullptr || !label)
+    if (!commands.add(command))
         return;
-    commands.push_back(command);
-    box->bar().append(*label);
-    if (command == defaultCommand && !userHasMoved)
-        selectDefault();
     layOut();
     changed();
 }
 
 void PopupDialerSide::Impl::remove(MenuCommand* command)
 {
-    const auto found = std::ranges::find(commands, command);
-    if (box == nullptr || found == commands.end())
+    if (!commands.remove(command))
         return;
-    box->bar().remove(static_cast<int>(found - commands.begin()));
-    commands.erase(found);
     layOut();
     changed();
 }
@@ -229,55 +205,29 @@ void PopupDialerSide::Impl::remove(MenuCommand* command)
 void PopupDialerSide::Impl::clear()
 {
     commands.clear();
-    defaultCommand = nullptr;
-    userHasMoved = false;
     if (box == nullptr)
         return;
-    box->bar().setCommands({});
     layOut();
     changed();
 }
 
 void PopupDialerSide::Impl::setDefault(MenuCommand* command)
 {
-    defaultCommand = command;
-    if (userHasMoved)
-        return;
-    selectDefault();
+    commands.setDefault(command);
     changed();
-}
-
-void PopupDialerSide::Impl::selectDefault()
-{
-    if (box == nullptr)
-        return;
-    const auto found = std::ranges::find(commands, defaultCommand);
-    box->bar().setCurrent(found != commands.end() ? static_cast<int>(found - commands.begin()) : 0);
 }
 
 /// A command that has gone keeps the text that it had, and so does what the user has typed.
 void PopupDialerSide::Impl::languageChanged()
 {
-    if (box == nullptr)
-        return;
-    for (std::size_t i = 0; i < commands.size(); ++i)
-        if (auto label = texts.textOf(commands[i]))
-            box->bar().setText(static_cast<int>(i), std::move(*label));
-    if (edited.isTranslated())
+    commands.translate();
+    if (box != nullptr && edited.isTranslated())
         field->line().setText(edited.shown());
     showTexts();
 }
 
-void PopupDialerSide::Impl::changed()
-{
-    if (isOnScreen())
-        self.generateDisplayChangedEvent();
-}
-
 std::string PopupDialerSide::Impl::asText(const std::vector<DisplayAPIUtils::Rect>& visible) const
 {
-    if (box == nullptr || !isVisible(box->Area(), visible))
-        return {};
     std::string contents;
     if (isVisible(box->headerArea(), visible))
         contents += screen::caption(utf8(box->header()));
@@ -285,10 +235,7 @@ std::string PopupDialerSide::Impl::asText(const std::vector<DisplayAPIUtils::Rec
         contents += screen::textLine(0, utf8(field->prefix()) + utf8(field->line().shown()));
     if (isVisible(field->secondArea(), visible))
         contents += screen::textLine(1, utf8(field->second()));
-    for (const host::CommandBar::Cell& cell : box->bar().cells())
-        if (isVisible(cell.area, visible))
-            contents += screen::subItem("MenuCommand", screen::textLine(0, utf8(box->bar().text(cell.command))));
-    return screen::object("PopupDialer", contents);
+    return screen::object("PopupDialer", contents + commands.asText(visible));
 }
 
 } // namespace DisplayAPI

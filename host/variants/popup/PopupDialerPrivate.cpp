@@ -1,8 +1,5 @@
 #include "variants/popup/PopupDialerPrivate.h"
 
-#include "DisplayAPI/DisplayPrivateIfc.h"
-#include "DisplayAPI/Rectangles.h"
-#include "host/variants/popup/BringUp.h"
 #include "host/variants/popup/PopupDialerImpl.h"
 #include "utilities/ICC.h"
 
@@ -25,29 +22,18 @@ PopupDialerPrivateWP1::PopupDialerPrivateWP1(PopupDialer* owner, bool wayBack)
 {
 }
 
-PegThing* PopupDialerSide::getWidget()
+PopupSide::Popup& PopupDialerSide::popup()
 {
-    return mImpl->box.get();
-}
-
-void PopupDialerSide::releaseOwnership()
-{
-    mImpl->ownership.releaseOwnership();
-}
-
-void PopupDialerSide::gainOwnership()
-{
-    mImpl->ownership.gainOwnership();
+    return *mImpl;
 }
 
 /// Asked for by the facade, or told by the display, which connects what it is about to show.
 void PopupDialerSide::show()
 {
-    const bool isCurrent = display() != nullptr && display()->getCurrent() == mImpl->owner && mImpl->isOnScreen();
-    if (mImpl->isComingUp || isCurrent)
+    if (mImpl->isComingUp)
         mImpl->arrived();
     else
-        bringUp(mImpl->owner, display());
+        mImpl->comeUp();
 }
 
 void PopupDialerSide::lostFocus()
@@ -55,28 +41,10 @@ void PopupDialerSide::lostFocus()
     mImpl->letGo();
 }
 
-bool PopupDialerSide::hideOldWidgetOnFocusGained()
-{
-    return false; // a popup leaves what is below it on screen
-}
-
 void PopupDialerSide::connectDisplayChangedSignal(DisplayPrivateIfc* display)
 {
-    DisplayablePrivate::connectDisplayChangedSignal(display);
     mImpl->isComingUp = display != nullptr;
-    if (display != nullptr && mImpl->box != nullptr && mImpl->box->Parent() == nullptr)
-        mImpl->opened();
-}
-
-std::string PopupDialerSide::serialise()
-{
-    const PegThing* const box = getWidget();
-    return box != nullptr ? mImpl->asText({toRect(box->Area())}) : std::string();
-}
-
-std::string PopupDialerSide::serialise(const std::vector<DisplayAPIUtils::Rect>& visible)
-{
-    return mImpl->asText(visible);
+    PopupSide::connectDisplayChangedSignal(display);
 }
 
 void PopupDialerSide::destroy()
@@ -198,12 +166,12 @@ void PopupDialerSide::dismiss()
 
 int PopupDialerSide::getSelectedIndex()
 {
-    return mImpl->box != nullptr ? mImpl->box->bar().current() : -1;
+    return mImpl->commands.selected();
 }
 
 bool PopupDialerSide::selectionHasChanged()
 {
-    return mImpl->userHasMoved;
+    return mImpl->commands.userHasMoved();
 }
 
 void PopupDialerSide::setStimulusText(std::string text)
@@ -219,24 +187,6 @@ void PopupDialerSide::setStimulusText(TranslationInfo* text)
 void PopupDialerSide::showStimulusTextInHeader(bool on)
 {
     mImpl->setStimulusInHeader(on);
-}
-
-void PopupDialerSide::setSysWindowSize(int lines)
-{
-    if (mImpl->box != nullptr)
-        mImpl->box->setStatusLines(lines);
-}
-
-void PopupDialerSide::setSysWindowText(std::string text, int line)
-{
-    if (mImpl->box != nullptr)
-        mImpl->box->setStatusText(line, std::move(text));
-}
-
-/// On two lines the system window pops up instead.
-bool PopupDialerSide::hasSystemWindow()
-{
-    return mImpl->box != nullptr && !host::hasTwoLines();
 }
 
 } // namespace DisplayAPI

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "DisplayAPI/ContextMenuPrivateIfc.h"
-#include "DisplayAPI/DisplayablePrivate.h"
 #include "variants/Panel.h"
+#include "variants/popup/PopupSide.h"
 
 #include <memory>
 
@@ -11,19 +11,9 @@ namespace DisplayAPI {
 class ContextMenu;
 
 /// The GUI-thread side of a context menu, whatever the panel.
-class DISPLAYAPI_EXPORT ContextMenuSide : public DisplayablePrivate, public ContextMenuPrivateIfc {
+class DISPLAYAPI_EXPORT ContextMenuSide : public PopupSide, public ContextMenuPrivateIfc {
 public:
     ~ContextMenuSide() override;
-
-    PegThing* getWidget() override;
-    void releaseOwnership() override;
-    void gainOwnership() override;
-    void show() override;
-    void lostFocus() override;
-    bool hideOldWidgetOnFocusGained() override;
-    void connectDisplayChangedSignal(DisplayPrivateIfc* display) override;
-    std::string serialise() override;
-    std::string serialise(const std::vector<DisplayAPIUtils::Rect>& visible) override;
 
     void open() override;
     void dismiss() override;
@@ -40,13 +30,13 @@ public:
     void setRightArrowEqualsOK(bool on) override;
     void setAutoHideTimeout(int milliseconds) override;
     void setSysWindowSize(int lines) override;
-    void setSysWindowText(std::string text, int line) override;
-    bool hasSystemWindow() override;
 
 protected:
     ContextMenuSide(ContextMenu* owner, bool wayBack, Panel panel);
 
 private:
+    Popup& popup() override;
+
     struct Impl;
     std::unique_ptr<Impl> mImpl;
 };

@@ -1,27 +1,21 @@
 #pragma once
 
-#include "DisplayAPI/DisplayablePrivate.h"
 #include "DisplayAPI/PopupDialerPrivateIfc.h"
 #include "variants/Panel.h"
+#include "variants/popup/PopupSide.h"
 
 #include <memory>
 
 namespace DisplayAPI {
 
 /// The GUI-thread side of a dialer, whatever the panel.
-class DISPLAYAPI_EXPORT PopupDialerSide : public DisplayablePrivate, public PopupDialerPrivateIfc {
+class DISPLAYAPI_EXPORT PopupDialerSide : public PopupSide, public PopupDialerPrivateIfc {
 public:
     ~PopupDialerSide() override;
 
-    PegThing* getWidget() override;
-    void releaseOwnership() override;
-    void gainOwnership() override;
     void show() override;
     void lostFocus() override;
-    bool hideOldWidgetOnFocusGained() override;
     void connectDisplayChangedSignal(DisplayPrivateIfc* display) override;
-    std::string serialise() override;
-    std::string serialise(const std::vector<DisplayAPIUtils::Rect>& visible) override;
 
     void destroy() override;
     void addCommandListener(CommandListener* listener) override;
@@ -51,14 +45,12 @@ public:
     void setStimulusText(TranslationInfo* text) override;
     void showStimulusTextInHeader(bool on) override;
 
-    void setSysWindowSize(int lines) override;
-    void setSysWindowText(std::string text, int line) override;
-    bool hasSystemWindow() override;
-
 protected:
     PopupDialerSide(PopupDialer* owner, bool wayBack, Panel panel);
 
 private:
+    Popup& popup() override;
+
     struct Impl;
     std::unique_ptr<Impl> mImpl;
 };

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "DisplayAPI/WatchedWidget.h"
+#include "host/variants/menu/CommandTexts.h"
+#include "host/widgets/popup/PopupBox.h"
+
+#include <string>
+#include <vector>
+
+namespace DisplayAPIUtils {
+class Rect;
+}
+
+namespace DisplayAPI {
+
+class MenuCommand;
+
+/// The commands in the bar of a popup's box, of which another thread may delete any: it keeps its text, and is none any
+/// more. Where the box has gone they are nowhere. GUI thread only.
+class BarCommands {
+public:
+    explicit BarCommands(const WatchedWidget<host::PopupBox>& box) : mBox(box) {}
+
+    /// Null, a deleted and an unknown one are ignored: false.
+    bool add(MenuCommand* command);
+    bool remove(MenuCommand* command);
+
+    /// Forgets the default one, too.
+    void clear();
+
+    /// Selected where the user has not moved, now or when it is added; null is the first one.
+    void setDefault(MenuCommand* command);
+
+    /// Begins anew: the user has not moved.
+    void begin();
+    void userMoved() { mUserHasMoved = true; }
+    bool userHasMoved() const { return mUserHasMoved; }
+
+    /// -1 where there is none.
+    int selected() const;
+
+    /// What stands there, or null where that has been deleted.
+    MenuCommand* at(int place) const;
+
+    /// Looks up the texts in the language of the moment.
+    void translate();
+
+    std::string asText(const std::vector<DisplayAPIUtils::Rect>& visible) const;
+
+private:
+    void selectDefault();
+
+    const WatchedWidget<host::PopupBox>& mBox;
+    CommandTexts mTexts;
+    std::vector<MenuCommand*> mCommands;
+    MenuCommand* mDefault = nullptr;
+    bool mUserHasMoved = false;
+};
+
+} // namespace DisplayAPI
