@@ -88,7 +88,7 @@ struct Operation {
     {
         Owner* const target = targetIn(facade, side);
         if (target == nullptr)
-            return;
+            return Fields::apply(record, [](const auto&...) {}); // frees what nobody takes
         const auto run = [target]<typename... Args>(Args&&... args) -> Answer {
             return std::invoke(RUNS, *target, std::forward<Args>(args)...);
         };

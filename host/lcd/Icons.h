@@ -49,6 +49,10 @@ extern const Icon FORWARD;
 extern const Icon MISSED_CALL;
 extern const Icon FORWARDED;
 extern const Icon SERVER_FORWARDED;
+extern const Icon QUESTION;
+extern const Icon INFORMATION;
+extern const Icon WARNING;
+extern const Icon FAILURE;
 
 } // namespace icons
 

@@ -19,9 +19,12 @@ protected:
                       const std::vector<std::string>& commands)
     {
         showList("Rooms", rooms(9));
+        std::vector<PopupBox::Line> lines;
         auto* const box = new PopupBox;
         box->setHeader(text(header));
-        box->setBody(test::pegs(body));
+        for (const std::string& line : body)
+            lines.emplace_back(text(line));
+        box->setBody(lines);
         box->setCommands(test::pegs(commands));
         gpPresent->Add(box);
         return *box;

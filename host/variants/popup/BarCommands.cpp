@@ -1,6 +1,6 @@
 #include "host/variants/popup/BarCommands.h"
 
-#include "DisplayAPI/MenuCommand.h"
+#include "DisplayAPI/Command.h"
 #include "DisplayAPI/Rectangles.h"
 #include "DisplayAPI/ScreenText.h"
 #include "utilities/ICC.h"
@@ -9,7 +9,7 @@
 
 namespace DisplayAPI {
 
-bool BarCommands::add(MenuCommand* command)
+bool BarCommands::add(Command* command)
 {
     auto label = mTexts.textOf(command);
     if (mBox == nullptr || !label)
@@ -22,7 +22,7 @@ bool BarCommands::add(MenuCommand* command)
     return true;
 }
 
-bool BarCommands::remove(MenuCommand* command)
+bool BarCommands::remove(Command* command)
 {
     const auto found = std::ranges::find(mCommands, command);
     if (mBox == nullptr || found == mCommands.end())
@@ -42,7 +42,7 @@ void BarCommands::clear()
         mBox->setCommands({});
 }
 
-void BarCommands::setDefault(MenuCommand* command)
+void BarCommands::setDefault(Command* command)
 {
     mDefault = command;
     if (!mUserHasMoved)
@@ -68,9 +68,9 @@ int BarCommands::selected() const
     return mBox != nullptr ? mBox->bar().current() : -1;
 }
 
-MenuCommand* BarCommands::at(int place) const
+Command* BarCommands::at(int place) const
 {
-    MenuCommand* const command = mCommands.at(static_cast<std::size_t>(place));
+    Command* const command = mCommands.at(static_cast<std::size_t>(place));
     return Command::exists(command) ? command : nullptr;
 }
 

@@ -13,7 +13,7 @@ class Rect;
 
 namespace DisplayAPI {
 
-class MenuCommand;
+class Command;
 
 /// The commands in the bar of a popup's box, of which another thread may delete any: it keeps its text, and is none any
 /// more. Where the box has gone they are nowhere. GUI thread only.
@@ -22,14 +22,14 @@ public:
     explicit BarCommands(const WatchedWidget<host::PopupBox>& box) : mBox(box) {}
 
     /// Null, a deleted and an unknown one are ignored: false.
-    bool add(MenuCommand* command);
-    bool remove(MenuCommand* command);
+    bool add(Command* command);
+    bool remove(Command* command);
 
     /// Forgets the default one, too.
     void clear();
 
     /// Selected where the user has not moved, now or when it is added; null is the first one.
-    void setDefault(MenuCommand* command);
+    void setDefault(Command* command);
 
     /// Begins anew: the user has not moved.
     void begin();
@@ -40,7 +40,7 @@ public:
     int selected() const;
 
     /// What stands there, or null where that has been deleted.
-    MenuCommand* at(int place) const;
+    Command* at(int place) const;
 
     /// Looks up the texts in the language of the moment.
     void translate();
@@ -52,8 +52,8 @@ private:
 
     const WatchedWidget<host::PopupBox>& mBox;
     CommandTexts mTexts;
-    std::vector<MenuCommand*> mCommands;
-    MenuCommand* mDefault = nullptr;
+    std::vector<Command*> mCommands;
+    Command* mDefault = nullptr;
     bool mUserHasMoved = false;
 };
 

@@ -14,8 +14,10 @@ public:
     OwnedText() = default;
     explicit OwnedText(std::string text) : mText(std::move(text)) {}
     explicit OwnedText(TranslationInfo* translation) : mTranslation(translation), mText(translation) {}
+    explicit OwnedText(std::unique_ptr<TranslationInfo> translation) : OwnedText(translation.release()) {}
 
     bool isTranslated() const { return mText.isTranslated(); }
+    std::string text() const { return mText.text(); }
     PegString shown() const { return mText.shown(); }
 
 private:

@@ -80,7 +80,7 @@ void PopupDialerSide::Impl::moved()
 
 void PopupDialerSide::Impl::choose(int command)
 {
-    if (MenuCommand* const chosen = commands.at(command))
+    if (Command* const chosen = commands.at(command))
         raise(chosen);
 }
 

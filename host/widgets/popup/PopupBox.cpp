@@ -3,7 +3,7 @@
 #include "host/lcd/Geometry.h"
 #include "host/lcd/Painter.h"
 #include "host/widgets/Column.h"
-#include "host/widgets/Reading.h"
+#include "host/widgets/Strip.h"
 #include "host/widgets/popup/PopupFrame.h"
 
 #include <algorithm>
@@ -15,6 +15,20 @@ namespace {
 constexpr int INDENT = 8; ///< of the box, from the panel's edges
 constexpr int MARGIN = 4; ///< of the parts, from the frame
 constexpr int RULE = 2;   ///< between the parts
+constexpr int ICON_WIDTH = 14;
+constexpr int MARK_WIDTH = 10;
+
+void drawLine(PegPainter& painter, const PegRect& area, const PopupBox::Line& line, Font font)
+{
+    Strip strip(area);
+    const PegRect front = strip.fromStart(line.icon != nullptr ? ICON_WIDTH : 0);
+    const PegRect behind = strip.fromEnd(line.mark != nullptr ? MARK_WIDTH : 0);
+    if (line.icon != nullptr)
+        painter.icon(*line.icon, front, Level::DARK);
+    if (line.mark != nullptr)
+        painter.icon(*line.mark, behind, Level::DARK);
+    painter.text(strip.rest(), line.text, {.font = font, .align = startAlign()});
+}
 
 } // namespace
 
@@ -25,13 +39,13 @@ PopupBox::PopupBox() : PegWindow(FF_NONE), mBar(new CommandBar)
     layOut();
 }
 
-void PopupBox::setHeader(PegString text)
+void PopupBox::setHeader(Line line)
 {
-    mHeader = std::move(text);
+    mHeader = std::move(line);
     layOut();
 }
 
-void PopupBox::setBody(std::vector<PegString> lines)
+void PopupBox::setBody(std::vector<Line> lines)
 {
     mBody = std::move(lines);
     layOut();
@@ -111,7 +125,7 @@ PopupBox::Parts PopupBox::parts() const
     const bool framed = !hasTwoLines();
     const int line = Field::lineHeight();
     const int inner = framed ? width - 2 * (INDENT + FRAME_WIDTH + MARGIN) : width;
-    const int header = mHeader.empty() ? 0 : line + (framed ? RULE : 0);
+    const int header = mHeader.isEmpty() ? 0 : line + (framed ? RULE : 0);
     const int bar = mBar->count() == 0 ? 0 : line + (framed ? RULE : 0);
     const int field = mField == nullptr ? 0 : mField->heightFor(inner);
     const int wanted = header + bar + field + line * static_cast<int>(mBody.size());
@@ -151,13 +165,13 @@ void PopupBox::Draw(PegPainter& painter)
     else
         drawPopupFrame(painter, where.box);
     if (!isEmpty(where.header)) {
-        painter.text(where.header, mHeader, {.font = Field::boldFont(), .align = startAlign()});
+        drawLine(painter, where.header, mHeader, Field::boldFont());
         if (!hasTwoLines())
             painter.fill(rectAt(where.header.left, where.header.bottom, widthOf(where.header), 1), Level::MIDDLE);
     }
     for (std::size_t i = 0; i < mBody.size(); ++i)
         if (!isEmpty(where.lines[i]))
-            painter.text(where.lines[i], mBody[i], {.font = Field::font(), .align = startAlign()});
+            drawLine(painter, where.lines[i], mBody[i], Field::font());
 }
 
 } // namespace host

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "host/lcd/Icons.h"
 #include "host/widgets/popup/CommandBar.h"
 #include "host/widgets/popup/PopupStatus.h"
 #include "toolkit/PString.h"
 #include "toolkit/PegWindow.h"
 
+#include <utility>
 #include <vector>
 
 namespace host {
@@ -16,17 +18,35 @@ namespace host {
 /// It makes no decision of its own: whoever hears the bar takes it off the screen.
 class PopupBox : public PegWindow {
 public:
+    /// A text, cut with an ellipsis, with an icon before it and a mark where it ends; null is none of them.
+    struct Line {
+        Line() = default;
+        Line(PegString lineText, const Icon* before = nullptr, const Icon* behind = nullptr)
+            : text(std::move(lineText)), icon(before), mark(behind)
+        {
+        }
+
+        bool isEmpty() const { return text.empty() && icon == nullptr; }
+
+        PegString text;
+        const Icon* icon = nullptr;
+        const Icon* mark = nullptr;
+    };
+
     PopupBox();
 
     /// An empty one takes no room.
-    void setHeader(PegString text);
-    const PegString& header() const { return mHeader; }
+    void setHeader(Line line);
+    const PegString& header() const { return mHeader.text; }
 
     /// Empty where it is not shown.
     PegRect headerArea() const { return parts().header; }
 
-    /// A line each, cut with an ellipsis.
-    void setBody(std::vector<PegString> lines);
+    void setBody(std::vector<Line> lines);
+    const std::vector<Line>& body() const { return mBody; }
+
+    /// One for each line; empty where that is not shown.
+    std::vector<PegRect> bodyAreas() const { return parts().lines; }
 
     /// Stands under the lines and has the focus; the box's property. Null takes the present one out and deletes it.
     void setField(Field* field);
@@ -70,8 +90,8 @@ private:
     Parts parts() const;
     void layOut();
 
-    PegString mHeader;
-    std::vector<PegString> mBody;
+    Line mHeader;
+    std::vector<Line> mBody;
     CommandBar* mBar;
     Field* mField = nullptr;
     PegThing* mTarget = nullptr;

@@ -46,7 +46,7 @@ protected:
 TEST_P(PopupBoxTest, StandsInTheMiddleOfThePanelOrTakesBothLines)
 {
     box.setHeader(test::peg("Delete?"));
-    box.setBody(test::pegs({"Ada"}));
+    box.setBody({test::peg("Ada")});
     box.setCommands(test::pegs({"Yes", "No"}));
     const PegRect all = gpPresent->Area();
     EXPECT_TRUE(host::contains(all, box.Area()));
@@ -59,17 +59,17 @@ TEST_P(PopupBoxTest, StandsInTheMiddleOfThePanelOrTakesBothLines)
 TEST_P(PopupBoxTest, GrowsWithItsPartsAndNeverBeyondThePanel)
 {
     const int empty = host::heightOf(box.Area());
-    box.setBody(test::pegs({"One", "Two"}));
+    box.setBody({test::peg("One"), test::peg("Two")});
     const int lines = host::heightOf(box.Area());
     EXPECT_TRUE(isSmall() ? lines == empty : lines > empty);
-    box.setBody(std::vector<PegString>(50, test::peg("Line")));
+    box.setBody(std::vector<PopupBox::Line>(50, test::peg("Line")));
     EXPECT_TRUE(host::contains(gpPresent->Area(), box.Area()));
 }
 
 TEST_P(PopupBoxTest, KeepsHeaderAndBarWhereThereIsNoRoomForTheBody)
 {
     box.setHeader(test::peg("Delete?"));
-    box.setBody(std::vector<PegString>(50, test::peg("Line")));
+    box.setBody(std::vector<PopupBox::Line>(50, test::peg("Line")));
     box.setCommands(test::pegs({"Yes", "No"}));
     EXPECT_FALSE(host::isEmpty(box.bar().Area()));
     EXPECT_TRUE(host::contains(box.Area(), box.bar().Area()));
@@ -90,7 +90,7 @@ TEST_P(PopupBoxTest, KeepsFieldAndBarWhereThereIsNoRoomForTheHeader)
 TEST_P(PopupBoxTest, LeavesFreeWhatIsToStayFree)
 {
     const int line = host::Field::lineHeight();
-    box.setBody(std::vector<PegString>(50, test::peg("Line")));
+    box.setBody(std::vector<PopupBox::Line>(50, test::peg("Line")));
     box.setStatusLines(1);
     EXPECT_GE(box.Area().top, line);
     EXPECT_TRUE(host::contains(gpPresent->Area(), box.Area()));

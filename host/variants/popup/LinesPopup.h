@@ -1,0 +1,43 @@
+#pragma once
+
+#include "host/variants/popup/OwnedText.h"
+#include "host/variants/popup/Popup.h"
+
+#include <array>
+
+namespace DisplayAPI {
+
+/// A popup that says something: its first line is the box's header, further ones that are not empty its body.
+struct LinesPopup : public PopupSide::Popup {
+    /// A text, and what stands before it.
+    struct Line {
+        PegString shown() const;
+
+        OwnedText prefix, text;
+        const host::Icon* icon = nullptr;
+    };
+
+    using Popup::Popup;
+
+    /// Changes one of the texts, or an icon, and shows it.
+    void set(OwnedText& which, OwnedText text);
+    void setIcon(Line& line, const host::Icon* icon);
+
+    /// At the end of the first line.
+    void setMark(const host::Icon* icon);
+
+    std::array<Line, 3> lines;
+
+protected:
+    void languageChanged() override { showLines(); }
+
+    /// Header and body as the screen's text has them.
+    std::string linesAsText(const std::vector<DisplayAPIUtils::Rect>& visible) const;
+
+private:
+    void showLines();
+
+    const host::Icon* mMark = nullptr;
+};
+
+} // namespace DisplayAPI
