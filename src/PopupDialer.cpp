@@ -3,6 +3,7 @@
 #include "DisplayAPI/Command.h"
 #include "DisplayAPI/MenuCommand.h"
 #include "DisplayAPI/PopupDialerPrivateIfc.h"
+#include "HandOver.h"
 #include "Operations.h"
 #include "Variant.h"
 #include "utilities/TranslationInfo.h"
@@ -55,13 +56,12 @@ struct PopupDialer::Ops
     : Operations<
           Posts<CREATE, &PopupDialer::create>, Waits<DESTROY, &PopupDialer::destroy>,
           Posts<SET_LINE1_PREFIX, TEXT(&Ifc::setLine1PrefixText)>,
-          Posts<SET_LINE1_PREFIX_TRANSLATED, &PopupDialer::hand<TRANSLATION(&Ifc::setLine1PrefixText)>>,
-          Posts<SET_TEXT, TEXT(&Ifc::setText)>,
-          Posts<SET_TEXT_TRANSLATED, &PopupDialer::hand<TRANSLATION(&Ifc::setText)>>,
+          Posts<SET_LINE1_PREFIX_TRANSLATED, &handOver<Ifc, TRANSLATION(&Ifc::setLine1PrefixText)>>,
+          Posts<SET_TEXT, TEXT(&Ifc::setText)>, Posts<SET_TEXT_TRANSLATED, &handOver<Ifc, TRANSLATION(&Ifc::setText)>>,
           Posts<SET_LINE2, TEXT(&Ifc::setLine2Text)>,
-          Posts<SET_LINE2_TRANSLATED, &PopupDialer::hand<TRANSLATION(&Ifc::setLine2Text)>>,
+          Posts<SET_LINE2_TRANSLATED, &handOver<Ifc, TRANSLATION(&Ifc::setLine2Text)>>,
           Waits<GET_LINE_EDIT, &Ifc::getLineEditText>, Posts<SET_LINE_EDIT, TEXT(&Ifc::setLineEditText)>,
-          Posts<SET_LINE_EDIT_TRANSLATED, &PopupDialer::hand<TRANSLATION(&Ifc::setLineEditText)>>,
+          Posts<SET_LINE_EDIT_TRANSLATED, &handOver<Ifc, TRANSLATION(&Ifc::setLineEditText)>>,
           Posts<SHOW, &DisplayablePrivateIfc::show>, Superseding<Posts<DISMISS, &Ifc::dismiss>>,
           Waits<ADD_COMMAND, &Ifc::addCommand>, Waits<REMOVE_COMMAND, &Ifc::removeCommand>,
           Waits<SET_DEFAULT_COMMAND, &Ifc::setDefaultCommand>,
@@ -73,7 +73,7 @@ struct PopupDialer::Ops
           Posts<ADD_ITEM_STATE_LISTENER, &Ifc::addItemStateListener>,
           Posts<REMOVE_ITEM_STATE_LISTENER, &Ifc::removeItemStateListener>,
           Posts<ADD_COMMAND_LISTENER, &Ifc::addCommandListener>, Posts<SET_STIMULUS, TEXT(&Ifc::setStimulusText)>,
-          Posts<SET_STIMULUS_TRANSLATED, &PopupDialer::hand<TRANSLATION(&Ifc::setStimulusText)>>,
+          Posts<SET_STIMULUS_TRANSLATED, &handOver<Ifc, TRANSLATION(&Ifc::setStimulusText)>>,
           Waits<SHOW_STIMULUS_IN_HEADER, &Ifc::showStimulusTextInHeader>> {};
 
 PopupDialer::PopupDialer(bool wayBack, int)
@@ -104,14 +104,6 @@ void PopupDialer::create(bool wayBack)
 void PopupDialer::destroy()
 {
     deletePrivateSide(mImplementation);
-}
-
-/// A translation that no private side takes is deleted.
-template <auto SETTER>
-void PopupDialer::hand(Owned text)
-{
-    if (mImplementation != nullptr)
-        (mImplementation->*SETTER)(text.release());
 }
 
 void PopupDialer::processGuiRequest(GuiRequestEvent& request)

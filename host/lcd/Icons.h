@@ -53,6 +53,10 @@ extern const Icon QUESTION;
 extern const Icon INFORMATION;
 extern const Icon WARNING;
 extern const Icon FAILURE;
+extern const Icon URGENT;
+extern const Icon CALL_IN;
+extern const Icon CALL_OUT;
+extern const Icon HOLD;
 
 } // namespace icons
 

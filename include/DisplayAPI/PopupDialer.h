@@ -132,9 +132,6 @@ private:
     void create(bool wayBack);
     void destroy();
 
-    template <auto SETTER>
-    void hand(std::unique_ptr<TranslationInfo> text);
-
     PopupDialerPrivateIfc* mImplementation = nullptr;
 };
 

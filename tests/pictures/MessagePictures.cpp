@@ -1,6 +1,8 @@
 #include "DisplayAPI/MenuCommand.h"
 #include "pictures/StatusScreens.h"
 #include "utilities/CallPartyIdentifier.h"
+#include "utilities/TranslationInfo.h"
+#include "variants/popup/PopupCallPrivate.h"
 #include "variants/popup/PopupConfirmPrivate.h"
 #include "variants/popup/PopupNotificationPrivate.h"
 #include "variants/popup/PopupProgressPrivate.h"
@@ -8,6 +10,7 @@
 namespace {
 
 using DisplayAPI::MenuCommand;
+using DisplayAPI::PopupCall;
 using DisplayAPI::PopupConfirm;
 using DisplayAPI::PopupNotification;
 using DisplayAPI::PopupProgress;
@@ -16,6 +19,13 @@ using DisplayAPI::PopupProgress;
 class MessagePictures : public StatusScreens {
 protected:
     ~MessagePictures() override { takeOff(); }
+
+    DisplayAPI::PopupCallSide& call()
+    {
+        if (isTwoLines())
+            return show<DisplayAPI::PopupCallPrivateWP1>(nullptr, nullptr);
+        return show<DisplayAPI::PopupCallPrivate>(nullptr, nullptr);
+    }
 
     DisplayAPI::PopupConfirmSide& ask()
     {
@@ -38,7 +48,8 @@ protected:
         return show<DisplayAPI::PopupProgressPrivate>(nullptr, type);
     }
 
-    void addAnswers(DisplayAPI::PopupConfirmSide& popup, const std::vector<std::string>& labels)
+    template <typename Side>
+    void addAnswers(Side& popup, const std::vector<std::string>& labels)
     {
         for (const std::string& label : labels) {
             mAnswers.push_back(std::make_unique<MenuCommand>(label, mAnswers.size()));
@@ -76,6 +87,33 @@ private:
 };
 
 } // namespace
+
+TEST_P(MessagePictures, CallThatComesAndIsConnected)
+{
+    auto& popup = call();
+    popup.setPopupCallDetails(std::make_unique<CallPartyIdentifier>("Zoë Ångström", "4711"),
+                              std::make_unique<CallPartyIdentifier>("", "030 1234567"), DisplayAPI::FORWARDED_NO_ANSWER,
+                              "Room 4", nullptr);
+    popup.setState(PopupCall::INCOMING, PopupCall::URGENT);
+    addAnswers(popup, {"Answer", "Reject"});
+    expectScreen("call-incoming");
+    popup.clearCommands();
+    addAnswers(popup, {"Hang up"});
+    popup.setState(PopupCall::CONNECTED, PopupCall::NORMAL);
+    popup.setAuxText("Connected");
+    expectScreen("call-connected");
+}
+
+TEST_P(MessagePictures, CallReadFromTheRight)
+{
+    mApplication.setLocale(text("ar"));
+    auto& popup = call();
+    popup.setLine1PrefixText("إلى");
+    popup.setText("سارة");
+    popup.setState(PopupCall::HELD, PopupCall::EMERGENCY);
+    addAnswers(popup, {"نعم", "لا"});
+    expectScreen("call-arabic");
+}
 
 TEST_P(MessagePictures, QuestionWithAnswers)
 {

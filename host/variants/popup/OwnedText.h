@@ -1,5 +1,6 @@
 #pragma once
 
+#include "DisplayAPI/PartyText.h"
 #include "DisplayAPI/TranslatedText.h"
 #include "utilities/TranslationInfo.h"
 
@@ -15,6 +16,12 @@ public:
     explicit OwnedText(std::string text) : mText(std::move(text)) {}
     explicit OwnedText(TranslationInfo* translation) : mTranslation(translation), mText(translation) {}
     explicit OwnedText(std::unique_ptr<TranslationInfo> translation) : OwnedText(translation.release()) {}
+
+    /// Who that is, or that nobody knows.
+    explicit OwnedText(const CallPartyIdentifier& party)
+    {
+        showParty(party, [this](const auto& shown) { *this = OwnedText(shown); });
+    }
 
     bool isTranslated() const { return mText.isTranslated(); }
     std::string text() const { return mText.text(); }

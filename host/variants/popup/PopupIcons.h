@@ -1,6 +1,7 @@
 #pragma once
 
 #include "DisplayAPI/ForwardedCallType.h"
+#include "DisplayAPI/PopupCall.h"
 #include "DisplayAPI/PopupConfirm.h"
 #include "DisplayAPI/PopupNotification.h"
 #include "DisplayAPI/PopupProgress.h"
@@ -42,6 +43,20 @@ inline const host::Icon* iconOf(PopupNotification::IconElemType icon)
     return iconAt(
         std::array<const host::Icon*, 7>{nullptr, &HANDSET, &MISSED_CALL, &FORWARDED, &LETTER, &PERSON, &PADLOCK},
         icon);
+}
+
+inline const host::Icon* iconOf(PopupCall::CallState state)
+{
+    using namespace host::icons;
+    return iconAt(std::array<const host::Icon*, 10>{nullptr, &CALL_IN, &CALL_OUT, &CALL_OUT, &HANDSET, &HOLD, &FORWARD,
+                                                    &FORWARDED, &NO_ENTRY, &FAILURE},
+                  state);
+}
+
+inline const host::Icon* iconOf(PopupCall::CallPriority priority)
+{
+    using namespace host::icons;
+    return iconAt(std::array<const host::Icon*, 3>{nullptr, &URGENT, &WARNING}, priority);
 }
 
 inline const host::Icon* iconOf(ForwardedCallType type)

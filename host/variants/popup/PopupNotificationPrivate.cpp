@@ -1,23 +1,12 @@
 #include "variants/popup/PopupNotificationPrivate.h"
 
 #include "DisplayAPI/MenuCommand.h"
-#include "DisplayAPI/PartyText.h"
 #include "DisplayAPI/ScreenText.h"
 #include "host/variants/popup/LinesPopup.h"
 #include "host/variants/popup/PopupIcons.h"
+#include "utilities/CallPartyIdentifier.h"
 
 namespace DisplayAPI {
-
-namespace {
-
-OwnedText textOf(const CallPartyIdentifier& party)
-{
-    OwnedText shown;
-    showParty(party, [&shown](const auto& text) { shown = OwnedText(text); });
-    return shown;
-}
-
-} // namespace
 
 /// A notification's data, and what hears the keys that close it.
 struct PopupNotificationSide::Impl : public LinesPopup {
@@ -118,8 +107,8 @@ void PopupNotificationSide::setLine3Text(std::unique_ptr<TranslationInfo> text)
 void PopupNotificationSide::setForwardNotification(std::unique_ptr<CallPartyIdentifier> caller,
                                                    std::unique_ptr<CallPartyIdentifier> called, ForwardedCallType type)
 {
-    mImpl->lines[0].text = textOf(*called);
-    mImpl->lines[1].text = textOf(*caller);
+    mImpl->lines[0].text = OwnedText(*called);
+    mImpl->lines[1].text = OwnedText(*caller);
     mImpl->setIcon(mImpl->lines[1], iconOf(type));
 }
 
