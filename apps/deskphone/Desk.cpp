@@ -1,6 +1,7 @@
 #include "apps/deskphone/Desk.h"
 
 #include "DisplayAPI/Display.h"
+#include "apps/deskphone/Panel.h"
 #include "host/clock/WallClock.h"
 #include "kit/OffGuiThread.h"
 
@@ -32,14 +33,15 @@ Desk::Desk(DisplayAPI::Display& display, const std::string& language)
       mNewsText(&mTelephone.languages(), "News.ticker"), mNews(mNewsText.get()), mHistory(recentCalls()),
       mCall(mTelephone, mHistory), mDetails(mTelephone, mCall), mHome(mTelephone, mCall, mHistory),
       mCallLogs(mTelephone, mHome, mHistory, mCall, mDetails), mContacts(mTelephone, &mHome, mCall),
-      mSettings(mTelephone, mHome), mServices(mTelephone, &mHome, mCall), mAbout(mTelephone, &mHome)
+      mSettings(mTelephone, mHome), mServices(mTelephone, &mHome, mHistory, mCall), mAbout(mTelephone, &mHome)
 {
     mHome.setMenu({{"Menu.call.log", "Key.call.log", &mCallLogs},
                    {"Menu.contacts", "Key.contacts", &mContacts},
                    {"Menu.settings", "Key.settings", &mSettings},
                    {"Menu.services", "Key.services", &mServices},
                    {"Menu.about", "Key.about", &mAbout}});
-    mContacts.card().setTicker(mNews);
+    if (!isSmallPanel()) // which has no line to spare
+        mServices.setTicker(mNews);
     mTelephone.addLanguageListener([this] { mNews.setText(mNewsText.get()); });
 }
 

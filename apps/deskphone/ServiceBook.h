@@ -6,13 +6,14 @@
 
 namespace deskphone {
 
-/// Something to read, or somebody to call.
+/// Something to read, somebody to call, or somebody who calls.
 struct Service {
     std::string title;              ///< its key
     std::vector<std::string> lines; ///< their keys
     std::string number;             ///< empty where there is nobody to call
+    bool callsBack = false;
 };
 
-extern const std::array<Service, 4> SERVICES;
+extern const std::array<Service, 5> SERVICES;
 
 } // namespace deskphone

@@ -2,6 +2,7 @@
 
 #include "apps/deskphone/LineScreen.h"
 #include "apps/deskphone/ServiceBook.h"
+#include "apps/deskphone/WakeUp.h"
 
 #include <deque>
 
@@ -23,10 +24,10 @@ private:
     Text& mTitle;
 };
 
-/// The services of the house. Choosing one shows what it has to say, or calls it.
+/// The services of the house. Choosing one shows what it has to say, calls it, or has it call.
 class Services : public LineScreen {
 public:
-    Services(Telephone& telephone, Place* parent, Call& call);
+    Services(Telephone& telephone, Place* parent, CallHistory& history, Call& call);
 
     void stopListening() override;
     void stopWorking() override;
@@ -37,6 +38,7 @@ private:
     std::vector<std::string> lines() override;
 
     Call& mCall;
+    WakeUp mWakeUp;
     Text& mTitle;
     Text& mOffered;
     std::deque<ServicePage> mPages; ///< one for each service

@@ -1,8 +1,8 @@
 #include "apps/deskphone/StatusLines.h"
 
 #include "DisplayAPI/Display.h"
+#include "apps/deskphone/Panel.h"
 #include "apps/deskphone/Telephone.h"
-#include "host/Phone.h"
 #include "host/clock/WallClock.h"
 
 namespace deskphone {
@@ -16,11 +16,6 @@ enum Line { OWN_NAME = 0, PARTY = 1 };
 
 /// The small panel's status line is taken down by a line of blanks.
 const std::string BLANK_LINE(24, ' ');
-
-bool isSmallPanel()
-{
-    return host::variant() == host::Variant::WP1;
-}
 
 } // namespace
 

@@ -234,11 +234,9 @@ describe("access", SUITE_LIMIT, () => {
 
   /** The screen with the running text. */
   async function openNews() {
-    await press("ArrowDown");
-    for (const shown of ["Αλέξανδρος", "030"]) {
-      await tab.page.keyboard.press("Enter");
-      await tab.shows(shown);
-    }
+    await press("ArrowDown", "ArrowDown", "ArrowDown");
+    await tab.page.keyboard.press("Enter");
+    await tab.shows("Canteen");
   }
 
   /** How many different pictures the panel shows within some seconds. */
@@ -253,7 +251,7 @@ describe("access", SUITE_LIMIT, () => {
     await until(async () => (await picturesIn(tab, 1000)) > 10, "the text runs");
     const still = await Tab.open(browser, phone.url, { reducedMotion: "reduce" });
     t.after(() => still.close());
-    await still.shows("030");
+    await still.shows("Canteen");
     await until(async () => (await picturesIn(tab, 500)) <= 2, "the text rests");
     assert.ok((await picturesIn(still, 3500)) <= 3);
     await still.close();
