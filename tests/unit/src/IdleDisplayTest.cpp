@@ -270,7 +270,9 @@ TEST_P(IdleDisplayTest, OwnDialerThatComesBackStaysItsOwn)
     PopupDialer* const own = dialer();
     run([&] { idle->addDialer(own); });
     EXPECT_EQ(dialer(), own);
+    EXPECT_EQ(recorder.count("~PopupDialerPrivate"), 0);
     run([&] { idle->addDialer(nullptr); });
+    EXPECT_EQ(recorder.count("~PopupDialerPrivate"), 1);
     EXPECT_THAT(arrived(), Contains("setDialler(" + doubles::printed(static_cast<const void*>(nullptr)) + ")"));
 }
 

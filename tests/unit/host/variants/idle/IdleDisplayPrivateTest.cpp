@@ -194,6 +194,18 @@ TEST_P(IdleDisplayPrivateTest, ReadingDirectionTurnsPlainTextsRound)
     EXPECT_TRUE(turned.pixels == lcd.picture().pixels);
 }
 
+TEST_P(IdleDisplayPrivateTest, NewFormatOfDatesIsPainted)
+{
+    host::Lcd& lcd = *host::Lcd::current();
+    lcd.paint();
+    display.dateFormatChanged("yyyy-mm-dd");
+    lcd.paint();
+    const auto changed = lcd.picture();
+    idle->getPrivateImpl()->getWidget()->Invalidate();
+    lcd.paint();
+    EXPECT_TRUE(changed.pixels == lcd.picture().pixels);
+}
+
 TEST_P(IdleDisplayPrivateTest, FormatsAreThoseOfTheTelephone)
 {
     display.dateFormatChanged("yyyy-mm-dd");
@@ -262,6 +274,26 @@ TEST_P(IdleDisplayPrivateTest, OkAndDownOpenTheMenuAtItsDefault)
     press(PK_OK);
     EXPECT_THAT(raised, ElementsAre("Edit"));
     EXPECT_FALSE(shows("MenuItem"));
+}
+
+TEST_P(IdleDisplayPrivateTest, DefaultGoesWithTheCommands)
+{
+    addCommands();
+    idle->setDefaultMenuCommand(edit.get());
+    addCommands();
+    press(PK_OK);
+    press(PK_OK);
+    EXPECT_THAT(raised, ElementsAre("Call"));
+}
+
+TEST_P(IdleDisplayPrivateTest, MenuWithoutADefaultBeginsWithItsFirstCommand)
+{
+    idle->setDefaultMenuCommand(nullptr);
+    for (MenuCommand* const command : {call.get(), edit.get()})
+        idle->addCommand(command);
+    for (const int key : {PK_OK, PK_DOWN, PK_LEFT, PK_OK, PK_OK})
+        press(key);
+    EXPECT_THAT(raised, ElementsAre("Call"));
 }
 
 TEST_P(IdleDisplayPrivateTest, MenuGoesRoundAndChooses)

@@ -109,6 +109,14 @@ TEST_P(ListDialerTest, ExclusiveListsOpenTheirs)
     display.setCurrent(&list);
 }
 
+TEST_P(ListDialerTest, OpensOnTheDisplayOfItsList)
+{
+    Display latest(host::hardwareName(), "en_GB", "dd.mm.yyyy", "24h", host::isNarrow(), nullptr);
+    type("4");
+    EXPECT_EQ(display.getCurrent(), dialer.get());
+    EXPECT_EQ(latest.getCurrent(), nullptr);
+}
+
 TEST_P(ListDialerTest, ListWithoutADialersSideOpensNothing)
 {
     PopupDialer empty(nullptr);

@@ -181,6 +181,41 @@ TEST_P(PopupDialerPrivateTest, SelectionBeginsAtTheDefaultCommand)
     EXPECT_EQ(dialer->getSelectedIndex(), 1);
 }
 
+TEST_P(PopupDialerPrivateTest, DefaultThatIsAddedLateLeavesTheUserWhereHeIs)
+{
+    MenuCommand edit("Edit", 3);
+    dialer->setDefaultCommand(save.get());
+    dialer->addCommand(dial.get());
+    dialer->addCommand(&edit);
+    dialer->show();
+    press(PK_DOWN);
+    dialer->addCommand(save.get());
+    EXPECT_EQ(dialer->getSelectedIndex(), 1);
+    dialer->clearCommands();
+}
+
+TEST_P(PopupDialerPrivateTest, ClearingForgetsTheDefault)
+{
+    dialer->setDefaultCommand(save.get());
+    dialer->addCommand(dial.get());
+    dialer->clearCommands();
+    dialer->addCommand(dial.get());
+    dialer->addCommand(save.get());
+    EXPECT_EQ(dialer->getSelectedIndex(), 0);
+}
+
+TEST_P(PopupDialerPrivateTest, IsStillThereWhenItSaysThatItGoesBack)
+{
+    dialer->show();
+    const Displayable* current = nullptr;
+    EXPECT_CALL(listener, postCommandAction(PopupDialer::BackCommand(), dialer.get())).WillOnce([&](auto*, auto*) {
+        current = display.getCurrent();
+    });
+    press(PK_LEFT);
+    EXPECT_EQ(current, dialer.get());
+    EXPECT_EQ(display.getCurrent(), &list);
+}
+
 TEST_P(PopupDialerPrivateTest, KeysThatMoveNothingChangeNoSelection)
 {
     dialer->show();
