@@ -4,3 +4,9 @@ set(DISPLAYAPI_TEST_ENVIRONMENT
     # Third-party libraries are not built with the sanitizer, which therefore does not see how they lock.
     TSAN_OPTIONS=ignore_noninstrumented_modules=1:suppressions=${PROJECT_SOURCE_DIR}/tests/suppressions/tsan.txt:halt_on_error=1:second_deadlock_stack=1
     UBSAN_OPTIONS=print_stacktrace=1)
+
+# The panels that whole programs are tried on. Their threads are the same on each.
+set(DISPLAYAPI_TEST_PANELS plain narrow wp1)
+if(DISPLAYAPI_SANITIZE STREQUAL "thread")
+    set(DISPLAYAPI_TEST_PANELS plain)
+endif()
