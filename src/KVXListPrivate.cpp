@@ -18,7 +18,7 @@ namespace DisplayAPI {
 namespace {
 
 /// What a display line without a text is filled with.
-const std::string BLANK_LINE(24, ' ');
+const std::string BLANK_TITLE(24, ' ');
 
 constexpr unsigned int LAST_NUMBER = std::numeric_limits<int>::max() - 1;
 
@@ -167,7 +167,7 @@ void KVXListPrivate::showTitleText(unsigned int line, const std::string& text)
     const int number = static_cast<int>(std::min(line, LAST_NUMBER));
     if (mWidget == nullptr)
         return;
-    if (text.empty() || text == BLANK_LINE)
+    if (text.empty() || text == BLANK_TITLE)
         return mWidget->removeSystemWindowLine(number);
     mWidget->setSystemWindowText(ICC::fromUTF8toUNICODE(text), number);
     mTitleLines = number + 1;

@@ -24,8 +24,6 @@ const std::array<std::pair<std::string, std::optional<PastCall::Kind>>, 4> PAGES
                                                                                   {"Call.log.received", RECEIVED},
                                                                                   {"Call.log.dialled", DIALLED}}};
 
-constexpr bool HAS_WAY_BACK = true;
-
 } // namespace
 
 CallLogs::CallLogs(Telephone& telephone, Place& parent, CallHistory& history, Call& call, CallDetails& details)

@@ -14,12 +14,6 @@ using DisplayAPI::Desktop;
 using DisplayAPI::MenuCommand;
 using host::WallClock;
 
-namespace {
-
-constexpr bool HAS_WAY_BACK = true;
-
-} // namespace
-
 DesktopHome::DesktopHome(Telephone& telephone, Dialer& dialer, std::function<void()> woken)
     : mTelephone(telephone), mDialer(dialer), mWoken(std::move(woken)),
       mOwnName(&telephone.languages(), "Status.own.name"),

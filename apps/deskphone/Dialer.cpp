@@ -10,8 +10,6 @@ using DisplayAPI::Command;
 
 namespace {
 
-constexpr bool HAS_WAY_BACK = true;
-
 TranslationInfo* translated(Telephone& telephone, const std::string& key)
 {
     return new TranslationInfo(key, &telephone.languages());

@@ -8,7 +8,6 @@ using DisplayAPI::Command;
 
 namespace {
 
-constexpr bool HAS_WAY_BACK = true;
 constexpr int FORGOTTEN_AFTER_MS = 30'000;
 
 } // namespace

@@ -19,6 +19,9 @@ class Displayable;
 
 namespace deskphone {
 
+/// Every screen and menu of the phone can be left.
+constexpr bool HAS_WAY_BACK = true;
+
 /// What all screens share: the display, the languages, and a way to say something. Safe from any thread; make and
 /// delete it on the GUI thread.
 class Telephone : private DisplayAPI::TimerEvent {

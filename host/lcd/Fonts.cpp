@@ -20,8 +20,6 @@ struct Face {
     const char* cure;
 };
 
-constexpr char16_t REPLACEMENT = 0xFFFD;
-
 enum FaceIndex : std::size_t { DEJAVU, DEJAVU_BOLD, TERMINUS, TERMINUS_BOLD, BIWIDTH, UNIFONT, FACE_COUNT };
 
 constexpr std::array<Face, FACE_COUNT> FACES{

@@ -13,6 +13,9 @@ namespace host {
 /// line.
 enum class Font : unsigned char { TEXT, TEXT_BOLD, FIXED, FIXED_BOLD };
 
+/// Stands for a character that no font has.
+constexpr char16_t REPLACEMENT = 0xFFFD;
+
 /// The fonts of the panel: only the project's own, whatever else the machine has, so that pictures are the same
 /// everywhere. Nothing is loaded before the first text; the large bitmap fonts not before a text needs one.
 ///

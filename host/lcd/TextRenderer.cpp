@@ -11,7 +11,6 @@ namespace host {
 namespace {
 
 constexpr char16_t ELLIPSIS = 0x2026;
-constexpr char16_t REPLACEMENT = 0xFFFD;
 
 bool isControl(PegChar unit)
 {

@@ -12,8 +12,6 @@ using std::chrono::steady_clock;
 /// How often an overdue application is looked for.
 constexpr milliseconds LONGEST_NAP(200);
 
-constexpr milliseconds TIME_TO_END(5000);
-
 } // namespace
 
 ApplicationRun::ApplicationRun(const std::vector<std::string>& command, const Child::Environment& added, int kept)

@@ -7,6 +7,12 @@
 
 namespace simulator {
 
+/// What the launcher ends with when the application could not be started.
+constexpr int CANNOT_START = 2;
+
+/// How long an application may take to end once it has been asked to.
+constexpr std::chrono::milliseconds TIME_TO_END(5000);
+
 /// The application while it runs, with all that it has started: hands on to them what asks the launcher to end or to
 /// stop, and kills them when they take too long. What has outlived the application is asked to end as well.
 class ApplicationRun {

@@ -12,8 +12,6 @@ namespace {
 
 using std::chrono::milliseconds;
 
-constexpr int CANNOT_START = 2;
-
 Child::Environment environmentFor(const Options& options, const Endpoint& endpoint)
 {
     return {{"DISPLAYAPI_HOST", "web:" + std::to_string(endpoint.port)},

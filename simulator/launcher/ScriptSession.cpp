@@ -19,8 +19,6 @@ using std::chrono::seconds;
 using std::chrono::steady_clock;
 
 constexpr int FAILED = 1;
-constexpr int CANNOT_START = 2;
-constexpr seconds TIME_TO_END(5);
 
 /// Longer than any step may take.
 constexpr seconds LONGEST_SILENCE(60);

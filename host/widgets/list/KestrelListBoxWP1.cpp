@@ -5,7 +5,7 @@
 namespace {
 
 /// 24 characters of 8 pixels, and a gutter on either side for marks and arrows.
-constexpr KestrelListBox::Layout LAYOUT{
+constexpr KestrelListBox::Layout WP1_LAYOUT{
     .panel = {0, 0, 207, 41},
     .font = host::Font::FIXED,
     .titleFont = host::Font::FIXED_BOLD,
@@ -22,7 +22,7 @@ constexpr KestrelListBox::Layout LAYOUT{
 
 } // namespace
 
-KestrelListBoxWP1::KestrelListBoxWP1() : KestrelListBox(TYPE_LIST_WP1, LAYOUT) {}
+KestrelListBoxWP1::KestrelListBoxWP1() : KestrelListBox(TYPE_LIST_WP1, WP1_LAYOUT) {}
 
 int KestrelListBoxWP1::Message(const PegMessage& message)
 {
