@@ -8,7 +8,6 @@
 #include "apps/deskphone/CallLogs.h"
 #include "apps/deskphone/Contacts.h"
 #include "apps/deskphone/Home.h"
-#include "apps/deskphone/Menu.h"
 #include "apps/deskphone/Services.h"
 #include "apps/deskphone/Settings.h"
 #include "apps/deskphone/Telephone.h"
