@@ -5,6 +5,7 @@
 #include "apps/deskphone/Telephone.h"
 #include "host/clock/Clock.h"
 #include "host/clock/WallClock.h"
+#include "kit/OnGuiThread.h"
 #include "kit/WayBack.h"
 
 #include <cstdio>
@@ -41,8 +42,10 @@ void Call::begin(Place& from, const std::string& party, const std::string& numbe
 {
     setParent(&from);
     mStart = Clock::instance().now();
-    open();
-    telephone().status().callBegins(party);
+    kit::onGuiThread([&] {
+        open();
+        telephone().status().callBegins(party);
+    });
     mHistory.add({PastCall::Kind::DIALLED, host::WallClock::now(), party, number});
 }
 

@@ -20,10 +20,10 @@ CallLog::CallLog(Telephone& telephone, DisplayAPI::TabScreen& tabs, const std::s
 {
     tabs.addTab(text(title).info(), &list(), false);
     setDialer(call);
-    setRowMenu({{"Row.call", [this](int row) { chosen(row); }},
-                {"Row.details", [this, &details](int row) { details.show(*this, callAt(row)); }},
-                {"Row.copy", [this](int row) { this->telephone().copy(callAt(row).number); }},
-                {"Row.delete", [this](int row) { mHistory.forget(callAt(row)); }}});
+    setRowMenu({{"Row.call", [this] { callBack(*mMenuCall); }},
+                {"Row.details", [this, &details] { details.show(*this, *mMenuCall); }},
+                {"Row.copy", [this] { this->telephone().copy(mMenuCall->number); }},
+                {"Row.delete", [this] { mHistory.forget(*mMenuCall); }}});
     for (PastCall& past : history.calls())
         if (shows(past))
             list().append(mRows.emplace_back(Row{&past, makeItem(past)}).item);
@@ -43,7 +43,16 @@ bool CallLog::isShown()
 
 void CallLog::chosen(int row)
 {
-    const PastCall& past = callAt(row);
+    callBack(callAt(row));
+}
+
+void CallLog::menuOpens(int row)
+{
+    mMenuCall = &callAt(row);
+}
+
+void CallLog::callBack(const PastCall& past)
+{
     mCall.begin(*this, past.party, past.number);
 }
 

@@ -33,8 +33,10 @@ private:
     bool isShown() override;
     void build() override {}
     void chosen(int row) override;
+    void menuOpens(int row) override;
 
     PastCall& callAt(int row) const;
+    void callBack(const PastCall& past);
     DisplayAPI::ListItem* makeItem(const PastCall& call);
     bool shows(const PastCall& call) const;
     void added(PastCall& call);
@@ -45,6 +47,7 @@ private:
     CallHistory& mHistory;
     Call& mCall;
     std::deque<Row> mRows;
+    PastCall* mMenuCall = nullptr; ///< whose row the menu is for
 };
 
 } // namespace deskphone

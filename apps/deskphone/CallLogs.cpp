@@ -59,8 +59,10 @@ void CallLogs::stopWorking()
 /// Commands arrive later than they are raised: the user may be elsewhere.
 void CallLogs::goBack()
 {
-    if (mTelephone.display().getCurrent() == &mTabs)
-        mParent.open();
+    if (mTelephone.display().getCurrent() != &mTabs)
+        return;
+    mHistory.see();
+    mParent.open();
 }
 
 } // namespace deskphone

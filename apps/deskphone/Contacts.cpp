@@ -18,10 +18,10 @@ Contacts::Contacts(Telephone& telephone, Place* parent, Call& call)
     setDialer(call);
     setRowMenu(
         {{"Row.call",
-          [this](int row) { mCall.begin(*this, PhoneBook::name(entryAt(row)), PhoneBook::number(entryAt(row))); }},
-         {"Row.details", [this](int row) { chosen(row); }},
-         {"Row.copy", [this](int row) { this->telephone().copy(PhoneBook::number(entryAt(row))); }},
-         {"Row.delete", [this](int row) { forget(row); }}});
+          [this] { mCall.begin(*this, PhoneBook::name(entryAt(mMenuRow)), PhoneBook::number(entryAt(mMenuRow))); }},
+         {"Row.details", [this] { chosen(mMenuRow); }},
+         {"Row.copy", [this] { this->telephone().copy(PhoneBook::number(entryAt(mMenuRow))); }},
+         {"Row.delete", [this] { forget(mMenuRow); }}});
 }
 
 void Contacts::build()

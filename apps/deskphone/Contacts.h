@@ -19,6 +19,7 @@ public:
 private:
     void build() override;
     void chosen(int row) override;
+    void menuOpens(int row) override { mMenuRow = row; }
 
     int entryAt(int row) const { return mEntries.at(static_cast<std::size_t>(row)); }
     void forget(int row);
@@ -26,6 +27,7 @@ private:
     ContactCard mCard;
     Call& mCall;
     std::vector<int> mEntries; ///< of the phone book, in the order of the rows
+    int mMenuRow = 0;          ///< rows come behind it alone
 };
 
 } // namespace deskphone

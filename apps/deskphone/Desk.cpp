@@ -3,6 +3,7 @@
 #include "DisplayAPI/Display.h"
 #include "apps/deskphone/Panel.h"
 #include "host/clock/WallClock.h"
+#include "kit/Fence.h"
 #include "kit/OffGuiThread.h"
 
 namespace deskphone {
@@ -45,11 +46,13 @@ Desk::Desk(DisplayAPI::Display& display, const std::string& language)
     mTelephone.addLanguageListener([this] { mNews.setText(mNewsText.get()); });
 }
 
-/// Nothing is shown any more when the screens go: those that hear what is shown go one by one as well.
+/// Nothing is shown any more when the screens go: those that hear what is shown go one by one as well. What was
+/// raised at last finds its listener deaf, but there.
 Desk::~Desk()
 {
     DisplayAPI::kit::offGuiThread([this] { close(); });
     mTelephone.display().setCurrent(nullptr);
+    DisplayAPI::kit::offGuiThread([] { DisplayAPI::kit::Fence().wait(); });
 }
 
 void Desk::open()

@@ -31,10 +31,15 @@ DesktopHome::DesktopHome(Telephone& telephone, Dialer& dialer, std::function<voi
 
 void DesktopHome::open()
 {
+    setClock();
+    mTelephone.show(mDesktop, Telephone::Lines::NONE);
+}
+
+void DesktopHome::setClock()
+{
     const std::tm now = WallClock::local(WallClock::now());
     mDesktop.setDate(now.tm_mday, now.tm_mon + 1, now.tm_year + 1900);
     mDesktop.setTime(now.tm_hour, now.tm_min, now.tm_sec);
-    mTelephone.show(mDesktop, Telephone::Lines::NONE);
 }
 
 void DesktopHome::stopListening()
@@ -53,6 +58,7 @@ void DesktopHome::setMenu(MainMenu& menu)
 
 void DesktopHome::startScreensaver()
 {
+    setClock();
     mTelephone.show(mDesktop, Telephone::Lines::NONE);
     mDesktop.screensaverStart();
 }
@@ -68,6 +74,9 @@ void DesktopHome::renewTexts()
 
 void DesktopHome::pressed(unsigned int key)
 {
+    const bool isDigit = key >= '#' && key < Desktop::FPK;
+    if (isDigit && mDialer.isUp())
+        return mDialer.type(static_cast<char>(key));
     if (mTelephone.display().getCurrent() != &mDesktop)
         return;
     if (key == Desktop::SCREENSAVER_ENDED)
@@ -76,7 +85,7 @@ void DesktopHome::pressed(unsigned int key)
         mMenuOnTop.show();
     else if (key >= Desktop::FPK)
         mMenu->chooseAt(key - Desktop::FPK);
-    else if (key >= '#')
+    else if (isDigit)
         mDialer.open(static_cast<char>(key));
 }
 

@@ -34,8 +34,10 @@ public:
 
     /// Shows pictures until a key is pressed.
     void startScreensaver();
+    void stopScreensaver() { mDesktop.screensaverStop(); }
 
 private:
+    void setClock();
     void renewTexts();
     void pressed(unsigned int key);
 

@@ -1,5 +1,6 @@
 #include "apps/deskphone/Dialer.h"
 
+#include "DisplayAPI/Display.h"
 #include "apps/deskphone/Telephone.h"
 
 #include <utility>
@@ -33,10 +34,28 @@ void Dialer::open(char digit)
     mPopup.show();
 }
 
+bool Dialer::isUp() const
+{
+    return mTelephone.display().getCurrent() == &mPopup;
+}
+
+void Dialer::type(char digit)
+{
+    paste(std::string(1, digit));
+}
+
+void Dialer::paste(const std::string& text)
+{
+    mPopup.setLineEditText(mPopup.getLineEditText() + text);
+}
+
+/// What was chosen twice before it had gone is chosen once.
 void Dialer::chosen(const Command* command)
 {
+    if (!isUp())
+        return;
     if (command == &mPasteCommand)
-        return mPopup.setLineEditText(mTelephone.copied());
+        return paste(mTelephone.copied());
     const std::string number = command == &mDialCommand ? mPopup.getLineEditText() : std::string();
     if (number.empty())
         return;

@@ -25,8 +25,14 @@ public:
     /// Comes up with the first digit. Screens that have been given the popup do so by themselves.
     void open(char digit);
 
+    bool isUp() const;
+
+    /// Adds a digit that was pressed before it was up.
+    void type(char digit);
+
 private:
     void chosen(const DisplayAPI::Command* command);
+    void paste(const std::string& text);
 
     Telephone& mTelephone;
     std::function<void(const std::string&)> mDial;

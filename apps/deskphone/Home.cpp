@@ -1,5 +1,6 @@
 #include "apps/deskphone/Home.h"
 
+#include "DisplayAPI/Display.h"
 #include "apps/deskphone/Call.h"
 #include "apps/deskphone/CallHistory.h"
 #include "apps/deskphone/Telephone.h"
@@ -9,8 +10,7 @@ namespace deskphone {
 Home::Home(Telephone& telephone, Call& call, CallHistory& history)
     : mTelephone(telephone),
       mDialer(telephone, [this, &call](const std::string& number) { call.begin(*this, number, number); }),
-      mIdle(telephone, mDialer), mDesktop(telephone, mDialer, [this] { open(); }),
-      mScreensaver([this] { mDesktop.startScreensaver(); })
+      mIdle(telephone, mDialer), mDesktop(telephone, mDialer, [this] { open(); }), mScreensaver([this] { begin(); })
 {
     telephone.addScreenListener([this](const DisplayAPI::Displayable* current) { shown(current); });
     history.addMissedListener([this](int count) { setMissedCalls(count); });
@@ -18,6 +18,7 @@ Home::Home(Telephone& telephone, Call& call, CallHistory& history)
 
 void Home::open()
 {
+    mDesktop.stopScreensaver();
     if (mKind == Kind::DESKTOP)
         mDesktop.open();
     else
@@ -46,10 +47,22 @@ void Home::use(Kind kind)
 
 void Home::shown(const DisplayAPI::Displayable* current)
 {
-    if (current == (mKind == Kind::DESKTOP ? &mDesktop.screen() : &mIdle.screen()))
+    if (isHome(current))
         mScreensaver.wait();
     else
         mScreensaver.stop();
+}
+
+/// The user may have gone elsewhere at the last moment.
+void Home::begin()
+{
+    if (isHome(mTelephone.display().getCurrent()))
+        mDesktop.startScreensaver();
+}
+
+bool Home::isHome(const DisplayAPI::Displayable* screen)
+{
+    return screen == (mKind == Kind::DESKTOP ? &mDesktop.screen() : &mIdle.screen());
 }
 
 void Home::setMissedCalls(int count)

@@ -38,6 +38,8 @@ public:
 private:
     /// What is on the screen has changed. On the GUI thread.
     void shown(const DisplayAPI::Displayable* current);
+    void begin();
+    bool isHome(const DisplayAPI::Displayable* screen);
     void setMissedCalls(int count);
 
     Telephone& mTelephone;

@@ -2,6 +2,7 @@
 
 #include "DisplayAPI/KVXList.h"
 #include "apps/deskphone/Telephone.h"
+#include "kit/OnGuiThread.h"
 
 namespace deskphone {
 
@@ -15,9 +16,11 @@ LineScreen::LineScreen(Telephone& telephone, Place* parent)
 /// The lines follow the screen: taking the telephone's off the display takes off what stands in their place.
 void LineScreen::bringUp()
 {
-    telephone().show(list(), Telephone::Lines::NONE);
-    for (unsigned int number = 0; const std::string& line : lines())
-        static_cast<KVXList&>(list()).setDisplayText(number++, line);
+    DisplayAPI::kit::onGuiThread([this] {
+        telephone().show(list(), Telephone::Lines::NONE);
+        for (unsigned int number = 0; const std::string& line : lines())
+            static_cast<KVXList&>(list()).setDisplayText(number++, line);
+    });
 }
 
 } // namespace deskphone

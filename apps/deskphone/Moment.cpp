@@ -22,7 +22,8 @@ std::string shownTime(std::time_t moment)
 
 std::string shown(std::time_t moment)
 {
-    const bool isToday = WallClock::local(moment).tm_yday == WallClock::local(WallClock::now()).tm_yday;
+    const std::tm then = WallClock::local(moment), now = WallClock::local(WallClock::now());
+    const bool isToday = then.tm_yday == now.tm_yday && then.tm_year == now.tm_year;
     return isToday ? shownTime(moment) : shownDate(moment);
 }
 

@@ -10,7 +10,7 @@ public:
     Place& operator=(const Place&) = delete;
     virtual ~Place() = default;
 
-    /// Shows it. From any thread.
+    /// Shows it. On a thread that answers the user, or on the GUI thread before there is a user.
     virtual void open() = 0;
 
     /// What the user does is not heard after this. Not on the GUI thread.

@@ -27,17 +27,11 @@ RowMenu::RowMenu(Telephone& telephone, const std::vector<Action>& actions)
         mMenu.addCommandWithIcon(&mEntries.emplace_back(telephone, action).command, nullptr, false);
 }
 
-void RowMenu::open(int row)
-{
-    mRow = row;
-    mMenu.show();
-}
-
 void RowMenu::chosen(const Command* command)
 {
     for (const Entry& entry : mEntries)
         if (&entry.command == command)
-            entry.run(mRow);
+            entry.run();
 }
 
 } // namespace deskphone

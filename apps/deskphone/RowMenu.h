@@ -4,7 +4,6 @@
 #include "DisplayAPI/MenuCommand.h"
 #include "kit/Subscription.h"
 
-#include <atomic>
 #include <deque>
 #include <functional>
 #include <string>
@@ -18,15 +17,15 @@ class Telephone;
 class RowMenu {
 public:
     struct Action {
-        std::string text;             ///< its key
-        std::function<void(int)> run; ///< what happens with the row, on a thread of the library's
+        std::string text;          ///< its key
+        std::function<void()> run; ///< on a thread of the library's
     };
 
     RowMenu(Telephone& telephone, const std::vector<Action>& actions);
     RowMenu(const RowMenu&) = delete;
     RowMenu& operator=(const RowMenu&) = delete;
 
-    void open(int row);
+    void open() { mMenu.show(); }
 
     /// What the user chooses is not heard after this. Not on the GUI thread.
     void stopListening() { mChoice.end(); }
@@ -36,14 +35,13 @@ private:
         Entry(Telephone& telephone, const Action& action);
 
         DisplayAPI::MenuCommand command;
-        std::function<void(int)> run;
+        std::function<void()> run;
     };
 
     void chosen(const DisplayAPI::Command* command);
 
     std::deque<Entry> mEntries; ///< before the menu that shows them
     DisplayAPI::ContextMenu mMenu;
-    std::atomic<int> mRow{0};
     DisplayAPI::kit::Subscription mChoice;
 };
 

@@ -6,6 +6,7 @@
 #include "DisplayAPI/ListItem.h"
 #include "apps/deskphone/Call.h"
 #include "apps/deskphone/Telephone.h"
+#include "kit/OnGuiThread.h"
 #include "kit/WayBack.h"
 
 #include <utility>
@@ -91,10 +92,10 @@ void Screen::answer(Command* command)
     const int row = isChoice ? mList->getSelectedIndex() : -1;
     if (row < 0)
         return;
-    if (command == List::RIGHT_COMMAND() && mRowMenu != nullptr)
-        mRowMenu->open(row);
-    else
-        chosen(row);
+    if (command != List::RIGHT_COMMAND() || mRowMenu == nullptr)
+        return chosen(row);
+    menuOpens(row);
+    mRowMenu->open();
 }
 
 void Screen::setRowMenu(const std::vector<RowMenu::Action>& actions)
@@ -124,11 +125,13 @@ ListItem* Screen::append(Text& text)
 
 void Screen::renewRow(ListItem*& row, Text& text)
 {
-    const bool wasSelected = mList->getSelected() == row;
-    const std::unique_ptr<ListItem> former(std::exchange(row, new ListItem(text.info(), false)));
-    mList->replace(former.get(), row);
-    if (wasSelected)
-        mList->setSelected(row);
+    kit::onGuiThread([&] {
+        const bool wasSelected = mList->getSelected() == row;
+        const std::unique_ptr<ListItem> former(std::exchange(row, new ListItem(text.info(), false)));
+        mList->replace(former.get(), row);
+        if (wasSelected)
+            mList->setSelected(row);
+    });
 }
 
 } // namespace deskphone

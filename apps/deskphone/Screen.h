@@ -82,6 +82,9 @@ private:
     /// The user has chosen the row.
     virtual void chosen(int row) = 0;
 
+    /// The user asks what can be done with the row. It may be another one by the time that he chooses.
+    virtual void menuOpens(int) {}
+
     /// The user goes back.
     virtual void left() {}
 

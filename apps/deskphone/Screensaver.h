@@ -8,8 +8,8 @@
 
 namespace deskphone {
 
-/// Tells when the telephone has not been used for some time. Safe from any thread; make and delete it on the GUI
-/// thread.
+/// Tells when the home screen has been shown for some time, and nothing above it. Safe from any thread; make and delete
+/// it on the GUI thread.
 class Screensaver : private DisplayAPI::TimerEvent {
 public:
     /// `begin` is called on the GUI thread.

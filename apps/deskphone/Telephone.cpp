@@ -1,6 +1,7 @@
 #include "apps/deskphone/Telephone.h"
 
 #include "DisplayAPI/Display.h"
+#include "kit/OnGuiThread.h"
 
 #include <utility>
 
@@ -84,8 +85,11 @@ void Telephone::timerExpired()
 
 void Telephone::show(DisplayAPI::Displayable& screen, Lines lines)
 {
-    mDisplay.setCurrent(&screen);
-    mStatus.setVisible(lines == Lines::ABOVE);
+    // At once, so that nobody sees the one without the other.
+    DisplayAPI::kit::onGuiThread([&] {
+        mDisplay.setCurrent(&screen);
+        mStatus.setVisible(lines == Lines::ABOVE);
+    });
 }
 
 /// With the locale every screen looks its texts up again, dates and times among them.

@@ -29,6 +29,12 @@ void WakeUp::order(const std::string& party, const std::string& number)
     mTelephone.tell(mOrdered.get());
 }
 
+void WakeUp::stopListening()
+{
+    mTimer.stop();
+    mDue.stop();
+}
+
 void WakeUp::call()
 {
     mHistory.add({PastCall::Kind::MISSED, host::WallClock::now(), mParty, mNumber});

@@ -20,7 +20,7 @@ public:
     void order(const std::string& party, const std::string& number);
 
     /// It does not call after this. Not on the GUI thread.
-    void stopListening() { mDue.stop(); }
+    void stopListening();
 
 private:
     void call();
