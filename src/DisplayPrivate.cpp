@@ -39,6 +39,7 @@ DisplayPrivate::DisplayPrivate(bool narrow, std::string hardware, std::string so
     : mServerDisplay(!narrow), mLocale(std::move(locale)), mDateFormat(std::move(dateFormat)),
       mTimeFormat(std::move(timeFormat)), mFactory(factory), mStartUp(startUp)
 {
+    setStack(mItemList);
     initialiseApplication(hardware, softwareType);
     if (mFactory == nullptr)
         mFactory = std::make_unique<ContentWidgetFactory>();

@@ -32,6 +32,9 @@ public:
     /// Whether `display` is one that has been made and is not gone. Null is not.
     static bool lives(const DisplayPrivateIfc* display);
 
+    /// Whether `displayable` is on the stack of `display`; not where that does not live or has no stack.
+    static bool holds(const DisplayPrivateIfc* display, const Displayable* displayable);
+
     virtual void setCurrent(Displayable* displayable) = 0;
     virtual Displayable* getCurrent() = 0;
     virtual void exec() = 0;
@@ -81,6 +84,10 @@ public:
     virtual void setStatusMessage(const std::string& text, unsigned int timeout) = 0;
     virtual std::string dateFormat() const = 0;
     virtual std::string timeFormat() const = 0;
+
+protected:
+    /// What holds() looks at, as long as the display lives. Not owned.
+    void setStack(const std::vector<Displayable*>& stack);
 };
 
 } // namespace DisplayAPI

@@ -104,7 +104,7 @@ public:
     /// Takes it off the screen; nothing where it is on none.
     void dismiss();
 
-    /// The selected command of the bar; -1 where there is none.
+    /// The selected command of the bar; -1 where there is none, 0 where the popup has no GUI-thread side.
     int getSelectedIndex() const;
 
     /// Whether the user has moved the selection since the popup came to the screen or its commands were cleared.

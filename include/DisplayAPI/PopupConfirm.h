@@ -92,7 +92,7 @@ public:
     /// Removes all answers, and forgets the default one.
     void clearCommands();
 
-    /// The selected answer; -1 where there is none.
+    /// The selected answer; -1 where there is none, 0 where the popup has no GUI-thread side.
     int getSelectedIndex() const;
 
     /// Whether the user has moved the selection since the popup came to the screen or its answers were cleared.

@@ -111,7 +111,7 @@ public:
     /// additions, removals and defaults; their callers go on.
     void clearCommands();
 
-    /// The selected command of the bar; -1 where there is none.
+    /// The selected command of the bar; -1 where there is none, 0 where the popup has no GUI-thread side.
     int getSelectedIndex() const;
 
     /// Whether the user has moved the selection since the dialer came to the screen or its commands were cleared.

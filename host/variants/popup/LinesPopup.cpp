@@ -25,9 +25,12 @@ void LinesPopup::setIcon(Line& line, const host::Icon* icon)
     showLines();
 }
 
-void LinesPopup::setMark(const host::Icon* icon)
+void LinesPopup::setIconAndMark(const host::Icon* icon, const host::Icon* mark)
 {
-    mMark = icon;
+    if (lines[0].icon == icon && mMark == mark)
+        return;
+    lines[0].icon = icon;
+    mMark = mark;
     showLines();
 }
 

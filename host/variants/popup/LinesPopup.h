@@ -23,8 +23,9 @@ struct LinesPopup : public PopupSide::Popup {
     void set(OwnedText& which, OwnedText text);
     void setIcon(Line& line, const host::Icon* icon);
 
-    /// At the end of the first line.
-    void setMark(const host::Icon* icon);
+    /// At the end of the first line; and both ends at once.
+    void setMark(const host::Icon* mark) { setIconAndMark(lines[0].icon, mark); }
+    void setIconAndMark(const host::Icon* icon, const host::Icon* mark);
 
     std::array<Line, 3> lines;
 

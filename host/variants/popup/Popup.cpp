@@ -56,6 +56,8 @@ void PopupSide::Popup::comeUp()
 void PopupSide::Popup::connected(bool isUp)
 {
     mIsUp = isUp;
+    if (!isUp)
+        KillTimer(TIMEOUT);
     if (isUp && box != nullptr && box->Parent() == nullptr)
         opened();
 }
@@ -79,7 +81,8 @@ void PopupSide::Popup::leave()
 {
     leaving();
     KillTimer(TIMEOUT);
-    const bool wasUp = std::exchange(mIsUp, false);
+    // A display that has been emptied does not tell.
+    const bool wasUp = std::exchange(mIsUp, false) && DisplayPrivateIfc::holds(mSide.display(), mFacade);
     const std::weak_ptr<void> life = mLife;
     mSide.widgetDismissed(&mSide);
     if (!life.expired() && wasUp && mHidden != nullptr)

@@ -83,7 +83,9 @@ void PopupCallSide::setPopupCallDetails(std::unique_ptr<CallPartyIdentifier> par
                                         std::string text, std::unique_ptr<TranslationInfo> translation)
 {
     auto& [who, meant, more] = mImpl->lines;
+    who.prefix = OwnedText();
     who.text = OwnedText(*party);
+    meant.prefix = OwnedText();
     meant.text = redirecting != nullptr ? OwnedText(*redirecting) : OwnedText();
     more.prefix = OwnedText(std::move(text));
     more.text = OwnedText(std::move(translation));
@@ -138,8 +140,7 @@ void PopupCallSide::setAuxText(std::string text)
 
 void PopupCallSide::setState(PopupCall::CallState state, PopupCall::CallPriority priority)
 {
-    mImpl->setIcon(mImpl->lines[0], iconOf(state));
-    mImpl->setMark(iconOf(priority));
+    mImpl->setIconAndMark(iconOf(state), iconOf(priority));
 }
 
 /// This panel shows no pictures.

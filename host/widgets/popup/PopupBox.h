@@ -26,7 +26,7 @@ public:
         {
         }
 
-        bool isEmpty() const { return text.empty() && icon == nullptr; }
+        bool isEmpty() const { return text.empty() && icon == nullptr && mark == nullptr; }
 
         PegString text;
         const Icon* icon = nullptr;

@@ -3,6 +3,8 @@
 #include "DisplayAPI/MenuCommand.h"
 #include "DisplayAPI/PopupCallPrivateIfc.h"
 #include "doubles/Mocks.h"
+#include "support/SteppedLoop.h"
+#include "support/Worker.h"
 #include "unit/src/PopupFacadeTest.h"
 #include "utilities/CallPartyIdentifier.h"
 #include "utilities/Threadable.h"
@@ -123,5 +125,19 @@ TEST_P(PopupCallTest, ListenersGoToThePrivateSideDirectly)
 }
 
 INSTANTIATE_FROM_BOTH_THREADS(PopupCallTest);
+
+using QueuedPopupCallTest = test::SteppedTest;
+
+TEST_F(QueuedPopupCallTest, MakingWaitsAndSoDoesDeleting)
+{
+    const test::Worker worker([] { PopupCall popup; });
+    EXPECT_TRUE(worker.isBlocked());
+    EXPECT_THAT(gui.queuedCodes(), ElementsAre(0));
+    gui.step();
+    gui.waitForQueued(1);
+    EXPECT_THAT(gui.queuedCodes(), ElementsAre(1));
+    EXPECT_TRUE(worker.isBlocked());
+    gui.runAll();
+}
 
 } // namespace

@@ -3,6 +3,8 @@
 #include "DisplayAPI/MenuCommand.h"
 #include "DisplayAPI/PopupNotification.h"
 #include "doubles/Mocks.h"
+#include "support/SteppedLoop.h"
+#include "support/Worker.h"
 #include "unit/src/PopupFacadeTest.h"
 #include "utilities/CallPartyIdentifier.h"
 #include "utilities/TranslationInfo.h"
@@ -96,5 +98,19 @@ TEST_P(PopupConfirmTest, StimulusHasNoEffectAndItsTranslationStaysTheCallers)
 }
 
 INSTANTIATE_FROM_BOTH_THREADS(PopupConfirmTest);
+
+using QueuedPopupConfirmTest = test::SteppedTest;
+
+TEST_F(QueuedPopupConfirmTest, MakingWaitsAndSoDoesDeleting)
+{
+    const test::Worker worker([] { PopupConfirm popup(true); });
+    EXPECT_TRUE(worker.isBlocked());
+    EXPECT_THAT(gui.queuedCodes(), ElementsAre(0));
+    gui.step();
+    gui.waitForQueued(1);
+    EXPECT_THAT(gui.queuedCodes(), ElementsAre(1));
+    EXPECT_TRUE(worker.isBlocked());
+    gui.runAll();
+}
 
 } // namespace

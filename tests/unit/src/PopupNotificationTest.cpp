@@ -3,6 +3,8 @@
 #include "DisplayAPI/MenuCommand.h"
 #include "DisplayAPI/PopupConfirm.h"
 #include "doubles/Mocks.h"
+#include "support/SteppedLoop.h"
+#include "support/Worker.h"
 #include "unit/src/PopupFacadeTest.h"
 #include "utilities/CallPartyIdentifier.h"
 #include "utilities/Threadable.h"
@@ -90,5 +92,19 @@ TEST_P(PopupNotificationTest, ListenersGoToThePrivateSideDirectly)
 }
 
 INSTANTIATE_FROM_BOTH_THREADS(PopupNotificationTest);
+
+using QueuedPopupNotificationTest = test::SteppedTest;
+
+TEST_F(QueuedPopupNotificationTest, MakingWaitsAndSoDoesDeleting)
+{
+    const test::Worker worker([] { PopupNotification popup; });
+    EXPECT_TRUE(worker.isBlocked());
+    EXPECT_THAT(gui.queuedCodes(), ElementsAre(0));
+    gui.step();
+    gui.waitForQueued(1);
+    EXPECT_THAT(gui.queuedCodes(), ElementsAre(1));
+    EXPECT_TRUE(worker.isBlocked());
+    gui.runAll();
+}
 
 } // namespace

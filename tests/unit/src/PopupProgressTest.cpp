@@ -2,6 +2,8 @@
 
 #include "DisplayAPI/MenuCommand.h"
 #include "doubles/Mocks.h"
+#include "support/SteppedLoop.h"
+#include "support/Worker.h"
 #include "unit/src/PopupFacadeTest.h"
 
 using namespace DisplayAPI;
@@ -76,5 +78,19 @@ TEST_P(PopupProgressTest, CommandsListenersAndTheSwitchOfTheBarHaveNoEffect)
 }
 
 INSTANTIATE_FROM_BOTH_THREADS(PopupProgressTest);
+
+using QueuedPopupProgressTest = test::SteppedTest;
+
+TEST_F(QueuedPopupProgressTest, MakingWaitsAndSoDoesDeleting)
+{
+    const test::Worker worker([] { PopupProgress popup(PopupProgress::BAR); });
+    EXPECT_TRUE(worker.isBlocked());
+    EXPECT_THAT(gui.queuedCodes(), ElementsAre(0));
+    gui.step();
+    gui.waitForQueued(1);
+    EXPECT_THAT(gui.queuedCodes(), ElementsAre(1));
+    EXPECT_TRUE(worker.isBlocked());
+    gui.runAll();
+}
 
 } // namespace

@@ -103,6 +103,8 @@ TEST_P(PopupCallPrivateTest, LinesFollowTheLanguage)
 TEST_P(PopupCallPrivateTest, DetailsTakeThePlaceOfTheLines)
 {
     CallPartyIdentifier caller("Ada", "1"), meant("Bert", "2"), nobody;
+    popup->setLine1PrefixText("From");
+    popup->setLine2PrefixText("via");
     popup->setAuxText("old");
     popup->setPopupCallDetails(caller, &meant, FORWARDED_ALWAYS, "Room 4", translated("urgent"));
     display.setCurrent(popup.get());

@@ -124,6 +124,30 @@ TEST_P(PopupConfirmPrivateTest, OnlyWhatHidItselfTells)
     EXPECT_THAT(raised, IsEmpty()) << "deleted";
 }
 
+TEST_P(PopupConfirmPrivateTest, HasNothingToTellWhenItsDisplayHasBeenEmptied)
+{
+    popup->setTimeout(TIMEOUT);
+    popup->show();
+    display.setCurrent(nullptr);
+    display.setCurrent(&list);
+    time.pass(TIMEOUT);
+    popup->dismiss();
+    EXPECT_THAT(raised, IsEmpty());
+    popup->show();
+    popup->dismiss();
+    EXPECT_THAT(raised, ElementsAre("hidden"));
+}
+
+TEST_P(PopupConfirmPrivateTest, TimeOfAnEarlierShowDoesNotCountWhereAnotherScreenHasTakenItsPlace)
+{
+    List other(0);
+    popup->setTimeout(TIMEOUT);
+    popup->show();
+    display.setCurrent(&other);
+    EXPECT_FALSE(time.isTimerRunning());
+    display.setCurrent(&list);
+}
+
 TEST_P(PopupConfirmPrivateTest, StaysUnderAnotherPopupAndOnAHiddenDisplay)
 {
     PopupConfirm other(true);

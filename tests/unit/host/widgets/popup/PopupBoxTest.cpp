@@ -66,6 +66,14 @@ TEST_P(PopupBoxTest, GrowsWithItsPartsAndNeverBeyondThePanel)
     EXPECT_TRUE(host::contains(gpPresent->Area(), box.Area()));
 }
 
+TEST_P(PopupBoxTest, HeaderWithNothingButAMarkIsShown)
+{
+    box.setBody({test::peg("Ada")});
+    EXPECT_TRUE(host::isEmpty(box.headerArea()));
+    box.setHeader({PegString(), nullptr, &host::icons::BACK});
+    EXPECT_FALSE(host::isEmpty(box.headerArea()));
+}
+
 TEST_P(PopupBoxTest, KeepsHeaderAndBarWhereThereIsNoRoomForTheBody)
 {
     box.setHeader(test::peg("Delete?"));
