@@ -10,6 +10,11 @@
 #include <type_traits>
 #include <utility>
 
+namespace DisplayAPI {
+class PopupCall;
+class PopupNotification;
+} // namespace DisplayAPI
+
 namespace DisplayAPI::kit {
 
 namespace detail {
@@ -51,12 +56,15 @@ private:
 /// REQUIRES: not ended on the GUI thread while its loop runs, nor by a listener that is no subscription.
 class Subscription {
 public:
-    /// `source` is anything with addCommandListener() and removeCommandListener().
+    /// `source` is anything with addCommandListener() and removeCommandListener(), but for the two popups that take
+    /// listeners on the GUI thread only.
     template <typename Source, typename Handler>
     Subscription(Source& source, Handler handler)
         : mListener(std::make_unique<detail::SubscribedListener>(withTwoArguments(std::move(handler)))),
           mRemove([&source, listener = mListener.get()] { source.removeCommandListener(listener); })
     {
+        static_assert(!std::is_same_v<PopupCall, Source> && !std::is_same_v<PopupNotification, Source>,
+                      "their listeners are added and removed on the GUI thread only: use a CommandListener");
         source.addCommandListener(mListener.get());
     }
     Subscription(const Subscription&) = delete;
