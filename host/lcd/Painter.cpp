@@ -61,6 +61,13 @@ TextRun runOf(const PegRect& area, const PegString& text, const TextLook& look, 
 
 } // namespace
 
+Level host::inkOf(const TextLook& look)
+{
+    if (look.dimmed)
+        return look.inverted ? Level::LIGHT : Level::MIDDLE;
+    return look.inverted ? Level::BARE : Level::DARK;
+}
+
 PegPainter::PegPainter(FrameBuffer& buffer, TextMap& texts, TextRenderer& renderer, const PegRect& clip)
     : mBuffer(buffer), mTexts(texts), mRenderer(renderer),
       mClip(intersection(clip, rectAt(0, 0, buffer.width(), buffer.height())))
@@ -145,7 +152,7 @@ void PegPainter::text(const PegRect& cell, const PegString& text, const TextLook
     const PegRect visible = intersection(box, cell);
     if (isClippedOut(visible))
         return;
-    stencil(mask.ink.data(), box, look.inverted ? Level::BARE : Level::DARK, cell);
+    stencil(mask.ink.data(), box, inkOf(look), cell);
     note(runOf(visible, text, look, mask));
 }
 
@@ -164,7 +171,7 @@ void PegPainter::scrolledText(const PegRect& cell, const PegString& text, const 
     if (isClippedOut(visible))
         return;
     for (const PegRect& place : {box, again})
-        stencil(mask.ink.data(), place, look.inverted ? Level::BARE : Level::DARK, cell);
+        stencil(mask.ink.data(), place, inkOf(look), cell);
     note(runOf(visible, text, look, mask));
 }
 

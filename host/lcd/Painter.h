@@ -19,7 +19,11 @@ struct TextLook {
     Align align = Align::LEFT;
     bool inverted = false; ///< bare on dark; whoever paints the text has filled the area dark
     bool runs = false;     ///< changes by itself as time passes
+    bool dimmed = false;   ///< grey
 };
+
+/// What such a text is painted with.
+Level inkOf(const TextLook& look);
 } // namespace host
 
 class PegThing;
