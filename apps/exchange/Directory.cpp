@@ -1,0 +1,73 @@
+#include "apps/exchange/Directory.h"
+
+namespace exchange {
+
+namespace {
+
+constexpr int MOST_HOPS = 10;
+
+} // namespace
+
+Directory::Directory(std::vector<Number> numbers) : mNumbers(std::move(numbers))
+{
+    for (std::size_t at = 0; at < mNumbers.size(); ++at)
+        mPlaces[mNumbers[at].party.number] = at;
+}
+
+Directory::Destination Directory::find(const std::string& number, int& hops) const
+{
+    const Number* found = this->number(number);
+    Party forwardedBy;
+    while (found != nullptr && found->behaviour->arrival == Behaviour::Arrival::FORWARDS &&
+           found->behaviour->after == 0) {
+        if (++hops > MOST_HOPS)
+            return {found->party, forwardedBy, nullptr, Reason::FAILURE, "Forwarded too often"};
+        if (forwardedBy.number.empty())
+            forwardedBy = found->party;
+        const std::string& next = found->behaviour->text;
+        if (this->number(next) == nullptr)
+            return {party(next), forwardedBy, nullptr, Reason::UNKNOWN_NUMBER};
+        found = this->number(next);
+    }
+    if (found == nullptr)
+        return {party(number), {}, nullptr, Reason::UNKNOWN_NUMBER};
+    if (found->behaviour->arrival == Behaviour::Arrival::IS_BUSY)
+        return {found->party, forwardedBy, nullptr, Reason::BUSY};
+    if (found->behaviour->arrival == Behaviour::Arrival::FAILS)
+        return {found->party, forwardedBy, nullptr, Reason::FAILURE, found->behaviour->text};
+    return {found->party, forwardedBy, found->behaviour};
+}
+
+Party Directory::party(const std::string& number) const
+{
+    const Number* const found = this->number(number);
+    return found != nullptr ? found->party : Party{number, {}};
+}
+
+const Number* Directory::number(const std::string& number) const
+{
+    const auto place = mPlaces.find(number);
+    return place != mPlaces.end() ? &mNumbers[place->second] : nullptr;
+}
+
+void Directory::define(Number number)
+{
+    const auto [place, isNew] = mPlaces.try_emplace(number.party.number, mNumbers.size());
+    if (isNew)
+        return mNumbers.push_back(std::move(number));
+    Number& present = mNumbers[place->second];
+    if (!number.party.name.empty())
+        present.party.name = std::move(number.party.name);
+    present.behaviour = std::move(number.behaviour);
+}
+
+std::vector<Party> Directory::parties() const
+{
+    std::vector<Party> parties;
+    parties.reserve(mNumbers.size());
+    for (const Number& number : mNumbers)
+        parties.push_back(number.party);
+    return parties;
+}
+
+} // namespace exchange

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "apps/exchange/Numbers.h"
+
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace exchange {
+
+/// Who is behind a number.
+class Directory {
+public:
+    explicit Directory(std::vector<Number> numbers);
+
+    /// Where a call to a number comes out, after all that forwards at once.
+    struct Destination {
+        Party party;
+        Party forwardedBy = {};                     ///< who was called, where that is another one
+        std::shared_ptr<const Behaviour> behaviour; ///< of one where it rings; else null
+        Reason reason = Reason::NONE;               ///< why it does not ring
+        std::string text = {};
+    };
+
+    /// `hops` counts how often the call has been forwarded: there is an end to it.
+    Destination find(const std::string& number, int& hops) const;
+
+    /// The name is empty where it is not known.
+    Party party(const std::string& number) const;
+
+    /// Null where nobody has the number.
+    const Number* number(const std::string& number) const;
+
+    /// Puts a number in, or what it does from now on; a name that is not said stays.
+    void define(Number number);
+
+    std::vector<Party> parties() const;
+
+private:
+    std::vector<Number> mNumbers;
+    std::unordered_map<std::string, std::size_t> mPlaces;
+};
+
+} // namespace exchange

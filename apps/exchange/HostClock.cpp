@@ -1,0 +1,32 @@
+#include "apps/exchange/HostClock.h"
+
+#include "host/clock/Clock.h"
+
+#include <algorithm>
+
+namespace exchange {
+
+namespace {
+
+constexpr std::int64_t LONGEST_SLEEP = 24 * 60 * 60 * 1000;
+
+} // namespace
+
+std::int64_t HostClock::now() const
+{
+    return host::Clock::instance().now();
+}
+
+void HostClock::sleepUntil(std::int64_t until)
+{
+    host::Clock& clock = host::Clock::instance();
+    clock.sleepFor(std::min(until - clock.now(), LONGEST_SLEEP), &mIsWoken);
+    clock.wakeSleepers([this] { mIsWoken = false; });
+}
+
+void HostClock::wake()
+{
+    host::Clock::instance().wakeSleepers([this] { mIsWoken = true; });
+}
+
+} // namespace exchange

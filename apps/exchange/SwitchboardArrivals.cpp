@@ -1,0 +1,174 @@
+// On the way to somebody, and to here.
+
+#include "apps/exchange/Switchboard.h"
+
+namespace exchange {
+
+namespace {
+
+constexpr std::int64_t UNTIL_PROCEEDING = 200;
+constexpr std::int64_t UNTIL_REACHED = 300;
+constexpr std::int64_t LONGEST_RINGING = 60 * 1000;
+
+} // namespace
+
+CallId Switchboard::place(LineNumber number, const std::string& dialled)
+{
+    const Line* const line = findLine(number);
+    if (line == nullptr || dialled.empty())
+        return NO_CALL;
+    const bool isFull = callsOn(number) >= MOST_CALLS;
+    if (line->isRegistered && !isFull)
+        holdActive(NO_CALL);
+    LiveCall& call = make(number, Direction::OUTGOING, mDirectory.party(dialled));
+    const CallId id = call.event.call;
+    call.dialled = dialled;
+    tell(call, CallState::DIALLING);
+    if (!line->isRegistered)
+        finish(call, CallState::FAILED, {.reason = Reason::NOT_REGISTERED});
+    else if (isFull)
+        finish(call, CallState::FAILED, {.reason = Reason::FAILURE, .text = "The line has too many calls"});
+    else
+        later(&LiveCall::theirs, call, UNTIL_PROCEEDING, &Switchboard::proceed);
+    return id;
+}
+
+void Switchboard::proceed(LiveCall& call)
+{
+    tell(call, CallState::PROCEEDING);
+    later(&LiveCall::theirs, call, UNTIL_REACHED, &Switchboard::reach);
+}
+
+void Switchboard::reach(LiveCall& call)
+{
+    if (findLine(call.dialled) != nullptr)
+        return finish(call, CallState::ENDED, {.reason = Reason::BUSY});
+    ring(call, mDirectory.find(call.dialled, call.hops));
+}
+
+void Switchboard::ring(LiveCall& call, const Directory::Destination& destination)
+{
+    call.event.other = destination.party;
+    if (call.event.forwardedBy.number.empty())
+        call.event.forwardedBy = destination.forwardedBy;
+    if (destination.behaviour == nullptr)
+        return finishUnanswered(call, destination);
+    call.behaviour = destination.behaviour;
+    waitForOther(call);
+}
+
+void Switchboard::waitForOther(LiveCall& call)
+{
+    using Arrival = Behaviour::Arrival;
+    const Behaviour& behaviour = *call.behaviour;
+    call.stage = LiveCall::Stage::RINGING;
+    tell(call, CallState::RINGING_BACK);
+    switch (behaviour.arrival) {
+    case Arrival::ANSWERS: return later(&LiveCall::theirs, call, behaviour.after, &Switchboard::otherAnswers);
+    case Arrival::REJECTS: return later(&LiveCall::theirs, call, behaviour.after, &Switchboard::otherRejects);
+    case Arrival::FORWARDS: return later(&LiveCall::theirs, call, behaviour.after, &Switchboard::otherForwards);
+    default: return later(&LiveCall::theirs, call, LONGEST_RINGING, &Switchboard::ringsTooLong);
+    }
+}
+
+void Switchboard::otherAnswers(LiveCall& call)
+{
+    call.isHeldByOther = false;
+    call.talkStep = 0;
+    beginTalk(call);
+}
+
+void Switchboard::otherRejects(LiveCall& call)
+{
+    finish(call, CallState::ENDED, {.reason = Reason::REJECTED});
+}
+
+void Switchboard::otherForwards(LiveCall& call)
+{
+    if (call.event.forwardedBy.number.empty())
+        call.event.forwardedBy = call.event.other;
+    Directory::Destination destination = mDirectory.find(call.behaviour->text, ++call.hops);
+    ring(call, destination);
+}
+
+void Switchboard::ringsTooLong(LiveCall& call)
+{
+    finish(call, CallState::ENDED, {.reason = Reason::NO_ANSWER});
+}
+
+void Switchboard::planCallBack(const LiveCall& gone)
+{
+    const Number* const number = mDirectory.number(gone.dialled);
+    if (number == nullptr || !number->behaviour->callsBack)
+        return;
+    Schedule::Ticket& ticket = mCallBacks[gone.dialled];
+    mSchedule.cancel(ticket);
+    ticket = mSchedule.in(*number->behaviour->callsBack, [this, line = gone.event.line, who = gone.dialled] {
+        mCallBacks.erase(who);
+        if (Line* const called = findLine(line); called->isRegistered)
+            arrive(*called, {.who = mDirectory.party(who)});
+    });
+}
+
+void Switchboard::arrive(Line& line, const Caller& caller)
+{
+    const Forwarding& forwarding = line.forwarding;
+    const bool isBusy = callsOn(line.number) >= (line.takesSeveral ? MOST_CALLS : 1);
+    LiveCall& call = make(line.number, Direction::INCOMING, caller.who);
+    const Number* const known = mDirectory.number(caller.who.number);
+    call.behaviour = known != nullptr ? known->behaviour : std::make_shared<const Behaviour>();
+    call.event.forwardedBy = caller.forwardedBy;
+    call.hops = caller.hops;
+    call.stage = LiveCall::Stage::INCOMING;
+    if (!forwarding.always.empty())
+        return passOn(call, forwarding.always);
+    if ((line.doNotDisturb || isBusy) && !forwarding.whenBusy.empty())
+        return passOn(call, forwarding.whenBusy);
+    if (line.doNotDisturb || isBusy)
+        return finish(call, CallState::ENDED, {.reason = line.doNotDisturb ? Reason::DO_NOT_DISTURB : Reason::BUSY});
+    tell(call, CallState::INCOMING);
+    call.target = forwarding.whenNotAnswered;
+    if (!call.target.empty())
+        later(&LiveCall::mine, call, forwarding.answerTime, &Switchboard::isNotAnswered);
+    later(&LiveCall::theirs, call, caller.patience.value_or(LONGEST_RINGING), &Switchboard::ringsTooLong);
+}
+
+/// A line that forwards to another one of the telephone lets it ring there. Lines that forward in a circle let it ring
+/// nowhere.
+void Switchboard::passOn(LiveCall& call, const std::string& number)
+{
+    const Caller onward{
+        .who = call.event.other, .forwardedBy = findLine(call.event.line)->party, .hops = call.hops + 1};
+    Line* const line = findLine(number);
+    const Party to = line != nullptr ? line->party : mDirectory.party(number);
+    finish(call, CallState::FORWARDED, {.to = to});
+    if (line != nullptr && line->isRegistered && onward.hops < static_cast<int>(mLines.size()))
+        arrive(*line, onward);
+}
+
+void Switchboard::isNotAnswered(LiveCall& call)
+{
+    passOn(call, std::string(call.target));
+}
+
+bool Switchboard::answer(CallId id)
+{
+    LiveCall* const call = find(id);
+    if (call == nullptr || call->stage != LiveCall::Stage::INCOMING)
+        return false;
+    holdActive(id);
+    mSchedule.cancel(call->mine);
+    beginTalk(*call);
+    return true;
+}
+
+bool Switchboard::deflect(CallId id, const std::string& number)
+{
+    LiveCall* const call = find(id);
+    if (call == nullptr || call->stage != LiveCall::Stage::INCOMING || number.empty())
+        return false;
+    passOn(*call, number);
+    return true;
+}
+
+} // namespace exchange
