@@ -186,7 +186,7 @@ describe("access", SUITE_LIMIT, () => {
 
   test("each row says its language and its direction", LIMIT, async () => {
     await press("ArrowDown", "Enter");
-    await tab.shows("Zoë Ångström");
+    for (const part of ["Contacts", "Zoë", "Αλέξανδρος", "Анна", "אברהם"]) await tab.shows(part); // one by one
     const rows = await tab.page.$$eval("#rows li", (items) => items.map(({ textContent, lang, dir }) =>
       ({ text: textContent, lang, dir })));
     const languageOf = (part) => rows.find(({ text }) => text.includes(part)).lang;
