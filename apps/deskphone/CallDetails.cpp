@@ -41,7 +41,8 @@ Text& CallDetails::kindOf(const PastCall& past)
 {
     switch (past.kind) {
     case PastCall::Kind::MISSED: return mMissed;
-    case PastCall::Kind::RECEIVED: return mReceived;
+    case PastCall::Kind::RECEIVED:
+    case PastCall::Kind::FORWARDED: return mReceived;
     case PastCall::Kind::DIALLED: break;
     }
     return mDialled;

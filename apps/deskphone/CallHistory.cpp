@@ -1,12 +1,22 @@
 #include "apps/deskphone/CallHistory.h"
 
+#include "apps/deskphone/CallStore.h"
+
 #include <algorithm>
 #include <utility>
 
 namespace deskphone {
 
+CallHistory::CallHistory(std::deque<PastCall> calls) : mCalls(std::move(calls)) {}
+
+CallHistory::CallHistory(std::unique_ptr<CallStore> store) : mStore(std::move(store)), mCalls(mStore->calls()) {}
+
+CallHistory::~CallHistory() = default;
+
 void CallHistory::add(PastCall call)
 {
+    if (mStore != nullptr)
+        mStore->add(call);
     mCalls.push_front(std::move(call));
     for (const Listener& listener : mListeners)
         listener.added(mCalls.front());
@@ -17,6 +27,8 @@ void CallHistory::forget(PastCall& call)
 {
     if (std::exchange(call.isForgotten, true))
         return;
+    if (mStore != nullptr)
+        mStore->forget(call);
     for (const Listener& listener : mListeners)
         listener.forgotten(call);
     tellMissed();
@@ -26,6 +38,8 @@ void CallHistory::see()
 {
     for (PastCall& call : mCalls)
         call.isSeen = true;
+    if (mStore != nullptr)
+        mStore->seeAll();
     tellMissed();
 }
 

@@ -1,32 +1,25 @@
 #pragma once
 
-#include <ctime>
+#include "apps/deskphone/PastCall.h"
+
 #include <deque>
 #include <functional>
-#include <string>
+#include <memory>
 #include <vector>
 
 namespace deskphone {
 
-/// A call that is over, or was never answered.
-struct PastCall {
-    enum class Kind { MISSED, RECEIVED, DIALLED };
-
-    Kind kind;
-    std::time_t moment;
-    std::string party;
-    std::string number;
-    bool isForgotten = false;
-    bool isSeen = false;
-
-    bool isNewMissedCall() const { return kind == Kind::MISSED && !isForgotten && !isSeen; }
-};
+class CallStore;
 
 /// The calls of the last days, the latest first. On the threads that answer the user, of which one runs at a time, and
 /// before them on the GUI thread.
 class CallHistory {
 public:
-    explicit CallHistory(std::deque<PastCall> calls) : mCalls(std::move(calls)) {}
+    explicit CallHistory(std::deque<PastCall> calls);
+
+    /// Those that the store has, which keeps what becomes of them.
+    explicit CallHistory(std::unique_ptr<CallStore> store);
+    ~CallHistory();
 
     /// Each stays where it is as long as the history lives.
     std::deque<PastCall>& calls() { return mCalls; }
@@ -52,6 +45,7 @@ private:
         std::function<void(PastCall&)> forgotten;
     };
 
+    std::unique_ptr<CallStore> mStore; ///< null where nothing is kept
     std::deque<PastCall> mCalls;
     std::vector<Listener> mListeners;
     std::vector<std::function<void(int)>> mMissedListeners;

@@ -1,6 +1,7 @@
 #include "apps/deskphone/Desk.h"
 
 #include "DisplayAPI/Display.h"
+#include "apps/deskphone/CallStore.h"
 #include "apps/deskphone/Panel.h"
 #include "host/clock/WallClock.h"
 #include "kit/Fence.h"
@@ -27,11 +28,16 @@ std::deque<PastCall> recentCalls()
             {DIALLED, ago(7, 43), "משה כהן", "030 1031676"}};
 }
 
+CallHistory historyIn(const std::filesystem::path& state)
+{
+    return state.empty() ? CallHistory(recentCalls()) : CallHistory(std::make_unique<CallStore>(state));
+}
+
 } // namespace
 
-Desk::Desk(DisplayAPI::Display& display, const std::string& language)
+Desk::Desk(DisplayAPI::Display& display, const std::string& language, const std::filesystem::path& state)
     : mTelephone(display), mComplaint(mTelephone.useLanguage(language)),
-      mNewsText(&mTelephone.languages(), "News.ticker"), mNews(mNewsText.get()), mHistory(recentCalls()),
+      mNewsText(&mTelephone.languages(), "News.ticker"), mNews(mNewsText.get()), mHistory(historyIn(state)),
       mCall(mTelephone, mHistory), mDetails(mTelephone, mCall), mHome(mTelephone, mCall, mHistory),
       mCallLogs(mTelephone, mHome, mHistory, mCall, mDetails), mContacts(mTelephone, &mHome, mCall),
       mSettings(mTelephone, mHome), mServices(mTelephone, &mHome, mHistory, mCall), mAbout(mTelephone, &mHome)

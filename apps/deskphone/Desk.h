@@ -12,6 +12,7 @@
 #include "apps/deskphone/Settings.h"
 #include "apps/deskphone/Telephone.h"
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -20,8 +21,9 @@ namespace deskphone {
 /// All screens of the telephone and how they hang together. Make and delete it on the GUI thread.
 class Desk {
 public:
-    /// Begins in the language with this code.
-    Desk(DisplayAPI::Display& display, const std::string& language);
+    /// Begins in the language with this code. Keeps its calls in the folder `state`; without one it begins with some,
+    /// and keeps none.
+    Desk(DisplayAPI::Display& display, const std::string& language, const std::filesystem::path& state);
 
     /// First ends all that the screens do on other threads. REQUIRES: the display's loop does not run.
     ~Desk();

@@ -52,7 +52,7 @@ void run(const Arguments& arguments)
     host::setVariant(arguments.panel);
     host::Clock::instance().makeVirtual();
     DisplayAPI::kit::Phone phone({.hardware = host::hardwareName(), .narrow = host::isNarrow()});
-    deskphone::Desk desk(phone.display(), "en");
+    deskphone::Desk desk(phone.display(), "en", {});
     simulator::HostPhone keys(*host::Lcd::current());
     desk.open();
     std::thread walker([&] {
