@@ -56,6 +56,9 @@ extern const Icon FAILURE;
 extern const Icon URGENT;
 extern const Icon CALL_IN;
 extern const Icon CALL_OUT;
+extern const Icon DIALLED;
+extern const Icon RECEIVED;
+extern const Icon MORE;
 extern const Icon HOLD;
 
 } // namespace icons

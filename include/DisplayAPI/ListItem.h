@@ -60,6 +60,9 @@ protected:
     ListItemPrivateIfc* const& implementation() const { return mImplementation; }
     void setImplementation(ListItemPrivateIfc* implementation) { mImplementation = implementation; }
 
+    /// Deletes the private side. GUI thread only.
+    void destroy();
+
 private:
     struct Ops;
 
@@ -67,7 +70,6 @@ private:
     void create(TranslationInfo* text, bool flag);
     template <typename Text>
     void createRow(Text text, bool flag);
-    void destroy();
 
     ListItemPrivateIfc* mImplementation = nullptr;
 };

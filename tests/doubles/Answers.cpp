@@ -13,6 +13,7 @@ void Answers::reset()
     size = 0;
     selectedIndex = -1;
     isSelected = false;
+    icon = 0;
 }
 
 } // namespace doubles

@@ -4,11 +4,12 @@
 
 namespace doubles {
 
-/// What the recording lists answer when they are asked. Safe from any thread.
+/// What the recording private sides answer when they are asked. Safe from any thread.
 struct Answers {
     std::atomic<int> size{0};
     std::atomic<int> selectedIndex{-1};
     std::atomic<bool> isSelected{false};
+    std::atomic<int> icon{0};
 
     static Answers& instance();
 

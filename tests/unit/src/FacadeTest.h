@@ -85,3 +85,7 @@ private:
 };
 
 } // namespace test
+
+#define INSTANTIATE_FROM_BOTH_THREADS(suite)                                                                           \
+    INSTANTIATE_TEST_SUITE_P(CalledFrom, suite, testing::Values(test::From::GUI_THREAD, test::From::WORKER),           \
+                             [](const auto& tested) { return test::nameOf(tested.param); })

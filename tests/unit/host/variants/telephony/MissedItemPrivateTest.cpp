@@ -1,0 +1,30 @@
+#include "kit/DetailsRow.h"
+#include "unit/host/variants/telephony/LogRowVariantTest.h"
+
+using namespace DisplayAPI;
+using testing::ElementsAre;
+
+namespace {
+
+using Row = kit::DetailsRow<MissedItem>;
+using MissedItemPrivateTest = test::LogRowVariantTest;
+
+TEST_P(MissedItemPrivateTest, EachPartOfItHasALine)
+{
+    auto& row = add<Row>(&ada, "22.11.2026\n10:41");
+    EXPECT_EQ(shown(), asText("MissedItem", "string0:Ada\nstring1:22.11.2026\nstring2:10:41\n"));
+    EXPECT_EQ(lookOf(row).lines[0].icon, &host::icons::MISSED_CALL);
+}
+
+TEST_P(MissedItemPrivateTest, UnknownCallerFollowsTheLanguage)
+{
+    auto& row = add<Row>(nullptr, "10:41");
+    EXPECT_THAT(linesOf(row), ElementsAre("en:Caller.Unknown.XXX", "10:41"));
+    changeLanguage("de");
+    EXPECT_THAT(linesOf(row), ElementsAre("de:Caller.Unknown.XXX", "10:41"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Panel, MissedItemPrivateTest, testing::Values(host::Variant::PLAIN, host::Variant::NARROW),
+                         [](const auto& tested) { return std::string(host::nameOf(tested.param)); });
+
+} // namespace
