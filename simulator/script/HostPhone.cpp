@@ -2,6 +2,7 @@
 
 #include "DisplayAPI/Display.h"
 #include "host/clock/Clock.h"
+#include "host/frontend/Wire.h"
 #include "host/input/Keyboard.h"
 #include "host/toolkit/Loop.h"
 #include "host/toolkit/MainQueue.h"
@@ -115,6 +116,11 @@ void HostPhone::waitForThreads()
     const auto deadline = steady_clock::now() + PATIENCE_WITH_THREADS;
     while (isThere() && !othersAreAtRest() && steady_clock::now() < deadline)
         std::this_thread::sleep_for(milliseconds(1));
+}
+
+std::string HostPhone::say(const std::string& wire, const std::string& line)
+{
+    return host::Wire::say(wire, line);
 }
 
 host::Picture HostPhone::picture()

@@ -23,6 +23,7 @@ public:
     void pass(std::int64_t milliseconds) override;
     bool advance(std::int64_t milliseconds) override;
     bool settle(const std::function<void()>& standsStill) override;
+    std::string say(const std::string& wire, const std::string& line) override;
     host::Picture picture() override;
     std::string displayables() override;
     void waitForFrame(std::chrono::milliseconds limit) override;

@@ -10,13 +10,25 @@ namespace simulator {
 
 /// One line of a script.
 struct Step {
-    enum class Action { PRESS, HOLD, WAIT, ADVANCE, EXPECT, EXPECT_NOT, SCREENSHOT, DUMP, DUMP_JSON, COMPARE };
+    enum class Action {
+        PRESS,
+        HOLD,
+        WAIT,
+        ADVANCE,
+        EXPECT,
+        EXPECT_NOT,
+        SCREENSHOT,
+        DUMP,
+        DUMP_JSON,
+        COMPARE,
+        EXCHANGE
+    };
 
     Action action;
     int line = 0;
     std::vector<PegKey> keys;      ///< PRESS: one after the other; HOLD: exactly one
     std::int64_t milliseconds = 0; ///< HOLD, WAIT, ADVANCE
-    std::string text;              ///< the expected text, or the file's name; COMPARE: its path
+    std::string text;              ///< the expected text, the file's name, or what is said; COMPARE: its path
 };
 
 struct Script {

@@ -149,6 +149,7 @@ const std::map<std::string_view, Command>& commands()
         {"screenshot", {SCREENSHOT, parsePictureName}},
         {"dump", {DUMP, parseDump}},
         {"compare", {COMPARE, parseTextName}},
+        {"exchange", {EXCHANGE, parseText}},
     };
     return all;
 }
@@ -160,7 +161,8 @@ Step parseLine(std::string_view text, int line)
     if (command == commands().end())
         throw Mistake(
             "there is no command " + quoted(name) +
-            "; commands are key, hold, type, wait, advance, expect, expect-not, screenshot, dump and compare");
+            "; commands are key, hold, type, wait, advance, expect, expect-not, screenshot, dump, compare and "
+            "exchange");
     if (text.empty())
         throw Mistake(quoted(name) + " needs something behind it");
     Step step{command->second.action, line, {}, 0, {}};

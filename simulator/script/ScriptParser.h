@@ -23,6 +23,7 @@ namespace simulator {
 ///     dump --json NAME.json
 ///                          write the panel's texts with all that is known of them
 ///     compare NAME.txt     wait until the screen as text is that of a file beside the script
+///     exchange LINE        say a line to the program's exchange
 Script parseScript(const std::string& fileName, std::string_view text);
 
 /// As above, for one of the panels. A script that cannot be read is an error, and so is a file that is compared with

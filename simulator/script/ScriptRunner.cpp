@@ -90,6 +90,7 @@ void ScriptRunner::perform(const Step& step)
     case DUMP: return write(mFolder / step.text, screen());
     case DUMP_JSON: return write(mFolder / step.text, screenJson(mPhone.picture(), nameOf(host::variant())));
     case COMPARE: return compare(step);
+    case EXCHANGE: return say(step);
     }
 }
 
@@ -158,6 +159,12 @@ void ScriptRunner::update(const Step& step)
     const std::string shown = screen();
     const bool isOther = exists(std::filesystem::path(step.text)) && !textDifference(read(step.text), shown).empty();
     write(isOther ? ownScreen(step.text, nameOf(host::variant())) : std::filesystem::path(step.text), shown);
+}
+
+void ScriptRunner::say(const Step& step)
+{
+    if (const std::string refusal = mPhone.say("exchange", step.text); !refusal.empty())
+        fail(refusal);
 }
 
 void ScriptRunner::writePicture(const std::filesystem::path& path)

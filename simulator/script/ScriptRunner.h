@@ -32,6 +32,7 @@ private:
     void expect(const Step& step, bool wanted);
     void advance(const Step& step);
     void compare(const Step& step);
+    void say(const Step& step);
     void update(const Step& step);
     void writePicture(const std::filesystem::path& path);
     std::string screen();

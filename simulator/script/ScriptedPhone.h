@@ -31,6 +31,9 @@ public:
     /// one thing for so long that somebody at the keys would wonder.
     virtual bool settle(const std::function<void()>& standsStill) = 0;
 
+    /// Says a line to the program. Returns the sentence that says why nothing comes of it; empty when all is well.
+    virtual std::string say(const std::string& wire, const std::string& line) = 0;
+
     virtual host::Picture picture() = 0;
 
     /// What the library says of the displayables on the screen. Empty when it has no display.

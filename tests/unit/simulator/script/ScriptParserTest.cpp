@@ -65,6 +65,14 @@ TEST(ScriptParser, TypePressesOneKeyAfterTheOther)
     EXPECT_THAT(step.keys, ElementsAre(PK_0, PK_STAR, PK_HASH, PK_9));
 }
 
+TEST(ScriptParser, ExchangeHasALine)
+{
+    const Step step = onlyStep("exchange 4711 ends busy");
+    EXPECT_EQ(step.action, Step::Action::EXCHANGE);
+    EXPECT_EQ(step.text, "4711 ends busy");
+    expectMistake("exchange", "'exchange' needs something behind it");
+}
+
 TEST(ScriptParser, WaitHasATime)
 {
     EXPECT_EQ(onlyStep("wait 0").milliseconds, 0);

@@ -32,6 +32,10 @@ public:
         return (standsStill ? tell() : void()), comesToRest && !isGone;
     }
     bool isThere() override { return !isGone; }
+    std::string say(const std::string& wire, const std::string& line) override
+    {
+        return note(wire + ": " + line), refusal;
+    }
 
     host::Picture picture() override
     {
@@ -61,6 +65,7 @@ public:
     bool standsStill = false;
     bool isGone = false;
     std::string goesAtKey;
+    std::string refusal;
     std::function<void()> nextFrame;
 };
 
@@ -141,6 +146,21 @@ TEST_F(ScriptRunnerTest, WaitLetsTimePass)
 {
     run("wait 250");
     EXPECT_THAT(phone.notes, ElementsAre("pass 250"));
+}
+
+TEST_F(ScriptRunnerTest, ExchangeHearsALine)
+{
+    run("exchange 4711 \"Ada\" calls  line 2 ");
+    EXPECT_THAT(phone.notes, ElementsAre("exchange: 4711 \"Ada\" calls  line 2"));
+    EXPECT_TRUE(report.hasPassed);
+}
+
+TEST_F(ScriptRunnerTest, LineThatIsRefusedEndsTheScript)
+{
+    phone.refusal = "there is no line 3";
+    run("key ok\nexchange 4711 calls line 3\nkey ok");
+    EXPECT_EQ(report.failedLine, 2);
+    EXPECT_THAT(report.failure, testing::HasSubstr("there is no line 3"));
 }
 
 TEST_F(ScriptRunnerTest, AdvanceMovesTheClockInOneGo)

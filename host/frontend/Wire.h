@@ -1,0 +1,54 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace host {
+
+/// What a script or a page says to the program in words of the program's own: an exchange hears "4711 calls". Make one
+/// to hear it; of two with the same name the one made last does. Safe from any thread.
+///
+/// Lock: a mutex guards all wires and is held while one hears, so that none is called once it has gone. A listener must
+/// neither make nor delete a wire, nor wait for a thread that does.
+class Wire {
+public:
+    /// Returns the sentence that says why nothing comes of the line; empty when all is well.
+    using Listener = std::function<std::string(std::string_view line)>;
+
+    /// A line that is worth a button, and what is on it, UTF-8.
+    struct Offer {
+        std::string label;
+        std::string line;
+
+        bool operator==(const Offer&) const = default;
+    };
+
+    Wire(std::string name, Listener listener, std::vector<Offer> offers = {});
+    Wire(const Wire&) = delete;
+    Wire& operator=(const Wire&) = delete;
+
+    /// Waits until the listener returns.
+    ~Wire();
+
+    // For front ends.
+
+    /// Has the program hear a line. Returns what the listener has, or that there is nobody to hear it.
+    static std::string say(std::string_view name, std::string_view line);
+
+    static bool isThere(std::string_view name);
+    static std::vector<Offer> offers(std::string_view name);
+
+    /// Told each time that a wire has come or gone, without the lock; must not block. An empty function removes it.
+    static void setListener(std::function<void()> listener);
+
+private:
+    static const Wire* find(std::string_view name);
+
+    std::string mName;
+    Listener mListener;
+    std::vector<Offer> mOffers;
+};
+
+} // namespace host

@@ -1,0 +1,77 @@
+#include "host/frontend/Wire.h"
+
+#include "support/Gate.h"
+#include "support/Worker.h"
+
+#include <gmock/gmock.h>
+
+#include <memory>
+
+using host::Wire;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+std::string agree(std::string_view)
+{
+    return {};
+}
+
+TEST(WireTest, LineReachesTheListenerAndItsAnswerComesBack)
+{
+    const Wire wire("exchange", [](std::string_view line) { return "no " + std::string(line); });
+    EXPECT_EQ(Wire::say("exchange", "4711 calls"), "no 4711 calls");
+}
+
+TEST(WireTest, WithoutAListenerThatIsSaid)
+{
+    EXPECT_EQ(Wire::say("exchange", "4711 calls"), "the program has no exchange");
+    const Wire wire("weather", agree);
+    EXPECT_EQ(Wire::say("exchange", "4711 calls"), "the program has no exchange");
+    EXPECT_FALSE(Wire::isThere("exchange"));
+    EXPECT_TRUE(Wire::isThere("weather"));
+}
+
+TEST(WireTest, WireMadeLastCounts)
+{
+    const Wire first("exchange", agree, {{"one", "1"}});
+    auto second = std::make_unique<Wire>("exchange", [](std::string_view) { return "the second"; });
+    EXPECT_EQ(Wire::say("exchange", ""), "the second");
+    EXPECT_THAT(Wire::offers("exchange"), IsEmpty());
+    second.reset();
+    EXPECT_EQ(Wire::say("exchange", ""), "");
+    EXPECT_THAT(Wire::offers("exchange"), ElementsAre(Wire::Offer{"one", "1"}));
+}
+
+TEST(WireTest, ListenerIsToldOfComingsAndGoingsAndMayLook)
+{
+    std::vector<bool> seen;
+    Wire::setListener([&] { seen.push_back(Wire::isThere("exchange")); });
+    auto wire = std::make_unique<Wire>("exchange", agree);
+    wire.reset();
+    Wire::setListener({});
+    const Wire unheard("exchange", agree);
+    EXPECT_THAT(seen, ElementsAre(true, false));
+}
+
+TEST(WireTest, EndWaitsUntilTheLineHasBeenHeard)
+{
+    test::Gate begun, goOn;
+    bool isHeard = false;
+    auto wire = std::make_unique<Wire>("exchange", [&](std::string_view) {
+        begun.open();
+        goOn.wait();
+        isHeard = true;
+        return std::string();
+    });
+    test::Worker asker([] { Wire::say("exchange", "4711 calls"); });
+    ASSERT_TRUE(begun.wait());
+    test::Worker owner([&] { wire.reset(); });
+    EXPECT_TRUE(owner.isBlocked());
+    goOn.open();
+    owner.join();
+    EXPECT_TRUE(isHeard);
+}
+
+} // namespace
