@@ -71,7 +71,8 @@ void ListItem::create(TranslationInfo* text, bool flag)
 template <typename Text>
 void ListItem::createRow(Text text, bool flag)
 {
-    name = "ListItem";
+    if (name.empty()) // a derived row has set its own
+        name = "ListItem";
     if (isFullPanel())
         mImplementation = new ListItemPrivate(std::move(text), flag);
     else

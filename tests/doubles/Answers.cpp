@@ -14,6 +14,8 @@ void Answers::reset()
     selectedIndex = -1;
     isSelected = false;
     icon = 0;
+    call = nullptr;
+    menu = nullptr;
 }
 
 } // namespace doubles

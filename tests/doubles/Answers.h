@@ -2,6 +2,11 @@
 
 #include <atomic>
 
+namespace DisplayAPI {
+class CallConnectedItem;
+class ContextMenu;
+} // namespace DisplayAPI
+
 namespace doubles {
 
 /// What the recording private sides answer when they are asked. Safe from any thread.
@@ -10,6 +15,8 @@ struct Answers {
     std::atomic<int> selectedIndex{-1};
     std::atomic<bool> isSelected{false};
     std::atomic<int> icon{0};
+    std::atomic<DisplayAPI::CallConnectedItem*> call{nullptr};
+    std::atomic<DisplayAPI::ContextMenu*> menu{nullptr};
 
     static Answers& instance();
 
