@@ -60,6 +60,17 @@ extern const Icon DIALLED;
 extern const Icon RECEIVED;
 extern const Icon MORE;
 extern const Icon HOLD;
+extern const Icon HELD_BY_OTHER;
+extern const Icon HELD_BY_BOTH;
+extern const Icon RESUME;
+extern const Icon PROCEEDING;
+extern const Icon BELL;
+extern const Icon CONSULTED;
+extern const Icon CONFERENCE;
+extern const Icon HUNG_UP;
+extern const Icon PADLOCK_OPEN;
+extern const Icon HD;
+extern const Icon RECORDING;
 
 } // namespace icons
 

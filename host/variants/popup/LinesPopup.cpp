@@ -6,13 +6,6 @@
 
 namespace DisplayAPI {
 
-PegString LinesPopup::Line::shown() const
-{
-    const std::string before = prefix.text(), behind = text.text();
-    const bool hasBoth = !before.empty() && !behind.empty();
-    return ICC::fromUTF8toUNICODE(before + (hasBoth ? " " : "") + behind);
-}
-
 void LinesPopup::set(OwnedText& which, OwnedText text)
 {
     which = std::move(text);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/variants/popup/OwnedText.h"
 #include "host/variants/popup/Popup.h"
+#include "host/variants/popup/TextLine.h"
 
 #include <array>
 
@@ -9,13 +9,7 @@ namespace DisplayAPI {
 
 /// A popup that says something: its first line is the box's header, further ones that are not empty its body.
 struct LinesPopup : public PopupSide::Popup {
-    /// A text, and what stands before it.
-    struct Line {
-        PegString shown() const;
-
-        OwnedText prefix, text;
-        const host::Icon* icon = nullptr;
-    };
+    using Line = TextLine;
 
     using Popup::Popup;
 

@@ -9,11 +9,12 @@
 
 namespace DisplayAPI {
 
-/// A text whose translation belongs to it. GUI thread only.
+/// A text whose translation belongs to it, unless it is said to be somebody else's. GUI thread only.
 class OwnedText {
 public:
     OwnedText() = default;
     explicit OwnedText(std::string text) : mText(std::move(text)) {}
+    explicit OwnedText(TranslatedText notOwned) : mText(std::move(notOwned)) {}
     explicit OwnedText(TranslationInfo* translation) : mTranslation(translation), mText(translation) {}
     explicit OwnedText(std::unique_ptr<TranslationInfo> translation) : OwnedText(translation.release()) {}
 

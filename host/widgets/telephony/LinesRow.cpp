@@ -118,4 +118,12 @@ void LinesRow::show(LinesLook look)
         heightChanged();
 }
 
+void LinesRow::showEnd(PegString end)
+{
+    if (end == mLook.end)
+        return;
+    mLook.end = std::move(end);
+    changed();
+}
+
 } // namespace host

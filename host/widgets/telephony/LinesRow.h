@@ -48,6 +48,7 @@ public:
     /// Paints the row again where the look differs, and moves what stands below it where the number of lines does. The
     /// text of the row is that of the first line.
     void show(LinesLook look);
+    void showEnd(PegString end);
 
     int heightIn(const Layout& layout) const override { return heightOf(mLook, layout); }
     void Draw(PegPainter& painter, const Place& place) const override { draw(painter, place, mLook); }

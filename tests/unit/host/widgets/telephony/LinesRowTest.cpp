@@ -95,6 +95,16 @@ TEST_F(LinesRowTest, TellsItsTextsWithTheEndBehindTheFirstLine)
     EXPECT_EQ(textOf(&row), "a");
 }
 
+TEST_F(LinesRowTest, AnotherEndIsShownAlone)
+{
+    host::LinesRow row("Row");
+    LinesLook look = lookOf({"a", "b"});
+    row.show(look);
+    row.showEnd(letters("0:11"));
+    look.end = letters("0:11");
+    EXPECT_EQ(row.look(), look);
+}
+
 TEST_F(LinesRowTest, MovesWhatStandsBelowItWhenItHasMoreLines)
 {
     KestrelListBoxWithTitle list;
