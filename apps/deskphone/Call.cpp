@@ -1,5 +1,6 @@
 #include "apps/deskphone/Call.h"
 
+#include "DisplayAPI/DurationText.h"
 #include "DisplayAPI/List.h"
 #include "apps/deskphone/CallHistory.h"
 #include "apps/deskphone/Telephone.h"
@@ -8,28 +9,10 @@
 #include "kit/OnGuiThread.h"
 #include "kit/WayBack.h"
 
-#include <cstdio>
-
 namespace deskphone {
 
 using host::Clock;
 namespace kit = DisplayAPI::kit;
-
-namespace {
-
-/// As the call's timer shows it, without hours that are none.
-std::string durationText(std::int64_t ms)
-{
-    const auto seconds = static_cast<int>(ms / 1000);
-    char text[40];
-    if (seconds < 3600)
-        std::snprintf(text, sizeof text, "%02d:%02d", seconds / 60, seconds % 60);
-    else
-        std::snprintf(text, sizeof text, "%d:%02d:%02d", seconds / 3600, seconds / 60 % 60, seconds % 60);
-    return text;
-}
-
-} // namespace
 
 Call::Call(Telephone& telephone, CallHistory& history)
     : Screen(telephone, nullptr, "Call.title",
@@ -63,7 +46,7 @@ void Call::chosen(int)
 void Call::left()
 {
     telephone().status().callEnds();
-    mDuration = durationText(Clock::instance().now() - mStart);
+    mDuration = DisplayAPI::durationText((Clock::instance().now() - mStart) / 1000);
     telephone().tell(mEnded.get());
 }
 
