@@ -28,6 +28,7 @@ std::vector<Case> listCases();
 std::vector<Case> menuCases();
 std::vector<Case> dialerCases();
 std::vector<Case> popupCases();
+std::vector<Case> callLogCases();
 std::vector<Case> tabCases();
 std::vector<Case> idleCases();
 std::vector<Case> desktopCases();
