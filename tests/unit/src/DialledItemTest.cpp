@@ -46,7 +46,7 @@ TEST_P(DialledItemTest, IconIsNamedAfterWhatTheSideShows)
     made(1, &ada, &bert, "today", "00:10", true);
     for (const auto& [value, icon] : {std::pair(0, 1), {1, 2}, {2, 3}, {3, 4}, {4, 0}, {5, 0}, {99, 0}, {-1, 0}}) {
         doubles::Answers::instance().icon = value;
-        run([&] { EXPECT_EQ(row->iconType(), icon); });
+        run([&, wanted = icon] { EXPECT_EQ(row->iconType(), wanted); });
     }
     carriedOut(1);
     doubles::Answers::instance().icon = 0;

@@ -48,7 +48,7 @@ TEST_P(ForwardedItemTest, IconIsNamedAfterWhatTheSideShows)
     made(1, &ada, &bert, std::ref(today));
     for (const auto& [value, icon] : {std::pair(0, 1), {1, 2}, {2, 3}, {3, 4}, {4, 0}, {5, 0}, {99, 0}, {-1, 0}}) {
         doubles::Answers::instance().icon = value;
-        run([&] { EXPECT_EQ(row->iconType(), icon); });
+        run([&, wanted = icon] { EXPECT_EQ(row->iconType(), wanted); });
     }
     carriedOut(1);
     doubles::Answers::instance().icon = 0;
