@@ -9,9 +9,9 @@ namespace exchange {
 
 /// Where calls for a line go on to; an empty number is nowhere.
 struct Forwarding {
-    std::string always;                  ///< before do not disturb, and without ringing
-    std::string whenBusy;                ///< also while the line wants no calls
-    std::string whenNotAnswered;         ///< after `answerTime`
+    std::string always = {};             ///< before do not disturb, and without ringing
+    std::string whenBusy = {};           ///< also while the line wants no calls
+    std::string whenNotAnswered = {};    ///< after `answerTime`
     std::int64_t answerTime = 15 * 1000; ///< milliseconds
 
     bool operator==(const Forwarding&) const = default;
@@ -20,7 +20,7 @@ struct Forwarding {
 /// A line as the exchange knows it.
 struct Line {
     LineNumber number = 0;
-    Party party;               ///< its own number and name
+    Party party = {};          ///< its own number and name
     bool isRegistered = true;  ///< else nobody calls, and nobody can be called
     int messages = 0;          ///< that wait in the mailbox
     bool doNotDisturb = false; ///< who calls hears that it is busy

@@ -77,7 +77,7 @@ Verb takeVerb(Words& words)
     std::string known;
     for (const Phrase& phrase : PHRASES)
         known += (known.empty() ? "" : ", ") + std::string(phrase.words);
-    throw Mistake("there is no " + words.here() + "; a number does one of: " + known);
+    throw Mistake("expected what the number does, not " + words.here() + "; that is one of: " + known);
 }
 
 void takeCall(Words& words, Deed& deed)

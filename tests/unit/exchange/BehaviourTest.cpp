@@ -1,63 +1,10 @@
-#include "unit/exchange/ExchangeTest.h"
-
-#include <gmock/gmock.h>
-#include <ostream>
+#include "unit/exchange/Scenario.h"
 
 namespace test {
 
 namespace {
 
-using testing::ElementsAreArray;
-
-/// A line of the file of numbers, what is done on the telephone and at the exchange meanwhile, and all that is heard.
-struct BehaviourCase {
-    const char* name;
-    std::string numbers;
-    std::vector<std::string> steps;
-    std::vector<std::string> heard;
-};
-
-void PrintTo(const BehaviourCase& behaviour, std::ostream* out)
-{
-    *out << behaviour.name;
-}
-
-/// "after 500: hold 1" is done after 500 ms more, "4711 holds" is a sentence for the exchange.
-void take(ExchangeFixture& fixture, const std::string& step)
-{
-    std::istringstream words(step);
-    std::string verb, text;
-    int call = 0, other = 0;
-    words >> verb;
-    const auto isTaken = [&](bool result) { EXPECT_TRUE(result) << step; };
-    if (verb == "wait") {
-        words >> call;
-        fixture.pass(call);
-    } else if (verb == "place") {
-        words >> text;
-        isTaken(fixture.exchange.place(words >> call ? call : 1, text) != exchange::NO_CALL);
-    } else if (verb == "answer" && words >> call) {
-        isTaken(fixture.exchange.answer(call));
-    } else if (verb == "end" && words >> call) {
-        isTaken(fixture.exchange.end(call));
-    } else if (verb == "hold" && words >> call) {
-        isTaken(fixture.exchange.hold(call));
-    } else if (verb == "resume" && words >> call) {
-        isTaken(fixture.exchange.resume(call));
-    } else if (verb == "join" && words >> call >> other) {
-        isTaken(fixture.exchange.join(call, other));
-    } else if (verb == "transfer" && words >> call >> other) {
-        isTaken(fixture.exchange.transfer(call, other));
-    } else if (verb == "transferTo" && words >> call >> text) {
-        isTaken(fixture.exchange.transferTo(call, text));
-    } else if (verb == "deflect" && words >> call >> text) {
-        isTaken(fixture.exchange.deflect(call, text));
-    } else {
-        EXPECT_EQ(fixture.exchange.command(step), "") << step;
-    }
-}
-
-const std::vector<BehaviourCase> BEHAVIOURS = {
+const std::vector<Scenario> BEHAVIOURS = {
     {"AnswersAfterThreeSeconds",
      "4711 \"Ada Byron\" answers after 3 s",
      {"place 4711", "wait 5000"},
@@ -208,17 +155,13 @@ const std::vector<BehaviourCase> BEHAVIOURS = {
 
 } // namespace
 
-class BehaviourTest : public testing::TestWithParam<BehaviourCase> {};
+class BehaviourTest : public ScenarioTest {};
 
 TEST_P(BehaviourTest, IsHeardInOrder)
 {
-    ExchangeFixture fixture(GetParam().numbers);
-    for (const std::string& step : GetParam().steps)
-        take(fixture, step);
-    EXPECT_THAT(fixture.heard(), ElementsAreArray(GetParam().heard));
+    runScenario();
 }
 
-INSTANTIATE_TEST_SUITE_P(, BehaviourTest, testing::ValuesIn(BEHAVIOURS),
-                         [](const auto& one) { return std::string(one.param.name); });
+INSTANTIATE_TEST_SUITE_P(, BehaviourTest, testing::ValuesIn(BEHAVIOURS), nameOfScenario);
 
 } // namespace test

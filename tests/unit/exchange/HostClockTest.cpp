@@ -1,0 +1,56 @@
+#include "apps/exchange/HostClock.h"
+
+#include "support/VirtualTime.h"
+#include "support/Worker.h"
+#include "unit/exchange/ExchangeTest.h"
+
+#include <atomic>
+#include <gmock/gmock.h>
+
+namespace test {
+
+namespace {
+
+using testing::ElementsAre;
+using testing::EndsWith;
+
+exchange::Numbers numbers()
+{
+    return exchange::Numbers::parse("numbers", "4711 answers after 200 ms, holds after 60 min");
+}
+
+class HostClockTest : public testing::Test {
+protected:
+    exchange::HostClock clock;
+    exchange::Exchange exchange{numbers(), clock};
+    NotingListener listener;
+
+    HostClockTest() { exchange.setListener(&listener); }
+    ~HostClockTest() override { exchange.setListener(nullptr); }
+};
+
+TEST_F(HostClockTest, RealTimePassesByItself)
+{
+    const exchange::CallId call = exchange.place(1, "4711");
+    waitUntil([&] { return exchange.hold(call); });
+    EXPECT_TRUE(exchange.resume(call));
+    exchange.waitUntilHeard();
+    EXPECT_EQ(listener.take().size(), 6u);
+}
+
+class VirtualHostClockTest : private VirtualTime, public HostClockTest {};
+
+TEST_F(VirtualHostClockTest, StandsStillUntilItIsMoved)
+{
+    exchange.place(1, "4711");
+    exchange.waitUntilHeard();
+    EXPECT_THAT(listener.take(), ElementsAre(EndsWith("dialling 4711")));
+    host::Clock::instance().advance(1000);
+    exchange.waitUntilHeard();
+    EXPECT_THAT(listener.take(),
+                ElementsAre(EndsWith("proceeding 4711"), EndsWith("ringing back 4711"), EndsWith("connected 4711")));
+}
+
+} // namespace
+
+} // namespace test
