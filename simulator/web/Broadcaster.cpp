@@ -70,6 +70,13 @@ void Broadcaster::lampsChanged(std::vector<bool> lamps)
     mChanged.notify_all();
 }
 
+void Broadcaster::exchangeChanged(std::optional<std::vector<host::Wire::Offer>> offers)
+{
+    std::lock_guard lock(mMutex);
+    mExchange = std::move(offers);
+    mChanged.notify_all();
+}
+
 void Broadcaster::pageChanged()
 {
     std::lock_guard lock(mMutex);
@@ -91,7 +98,7 @@ void Broadcaster::run()
 {
     Lock lock(mMutex);
     while (!mEnding)
-        serve(lock, {mStandsStill(), mLamps});
+        serve(lock, {mStandsStill(), mLamps, mExchange});
     const Pages pages = mPages;
     lock.unlock();
     for (const auto& page : pages)

@@ -39,6 +39,9 @@ public:
     /// The lamps of the programmable keys are these now.
     void lampsChanged(std::vector<bool> lamps);
 
+    /// The program's exchange offers this now; nothing where it has none.
+    void exchangeChanged(std::optional<std::vector<host::Wire::Offer>> offers);
+
     /// Looks again at who can take a frame.
     void pageChanged();
 
@@ -60,6 +63,7 @@ private:
     std::uint32_t mFrame = 1;
     std::string mLanguage;
     std::vector<bool> mLamps;
+    std::optional<std::vector<host::Wire::Offer>> mExchange;
     bool mEnding = false;
     std::thread mSender;
 };

@@ -49,6 +49,8 @@ void PageConnection::tell(const News& news)
         sendText(standingMessage(news.standsStill));
     if (before.lamps != news.lamps)
         sendText(lampsMessage(news.lamps));
+    if (before.exchange != news.exchange)
+        sendText(exchangeMessage(news.exchange));
 }
 
 void PageConnection::sendLast(const std::string& message)

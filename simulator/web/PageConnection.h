@@ -1,9 +1,11 @@
 #pragma once
 
+#include "host/frontend/Wire.h"
 #include "simulator/web/FrameMessage.h"
 
 #include <cstdint>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -15,6 +17,7 @@ namespace simulator {
 struct News {
     bool standsStill = false; ///< the GUI thread
     std::vector<bool> lamps{};
+    std::optional<std::vector<host::Wire::Offer>> exchange{}; ///< what it offers, where there is one
 
     friend bool operator==(const News&, const News&) = default;
 };

@@ -46,6 +46,8 @@ std::optional<PageMessage> parsePageMessage(std::string_view text)
         return seenMessage(text.substr(5));
     if (text.starts_with("motion "))
         return motionMessage(text.substr(7));
+    if (text.starts_with("exchange "))
+        return PageMessage{.kind = Kind::EXCHANGE, .line = text.substr(9)};
     return {};
 }
 

@@ -8,15 +8,16 @@
 
 namespace simulator {
 
-/// What a page says: `down KEY`, `up KEY`, `seen N` when it has drawn frame N, or `motion less` and `motion full` for
-/// what its user can bear.
+/// What a page says: `down KEY`, `up KEY`, `seen N` when it has drawn frame N, `motion less` and `motion full` for what
+/// its user can bear, or `exchange LINE` for the program's exchange.
 struct PageMessage {
-    enum class Kind { DOWN, UP, SEEN, MOTION };
+    enum class Kind { DOWN, UP, SEEN, MOTION, EXCHANGE };
 
     Kind kind;
     PegKey key{};
     std::uint32_t frame = 0;
     bool wantsLessMotion = false;
+    std::string_view line = {}; ///< a part of what was parsed
 };
 
 /// Nothing where the text is none of these.

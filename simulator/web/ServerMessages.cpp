@@ -14,6 +14,7 @@ using Json = nlohmann::ordered_json;
 
 /// More of a row than anybody wants to hear.
 constexpr std::size_t LONGEST_TEXT = 400;
+constexpr std::size_t MOST_OFFERS = 100;
 
 std::string dump(const Json& json)
 {
@@ -59,6 +60,22 @@ std::string standingMessage(bool isStanding)
 std::string lampsMessage(const std::vector<bool>& lamps)
 {
     return dump({{"lamps", lamps}});
+}
+
+std::string exchangeMessage(const std::optional<std::vector<host::Wire::Offer>>& offers)
+{
+    if (!offers)
+        return dump({{"exchange", nullptr}});
+    Json all = Json::array();
+    for (const host::Wire::Offer& offer : *offers)
+        if (all.size() < MOST_OFFERS)
+            all.push_back({{"label", beginning(offer.label)}, {"line", offer.line}});
+    return dump({{"exchange", all}});
+}
+
+std::string answerMessage(const std::string& answer)
+{
+    return dump({{"answer", beginning(answer)}});
 }
 
 std::string fullMessage(std::size_t pages)

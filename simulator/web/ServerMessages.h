@@ -1,8 +1,10 @@
 #pragma once
 
+#include "host/frontend/Wire.h"
 #include "simulator/screen/ScreenRows.h"
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,6 +27,13 @@ std::string standingMessage(bool isStanding);
 /// The programmable keys beside the panel, from the first on: whether the lamp of each is lit.
 /// {"lamps":[true,false]}
 std::string lampsMessage(const std::vector<bool>& lamps);
+
+/// What the program's exchange offers, the first hundred; null where there is no exchange.
+/// {"exchange":[{"label":"Ada","line":"4711 calls"}]}
+std::string exchangeMessage(const std::optional<std::vector<host::Wire::Offer>>& offers);
+
+/// What the exchange has said to this page's line: why nothing comes of it, or an empty text.
+std::string answerMessage(const std::string& answer);
 
 /// So many pages are open, and there is no room for this one.
 std::string fullMessage(std::size_t pages);

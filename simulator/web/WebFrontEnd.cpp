@@ -1,6 +1,7 @@
 #include "simulator/web/WebFrontEnd.h"
 
 #include "host/Phone.h"
+#include "host/frontend/Wire.h"
 #include "host/input/KeyLamps.h"
 #include "host/lcd/Lcd.h"
 #include "host/toolkit/Loop.h"
@@ -30,6 +31,13 @@ std::string greeting()
     return applicationMessage(program_invocation_short_name, host::nameOf(host::variant()));
 }
 
+std::optional<std::vector<host::Wire::Offer>> exchangeOffers()
+{
+    if (!host::Wire::isThere("exchange"))
+        return {};
+    return host::Wire::offers("exchange");
+}
+
 /// GUI thread only.
 std::string language()
 {
@@ -47,12 +55,14 @@ struct WebFrontEnd::Session {
     {
         lcd.setFrameListener([this] { broadcaster.frameReady(language()); });
         host::KeyLamps::setListener([this] { broadcaster.lampsChanged(host::KeyLamps::current()); });
+        host::Wire::setListener([this] { broadcaster.exchangeChanged(exchangeOffers()); });
     }
 
     ~Session()
     {
         lcd.setFrameListener({});
         host::KeyLamps::setListener({});
+        host::Wire::setListener({});
         broadcaster.end();
     }
 

@@ -1,5 +1,6 @@
 #include "simulator/web/WebServer.h"
 
+#include "host/frontend/Wire.h"
 #include "simulator/web/Page.h"
 #include "simulator/web/PageMessage.h"
 #include "simulator/web/PortCheck.h"
@@ -13,7 +14,7 @@ namespace simulator {
 namespace {
 
 constexpr int MOST_TURNED_AWAY = 4;
-constexpr std::size_t LONGEST_MESSAGE = 64;
+constexpr std::size_t LONGEST_MESSAGE = 1024;
 constexpr std::size_t LONGEST_PING = 125;
 constexpr int KIND_OF_MESSAGE = 0x0F;
 constexpr int LAST_PIECE = 0x80;
@@ -169,6 +170,7 @@ bool WebServer::handle(PageConnection& page, std::string_view text)
     switch (message->kind) {
     case PageMessage::Kind::DOWN: mKeys.down(&page, message->key); break;
     case PageMessage::Kind::UP: mKeys.up(&page, message->key); break;
+    case PageMessage::Kind::EXCHANGE: page.sendText(answerMessage(host::Wire::say("exchange", message->line))); break;
     case PageMessage::Kind::MOTION: mMotion.wish(&page, message->wantsLessMotion); break;
     case PageMessage::Kind::SEEN:
         page.seen(message->frame);

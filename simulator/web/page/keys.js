@@ -62,6 +62,7 @@ function listenToButton(keys, button) {
 
 /* Enter and space press the button that has the focus; without one, Enter is OK. */
 function nameOfKeyEvent(keys, event) {
+  if (event.target.closest?.("#exchange")) return undefined; // is written there
   if (event.ctrlKey || event.altKey || event.metaKey || byId("keys").open) return undefined;
   const isPress = event.key === "Enter" || event.key === " ";
   const focused = document.activeElement?.closest("button");

@@ -53,11 +53,14 @@ const link = new Link({
     application = told;
     setName(told);
     programmable.show([]); // until it tells of some
+    exchange.offer(null);
     size.fit();
   },
   language: (language) => rows.setLanguage(language),
   rows: (received) => rows.show(received),
   lamps: (lamps) => programmable.show(lamps),
+  exchange: (offers) => exchange.offer(offers),
+  answer: (sentence) => exchange.answer(sentence),
   standing: (isStanding) => setState(isStanding ? "standing" : "open"),
   ended() {
     goodbye = "ended";
@@ -71,11 +74,12 @@ const keys = new Keys((text) => {
 });
 const programmable = new Programmable(document.querySelector(".programmable"),
                                       (button) => listenToButton(keys, button), () => size.fit());
+const exchange = new Exchange(byId("exchange"), (line) => link.send(`exchange ${line}`));
 document.querySelectorAll("[data-key]").forEach((button) => listenToButton(keys, button));
 listenToKeyboard(keys);
 listenForHelp(keys);
 
-new Tools(panel, rows, fileName);
+new Tools(panel, rows, exchange, fileName);
 followChoice(byId("shortcuts"), true, (isOn) => (keys.usesKeyboard = isOn));
 
 const sendMotion = () => link.send(`motion ${byId("less-motion").checked ? "less" : "full"}`);

@@ -26,9 +26,10 @@ class Tools {
   static TOLD_FOR = 4000;
 
   /* `fileName` makes a file's name of its extension. */
-  constructor(panel, rows, fileName) {
+  constructor(panel, rows, exchange, fileName) {
     this.panel = panel;
     this.rows = rows;
+    this.exchange = exchange;
     this.fileName = fileName;
     for (const button of document.querySelectorAll("[data-tool]"))
       button.addEventListener("click", () => this.use(button.dataset.tool));
@@ -68,6 +69,10 @@ class Tools {
     return "Text saved.";
   }
 
+  showExchange() {
+    this.exchange.toggle();
+  }
+
   showKeys() {
     byId("keys").showModal();
   }
@@ -86,7 +91,7 @@ function followChoice(box, initially, changed) {
 
 function listenForHelp(keys) {
   window.addEventListener("keydown", (event) => {
-    if (event.key !== "?" || !keys.usesKeyboard || byId("keys").open) return;
+    if (event.key !== "?" || !keys.usesKeyboard || byId("keys").open || event.target.closest?.("#exchange")) return;
     event.preventDefault();
     keys.upAll();
     byId("keys").showModal();

@@ -33,11 +33,20 @@ TEST(PageMessage, MotionIsLessOrFull)
     EXPECT_FALSE(parsePageMessage("motion full")->wantsLessMotion);
 }
 
+TEST(PageMessage, ExchangeHasALine)
+{
+    const auto message = parsePageMessage("exchange 4711 \"Ada\" calls");
+    ASSERT_TRUE(message.has_value());
+    EXPECT_EQ(message->kind, PageMessage::Kind::EXCHANGE);
+    EXPECT_EQ(message->line, "4711 \"Ada\" calls");
+    EXPECT_EQ(parsePageMessage("exchange ")->line, "");
+}
+
 TEST(PageMessage, AnythingElseIsNone)
 {
-    for (const char* text :
-         {"", "down", "down ", "down middle", "Down ok", "down ok ", "up", "seen", "seen ", "seen -1",
-          "seen 4294967296", "seen 1x", "motion", "motion ", "motion none", "{}", "\xff\xfe"})
+    for (const char* text : {"", "down", "down ", "down middle", "Down ok", "down ok ", "up", "seen", "seen ",
+                             "seen -1", "seen 4294967296", "seen 1x", "motion", "motion ", "motion none", "exchange",
+                             "exchange4711", "{}", "\xff\xfe"})
         EXPECT_FALSE(parsePageMessage(text).has_value()) << text;
 }
 

@@ -32,6 +32,16 @@ TEST(ServerMessages, OtherNewsAreOneWord)
     EXPECT_EQ(simulator::endedMessage(), R"({"ended":true})");
 }
 
+TEST(ServerMessages, ExchangeOffersLines)
+{
+    EXPECT_EQ(simulator::exchangeMessage({}), R"({"exchange":null})");
+    EXPECT_EQ(simulator::exchangeMessage({{{"Ada \"B\"", "4711 calls"}}}),
+              R"({"exchange":[{"label":"Ada \"B\"","line":"4711 calls"}]})");
+    const std::vector<host::Wire::Offer> many(1000, {"1", "1 calls"});
+    EXPECT_LT(simulator::exchangeMessage(many).size(), 5'000u);
+    EXPECT_EQ(simulator::answerMessage("there is no line 3"), R"({"answer":"there is no line 3"})");
+}
+
 TEST(ServerMessages, EmptyPanelHasNoRows)
 {
     EXPECT_EQ(rowsMessage({}, ""), R"({"language":"","rows":[]})");

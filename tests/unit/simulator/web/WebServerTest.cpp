@@ -1,5 +1,6 @@
 #include "simulator/web/WebServer.h"
 
+#include "host/frontend/Wire.h"
 #include "support/Worker.h"
 #include "unit/simulator/web/ServerTest.h"
 
@@ -89,6 +90,33 @@ TEST_F(WebServerTest, PageThatAnswersKeepsItsPlace)
     }
     EXPECT_TRUE(client.isOpen());
     EXPECT_EQ(broadcaster.pageCount(), 1u);
+}
+
+TEST_F(WebServerTest, ExchangeAnswersThePageThatAsks)
+{
+    const host::Wire wire("exchange", [](std::string_view line) { return "no " + std::string(line); });
+    WebClient client(endpoint.port);
+    openSocket(client);
+    client.send(masked('\x81', "exchange 4711 calls"));
+    client.receiveUntil(R"({"answer":"no 4711 calls"})");
+}
+
+TEST_F(WebServerTest, WithoutAnExchangeThatIsAnswered)
+{
+    WebClient client(endpoint.port);
+    openSocket(client);
+    client.send(masked('\x81', "exchange 4711 calls"));
+    client.receiveUntil(R"({"answer":"the program has no exchange"})");
+}
+
+TEST_F(WebServerTest, PagesHearOfTheExchangeAsItComesAndGoes)
+{
+    WebClient client(endpoint.port);
+    openSocket(client);
+    broadcaster.exchangeChanged({{{"Ada", "4711 calls"}}});
+    client.receiveUntil(R"({"exchange":[{"label":"Ada","line":"4711 calls"}]})");
+    broadcaster.exchangeChanged({});
+    client.receiveUntil(R"({"exchange":null})");
 }
 
 TEST_F(WebServerTest, PingIsAnswered)
