@@ -1,6 +1,7 @@
 #include "DisplayAPI/CallLogMainItem.h"
 
 #include "DisplayAPI/CallLogMainItemPrivateIfc.h"
+#include "OfRow.h"
 #include "Operations.h"
 #include "PartyCopy.h"
 #include "Variant.h"
@@ -12,17 +13,11 @@ namespace {
 
 enum Request { DESTROY = 2, CREATE = 10, SET_BOLD = 12 };
 
-/// A request of the list item's may have put another row in place of the log's.
-void makeBold(ListItemPrivateIfc& row, bool on)
-{
-    if (auto* const entry = dynamic_cast<CallLogMainItemPrivateIfc*>(&row); entry != nullptr)
-        entry->setbold(on);
-}
-
 } // namespace
 
-struct CallLogMainItem::Ops : Operations<Posts<CREATE, &CallLogMainItem::create>,
-                                         Waits<DESTROY, &CallLogMainItem::destroy>, Posts<SET_BOLD, &makeBold>> {};
+struct CallLogMainItem::Ops
+    : Operations<Posts<CREATE, &CallLogMainItem::create>, Waits<DESTROY, &CallLogMainItem::destroy>,
+                 Posts<SET_BOLD, ofRow<&CallLogMainItemPrivateIfc::setbold>>> {};
 
 CallLogMainItem::CallLogMainItem(CallPartyIdentifier* party, std::string text, int icon, bool isNew, bool hasMenu)
     : ListItem(nullptr)

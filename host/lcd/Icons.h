@@ -71,6 +71,7 @@ extern const Icon HUNG_UP;
 extern const Icon PADLOCK_OPEN;
 extern const Icon HD;
 extern const Icon RECORDING;
+extern const Icon ON_HOOK;
 
 } // namespace icons
 

@@ -1,5 +1,6 @@
 #include "CallRow.h"
 
+#include "OfRow.h"
 #include "Operations.h"
 #include "utilities/ICC.h"
 
@@ -8,11 +9,6 @@ namespace DisplayAPI {
 namespace {
 
 enum Request { CREATE = 10, DESTROY = 11, SET_NUMBER = 12 };
-
-void showNumber(ListItemPrivateIfc& side, const std::string& number)
-{
-    static_cast<CallRowSide&>(side).setNumber(number);
-}
 
 } // namespace
 
@@ -23,8 +19,8 @@ void CallRowSide::setNumber(const std::string& number)
     mRow.setSecond(ICC::fromUTF8toUNICODE(number));
 }
 
-struct CallRow::Ops
-    : Operations<Posts<CREATE, &CallRow::create>, Waits<DESTROY, &CallRow::destroy>, Posts<SET_NUMBER, &showNumber>> {};
+struct CallRow::Ops : Operations<Posts<CREATE, &CallRow::create>, Waits<DESTROY, &CallRow::destroy>,
+                                 Posts<SET_NUMBER, ofRow<&CallRowSide::setNumber>>> {};
 
 CallRow::CallRow(const std::string& party) : ListItem(nullptr)
 {
@@ -40,12 +36,6 @@ void CallRow::create(const std::string& party)
 {
     name = "CallRow";
     setImplementation(new CallRowSide(party));
-}
-
-void CallRow::destroy()
-{
-    delete implementation();
-    setImplementation(nullptr);
 }
 
 void CallRow::processGuiRequest(GuiRequestEvent& request)

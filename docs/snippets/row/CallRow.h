@@ -39,7 +39,6 @@ private:
     struct Ops;
 
     void create(const std::string& party);
-    void destroy();
 };
 
 } // namespace DisplayAPI
