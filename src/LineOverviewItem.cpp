@@ -60,6 +60,11 @@ void LineOverviewItem::processGuiRequest(GuiRequestEvent& request)
     signalComplete(request);
 }
 
+ListItemPrivateIfc* LineOverviewItem::getPrivateImpl()
+{
+    return implementation();
+}
+
 void LineOverviewItem::setLineState(LineState state)
 {
     Ops::call<SET_LINE_STATE>(*this, implementation(), state);

@@ -38,6 +38,9 @@ public:
     /// GUI thread only.
     void processGuiRequest(GuiRequestEvent& request) override;
 
+    /// What getPrivateImplemetation() answers. GUI thread only.
+    ListItemPrivateIfc* getPrivateImpl();
+
     void setLineState(LineState state);
     void setDisplayHDIconStatus(bool on);
 

@@ -5,6 +5,9 @@
 /// A party of a call: name and number, either of which may be unknown.
 class CallPartyIdentifier {
 public:
+    /// What kind of number it is. Others may come.
+    enum PhoneNumberIconType : int { WORK = 0, HOME = 1, MOBILE = 2, LETTER = 3, PERSON = 4 };
+
     CallPartyIdentifier() = default;
     CallPartyIdentifier(std::string name, std::string number);
 

@@ -1,50 +1,23 @@
 #include "DisplayAPI/LineOverviewItem.h"
 
-#include "DisplayAPI/ListItemPrivateIfc.h"
-#include "unit/src/FacadeTest.h"
 #include "unit/src/Posted.h"
-#include "utilities/ICC.h"
+#include "unit/src/RowFacadeTest.h"
 #include "utilities/TranslationInfo.h"
 #include "widgets/LineOverviewListItem.h"
 
 using namespace DisplayAPI;
-using test::From;
 using test::Posted;
 using testing::ElementsAre;
 
 namespace {
 
-using Parameters = std::tuple<From, int>;
-
-class LineOverviewItemTest : public test::FacadeTest, public testing::WithParamInterface<Parameters> {
+class LineOverviewItemTest : public test::RowFacadeTest<LineOverviewItem> {
 protected:
-    LineOverviewItemTest() { test::setHardwareVariant(std::get<1>(GetParam())); }
-
-    From from() const { return std::get<0>(GetParam()); }
-    void run(const std::function<void()>& work) { FacadeTest::run(from(), work); }
-
-    template <typename... Args>
-    void make(const Args&... args)
+    LineOverviewListItem& item()
     {
-        run([&] { line = std::make_unique<LineOverviewItem>(args...); });
+        return dynamic_cast<LineOverviewListItem&>(*row->getPrivateImpl()->getKestrelListItem());
     }
 
-    LineOverviewListItem& row()
-    {
-        return dynamic_cast<LineOverviewListItem&>(*line->getPrivateImplemetation()->getKestrelListItem());
-    }
-
-    std::vector<std::string> texts()
-    {
-        std::vector<std::string> all;
-        gui.call([&] {
-            for (const PegString& text : row().describe().texts)
-                all.push_back(ICC::fromUNICODEtoUTF8(text));
-        });
-        return all;
-    }
-
-    std::unique_ptr<LineOverviewItem> line;
     TranslationInfo prefix{"Line.1", nullptr};
 };
 
@@ -54,7 +27,7 @@ TEST_P(LineOverviewItemTest, ShowsWhatItIsMadeWithOnEveryVariant)
 {
     make(LineOverviewItem::RINGING, "Office", "4711", &prefix);
     EXPECT_THAT(texts(), ElementsAre("Line.1 Office", "4711"));
-    EXPECT_EQ(row().sign(), LineOverviewListItem::RINGS);
+    EXPECT_EQ(item().sign(), LineOverviewListItem::RINGS);
 }
 
 TEST_P(LineOverviewItemTest, NameAloneIsEnough)
@@ -66,61 +39,56 @@ TEST_P(LineOverviewItemTest, NameAloneIsEnough)
 TEST_P(LineOverviewItemTest, TextIsTheName)
 {
     make(LineOverviewItem::IDLE, "Büro", "4711", &prefix);
-    run([&] { EXPECT_EQ(line->getText(), "Büro"); });
+    run([&] { EXPECT_EQ(row->getText(), "Büro"); });
 }
 
 TEST_P(LineOverviewItemTest, SettersChangeTheRow)
 {
     make(LineOverviewItem::IDLE, "Office");
     run([&] {
-        line->setLineName("Lab");
-        line->setLineIdentity("4712");
-        line->setLineNamePrefix(&prefix);
-        line->setLineState(LineOverviewItem::HELD);
-        line->holdItem(5000);
+        row->setLineName("Lab");
+        row->setLineIdentity("4712");
+        row->setLineNamePrefix(&prefix);
+        row->setLineState(LineOverviewItem::HELD);
+        row->holdItem(5000);
     });
     EXPECT_THAT(texts(), ElementsAre("Line.1 Lab", "4712"));
-    EXPECT_EQ(row().sign(), LineOverviewListItem::HOLDS);
-    EXPECT_TRUE(row().isHighlighted());
+    EXPECT_EQ(item().sign(), LineOverviewListItem::HOLDS);
+    EXPECT_TRUE(item().isHighlighted());
 }
 
 TEST_P(LineOverviewItemTest, CodeTenPutsANewRowInThePlaceOfTheFormerOne)
 {
     make(LineOverviewItem::IDLE, "Office", "4711", &prefix);
-    carryOut(from(), *line, 10, [&](GuiRequestEvent& r) {
+    carryOut(from(), *row, 10, [&](GuiRequestEvent& r) {
         r.intParam1 = LineOverviewItem::FAILED;
         r.stringParam1 = "Lab";
         r.stringParam2 = "4712";
     });
     EXPECT_THAT(texts(), ElementsAre("Lab", "4712"));
-    EXPECT_EQ(row().sign(), LineOverviewListItem::HAS_FAILED);
+    EXPECT_EQ(item().sign(), LineOverviewListItem::HAS_FAILED);
 }
 
 TEST_P(LineOverviewItemTest, CodeTwoDeletesTheRow)
 {
     make(LineOverviewItem::IDLE, "Office");
-    carryOut(from(), *line, 2);
-    EXPECT_EQ(line->getPrivateImplemetation(), nullptr);
+    carryOut(from(), *row, 2);
+    EXPECT_EQ(row->getPrivateImpl(), nullptr);
 }
 
 TEST_P(LineOverviewItemTest, SettersLeaveARowAloneThatTheListItemHasMade)
 {
     make(LineOverviewItem::IDLE, "Office");
-    carryOut(from(), *line, 2);
-    carryOut(from(), *line, 0, [](GuiRequestEvent& r) { r.stringParam1 = "Plain"; });
+    carryOut(from(), *row, 2);
+    carryOut(from(), *row, 0, [](GuiRequestEvent& r) { r.stringParam1 = "Plain"; });
     run([&] {
-        line->setLineName("Lab");
-        line->setLineState(LineOverviewItem::HELD);
-        EXPECT_EQ(line->getText(), "Plain");
+        row->setLineName("Lab");
+        row->setLineState(LineOverviewItem::HELD);
+        EXPECT_EQ(row->getText(), "Plain");
     });
 }
 
-INSTANTIATE_TEST_SUITE_P(Requests, LineOverviewItemTest,
-                         testing::Combine(testing::Values(From::GUI_THREAD, From::WORKER), testing::Values(0, 1, 2)),
-                         [](const testing::TestParamInfo<Parameters>& test) {
-                             return test::nameOf(std::get<0>(test.param)) + "OnVariant" +
-                                    std::to_string(std::get<1>(test.param));
-                         });
+INSTANTIATE_ON_VARIANTS(LineOverviewItemTest);
 
 namespace {
 

@@ -1,0 +1,60 @@
+#include "DisplayAPI/AbbreviatedItem.h"
+
+#include "unit/host/variants/telephony/LogRowVariantTest.h"
+#include "utilities/TranslationInfo.h"
+
+using namespace DisplayAPI;
+using namespace host::icons;
+using testing::ElementsAre;
+
+namespace {
+
+using AbbreviatedItemPrivateTest = test::LogRowVariantTest;
+
+} // namespace
+
+TEST_P(AbbreviatedItemPrivateTest, ShowsItsNumberAndTheText)
+{
+    auto& row = add<AbbreviatedItem>(12, AbbreviatedItem::ICON_NUMBER, "Zoë", true);
+    EXPECT_EQ(shown(), asText("AbbreviatedItem", "string0:12 Zoë\n"));
+    EXPECT_FALSE(lookOf(row).hasIcons);
+    EXPECT_EQ(row.getText(), "Zoë");
+}
+
+TEST_P(AbbreviatedItemPrivateTest, ShowsAnIconInThePlaceOfTheNumber)
+{
+    const std::vector<std::pair<int, const host::Icon*>> icons{{1, &HANDSET}, {2, &HOUSE},   {3, &MOBILE},
+                                                               {4, &LETTER},  {5, &PERSON},  {6, &PICTURE},
+                                                               {7, nullptr},  {-1, nullptr}, {77, nullptr}};
+    for (const auto& [type, icon] : icons) {
+        auto& row = add<AbbreviatedItem>(12, static_cast<AbbreviatedItem::IconType>(type), "Zoë", true);
+        EXPECT_EQ(lookOf(row).lines.front().icon, icon) << type;
+        EXPECT_THAT(linesOf(row), ElementsAre("Zoë"));
+    }
+}
+
+TEST_P(AbbreviatedItemPrivateTest, TranslationFollowsTheLanguage)
+{
+    TranslationInfo text("Desk", &dictionary);
+    auto& row = add<AbbreviatedItem>(3, AbbreviatedItem::ICON_NUMBER, &text, true);
+    EXPECT_THAT(linesOf(row), ElementsAre("3 en:Desk"));
+    changeLanguage("de");
+    EXPECT_THAT(linesOf(row), ElementsAre("3 de:Desk"));
+    EXPECT_EQ(row.getText(), "de:Desk");
+}
+
+TEST_P(AbbreviatedItemPrivateTest, ToolkitRowGoesWithWhoeverOwnsIt)
+{
+    std::unique_ptr<KestrelListBoxItem> item;
+    {
+        AbbreviatedItem row(12, AbbreviatedItem::ICON_NUMBER, "Ada", true);
+        row.getPrivateImpl()->releaseOwnership();
+        item.reset(row.getPrivateImpl()->getKestrelListItem());
+    }
+    EXPECT_EQ(ICC::fromUNICODEtoUTF8(item->DataGet()), "Ada");
+    AbbreviatedItem row(12, AbbreviatedItem::ICON_NUMBER, "Ada", true);
+    row.getPrivateImpl()->releaseOwnership();
+    row.getPrivateImpl()->gainOwnership(); // or else it leaks
+}
+
+INSTANTIATE_ON_PANELS(AbbreviatedItemPrivateTest);
