@@ -16,6 +16,7 @@ constexpr const char* OBSERVING = "Observers of the application";
 constexpr const char* TEXTBOOK = "reference: mutex, condition variable, deque of functions";
 constexpr const char* SCREEN = "Screen";
 constexpr const char* HEAP = "Heap";
+constexpr const char* CALLS_IN_A_ROW = "Calls at the exchange, on the virtual clock";
 
 /// Nanoseconds of a synchronous call with a result, the library's and that of the textbook loop.
 double libraryCall(Seats seats, int calls);
@@ -32,6 +33,7 @@ std::vector<Case> callLogCases();
 std::vector<Case> tabCases();
 std::vector<Case> idleCases();
 std::vector<Case> desktopCases();
+std::vector<Case> callCases();
 std::vector<Case> destroyingCases();
 std::vector<Case> repaintCases();
 std::vector<Case> screenTextCases();
