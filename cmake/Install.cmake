@@ -27,6 +27,7 @@ install(DIRECTORY ${PROJECT_SOURCE_DIR}/platform/ DESTINATION ${HEADERS} FILES_M
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/kit DESTINATION ${HEADERS} FILES_MATCHING PATTERN *.h)
 install(FILES ${PROJECT_SOURCE_DIR}/host/Phone.h DESTINATION ${HEADERS}/host)
 install(FILES ${PROJECT_SOURCE_DIR}/host/frontend/Wire.h DESTINATION ${HEADERS}/host/frontend)
+install(FILES ${PROJECT_SOURCE_DIR}/host/input/CallSigns.h DESTINATION ${HEADERS}/host/input)
 install(FILES ${PROJECT_SOURCE_DIR}/host/languages/Languages.h DESTINATION ${HEADERS}/host/languages)
 # What lies beside the shared objects: catalogues and a font.
 install(DIRECTORY ${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/displayapi-${PROJECT_VERSION_MAJOR}

@@ -3,6 +3,7 @@
 #include "apps/exchange/Exchange.h"
 #include "apps/exchange/ExchangeWire.h"
 #include "apps/exchange/HostClock.h"
+#include "apps/exchange/SignedCalls.h"
 #include "host/Phone.h"
 #include "kit/OffGuiThread.h"
 #include "kit/Phone.h"
@@ -32,6 +33,7 @@ public:
     void callChanged(const exchange::CallEvent& event) override
     {
         mLatest = event.call;
+        mSigns.callChanged(event);
         mList.setTitle(event.other.name + ": " + std::string(nameOf(event.state)));
     }
 
@@ -40,6 +42,7 @@ public:
 private:
     exchange::Telephony& mTelephony;
     List& mList;
+    exchange::SignedCalls mSigns;
     std::atomic<exchange::CallId> mLatest{exchange::NO_CALL};
 };
 

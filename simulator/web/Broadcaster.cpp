@@ -77,6 +77,13 @@ void Broadcaster::exchangeChanged(std::optional<std::vector<host::Wire::Offer>> 
     mChanged.notify_all();
 }
 
+void Broadcaster::signsChanged(host::CallSigns signs)
+{
+    std::lock_guard lock(mMutex);
+    mSigns = signs;
+    mChanged.notify_all();
+}
+
 void Broadcaster::pageChanged()
 {
     std::lock_guard lock(mMutex);
@@ -98,7 +105,7 @@ void Broadcaster::run()
 {
     Lock lock(mMutex);
     while (!mEnding)
-        serve(lock, {mStandsStill(), mLamps, mExchange});
+        serve(lock, {mStandsStill(), mLamps, mExchange, mSigns});
     const Pages pages = mPages;
     lock.unlock();
     for (const auto& page : pages)

@@ -42,6 +42,9 @@ public:
     /// The program's exchange offers this now; nothing where it has none.
     void exchangeChanged(std::optional<std::vector<host::Wire::Offer>> offers);
 
+    /// The lamp on the case and the handset are so now.
+    void signsChanged(host::CallSigns signs);
+
     /// Looks again at who can take a frame.
     void pageChanged();
 
@@ -64,6 +67,7 @@ private:
     std::string mLanguage;
     std::vector<bool> mLamps;
     std::optional<std::vector<host::Wire::Offer>> mExchange;
+    host::CallSigns mSigns;
     bool mEnding = false;
     std::thread mSender;
 };

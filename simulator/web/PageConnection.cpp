@@ -51,6 +51,8 @@ void PageConnection::tell(const News& news)
         sendText(lampsMessage(news.lamps));
     if (before.exchange != news.exchange)
         sendText(exchangeMessage(news.exchange));
+    if (before.signs != news.signs)
+        sendText(signsMessage(news.signs));
 }
 
 void PageConnection::sendLast(const std::string& message)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/frontend/Wire.h"
+#include "host/input/CallSigns.h"
 #include "simulator/web/FrameMessage.h"
 
 #include <cstdint>
@@ -18,6 +19,7 @@ struct News {
     bool standsStill = false; ///< the GUI thread
     std::vector<bool> lamps{};
     std::optional<std::vector<host::Wire::Offer>> exchange{}; ///< what it offers, where there is one
+    host::CallSigns signs{};
 
     friend bool operator==(const News&, const News&) = default;
 };

@@ -3,6 +3,7 @@
 #include "utilities/ICC.h"
 
 #include <algorithm>
+#include <array>
 #include <nlohmann/json.hpp>
 
 namespace simulator {
@@ -71,6 +72,12 @@ std::string exchangeMessage(const std::optional<std::vector<host::Wire::Offer>>&
         if (all.size() < MOST_OFFERS)
             all.push_back({{"label", beginning(offer.label)}, {"line", offer.line}});
     return dump({{"exchange", all}});
+}
+
+std::string signsMessage(host::CallSigns signs)
+{
+    constexpr std::array<std::string_view, 3> LAMPS = {"dark", "lit", "blinks"};
+    return dump({{"signs", {{"lamp", LAMPS.at(static_cast<std::size_t>(signs.lamp))}, {"lifted", signs.isLifted}}}});
 }
 
 std::string answerMessage(const std::string& answer)

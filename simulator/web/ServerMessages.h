@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/frontend/Wire.h"
+#include "host/input/CallSigns.h"
 #include "simulator/screen/ScreenRows.h"
 
 #include <cstddef>
@@ -31,6 +32,10 @@ std::string lampsMessage(const std::vector<bool>& lamps);
 /// What the program's exchange offers, the first hundred; null where there is no exchange.
 /// {"exchange":[{"label":"Ada","line":"4711 calls"}]}
 std::string exchangeMessage(const std::optional<std::vector<host::Wire::Offer>>& offers);
+
+/// The lamp on the case, "dark", "lit" or "blinks", and whether the handset is lifted.
+/// {"signs":{"lamp":"blinks","lifted":false}}
+std::string signsMessage(host::CallSigns signs);
 
 /// What the exchange has said to this page's line: why nothing comes of it, or an empty text.
 std::string answerMessage(const std::string& answer);

@@ -2,6 +2,7 @@
 
 #include "host/Phone.h"
 #include "host/frontend/Wire.h"
+#include "host/input/CallSigns.h"
 #include "host/input/KeyLamps.h"
 #include "host/lcd/Lcd.h"
 #include "host/toolkit/Loop.h"
@@ -55,6 +56,7 @@ struct WebFrontEnd::Session {
     {
         lcd.setFrameListener([this] { broadcaster.frameReady(language()); });
         host::KeyLamps::setListener([this] { broadcaster.lampsChanged(host::KeyLamps::current()); });
+        host::CallSigns::setListener([this] { broadcaster.signsChanged(host::CallSigns::current()); });
         host::Wire::setListener([this] { broadcaster.exchangeChanged(exchangeOffers()); });
     }
 
@@ -62,6 +64,7 @@ struct WebFrontEnd::Session {
     {
         lcd.setFrameListener({});
         host::KeyLamps::setListener({});
+        host::CallSigns::setListener({});
         host::Wire::setListener({});
         broadcaster.end();
     }

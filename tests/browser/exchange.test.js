@@ -7,7 +7,7 @@ import { pause } from "./support/figures.js";
 import { LIMIT, Phone, program, SUITE_LIMIT, until } from "./support/phone.js";
 import { coloursIn } from "./support/pictures.js";
 
-const TOUCH = { viewport: { width: 390, height: 780 }, hasTouch: true, isMobile: true };
+const TOUCH = { viewport: { width: 390, height: 780 }, deviceScaleFactor: 3, hasTouch: true, isMobile: true };
 
 describe("the exchange", SUITE_LIMIT, () => {
   let browser, phone;
@@ -57,6 +57,37 @@ describe("the exchange", SUITE_LIMIT, () => {
     await tab.shows("Ada Byron: connected");
     await say(tab, "4711 ends");
     await tab.shows("Ada Byron: ended");
+  });
+
+  test("the lamp blinks while it rings, and the handset lies beside the telephone while one speaks", LIMIT, async (t) => {
+    const tab = await open(t);
+    const lamp = (name) => tab.page.getByRole("img", { name: `Call lamp, ${name}`, exact: true }).waitFor();
+    const isLifted = () => tab.page.locator(".phone").evaluate((phone) => phone.hasAttribute("data-lifted"));
+    const blinks = () => tab.page.locator(".ring").evaluate((ring) => getComputedStyle(ring).animationName);
+    await lamp("dark");
+    await say(tab, "4711 calls");
+    await lamp("blinking");
+    assert.equal(await blinks(), "blink");
+    assert.equal(await isLifted(), false);
+    await tab.page.emulateMedia({ reducedMotion: "reduce" });
+    assert.equal(await blinks(), "none");
+    await tab.button("ok").click();
+    await lamp("dark");
+    await until(isLifted, "the handset is lifted");
+    await say(tab, "4711 ends");
+    await until(async () => !(await isLifted()), "the handset is back");
+  });
+
+  test("the handset is a hook key", LIMIT, async (t) => {
+    const tab = await Tab.open(browser, phone.url);
+    t.after(() => tab.close());
+    const sent = [];
+    tab.page.on("websocket", (socket) => socket.on("framesent", ({ payload }) => sent.push(String(payload))));
+    await tab.page.reload();
+    await tab.isConnected();
+    await tab.page.locator(".handset").click();
+    await until(() => sent.includes("up hook"), "the key is let go");
+    assert.deepEqual(sent.filter((message) => /^(down|up) /.test(message)), ["down hook", "up hook"]);
   });
 
   test("has a field for all else, which is empty once a line has been heard", LIMIT, async (t) => {

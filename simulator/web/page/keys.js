@@ -60,6 +60,17 @@ function listenToButton(keys, button) {
   });
 }
 
+/* The handset is another hook key, for those who see it. Where it lies the program says. */
+function listenToHandset(keys, handset) {
+  handset.addEventListener("pointerdown", (event) => {
+    if (event.button !== 0) return;
+    event.preventDefault();
+    keys.down("handset", "hook");
+  });
+  for (const end of ["pointerup", "pointercancel", "pointerleave"])
+    handset.addEventListener(end, () => keys.up("handset"));
+}
+
 /* Enter and space press the button that has the focus; without one, Enter is OK. */
 function nameOfKeyEvent(keys, event) {
   if (event.target.closest?.("#exchange")) return undefined; // is written there

@@ -27,6 +27,14 @@ function fileName(extension) {
   return `${application.program}-${application.panel}-${stamp}.${extension}`;
 }
 
+const LAMPS = { dark: "dark", lit: "lit", blinks: "blinking" };
+
+function showSigns({ lamp, lifted }) {
+  byId("ring").dataset.lamp = lamp;
+  byId("ring").setAttribute("aria-label", `Call lamp, ${LAMPS[lamp]}`);
+  phone.toggleAttribute("data-lifted", lifted);
+}
+
 let application = { program: "telephone", panel: "plain" };
 let goodbye = "broken"; // what the end of the connection means
 
@@ -54,12 +62,14 @@ const link = new Link({
     setName(told);
     programmable.show([]); // until it tells of some
     exchange.offer(null);
+    showSigns({ lamp: "dark", lifted: false });
     size.fit();
   },
   language: (language) => rows.setLanguage(language),
   rows: (received) => rows.show(received),
   lamps: (lamps) => programmable.show(lamps),
   exchange: (offers) => exchange.offer(offers),
+  signs: showSigns,
   answer: (sentence) => exchange.answer(sentence),
   standing: (isStanding) => setState(isStanding ? "standing" : "open"),
   ended() {
@@ -75,6 +85,7 @@ const keys = new Keys((text) => {
 const programmable = new Programmable(document.querySelector(".programmable"),
                                       (button) => listenToButton(keys, button), () => size.fit());
 const exchange = new Exchange(byId("exchange"), (line) => link.send(`exchange ${line}`));
+listenToHandset(keys, document.querySelector(".handset"));
 document.querySelectorAll("[data-key]").forEach((button) => listenToButton(keys, button));
 listenToKeyboard(keys);
 listenForHelp(keys);

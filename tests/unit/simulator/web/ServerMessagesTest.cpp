@@ -42,6 +42,15 @@ TEST(ServerMessages, ExchangeOffersLines)
     EXPECT_EQ(simulator::answerMessage("there is no line 3"), R"({"answer":"there is no line 3"})");
 }
 
+TEST(ServerMessages, SignsAreALampAndAHandset)
+{
+    using host::CallSigns;
+    EXPECT_EQ(simulator::signsMessage({}), R"({"signs":{"lamp":"dark","lifted":false}})");
+    EXPECT_EQ(simulator::signsMessage({CallSigns::Lamp::LIT, true}), R"({"signs":{"lamp":"lit","lifted":true}})");
+    EXPECT_EQ(simulator::signsMessage({CallSigns::Lamp::BLINKS, false}),
+              R"({"signs":{"lamp":"blinks","lifted":false}})");
+}
+
 TEST(ServerMessages, EmptyPanelHasNoRows)
 {
     EXPECT_EQ(rowsMessage({}, ""), R"({"language":"","rows":[]})");

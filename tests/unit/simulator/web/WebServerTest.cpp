@@ -119,6 +119,16 @@ TEST_F(WebServerTest, PagesHearOfTheExchangeAsItComesAndGoes)
     client.receiveUntil(R"({"exchange":null})");
 }
 
+TEST_F(WebServerTest, PagesHearOfTheLampAndTheHandset)
+{
+    WebClient client(endpoint.port);
+    openSocket(client);
+    broadcaster.signsChanged({host::CallSigns::Lamp::BLINKS, true});
+    client.receiveUntil(R"({"signs":{"lamp":"blinks","lifted":true}})");
+    broadcaster.signsChanged({});
+    client.receiveUntil(R"({"signs":{"lamp":"dark","lifted":false}})");
+}
+
 TEST_F(WebServerTest, PingIsAnswered)
 {
     WebClient client(endpoint.port);
