@@ -39,8 +39,7 @@ void LogRow::localeChanged()
 {
     host::LinesLook look = item->look();
     for (std::size_t line = 0; line < texts.size(); ++line)
-        if (texts[line].isTranslated())
-            look.lines[line].text = texts[line].shown();
+        look.lines[line].text = texts[line].shown();
     item->show(std::move(look));
 }
 

@@ -80,6 +80,18 @@ TEST_P(CallBackMainItemTest, DestructorDeletesTheSide)
     EXPECT_THAT(reached(), ElementsAre("~CallBackMainItemPrivate()"));
 }
 
+/// ThreadSanitizer sees whether the GUI thread meets a row that is half gone.
+TEST_P(CallBackMainItemTest, RowGoesWhenWhatIsQueuedForItIsDone)
+{
+    run([&] {
+        for (int i = 0; i < 20; ++i) {
+            CallBackMainItem brief(&ada, "", Type::BUSY, State::READY);
+            brief.setText("later");
+        }
+    });
+    EXPECT_EQ(recorder.count("~CallBackMainItemPrivate"), 20);
+}
+
 INSTANTIATE_FROM_BOTH_THREADS(CallBackMainItemTest);
 
 using QueuedCallBackMainItemTest = test::SteppedTest;

@@ -96,6 +96,19 @@ TEST_F(QueuedCallLogMainItemTest, DeletingWaits)
     EXPECT_EQ(test::postedBy(gui, [&] { row.reset(); }), (Posted{{2}, true}));
 }
 
+TEST_F(QueuedCallLogMainItemTest, RowThatAnotherThreadMakesAndDeletesIsMadeBeforeItGoes)
+{
+    test::Worker worker([&] { newRow().reset(); });
+    EXPECT_TRUE(worker.isBlocked());
+    EXPECT_THAT(gui.queuedCodes(), ElementsAre(10, 2));
+    doubles::Recorder::instance().clear();
+    while (!worker.hasReturned())
+        gui.step();
+    EXPECT_THAT(
+        doubles::Recorder::instance().texts(),
+        ElementsAre("CallLogMainItemPrivate(\"Ada 4711\", \"10:41\", 1, true, false)", "~CallLogMainItemPrivate()"));
+}
+
 /// A sanitizer sees whether the party's copy is freed.
 TEST_F(QueuedCallLogMainItemTest, RowThatGoesBeforeItIsMadeIsNeverMade)
 {

@@ -1,6 +1,7 @@
 #include "DisplayAPI/CallLogMainItem.h"
 
 #include "unit/host/variants/telephony/LogRowVariantTest.h"
+#include "widgets/KestrelListBoxWithTitle.h"
 
 using namespace DisplayAPI;
 using namespace host::icons;
@@ -76,9 +77,18 @@ TEST_P(CallLogMainItemPrivateTest, RowThatIsReleasedIsNotDeletedWithItsSide)
         row.reset(entry.getPrivateImpl()->getKestrelListItem());
     }
     EXPECT_EQ(ICC::fromUNICODEtoUTF8(row->DataGet()), "Ada");
-    CallLogMainItem entry(&ada, "", 1, false, false);
-    entry.getPrivateImpl()->releaseOwnership();
-    entry.getPrivateImpl()->gainOwnership();
+}
+
+TEST_P(CallLogMainItemPrivateTest, RowThatIsTakenBackGoesWithItsSide)
+{
+    KestrelListBoxWithTitle box;
+    {
+        CallLogMainItem entry(&ada, "", 1, false, false);
+        box.append(entry.getPrivateImpl()->getKestrelListItem());
+        entry.getPrivateImpl()->releaseOwnership();
+        entry.getPrivateImpl()->gainOwnership();
+    }
+    EXPECT_EQ(box.numItems(), 0);
 }
 
 INSTANTIATE_ON_PANELS(CallLogMainItemPrivateTest);
