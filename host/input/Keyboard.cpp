@@ -73,9 +73,20 @@ bool Keyboard::send(std::uint16_t type, PegKey key)
     return false;
 }
 
-void Keyboard::handled()
+void Keyboard::setHookListener(std::function<void()> listener)
+{
+    const std::lock_guard lock(mMutex);
+    mHookListener = std::move(listener);
+}
+
+void Keyboard::handled(const PegMessage& message)
 {
     --mPending;
+    if (message.wType != PM_KEY || message.iData != PK_HOOK)
+        return;
+    const std::lock_guard lock(mMutex);
+    if (mHookListener)
+        mHookListener();
 }
 
 void Keyboard::connect()

@@ -3,6 +3,8 @@
 #include "toolkit/PegMessage.h"
 
 #include <atomic>
+#include <functional>
+#include <mutex>
 #include <optional>
 #include <string_view>
 
@@ -23,8 +25,12 @@ public:
     bool press(PegKey key);
     bool release(PegKey key);
 
+    /// Told on the GUI thread each time that the hook key is handled, whatever has the focus: the handset is of no
+    /// screen. Must not block. An empty function removes it; none is called once this has returned.
+    void setHookListener(std::function<void()> listener);
+
     /// Called by the loop when it has handled a key message.
-    void handled();
+    void handled(const PegMessage& message);
 
     /// Called by the toolkit when it has started, and before it stops.
     void connect();
@@ -35,6 +41,8 @@ public:
 private:
     bool send(std::uint16_t type, PegKey key);
 
+    std::mutex mMutex; ///< guards what follows; a leaf, but for what the listener takes
+    std::function<void()> mHookListener;
     static constexpr int DISCONNECTED = MAX_PENDING;
     std::atomic<int> mPending{DISCONNECTED}; ///< full while the toolkit does not run
 };

@@ -25,7 +25,7 @@ void dispatch(const PegMessage& message, PegThing* focus)
     if (PegThing* const target = message.pTarget != nullptr ? message.pTarget : focus)
         target->Message(message);
     if (message.wType == PM_KEY || message.wType == PM_KEYRELEASE)
-        host::Keyboard::instance().handled();
+        host::Keyboard::instance().handled(message);
 }
 
 } // namespace

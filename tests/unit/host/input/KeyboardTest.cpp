@@ -57,7 +57,7 @@ TEST(Keyboard, FloodIsDroppedPastTheLimit)
     EXPECT_FALSE(Keyboard::instance().press(PK_DOWN));
     EXPECT_FALSE(Keyboard::instance().release(PK_DOWN));
     EXPECT_EQ(gtPegMainQueue->count, Keyboard::MAX_PENDING);
-    Keyboard::instance().handled();
+    Keyboard::instance().handled({.wType = PM_KEY, .iData = PK_DOWN});
     EXPECT_TRUE(Keyboard::instance().press(PK_DOWN));
 }
 
@@ -78,6 +78,23 @@ TEST(Keyboard, PressAndReleaseReachTheFocusInOrder)
         EXPECT_EQ(focused->messages[0].iData, PK_STAR);
         EXPECT_EQ(focused->messages[1].wType, PM_KEYRELEASE);
     });
+}
+
+TEST(Keyboard, HookIsHeardWhateverHasTheFocus)
+{
+    RunningToolkit toolkit;
+    int heard = 0;
+    Keyboard::instance().setHookListener([&heard] { ++heard; });
+    for (const PegKey key : {PegKey(PK_HOOK), PegKey(PK_OK), PegKey(PK_HOOK)}) {
+        EXPECT_TRUE(Keyboard::instance().press(key));
+        EXPECT_TRUE(Keyboard::instance().release(key));
+    }
+    ASSERT_TRUE(toolkit.waitUntilIdle());
+    EXPECT_EQ(heard, 2);
+    Keyboard::instance().setHookListener({});
+    EXPECT_TRUE(Keyboard::instance().press(PK_HOOK));
+    ASSERT_TRUE(toolkit.waitUntilIdle());
+    EXPECT_EQ(heard, 2);
 }
 
 TEST(Keyboard, HandledKeysMakeRoomForMore)
