@@ -7,12 +7,12 @@
 
 namespace deskphone {
 
-class Call;
+class CallScreen;
 
 /// All that is known of a call of the log, filled anew for each. Choosing a row calls back.
 class CallDetails : public Screen {
 public:
-    CallDetails(Telephone& telephone, Call& call);
+    CallDetails(Telephone& telephone, CallScreen& call);
 
     /// Goes back to `from` afterwards. The call lives as long as this.
     void show(Place& from, const PastCall& past);
@@ -23,11 +23,13 @@ private:
 
     Text& kindOf(const PastCall& past);
 
-    Call& mCall;
+    CallScreen& mCall;
     std::atomic<const PastCall*> mShown{nullptr};
     Text& mMissed;
     Text& mReceived;
     Text& mDialled;
+    Text& mForwarded;
+    Text& mDuration;
     Text& mMoment;
 };
 

@@ -4,8 +4,8 @@
 #include "DisplayAPI/List.h"
 #include "DisplayAPI/ListItem.h"
 #include "DisplayAPI/TabScreen.h"
-#include "apps/deskphone/Call.h"
 #include "apps/deskphone/CallDetails.h"
+#include "apps/deskphone/CallScreen.h"
 #include "apps/deskphone/Moment.h"
 #include "apps/deskphone/Telephone.h"
 
@@ -15,7 +15,7 @@
 namespace deskphone {
 
 CallLog::CallLog(Telephone& telephone, DisplayAPI::TabScreen& tabs, const std::string& title,
-                 std::optional<PastCall::Kind> kind, CallHistory& history, Call& call, CallDetails& details)
+                 std::optional<PastCall::Kind> kind, CallHistory& history, CallScreen& call, CallDetails& details)
     : Screen(telephone, nullptr, WITHOUT_TITLE), mTabs(tabs), mKind(kind), mHistory(history), mCall(call)
 {
     tabs.addTab(text(title).info(), &list(), false);

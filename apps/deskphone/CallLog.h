@@ -12,7 +12,7 @@ class TabScreen;
 
 namespace deskphone {
 
-class Call;
+class CallScreen;
 class CallDetails;
 
 /// Calls of one kind or of all, the latest first: those of today with their time, others with their date. It is a page
@@ -21,7 +21,7 @@ class CallLog : public Screen {
 public:
     /// Appends itself to `tabs`, which goes first. `title` is the tab's; without a `kind` all calls are shown.
     CallLog(Telephone& telephone, DisplayAPI::TabScreen& tabs, const std::string& title,
-            std::optional<PastCall::Kind> kind, CallHistory& history, Call& call, CallDetails& details);
+            std::optional<PastCall::Kind> kind, CallHistory& history, CallScreen& call, CallDetails& details);
 
 private:
     struct Row {
@@ -45,7 +45,7 @@ private:
     DisplayAPI::TabScreen& mTabs;
     std::optional<PastCall::Kind> mKind;
     CallHistory& mHistory;
-    Call& mCall;
+    CallScreen& mCall;
     std::deque<Row> mRows;
     PastCall* mMenuCall = nullptr; ///< whose row the menu is for
 };

@@ -26,7 +26,7 @@ const std::array<std::pair<std::string, std::optional<PastCall::Kind>>, 4> PAGES
 
 } // namespace
 
-CallLogs::CallLogs(Telephone& telephone, Place& parent, CallHistory& history, Call& call, CallDetails& details)
+CallLogs::CallLogs(Telephone& telephone, Place& parent, CallHistory& history, CallScreen& call, CallDetails& details)
     : mTelephone(telephone), mParent(parent), mHistory(history), mTabs(TabScreen::CALLS, HAS_WAY_BACK),
       mCommands(mTabs, [this](Command* command) {
           if (command == TabScreen::BACK_COMMAND())

@@ -9,7 +9,7 @@
 
 namespace deskphone {
 
-class Call;
+class CallScreen;
 class CallDetails;
 class CallHistory;
 class Telephone;
@@ -17,7 +17,7 @@ class Telephone;
 /// The call logs, one behind the other: all calls, those missed, received and dialled.
 class CallLogs : public Place {
 public:
-    CallLogs(Telephone& telephone, Place& parent, CallHistory& history, Call& call, CallDetails& details);
+    CallLogs(Telephone& telephone, Place& parent, CallHistory& history, CallScreen& call, CallDetails& details);
 
     /// With all calls, whichever were shown last.
     void open() override;

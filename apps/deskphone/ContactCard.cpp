@@ -1,12 +1,12 @@
 #include "apps/deskphone/ContactCard.h"
 
 #include "DisplayAPI/List.h"
-#include "apps/deskphone/Call.h"
+#include "apps/deskphone/CallScreen.h"
 #include "apps/deskphone/PhoneBook.h"
 
 namespace deskphone {
 
-ContactCard::ContactCard(Telephone& telephone, Place* parent, Call& call)
+ContactCard::ContactCard(Telephone& telephone, Place* parent, CallScreen& call)
     : Screen(telephone, parent, "Contacts.title"), mCall(call)
 {
 }

@@ -4,12 +4,12 @@
 
 namespace deskphone {
 
-class Call;
+class CallScreen;
 
 /// One entry of the phone book, filled anew for each. Choosing a row calls it.
 class ContactCard : public Screen {
 public:
-    ContactCard(Telephone& telephone, Place* parent, Call& call);
+    ContactCard(Telephone& telephone, Place* parent, CallScreen& call);
 
     void show(int entry);
 
@@ -17,7 +17,7 @@ private:
     void build() override {}
     void chosen(int row) override;
 
-    Call& mCall;
+    CallScreen& mCall;
     int mEntry = 0;
 };
 

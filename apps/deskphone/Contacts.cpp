@@ -2,7 +2,7 @@
 
 #include "DisplayAPI/List.h"
 #include "DisplayAPI/ListItem.h"
-#include "apps/deskphone/Call.h"
+#include "apps/deskphone/CallScreen.h"
 #include "apps/deskphone/PhoneBook.h"
 #include "apps/deskphone/Telephone.h"
 
@@ -10,7 +10,7 @@
 
 namespace deskphone {
 
-Contacts::Contacts(Telephone& telephone, Place* parent, Call& call)
+Contacts::Contacts(Telephone& telephone, Place* parent, CallScreen& call)
     : Screen(telephone, parent, "Contacts.title"), mCard(telephone, this, call), mCall(call),
       mEntries(static_cast<std::size_t>(PhoneBook::size()))
 {

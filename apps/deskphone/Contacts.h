@@ -7,12 +7,12 @@
 
 namespace deskphone {
 
-class Call;
+class CallScreen;
 
 /// Everybody in the phone book. Choosing one shows the card.
 class Contacts : public Screen {
 public:
-    Contacts(Telephone& telephone, Place* parent, Call& call);
+    Contacts(Telephone& telephone, Place* parent, CallScreen& call);
 
     ContactCard& card() { return mCard; }
 
@@ -25,7 +25,7 @@ private:
     void forget(int row);
 
     ContactCard mCard;
-    Call& mCall;
+    CallScreen& mCall;
     std::vector<int> mEntries; ///< of the phone book, in the order of the rows
     int mMenuRow = 0;          ///< rows come behind it alone
 };

@@ -35,12 +35,16 @@ CallHistory historyIn(const std::filesystem::path& state)
 
 } // namespace
 
-Desk::Desk(DisplayAPI::Display& display, const std::string& language, const std::filesystem::path& state)
+Desk::Desk(DisplayAPI::Display& display, exchange::Telephony& telephony, const std::string& language,
+           const std::filesystem::path& state)
     : mTelephone(display), mComplaint(mTelephone.useLanguage(language)),
       mNewsText(&mTelephone.languages(), "News.ticker"), mNews(mNewsText.get()), mHistory(historyIn(state)),
-      mCall(mTelephone, mHistory), mDetails(mTelephone, mCall), mHome(mTelephone, mCall, mHistory),
+      mCalls(telephony), mRecorder(mTelephone, mCalls, mHistory),
+      mStatus(mTelephone, mCalls, [this] { return mCall.showsCallsOrPopup(); }), mTarget(mTelephone, "Call.transfer"),
+      mPopups(mTelephone, mCalls, mTarget), mCall(mTelephone, mCalls, mTarget), mHandset(mCalls),
+      mDetails(mTelephone, mCall), mHome(mTelephone, mCall, mHistory),
       mCallLogs(mTelephone, mHome, mHistory, mCall, mDetails), mContacts(mTelephone, &mHome, mCall),
-      mSettings(mTelephone, mHome), mServices(mTelephone, &mHome, mHistory, mCall), mAbout(mTelephone, &mHome)
+      mSettings(mTelephone, mHome), mServices(mTelephone, &mHome, mCall), mAbout(mTelephone, &mHome)
 {
     mHome.setMenu({{"Menu.call.log", "Key.call.log", &mCallLogs},
                    {"Menu.contacts", "Key.contacts", &mContacts},
@@ -71,6 +75,10 @@ void Desk::open()
 
 void Desk::close()
 {
+    mCalls.stopListening();
+    mTarget.stopListening();
+    mPopups.stopListening();
+    mHandset.stopListening();
     for (Place* place : places())
         place->stopListening();
     for (Place* place : places())

@@ -2,11 +2,16 @@
 
 #include "DisplayAPI/Ticker.h"
 #include "apps/deskphone/About.h"
-#include "apps/deskphone/Call.h"
 #include "apps/deskphone/CallDetails.h"
 #include "apps/deskphone/CallHistory.h"
 #include "apps/deskphone/CallLogs.h"
+#include "apps/deskphone/CallPopups.h"
+#include "apps/deskphone/CallRecorder.h"
+#include "apps/deskphone/CallScreen.h"
+#include "apps/deskphone/CallStatus.h"
+#include "apps/deskphone/Calls.h"
 #include "apps/deskphone/Contacts.h"
+#include "apps/deskphone/Handset.h"
 #include "apps/deskphone/Home.h"
 #include "apps/deskphone/Services.h"
 #include "apps/deskphone/Settings.h"
@@ -21,9 +26,10 @@ namespace deskphone {
 /// All screens of the telephone and how they hang together. Make and delete it on the GUI thread.
 class Desk {
 public:
-    /// Begins in the language with this code. Keeps its calls in the folder `state`; without one it begins with some,
-    /// and keeps none.
-    Desk(DisplayAPI::Display& display, const std::string& language, const std::filesystem::path& state);
+    /// Begins in the language with this code. The calls are `telephony`'s, which outlives it. Keeps past ones in the
+    /// folder `state`; without one it begins with some, and keeps none.
+    Desk(DisplayAPI::Display& display, exchange::Telephony& telephony, const std::string& language,
+         const std::filesystem::path& state);
 
     /// First ends all that the screens do on other threads. REQUIRES: the display's loop does not run.
     ~Desk();
@@ -40,7 +46,13 @@ private:
     Text mNewsText;
     DisplayAPI::Ticker mNews;
     CallHistory mHistory;
-    Call mCall;
+    Calls mCalls;
+    CallRecorder mRecorder;
+    CallStatus mStatus; ///< before the screen: lines that go have to go before it does
+    NumberQuestion mTarget;
+    CallPopups mPopups;
+    CallScreen mCall;
+    Handset mHandset;
     CallDetails mDetails;
     Home mHome;
     CallLogs mCallLogs;

@@ -18,8 +18,8 @@ TranslationInfo* translated(Telephone& telephone, const std::string& key)
 
 } // namespace
 
-Dialer::Dialer(Telephone& telephone, std::function<void(const std::string&)> dial)
-    : mTelephone(telephone), mDial(std::move(dial)), mDialCommand(translated(telephone, "Dialer.dial"), 0),
+Dialer::Dialer(Telephone& telephone, std::function<void(const std::string&)> dial, const std::string& text)
+    : mTelephone(telephone), mDial(std::move(dial)), mDialCommand(translated(telephone, text), 0),
       mPasteCommand(translated(telephone, "Dialer.paste"), 0), mChoice([this](Command* command) { chosen(command); }),
       mPopup(HAS_WAY_BACK, 0)
 {
@@ -30,7 +30,12 @@ Dialer::Dialer(Telephone& telephone, std::function<void(const std::string&)> dia
 
 void Dialer::open(char digit)
 {
-    mPopup.setLineEditText(std::string(1, digit));
+    show(std::string(1, digit));
+}
+
+void Dialer::show(const std::string& text)
+{
+    mPopup.setLineEditText(text);
     mPopup.show();
 }
 

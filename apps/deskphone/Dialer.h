@@ -14,8 +14,10 @@ class Telephone;
 /// The dialer of a screen: a digit opens it, and "Dial" calls the number. Make and delete it on the GUI thread.
 class Dialer {
 public:
-    /// `dial` takes what the user has typed, on a thread of the library's; it is not empty.
-    Dialer(Telephone& telephone, std::function<void(const std::string& number)> dial);
+    /// `dial` takes what the user has typed, on a thread of the library's; it is not empty. `text` is the key of what
+    /// that is called.
+    Dialer(Telephone& telephone, std::function<void(const std::string& number)> dial,
+           const std::string& text = "Dialer.dial");
 
     DisplayAPI::PopupDialer& popup() { return mPopup; }
 
@@ -24,6 +26,7 @@ public:
 
     /// Comes up with the first digit. Screens that have been given the popup do so by themselves.
     void open(char digit);
+    void open() { show({}); }
 
     bool isUp() const;
 
@@ -31,6 +34,7 @@ public:
     void type(char digit);
 
 private:
+    void show(const std::string& text);
     void chosen(const DisplayAPI::Command* command);
     void paste(const std::string& text);
 

@@ -1,13 +1,13 @@
 #include "apps/deskphone/Home.h"
 
 #include "DisplayAPI/Display.h"
-#include "apps/deskphone/Call.h"
 #include "apps/deskphone/CallHistory.h"
+#include "apps/deskphone/CallScreen.h"
 #include "apps/deskphone/Telephone.h"
 
 namespace deskphone {
 
-Home::Home(Telephone& telephone, Call& call, CallHistory& history)
+Home::Home(Telephone& telephone, CallScreen& call, CallHistory& history)
     : mTelephone(telephone),
       mDialer(telephone, [this, &call](const std::string& number) { call.begin(*this, number, number); }),
       mIdle(telephone, mDialer), mDesktop(telephone, mDialer, [this] { open(); }), mScreensaver([this] { begin(); })
@@ -24,6 +24,7 @@ void Home::open()
     else
         mIdle.open();
     mScreensaver.wait();
+    mTelephone.arriveAt(*this);
 }
 
 void Home::stopListening()

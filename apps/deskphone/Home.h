@@ -12,7 +12,7 @@
 
 namespace deskphone {
 
-class Call;
+class CallScreen;
 class CallHistory;
 
 /// Where the telephone is when nobody uses it: the idle screen, or the desktop. A digit dials, OK leads everywhere
@@ -21,7 +21,7 @@ class Home : public Place {
 public:
     enum class Kind { IDLE_SCREEN, DESKTOP };
 
-    Home(Telephone& telephone, Call& call, CallHistory& history);
+    Home(Telephone& telephone, CallScreen& call, CallHistory& history);
 
     void open() override;
     void stopListening() override;

@@ -56,4 +56,10 @@ std::string PhoneBook::number(int index)
     return "030 " + std::to_string(1000000 + index * 7919 % 9000000);
 }
 
+std::string digitsOf(std::string number)
+{
+    std::erase(number, ' ');
+    return number;
+}
+
 } // namespace deskphone

@@ -15,4 +15,7 @@ public:
     static std::string number(int index);
 };
 
+/// A number as it is dialled: people write it with spaces.
+std::string digitsOf(std::string number);
+
 } // namespace deskphone

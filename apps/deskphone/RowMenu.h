@@ -19,6 +19,7 @@ public:
     struct Action {
         std::string text;          ///< its key
         std::function<void()> run; ///< on a thread of the library's
+        std::string argument = {}; ///< what the text has in it; such a text keeps its language
     };
 
     RowMenu(Telephone& telephone, const std::vector<Action>& actions);
@@ -26,6 +27,12 @@ public:
     RowMenu& operator=(const RowMenu&) = delete;
 
     void open() { mMenu.show(); }
+
+    /// Takes it off the screen, if it is there.
+    void dismiss() { mMenu.dismiss(); }
+
+    /// Offers something else. On the threads that answer the user.
+    void setActions(const std::vector<Action>& actions);
 
     /// What the user chooses is not heard after this. Not on the GUI thread.
     void stopListening() { mChoice.end(); }
@@ -40,6 +47,7 @@ private:
 
     void chosen(const DisplayAPI::Command* command);
 
+    Telephone& mTelephone;
     std::deque<Entry> mEntries; ///< before the menu that shows them
     DisplayAPI::ContextMenu mMenu;
     DisplayAPI::kit::Subscription mChoice;

@@ -4,7 +4,7 @@
 #include "DisplayAPI/Display.h"
 #include "DisplayAPI/List.h"
 #include "DisplayAPI/ListItem.h"
-#include "apps/deskphone/Call.h"
+#include "apps/deskphone/CallScreen.h"
 #include "apps/deskphone/Telephone.h"
 #include "kit/OnGuiThread.h"
 #include "kit/WayBack.h"
@@ -45,6 +45,7 @@ Screen::~Screen() = default;
 void Screen::open()
 {
     std::call_once(mIsBuilt, [this] { mBuilder = std::thread([this] { build(); }); });
+    mTelephone.arriveAt(*this);
     bringUp();
 }
 
@@ -92,7 +93,15 @@ void Screen::answer(Command* command)
     const int row = isChoice ? mList->getSelectedIndex() : -1;
     if (row < 0)
         return;
-    if (command != List::RIGHT_COMMAND() || mRowMenu == nullptr)
+    if (command == List::RIGHT_COMMAND())
+        openMenu(row);
+    else
+        chosen(row);
+}
+
+void Screen::openMenu(int row)
+{
+    if (mRowMenu == nullptr)
         return chosen(row);
     menuOpens(row);
     mRowMenu->open();
@@ -103,7 +112,7 @@ void Screen::setRowMenu(const std::vector<RowMenu::Action>& actions)
     mRowMenu = std::make_unique<RowMenu>(mTelephone, actions);
 }
 
-void Screen::setDialer(Call& call)
+void Screen::setDialer(CallScreen& call)
 {
     mDialer = std::make_unique<Dialer>(mTelephone,
                                        [this, &call](const std::string& number) { call.begin(*this, number, number); });

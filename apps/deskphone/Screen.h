@@ -24,7 +24,7 @@ namespace deskphone {
 
 using DisplayAPI::kit::Text;
 
-class Call;
+class CallScreen;
 class Telephone;
 
 /// One screen of the telephone: a list, the thread that fills it, and what happens when the user chooses a row.
@@ -69,7 +69,7 @@ protected:
     void setRowMenu(const std::vector<RowMenu::Action>& actions);
 
     /// A digit opens a dialer, which calls with `call`. In the constructor.
-    void setDialer(Call& call);
+    void setDialer(CallScreen& call);
 
 private:
     /// Brings it to the display, and whether the user is there. A page of a tab screen is in its tab.
@@ -82,7 +82,10 @@ private:
     /// The user has chosen the row.
     virtual void chosen(int row) = 0;
 
-    /// The user asks what can be done with the row. It may be another one by the time that he chooses.
+    /// The user asks what can be done with the row. Without a menu that is to choose it.
+    virtual void openMenu(int row);
+
+    /// It may be another row by the time that he chooses.
     virtual void menuOpens(int) {}
 
     /// The user goes back.

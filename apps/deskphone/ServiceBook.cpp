@@ -9,7 +9,7 @@ const std::array<Service, 5> SERVICES{{
     {"Service.weather", {"Service.weather.morning", "Service.weather.noon", "Service.weather.evening"}, ""},
     {"Service.news", {"Service.news.lift", "Service.news.car.park", "Service.news.drill"}, ""},
     {"Service.desk", {}, "030 115"},
-    {"Service.wake.up", {}, "030 116", true},
+    {"Service.wake.up", {}, "030 116"},
 }};
 
 } // namespace deskphone

@@ -1,6 +1,6 @@
 #include "apps/deskphone/Services.h"
 
-#include "apps/deskphone/Call.h"
+#include "apps/deskphone/CallScreen.h"
 #include "apps/deskphone/Telephone.h"
 
 namespace deskphone {
@@ -21,8 +21,8 @@ std::vector<std::string> ServicePage::lines()
     return {mTitle.get()};
 }
 
-Services::Services(Telephone& telephone, Place* parent, CallHistory& history, Call& call)
-    : LineScreen(telephone, parent), mCall(call), mWakeUp(telephone, history), mTitle(text("Services.title")),
+Services::Services(Telephone& telephone, Place* parent, CallScreen& call)
+    : LineScreen(telephone, parent), mCall(call), mTitle(text("Services.title")),
       mOffered(text("Services.offered", {[] { return std::to_string(SERVICES.size()); }}))
 {
     for (const Service& service : SERVICES)
@@ -32,7 +32,6 @@ Services::Services(Telephone& telephone, Place* parent, CallHistory& history, Ca
 void Services::stopListening()
 {
     Screen::stopListening();
-    mWakeUp.stopListening();
     for (ServicePage& page : mPages)
         page.stopListening();
 }
@@ -55,9 +54,7 @@ void Services::chosen(int row)
     const auto place = static_cast<std::size_t>(row);
     const Service& service = SERVICES.at(place);
     const std::string party = telephone().languages().translate(service.title);
-    if (service.callsBack)
-        mWakeUp.order(party, service.number);
-    else if (service.number.empty())
+    if (service.number.empty())
         mPages.at(place).open();
     else
         mCall.begin(*this, party, service.number);

@@ -2,13 +2,12 @@
 
 #include "apps/deskphone/LineScreen.h"
 #include "apps/deskphone/ServiceBook.h"
-#include "apps/deskphone/WakeUp.h"
 
 #include <deque>
 
 namespace deskphone {
 
-class Call;
+class CallScreen;
 
 /// What a service has to say, line by line.
 class ServicePage : public LineScreen {
@@ -24,10 +23,10 @@ private:
     Text& mTitle;
 };
 
-/// The services of the house. Choosing one shows what it has to say, calls it, or has it call.
+/// The services of the house. Choosing one shows what it has to say, or calls it.
 class Services : public LineScreen {
 public:
-    Services(Telephone& telephone, Place* parent, CallHistory& history, Call& call);
+    Services(Telephone& telephone, Place* parent, CallScreen& call);
 
     void stopListening() override;
     void stopWorking() override;
@@ -37,8 +36,7 @@ private:
     void chosen(int row) override;
     std::vector<std::string> lines() override;
 
-    Call& mCall;
-    WakeUp mWakeUp;
+    CallScreen& mCall;
     Text& mTitle;
     Text& mOffered;
     std::deque<ServicePage> mPages; ///< one for each service

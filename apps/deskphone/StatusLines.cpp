@@ -5,6 +5,8 @@
 #include "apps/deskphone/Telephone.h"
 #include "host/clock/WallClock.h"
 
+#include <cstdio>
+
 namespace deskphone {
 
 using host::WallClock;
@@ -16,6 +18,15 @@ enum Line { OWN_NAME = 0, PARTY = 1 };
 
 /// The small panel's status line is taken down by a line of blanks.
 const std::string BLANK_LINE(24, ' ');
+
+/// As the display's timer takes it.
+std::string timerText(std::int64_t seconds)
+{
+    char text[40];
+    std::snprintf(text, sizeof text, "%02d:%02d:%02d", static_cast<int>(seconds / 3600),
+                  static_cast<int>(seconds / 60 % 60), static_cast<int>(seconds % 60));
+    return text;
+}
 
 } // namespace
 
@@ -39,11 +50,21 @@ void StatusLines::setVisible(bool visible)
         setCount(mCount);
 }
 
-void StatusLines::callBegins(const std::string& party)
+void StatusLines::callTo(const std::string& party)
 {
-    DisplayAPI::Display& display = mTelephone.display();
+    mTelephone.display().stopTimer();
+    showParty(party);
+}
+
+void StatusLines::talkWith(const std::string& party, std::int64_t seconds)
+{
+    mTelephone.display().setTimer(timerText(seconds));
+    showParty(party);
+}
+
+void StatusLines::showParty(const std::string& party)
+{
     mLines.setText(isSmallPanel() ? OWN_NAME : PARTY, party);
-    display.setTimer("00:00:00");
     setCount(isSmallPanel() ? 1 : 2);
 }
 

@@ -4,6 +4,7 @@
 #include "kit/Text.h"
 
 #include <atomic>
+#include <cstdint>
 
 namespace deskphone {
 
@@ -23,10 +24,16 @@ public:
     /// Takes them off the large panels, and puts them back.
     void setVisible(bool visible);
 
-    void callBegins(const std::string& party);
+    /// Somebody is called who has not answered yet.
+    void callTo(const std::string& party);
+
+    /// Somebody has answered, so many seconds ago.
+    void talkWith(const std::string& party, std::int64_t seconds);
+
     void callEnds();
 
 private:
+    void showParty(const std::string& party);
     void showOwnName();
     void setCount(int count);
 

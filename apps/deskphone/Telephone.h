@@ -7,6 +7,7 @@
 #include "kit/StatusLines.h"
 #include "kit/Text.h"
 
+#include <atomic>
 #include <functional>
 #include <mutex>
 #include <string>
@@ -18,6 +19,8 @@ class Displayable;
 } // namespace DisplayAPI
 
 namespace deskphone {
+
+class Place;
 
 /// Every screen and menu of the phone can be left.
 constexpr bool HAS_WAY_BACK = true;
@@ -53,6 +56,10 @@ public:
     /// thread.
     void addScreenListener(DisplayAPI::kit::StatusLines::ScreenListener listener);
 
+    /// Where the user has gone last; null where he has been nowhere. Anywhere.
+    void arriveAt(Place& place) { mPlace = &place; }
+    Place* place() const { return mPlace; }
+
     /// Keeps a number that the user may want to dial later, and says so.
     void copy(const std::string& number);
 
@@ -74,6 +81,7 @@ private:
     StatusLines mStatus;
     DisplayAPI::Timer mLanguageChange; ///< runs out at once: a way to the GUI thread
     DisplayAPI::kit::Text mNumberCopied;
+    std::atomic<Place*> mPlace{nullptr};
     mutable std::mutex mMutex; ///< guards what follows
     std::string mCopied;
 };

@@ -11,6 +11,9 @@ class ExchangeWire {
 public:
     explicit ExchangeWire(Exchange& exchange);
 
+    /// With buttons for these alone.
+    ExchangeWire(Exchange& exchange, const std::vector<Party>& callers);
+
 private:
     host::Wire mWire;
 };

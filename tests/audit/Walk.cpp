@@ -2,6 +2,7 @@
 
 #include "audit/Lines.h"
 
+#include <algorithm>
 #include <charconv>
 #include <sstream>
 #include <stdexcept>
@@ -40,13 +41,22 @@ std::string dump(const std::string& name)
     return "dump --json " + name + ".json\n";
 }
 
-/// "2" or "2:right".
+/// "=exchange.4711.calls"
+std::string toLine(std::string word)
+{
+    std::ranges::replace(word, '.', ' ');
+    return word.substr(1) + '\n';
+}
+
+/// "2", "2:right" or any line of a script.
 Step toStep(const std::string& word)
 {
+    if (word.front() == '=')
+        return {.line = toLine(word)};
     const std::size_t colon = word.find(':');
     if (colon == std::string::npos)
-        return {std::stoi(word)};
-    return {std::stoi(word.substr(0, colon)), word.substr(colon + 1)};
+        return {.row = std::stoi(word)};
+    return {.row = std::stoi(word.substr(0, colon)), .key = word.substr(colon + 1)};
 }
 
 std::string nameOf(const std::string& key, bool fromTheRight)
@@ -56,17 +66,27 @@ std::string nameOf(const std::string& key, bool fromTheRight)
     return fromTheRight ? "left" : "right";
 }
 
+std::string take(const Step& step, bool isFirst, bool fromTheRight)
+{
+    if (!step.line.empty())
+        return step.line;
+    return repeated(step.row, "key down\n") + "key " + nameOf(step.key, fromTheRight) + '\n' +
+           (!isFirst && step.key == "ok" ? FIRST_ROW : "");
+}
+
 std::string visit(const Screen& screen, bool fromTheRight)
 {
     std::string script = NO_MESSAGE;
     for (const Step& step : screen.path)
-        script += repeated(step.row, "key down\n") + "key " + nameOf(step.key, fromTheRight) + '\n' +
-                  (&step != &screen.path.front() && step.key == "ok" ? FIRST_ROW : "");
+        script += take(step, &step == &screen.path.front(), fromTheRight);
     script += dump(screen.name);
     for (int row = 1; row < screen.rows; ++row)
         script += "key down\n" + dump(screen.name + '.' + std::to_string(row));
     if (!screen.path.empty())
         script += "key left\n" + dump("from-" + screen.name);
+    // Nobody is called any more, and nobody waits.
+    const bool hasCalls = std::ranges::any_of(screen.path, [](const Step& step) { return !step.line.empty(); });
+    script += "key hook\n" + (hasCalls ? dump("hung-up-" + screen.name) + repeated(3, "wait 300\nkey hook\n") : "");
     // More than there are steps: in a dialer the first one takes back what has been typed, and from a tab left may lead
     // through all the others.
     return script + repeated(static_cast<int>(screen.path.size()) + OTHER_TABS, "key left\n");

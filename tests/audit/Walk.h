@@ -11,6 +11,7 @@ namespace audit {
 struct Step {
     int row = 0;
     std::string key = "ok";
+    std::string line = {}; ///< of a script, in the place of those; empty where there is none
 };
 
 /// A screen, and the steps that lead to it from the first one.

@@ -75,7 +75,7 @@ TEST(AuditWalk, VisitsEachScreenAndEachOfItsRows)
     EXPECT_THAT(
         audit::scriptThrough(screens, 2, false),
         HasSubstr("key ok\nkey down\nkey ok\nhold up 1000\nkey ok\nhold up 1000\ndump --json log.json\nkey down\n"
-                  "dump --json log.1.json\nkey left\ndump --json from-log.json\nkey left\n"));
+                  "dump --json log.1.json\nkey left\ndump --json from-log.json\nkey hook\nkey left\n"));
 }
 
 TEST(AuditWalk, AnotherKeyThanOkLeavesTheSelectionAlone)
@@ -84,6 +84,15 @@ TEST(AuditWalk, AnotherKeyThanOkLeavesTheSelectionAlone)
     ASSERT_EQ(screens.size(), 1u);
     EXPECT_THAT(audit::scriptThrough(screens, 0, false),
                 HasSubstr("key ok\nkey ok\nhold up 1000\nkey down\nkey right\ndump --json menu.json\nkey left\n"));
+}
+
+TEST(AuditWalk, LineOfAScriptIsTakenAsItIs)
+{
+    const auto screens = audit::readScreens(fileWith("held 1 0 =exchange.4711.holds =wait.200\n"));
+    ASSERT_EQ(screens.size(), 1u);
+    EXPECT_THAT(audit::scriptThrough(screens, 0, false),
+                HasSubstr("key ok\nexchange 4711 holds\nwait 200\ndump --json held.json\nkey left\n"
+                          "dump --json from-held.json\nkey hook\ndump --json hung-up-held.json\n"));
 }
 
 TEST(AuditWalk, NextTabStandsWhereTheLanguageGoesOn)

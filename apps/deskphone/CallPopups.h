@@ -1,0 +1,48 @@
+#pragma once
+
+#include "DisplayAPI/MenuCommand.h"
+#include "DisplayAPI/PopupCall.h"
+#include "apps/deskphone/Calls.h"
+#include "apps/deskphone/Ear.h"
+#include "apps/deskphone/NumberQuestion.h"
+
+#include <list>
+
+namespace deskphone {
+
+class Telephone;
+
+/// A popup over whatever is on the screen for each call that rings, the latest on top, until it is answered, rejected
+/// or gives up. Make and delete it on the GUI thread.
+class CallPopups {
+public:
+    CallPopups(Telephone& telephone, Calls& calls, NumberQuestion& target);
+
+    /// What the user chooses is not heard after this. Not on the GUI thread.
+    void stopListening() { mChoice.stop(); }
+
+private:
+    struct Ringing {
+        Ringing(Telephone& telephone, const PhoneCall& call);
+
+        exchange::CallId call;
+        DisplayAPI::MenuCommand answer;
+        DisplayAPI::MenuCommand reject;
+        DisplayAPI::MenuCommand deflect;
+        DisplayAPI::PopupCall popup;
+    };
+
+    void refresh();
+    void ring(const PhoneCall& call);
+    void bringBack();
+    void chosen(const DisplayAPI::Command* command);
+    void deflect(exchange::CallId call);
+
+    Telephone& mTelephone;
+    Calls& mCalls;
+    NumberQuestion& mTarget; ///< asks to whom a call goes on
+    Ear mChoice;
+    std::list<Ringing> mRinging;
+};
+
+} // namespace deskphone

@@ -1,0 +1,72 @@
+#include "apps/deskphone/CallRecorder.h"
+
+#include "DisplayAPI/DurationText.h"
+#include "apps/deskphone/CallHistory.h"
+#include "apps/deskphone/CallWords.h"
+#include "apps/deskphone/Telephone.h"
+
+namespace deskphone {
+
+using exchange::CallState;
+using exchange::Direction;
+using exchange::Reason;
+
+namespace {
+
+PastCall::Kind kindOf(const PhoneCall& call)
+{
+    if (call.last.direction == Direction::OUTGOING)
+        return PastCall::Kind::DIALLED;
+    if (call.talkSince)
+        return PastCall::Kind::RECEIVED;
+    return call.state() == CallState::FORWARDED ? PastCall::Kind::FORWARDED : PastCall::Kind::MISSED;
+}
+
+} // namespace
+
+CallRecorder::CallRecorder(Telephone& telephone, Calls& calls, CallHistory& history)
+    : mTelephone(telephone), mHistory(history)
+{
+    calls.addCallListener([this](const PhoneCall& call) { note(call); });
+}
+
+void CallRecorder::note(const PhoneCall& call)
+{
+    if (!isFinal(call.state()))
+        return;
+    keep(call);
+    if (const std::string message = epilogue(call); !message.empty())
+        mTelephone.tell(message);
+}
+
+/// Who has rejected a call has seen it.
+void CallRecorder::keep(const PhoneCall& call)
+{
+    PastCall past{kindOf(call), call.moment, call.party(), call.number()};
+    past.seconds = static_cast<int>(call.spokenUntil(call.last.at) / 1000);
+    past.other = nameOf(call.state() == CallState::FORWARDED ? call.last.to : call.last.forwardedBy);
+    past.isSeen = call.last.reason == Reason::REJECTED;
+    mHistory.add(past);
+}
+
+std::string CallRecorder::epilogue(const PhoneCall& call)
+{
+    if (call.state() == CallState::FORWARDED || call.last.reason == Reason::TRANSFERRED)
+        return words(call.state() == CallState::FORWARDED ? "Call.forwarded" : "Call.transferred",
+                     nameOf(call.last.to));
+    const bool isIncoming = call.last.direction == Direction::INCOMING;
+    if (isIncoming && !call.talkSince)
+        return call.last.reason == Reason::REJECTED ? std::string() : words("Details.missed", {});
+    if (!call.last.text.empty())
+        return call.last.text;
+    const std::string key = keyOf(call.last.reason);
+    return key.empty() ? words("Call.ended", DisplayAPI::durationText(call.spokenUntil(call.last.at) / 1000))
+                       : words(key, {});
+}
+
+std::string CallRecorder::words(const std::string& key, const std::string& argument)
+{
+    return DisplayAPI::kit::Text(&mTelephone.languages(), key, {[&argument] { return argument; }}).get();
+}
+
+} // namespace deskphone

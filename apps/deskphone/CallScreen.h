@@ -1,0 +1,50 @@
+#pragma once
+
+#include "apps/deskphone/CallActions.h"
+#include "apps/deskphone/CallRow.h"
+#include "apps/deskphone/Calls.h"
+#include "apps/deskphone/Screen.h"
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace deskphone {
+
+/// The calls that go on, one in each row. Choosing one does what is obvious with it, the right key offers the rest. It
+/// comes when the user calls somebody or answers, unless he types a number then, and goes with the last call; left
+/// leads away from it meanwhile.
+class CallScreen : public Screen {
+public:
+    CallScreen(Telephone& telephone, Calls& calls, NumberQuestion& target);
+
+    /// Calls `party` and goes back to `from` afterwards. On the threads that answer the user.
+    void begin(Place& from, const std::string& party, const std::string& number);
+
+    /// Whether the user sees these calls, or has something over whatever he sees.
+    bool showsCallsOrPopup();
+
+    void stopListening() override;
+
+private:
+    void build() override {}
+    void chosen(int row) override;
+    void openMenu(int row) override;
+
+    void note(const PhoneCall& call);
+    void refresh();
+    void removeOver();
+    void showCall(const PhoneCall& call);
+    TranslationInfo* wordsFor(exchange::CallState state);
+    void comeOrGo();
+
+    Calls& mCalls;
+    CallActions mActions;
+    RowMenu mMenu;
+    exchange::CallId mMenuCall = exchange::NO_CALL; ///< whose menu it is
+    std::map<std::string, Text&> mWords;            ///< by their keys
+    std::vector<CallRow> mRows;
+    bool mIsWanted = false; ///< a call has begun that the user has not seen
+};
+
+} // namespace deskphone

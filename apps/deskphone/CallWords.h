@@ -1,0 +1,18 @@
+#pragma once
+
+#include "apps/exchange/Call.h"
+
+#include <string>
+
+namespace deskphone {
+
+/// The key of the words for the state of a call that the user takes part in.
+std::string keyOf(exchange::CallState state);
+
+/// The key of the words for a call that was never answered; empty where there is nothing to say about that.
+std::string keyOf(exchange::Reason reason);
+
+/// A name, or the number where there is none.
+std::string nameOf(const exchange::Party& party);
+
+} // namespace deskphone

@@ -1,0 +1,159 @@
+#include "apps/deskphone/Calls.h"
+
+#include "apps/deskphone/PhoneBook.h"
+#include "host/clock/WallClock.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace deskphone {
+
+using exchange::CallEvent;
+using exchange::CallId;
+using exchange::CallState;
+
+namespace {
+
+/// How much the user has to do with a call in that state; 0 where he has not begun to.
+int nearness(CallState state)
+{
+    switch (state) {
+    case CallState::CONNECTED:
+    case CallState::CONFERENCE:
+    case CallState::HELD_BY_OTHER:
+    case CallState::RESUMING: return 3;
+    case CallState::DIALLING:
+    case CallState::PROCEEDING:
+    case CallState::RINGING_BACK: return 2;
+    case CallState::INCOMING: return 0;
+    default: return 1;
+    }
+}
+
+} // namespace
+
+std::string PhoneCall::party() const
+{
+    const bool isDialled = digitsOf(dialled.number) == last.other.number;
+    if (isDialled && !dialled.name.empty())
+        return dialled.name;
+    if (!last.other.name.empty())
+        return last.other.name;
+    return isDialled ? dialled.number : last.other.number;
+}
+
+std::string PhoneCall::number() const
+{
+    return dialled.number.empty() ? last.other.number : dialled.number;
+}
+
+Calls::Calls(exchange::Telephony& telephony) : mTelephony(telephony), mWake([this](DisplayAPI::Command*) { catchUp(); })
+{
+    mTelephony.setListener(this);
+}
+
+Calls::~Calls()
+{
+    mTelephony.setListener(nullptr);
+}
+
+void Calls::stopListening()
+{
+    mTelephony.setListener(nullptr);
+    mWake.stop();
+}
+
+std::vector<const PhoneCall*> Calls::all() const
+{
+    std::vector<const PhoneCall*> calls;
+    for (const auto& [id, call] : mCalls)
+        calls.push_back(&call);
+    return calls;
+}
+
+const PhoneCall* Calls::find(CallId call) const
+{
+    const auto found = mCalls.find(call);
+    return found != mCalls.end() ? &found->second : nullptr;
+}
+
+const PhoneCall* Calls::current() const
+{
+    const PhoneCall* nearest = nullptr;
+    for (const auto& [id, call] : mCalls)
+        if (nearness(call.state()) > (nearest != nullptr ? nearness(nearest->state()) : 0))
+            nearest = &call;
+    return nearest;
+}
+
+CallId Calls::place(exchange::LineNumber line, const exchange::Party& party)
+{
+    const CallId call = mTelephony.place(line, digitsOf(party.number));
+    if (call != exchange::NO_CALL)
+        mDialled[call] = party;
+    return call;
+}
+
+void Calls::callListeners()
+{
+    {
+        const std::lock_guard lock(mMutex);
+        if (std::exchange(mIsWoken, true))
+            return;
+    }
+    mWake.postCommandAction(nullptr, nullptr);
+}
+
+void Calls::callChanged(const CallEvent& event)
+{
+    mSigns.callChanged(event);
+    {
+        const std::lock_guard lock(mMutex);
+        mNews.calls.push_back(event);
+    }
+    callListeners();
+}
+
+void Calls::lineChanged(const exchange::Line& line)
+{
+    {
+        const std::lock_guard lock(mMutex);
+        mNews.lines.push_back(line);
+    }
+    callListeners();
+}
+
+void Calls::catchUp()
+{
+    News news;
+    {
+        const std::lock_guard lock(mMutex);
+        news = std::exchange(mNews, {});
+        mIsWoken = false;
+    }
+    for (const CallEvent& event : news.calls)
+        accept(event);
+    for (const exchange::Line& line : news.lines)
+        for (const auto& listener : mLineListeners)
+            listener(line);
+    for (const Listener& listener : mListeners)
+        listener();
+}
+
+void Calls::accept(const CallEvent& event)
+{
+    PhoneCall& call = mCalls[event.call];
+    if (call.last.call == exchange::NO_CALL) {
+        call.moment = host::WallClock::now();
+        if (const auto dialled = mDialled.extract(event.call))
+            call.dialled = dialled.mapped();
+    }
+    call.last = event;
+    if (!call.talkSince && isTalk(event.state))
+        call.talkSince = event.at;
+    const PhoneCall told = isFinal(event.state) ? std::move(mCalls.extract(event.call).mapped()) : call;
+    for (const CallListener& listener : mCallListeners)
+        listener(told);
+}
+
+} // namespace deskphone

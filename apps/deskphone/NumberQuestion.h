@@ -1,0 +1,37 @@
+#pragma once
+
+#include "apps/deskphone/Dialer.h"
+
+#include <functional>
+#include <string>
+
+namespace deskphone {
+
+/// Asks the user for a number that is not called: to whom a call goes on. Make and delete it on the GUI thread.
+class NumberQuestion {
+public:
+    using Answer = std::function<void(const std::string& number)>;
+
+    /// `text` is the key of what is done with the number.
+    NumberQuestion(Telephone& telephone, const std::string& text)
+        : mDialer(
+              telephone, [this](const std::string& number) { mAnswer(number); }, text)
+    {
+    }
+
+    /// Calls `answer` when there is one, in the place of the one before. On the threads that answer the user.
+    void ask(Answer answer)
+    {
+        mAnswer = std::move(answer);
+        mDialer.open();
+    }
+
+    /// What the user chooses is not heard after this. Not on the GUI thread.
+    void stopListening() { mDialer.stopListening(); }
+
+private:
+    Answer mAnswer;
+    Dialer mDialer;
+};
+
+} // namespace deskphone
