@@ -54,7 +54,8 @@ constexpr auto TRANSLATION = taking<TranslationInfo*>;
 void showDetails(Ifc& call, std::unique_ptr<CallPartyIdentifier> party, std::unique_ptr<CallPartyIdentifier> second,
                  ForwardedCallType type, const std::string& text, TranslationInfo* translation)
 {
-    call.setPartyDetails(*party, second.get(), type, text, translation);
+    if (party != nullptr)
+        call.setPartyDetails(*party, second.get(), type, text, translation);
 }
 
 } // namespace

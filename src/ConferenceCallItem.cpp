@@ -28,6 +28,12 @@ enum Request {
     SET_TITLE_SUFFIX = 110
 };
 
+/// The codes with which the base makes its own side.
+bool makesACall(int code)
+{
+    return code >= 10 && code <= 12;
+}
+
 using Ifc = ConferenceCallItemPrivateIfc;
 using State = CallConnectedItem::CallStateIcon;
 
@@ -118,6 +124,8 @@ void ConferenceCallItem::destroy()
 
 void ConferenceCallItem::processGuiRequest(GuiRequestEvent& request)
 {
+    if (makesACall(request.getType()))
+        mConference = nullptr; // a call's side takes its place
     if (!Ops::carryOut(*this, mConference, request))
         return CallConnectedItem::processGuiRequest(request);
     signalComplete(request);

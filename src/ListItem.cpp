@@ -28,17 +28,17 @@ struct ListItem::Ops
                  Posts<CREATE_TRANSLATED, taking<TranslationInfo*, bool>(&ListItem::create)>,
                  Waits<DESTROY, &ListItem::destroy>, Posts<SET_TEXT, &leaveText>, Waits<GET_TEXT, &textOf>> {};
 
-ListItem::ListItem()
+ListItem::ListItem() : ListItem(nullptr)
 {
     createEmpty();
 }
 
-ListItem::ListItem(std::string text, bool flag)
+ListItem::ListItem(std::string text, bool flag) : ListItem(nullptr)
 {
     Ops::call<CREATE>(*this, mImplementation, std::move(text), flag);
 }
 
-ListItem::ListItem(TranslationInfo* text, bool flag)
+ListItem::ListItem(TranslationInfo* text, bool flag) : ListItem(nullptr)
 {
     Ops::call<CREATE_TRANSLATED>(*this, mImplementation, text, flag);
 }
@@ -71,8 +71,6 @@ void ListItem::create(TranslationInfo* text, bool flag)
 template <typename Text>
 void ListItem::createRow(Text text, bool flag)
 {
-    if (name.empty()) // a derived row has set its own
-        name = "ListItem";
     if (isFullPanel())
         mImplementation = new ListItemPrivate(std::move(text), flag);
     else

@@ -16,8 +16,8 @@ class ConferenceCallItemPrivateIfc;
 /// opens the context menu of that one. Its duration counts from when it is made. It has no menu of its own.
 /// On the panel of two lines an open one shows the selected member, or else the first.
 ///
-/// Threads: safe from any thread. What it has of its own, the constructors included, waits off the GUI thread; what it
-/// has of a call does as that says.
+/// Threads: safe from any thread. What it has of its own waits off the GUI thread, and so do the constructors but the
+/// one with an implementation; what it has of a call does as that says.
 /// Ownership: as for a call. Members are the application's, and stand in no list meanwhile; one that is deleted leaves
 /// its conference first. The suffix's translation is not owned.
 class DISPLAYAPI_EXPORT ConferenceCallItem : public CallConnectedItem {

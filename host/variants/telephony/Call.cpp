@@ -103,7 +103,7 @@ ContextMenu* CallConnectedItemSide::Call::menu()
 
 bool CallConnectedItemSide::Call::openMenu()
 {
-    if (mMenu == nullptr)
+    if (mMenu == nullptr || mMenu->getSelectedIndex() < 0)
         return false;
     mMenu->show();
     return true;

@@ -49,6 +49,9 @@ struct CallConnectedItemSide::Call {
     /// Shows it as it is now.
     void changed();
 
+    /// Shows its texts in the language of now.
+    virtual void localeChanged() { changed(); }
+
     void setState(CallConnectedItem::CallStateIcon newState);
 
     /// A fourth line is ignored.

@@ -62,7 +62,7 @@ void CallConnectedItemSide::releaseOwnership() {}
 
 void CallConnectedItemSide::localeChanged(std::string)
 {
-    mCall->changed();
+    mCall->localeChanged();
 }
 
 void CallConnectedItemSide::setText(std::string text)

@@ -12,6 +12,9 @@ namespace {
 
 constexpr int INDENT = 12;
 
+/// With the conference itself as many lines as two status lines and a title leave on the full panel.
+constexpr std::size_t MOST_IN_VIEW = 3;
+
 CallConnectedItemSide::Call* callOf(CallConnectedItem* facade)
 {
     auto* const row = facade != nullptr ? facade->getPrivateImplemetation() : nullptr;
@@ -58,6 +61,13 @@ void ConferenceCallItemSide::Conference::leave(Call& member)
     changed();
 }
 
+void ConferenceCallItemSide::Conference::localeChanged()
+{
+    for (const Member& member : mMembers)
+        member.call->row.show(member.call->look());
+    changed();
+}
+
 void ConferenceCallItemSide::Conference::setSuffix(OwnedText text)
 {
     mSuffix = std::move(text);
@@ -100,7 +110,18 @@ const host::Icon* ConferenceCallItemSide::Conference::arrow() const
 
 host::LinesLook::Line ConferenceCallItemSide::Conference::lineOf(const Call& member) const
 {
-    return {.text = member.who.shown(), .icon = iconOf(member.state), .bold = &member == selected, .indent = INDENT};
+    return {.text = member.who.shown(),
+            .icon = iconOf(member.state),
+            .bold = &member == selected,
+            .indent = INDENT,
+            .dimmed = !member.isEnabled};
+}
+
+/// The selected one is in view.
+std::size_t ConferenceCallItemSide::Conference::firstInView() const
+{
+    const auto current = static_cast<std::size_t>(std::max(indexOf(selected), 0));
+    return current < MOST_IN_VIEW ? 0 : current + 1 - MOST_IN_VIEW;
 }
 
 host::LinesLook ConferenceCallItemSide::Conference::look() const
@@ -113,8 +134,10 @@ host::LinesLook ConferenceCallItemSide::Conference::look() const
         look.lines.push_back(lineOf(selected != nullptr ? *selected : *mMembers.front().call));
         return look;
     }
-    for (const Member& member : mMembers)
-        look.lines.push_back(lineOf(*member.call));
+    const std::size_t first = firstInView();
+    const std::size_t end = std::min(first + MOST_IN_VIEW, mMembers.size());
+    for (std::size_t member = first; member < end; ++member)
+        look.lines.push_back(lineOf(*mMembers[member].call));
     return look;
 }
 

@@ -22,6 +22,9 @@ struct ConferenceCallItemSide::Conference : CallConnectedItemSide::Call, CallCon
 
     void leave(Call& member) override;
     void memberChanged() override { changed(); }
+
+    /// Members stand in no list that would tell them.
+    void localeChanged() override;
     host::LinesLook look() const override;
     bool key(int key) override;
 
@@ -39,6 +42,7 @@ private:
     };
 
     int indexOf(const Call* member) const;
+    std::size_t firstInView() const;
     host::LinesLook::Line lineOf(const Call& member) const;
     bool open(bool on);
     bool moveTo(int index);

@@ -38,6 +38,8 @@ public:
 private:
     void drawLine(const PegRect& cell, const LinesLook::Line& line, bool isFirst)
     {
+        TextLook look = lookOf(line.bold ? mPlace.layout.titleFont : mPlace.layout.font, startAlign());
+        look.dimmed = mLook.dimmed || line.dimmed;
         Strip strip(cell);
         if (isFirst)
             drawEnd(strip);
@@ -45,11 +47,10 @@ private:
         if (mLook.hasIcons) {
             const PegRect place = strip.fromStart(ICON_WIDTH);
             if (line.icon != nullptr)
-                mPainter.icon(*line.icon, place, ink());
+                mPainter.icon(*line.icon, place, inkOf(look));
             strip.fromStart(GAP);
         }
-        const Font font = line.bold ? mPlace.layout.titleFont : mPlace.layout.font;
-        mPainter.text(strip.rest(), line.text, lookOf(font, startAlign()));
+        mPainter.text(strip.rest(), line.text, look);
     }
 
     void drawEnd(Strip& strip)

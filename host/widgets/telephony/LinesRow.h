@@ -16,7 +16,8 @@ struct LinesLook {
         PegString text;
         const Icon* icon = nullptr;
         bool bold = false;
-        int indent = 0; ///< in pixels, the icon's too
+        int indent = 0;      ///< in pixels, the icon's too
+        bool dimmed = false; ///< grey
 
         friend bool operator==(const Line&, const Line&) = default;
     };

@@ -57,6 +57,17 @@ protected:
 
 constexpr auto STATE = static_cast<CallConnectedItem::CallStateIcon>(77);
 
+TEST_P(ConferenceCallItemTest, RequestThatMakesACallLeavesNoConferenceBehind)
+{
+    make(STATE, "Talk", false);
+    carryOut(from(), *item, 12);
+    EXPECT_THAT(reached(), testing::Contains("~" + own() + "()"));
+    EXPECT_NE(item->getPrivateImplemetation(), nullptr);
+    EXPECT_EQ(item->getTitleMember(), nullptr);
+    run([&] { item->appendCall(nullptr, false); });
+    run([&] { item.reset(); });
+}
+
 TEST_P(ConferenceCallItemTest, ConstructorsMakeTheBaseRowAndOneSideOnly)
 {
     for (const bool open : {true, false}) {

@@ -29,6 +29,17 @@ public:
     }
 };
 
+class NamedRow : public ListItem {
+public:
+    NamedRow() : ListItem(nullptr)
+    {
+        name = "NamedRow";
+        createEmpty();
+    }
+
+    static const std::string& nameOf(const ListItem& row) { return row.*&NamedRow::name; }
+};
+
 class ListItemTest : public test::FacadeTest, public testing::WithParamInterface<Parameters> {
 protected:
     ListItemTest() { test::setHardwareVariant(variant()); }
@@ -51,6 +62,18 @@ protected:
 };
 
 } // namespace
+
+TEST_P(ListItemTest, ItsNameIsThatOfItsClassOrTheOneThatADerivedRowHasTaken)
+{
+    make();
+    EXPECT_EQ(NamedRow::nameOf(*item), "ListItem");
+    make(std::string("Ada"), true);
+    EXPECT_EQ(NamedRow::nameOf(*item), "ListItem");
+    make(&text, true);
+    EXPECT_EQ(NamedRow::nameOf(*item), "ListItem");
+    run([&] { item = std::make_unique<NamedRow>(); });
+    EXPECT_EQ(NamedRow::nameOf(*item), "NamedRow");
+}
 
 TEST_P(ListItemTest, DefaultRowHasTheItemFlagOnTheGuiThreadAndNotElsewhere)
 {

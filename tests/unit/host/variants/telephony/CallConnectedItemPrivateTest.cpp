@@ -254,6 +254,8 @@ TEST_P(CallConnectedItemPrivateTest, RightKeyOpensTheMenuThatHasBeenAskedFor)
     ContextMenu* const menu = call.getContextMenu();
     ASSERT_NE(menu, nullptr);
     EXPECT_EQ(call.getContextMenu(), menu);
+    press(PK_RIGHT);
+    EXPECT_EQ(display.getCurrent(), &list) << "there is nothing in it";
     MenuCommand hold("Hold", 1);
     menu->addCommand(&hold, nullptr, false);
     press(PK_LEFT);
@@ -265,8 +267,10 @@ TEST_P(CallConnectedItemPrivateTest, RightKeyOpensTheMenuThatHasBeenAskedFor)
 TEST_P(CallConnectedItemPrivateTest, CallThatEndsTakesItsOpenMenuAlong)
 {
     Call& call = make(Call::CONNECTED, false, true);
-    ASSERT_NE(call.getContextMenu(), nullptr);
+    MenuCommand hold("Hold", 1);
+    call.getContextMenu()->addCommand(&hold, nullptr, false);
     press(PK_RIGHT);
+    ASSERT_EQ(display.getCurrent(), call.getContextMenu());
     list.remove(&call);
     item.reset();
     EXPECT_EQ(display.getCurrent(), &list);

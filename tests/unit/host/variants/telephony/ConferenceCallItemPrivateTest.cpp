@@ -2,6 +2,7 @@
 
 #include "DisplayAPI/ConferenceCallItemPrivateIfc.h"
 #include "DisplayAPI/ContextMenu.h"
+#include "DisplayAPI/MenuCommand.h"
 #include "unit/host/variants/telephony/CallRowsTest.h"
 
 using namespace DisplayAPI;
@@ -151,6 +152,8 @@ TEST_P(ConferenceCallItemPrivateTest, RightKeyOpensTheMenuOfTheSelectedMember)
     ConferenceCallItem& talk = make(true);
     EXPECT_EQ(talk.getContextMenu(), nullptr);
     ContextMenu* const menu = at(1).getContextMenu();
+    MenuCommand hold("Hold", 1);
+    menu->addCommand(&hold, nullptr, false);
     press(PK_RIGHT);
     EXPECT_EQ(display.getCurrent(), &list);
     talk.setCallItem(1);
@@ -179,6 +182,54 @@ TEST_P(ConferenceCallItemPrivateTest, MemberThatIsDeletedLeavesFirst)
     EXPECT_EQ(linesOf(talk), fitting({"Bert", "Bert", "Cleo"}));
     EXPECT_EQ(talk.getTitleMember(), &at(0));
     EXPECT_EQ(talk.getIndexedMember(2), nullptr);
+}
+
+TEST_P(ConferenceCallItemPrivateTest, SelectedMemberIsInViewHoweverManyThereAre)
+{
+    for (const char* name : {"Dora", "Emil"})
+        members.push_back(std::make_unique<Call>(Call::CONNECTED, name, nullptr, false, true));
+    ConferenceCallItem& talk = make(true, 5);
+    EXPECT_EQ(linesOf(talk), fitting({"Ada", "Ada", "Bert", "Cleo"}));
+    talk.setCallItem(4);
+    EXPECT_EQ(linesOf(talk), isSmall() ? Texts({"Ada", "Emil"}) : Texts({"Ada", "Cleo", "Dora", "Emil"}));
+    talk.setCallItem(1);
+    EXPECT_EQ(linesOf(talk), isSmall() ? Texts({"Ada", "Bert"}) : Texts({"Ada", "Ada", "Bert", "Cleo"}));
+}
+
+TEST_P(ConferenceCallItemPrivateTest, DisabledMemberIsGrey)
+{
+    ConferenceCallItem& talk = make(true);
+    at(0).enabled(false);
+    EXPECT_TRUE(lookOf(talk).lines[1].dimmed);
+    EXPECT_FALSE(lookOf(talk).lines[0].dimmed);
+    EXPECT_FALSE(lookOf(talk).dimmed);
+    at(0).enabled(true);
+    EXPECT_FALSE(lookOf(talk).lines[1].dimmed);
+}
+
+TEST_P(ConferenceCallItemPrivateTest, MembersFollowTheLanguage)
+{
+    ConferenceCallItem& talk = make(true);
+    at(0).setText(&text);
+    changeLanguage("de");
+    EXPECT_EQ(linesOf(talk)[1], "de:Key");
+    talk.removeCall(0);
+    EXPECT_THAT(linesOf(at(0)), ElementsAre("de:Key"));
+}
+
+TEST_P(ConferenceCallItemPrivateTest, ListThatIsClearedTakesAConferenceAlongWithItsMembersMenu)
+{
+    ConferenceCallItem* const talk = &make(true);
+    MenuCommand hold("Hold", 1);
+    at(1).getContextMenu()->addCommand(&hold, nullptr, false);
+    talk->setCallItem(1);
+    press(PK_RIGHT);
+    ASSERT_EQ(display.getCurrent(), at(1).getContextMenu());
+    item.release();
+    list.clear();
+    members.clear();
+    EXPECT_EQ(display.getCurrent(), &list);
+    EXPECT_EQ(list.size(), 0);
 }
 
 TEST_P(ConferenceCallItemPrivateTest, DeletedConferenceLeavesItsMembersBehind)

@@ -166,6 +166,11 @@ TEST_F(LinesRowTest, DimmedIsGrey)
     draw(look);
     EXPECT_FALSE(has(host::Level::DARK));
     EXPECT_TRUE(has(host::Level::MIDDLE));
+    look.dimmed = false;
+    look.lines[0].dimmed = true;
+    draw(look);
+    EXPECT_FALSE(has(host::Level::DARK));
+    EXPECT_TRUE(has(host::Level::MIDDLE));
 }
 
 } // namespace
