@@ -20,7 +20,7 @@ namespace DisplayAPI::kit {
 ///     CallPartyIdentifier ada("Ada", "4711");
 ///     list.append(new kit::DetailsRow<MissedItem>(&ada, "22.11.2026\n10:41"));
 ///
-/// On a panel without details a list does not take such a row: it stays the application's.
+/// On a panel without details append() does not take such a row, which stays the application's; do not insert it.
 /// Threads: as for the details.
 template <typename Details>
 class DetailsRow : public ListItem {

@@ -44,7 +44,8 @@ public:
     /// The texts stay as they are: does nothing.
     void setDateTimeDuration(std::string date, std::string time, std::string duration);
 
-    /// Deletes the GUI-thread side, as the destructor does. GUI thread only.
+    /// Deletes the GUI-thread side, as the destructor does. GUI thread only. A row that shows it has to leave its list
+    /// first, and no other thread may ask for iconType() meanwhile.
     void cleanup();
 
 private:

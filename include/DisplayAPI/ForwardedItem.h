@@ -42,7 +42,8 @@ public:
     /// Rows have no such arrow: does nothing.
     void enableContextMenuArrow(bool on);
 
-    /// Deletes the GUI-thread side, as the destructor does. GUI thread only.
+    /// Deletes the GUI-thread side, as the destructor does. GUI thread only. A row that shows it has to leave its list
+    /// first, and no other thread may ask for iconType() meanwhile.
     void cleanup();
 
 private:

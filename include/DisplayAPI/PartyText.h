@@ -3,10 +3,28 @@
 #include "DisplayAPI/DisplayablePrivate.h"
 #include "utilities/CallPartyIdentifier.h"
 #include "utilities/TranslationInfo.h"
+#include "utilities/TranslatorIfc.h"
 
 #include <string>
 
 namespace DisplayAPI {
+
+/// Asks whoever translates for all displayables when a text is looked up: what is shown for long may outlive one.
+class LatestTranslator : public TranslatorIfc {
+public:
+    std::string translate(const std::string& key) override
+    {
+        TranslatorIfc* const translator = DisplayablePrivate::commonTranslator;
+        return translator != nullptr ? translator->translate(key) : key;
+    }
+
+    /// Never destroyed: texts may be looked up while the process ends.
+    static LatestTranslator* instance()
+    {
+        static auto* const translator = new LatestTranslator;
+        return translator;
+    }
+};
 
 /// For facades and private sides. Calls `show` with who the party is or, where nothing is known, with a translation
 /// that says so and that whoever is called owns.
@@ -17,7 +35,7 @@ void showParty(const CallPartyIdentifier& party, Show show)
     if (party.getInterimNameNumber(text, false))
         show(text);
     else
-        show(new TranslationInfo("Caller.Unknown.XXX", DisplayablePrivate::commonTranslator));
+        show(new TranslationInfo("Caller.Unknown.XXX", LatestTranslator::instance()));
 }
 
 } // namespace DisplayAPI

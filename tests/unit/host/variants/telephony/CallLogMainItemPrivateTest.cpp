@@ -38,6 +38,16 @@ TEST_P(CallLogMainItemPrivateTest, UnknownFollowsTheLanguageAndNamesDoNot)
     EXPECT_EQ(lookOf(known), before);
 }
 
+TEST_P(CallLogMainItemPrivateTest, UnknownIsTranslatedByWhoeverTranslatesNow)
+{
+    DisplayablePrivate::commonTranslator = nullptr;
+    auto& unknown = add<CallLogMainItem>(nullptr, "10:41", 1, true, true);
+    EXPECT_THAT(linesOf(unknown), ElementsAre("Caller.Unknown.XXX"));
+    DisplayablePrivate::commonTranslator = &dictionary;
+    changeLanguage("de");
+    EXPECT_THAT(linesOf(unknown), ElementsAre("de:Caller.Unknown.XXX"));
+}
+
 TEST_P(CallLogMainItemPrivateTest, EachIconHasItsPictureAndUnknownOnesNone)
 {
     const std::vector<const host::Icon*> icons{nullptr,    &DIALLED,   &MISSED_CALL, &RECEIVED,
