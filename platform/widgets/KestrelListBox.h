@@ -4,6 +4,7 @@
 #include "toolkit/PegThing.h"
 
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -17,6 +18,11 @@ class KestrelListBoxItem;
 /// has room for, at least one. Cost: append, row access, scrolling and painting do not depend on the number of rows.
 class KestrelListBox : public PegThing {
 public:
+    /// What the lists of the panels differ in; known to the platform's rows.
+    struct Layout;
+
+    using Part = std::function<PegRect(const Layout& layout, const PegRect& text)>;
+
     ~KestrelListBox() override;
 
     int Message(const PegMessage& message) override;
@@ -49,6 +55,9 @@ public:
 
     /// Repaints the row if it is visible.
     void itemChanged(const KestrelListBoxItem* item);
+
+    /// The same of a part of it alone, which is told of the place that the row has for its text.
+    void itemChanged(const KestrelListBoxItem* item, const Part& part);
 
     /// As well, and what stands below it. The current row stays in view.
     void itemHeightChanged(const KestrelListBoxItem* item);
@@ -93,9 +102,6 @@ public:
 
     /// The strip that is kept free; empty where none is. It moves when the list is resized.
     PegRect tickerArea() const;
-
-    /// What the lists of the panels differ in; known to the platform's rows.
-    struct Layout;
 
 protected:
     struct Impl;

@@ -68,7 +68,10 @@ protected:
     /// The row looks different: paints it again where it is in view.
     void changed();
 
-    /// As well, and what stands below it moves.
+    /// As changed(), where no more than a part of the row does.
+    void changed(const KestrelListBox::Part& part);
+
+    /// As changed(), and what stands below the row moves.
     void heightChanged();
 
 private:

@@ -102,6 +102,13 @@ void KestrelListBox::itemChanged(const KestrelListBoxItem* item)
     mImpl->repaintItem(item);
 }
 
+void KestrelListBox::itemChanged(const KestrelListBoxItem* item, const Part& part)
+{
+    const RowInView* const row = StatusIs(PSF_VISIBLE) ? mImpl->view().find(item) : nullptr;
+    if (row != nullptr)
+        Invalidate(intersection(row->area, part(mImpl->layout, mImpl->textOf(*row))));
+}
+
 void KestrelListBox::itemHeightChanged(const KestrelListBoxItem* item)
 {
     if (item == nullptr || item->mList != this)

@@ -63,6 +63,12 @@ void KestrelListBoxItem::changed()
         mList->itemChanged(this);
 }
 
+void KestrelListBoxItem::changed(const KestrelListBox::Part& part)
+{
+    if (mList != nullptr)
+        mList->itemChanged(this, part);
+}
+
 void KestrelListBoxItem::heightChanged()
 {
     if (mList != nullptr)

@@ -40,6 +40,9 @@ struct KestrelListBox::Impl final : host::StatusTimeView {
     void refresh();
     void repaintItem(const KestrelListBoxItem* item);
 
+    /// What the margins and the mark leave of a row.
+    PegRect textOf(const host::RowInView& row) const { return mInView.parts.text(row.area, row.hasMark); }
+
     const host::StatusTime* statusTime() const override { return host::StatusTime::current(); }
     void statusTimeChanged() override;
     void setStatusLines(int lines);

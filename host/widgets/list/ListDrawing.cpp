@@ -78,7 +78,7 @@ void KestrelListBox::Impl::drawRow(PegPainter& painter, const ListView& view, co
         row.item->drawMark(inside, cell, row.inverted && contains(row.area, cell));
     }
     PegPainter inside = painter.clippedTo(row.area);
-    row.item->Draw(inside, {layout, row.area, view.parts.text(row.area, row.hasMark), row.inverted});
+    row.item->Draw(inside, {layout, row.area, textOf(row), row.inverted});
 }
 
 void KestrelListBox::Impl::drawScroll(PegPainter& painter, const ListGeometry& parts) const

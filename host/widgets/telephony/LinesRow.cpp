@@ -1,6 +1,7 @@
 #include "host/widgets/telephony/LinesRow.h"
 
 #include "host/lcd/Geometry.h"
+#include "host/lcd/Lcd.h"
 #include "host/lcd/Painter.h"
 #include "host/widgets/Reading.h"
 #include "host/widgets/Strip.h"
@@ -81,6 +82,17 @@ private:
     const LinesLook& mLook;
 };
 
+PegRect firstLine(const PegRect& text, const KestrelListBox::Layout& layout)
+{
+    return rectAt(text.left, text.top, widthOf(text), layout.rowHeight);
+}
+
+/// On the panel that is running.
+int panelWidthOf(const PegString& text, const KestrelListBox::Layout& layout)
+{
+    return text.empty() ? 0 : Lcd::current()->textWidth(layout.font, text);
+}
+
 } // namespace
 
 int heightOf(const LinesLook& look, const KestrelListBox::Layout& layout)
@@ -123,8 +135,11 @@ void LinesRow::showEnd(PegString end)
 {
     if (end == mLook.end)
         return;
-    mLook.end = std::move(end);
-    changed();
+    const PegString former = std::exchange(mLook.end, std::move(end));
+    changed([&](const Layout& layout, const PegRect& text) {
+        const int width = panelWidthOf(mLook.end, layout);
+        return width == panelWidthOf(former, layout) ? Strip(firstLine(text, layout)).fromEnd(width) : text;
+    });
 }
 
 } // namespace host

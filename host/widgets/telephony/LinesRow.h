@@ -49,6 +49,8 @@ public:
     /// Paints the row again where the look differs, and moves what stands below it where the number of lines does. The
     /// text of the row is that of the first line.
     void show(LinesLook look);
+
+    /// Another end, of which no more is painted than itself where it is as wide as the one before.
     void showEnd(PegString end);
 
     int heightIn(const Layout& layout) const override { return heightOf(mLook, layout); }

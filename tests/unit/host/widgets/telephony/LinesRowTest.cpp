@@ -1,11 +1,14 @@
 #include "host/widgets/telephony/LinesRow.h"
 
 #include "host/lcd/Geometry.h"
+#include "host/lcd/Lcd.h"
 #include "host/lcd/Painter.h"
 #include "host/lcd/TextMap.h"
 #include "host/lcd/TextRenderer.h"
 #include "host/widgets/list/ListLayout.h"
+#include "presentation/PRESCPresentationManager.h"
 #include "support/RowsOwner.h"
+#include "toolkit/PegFunctions.h"
 #include "widgets/KestrelListBoxWithTitle.h"
 
 #include <gmock/gmock.h>
@@ -103,6 +106,63 @@ TEST_F(LinesRowTest, AnotherEndIsShownAlone)
     row.showEnd(letters("0:11"));
     look.end = letters("0:11");
     EXPECT_EQ(row.look(), look);
+}
+
+/// Notes how much of it is painted again.
+class WatchedRow : public host::LinesRow {
+public:
+    using LinesRow::LinesRow;
+
+    void Draw(PegPainter& painter, const Place& place) const override
+    {
+        ++times;
+        for (int x = place.area.left; x <= place.area.right; ++x)
+            for (int y = place.area.top; y <= place.area.bottom; ++y)
+                pixels += painter.isClippedOut(host::rectAt(x, y, 1, 1)) ? 0 : 1;
+    }
+
+    mutable int times = 0, pixels = 0;
+};
+
+/// A list of two such rows with an end on the panel.
+class LinesRowEndTest : public LinesRowTest {
+protected:
+    LinesRowEndTest()
+    {
+        pegInit();
+        auto* const list = new KestrelListBoxWithTitle;
+        for (WatchedRow* const row : {&first, &second}) {
+            LinesLook look = lookOf({"a", "b"});
+            look.end = letters("59:58");
+            row->show(look);
+            list->append(row);
+        }
+        gpPresent->Add(list);
+        paint();
+    }
+    ~LinesRowEndTest() override { pegCleanUp(); }
+
+    int paint()
+    {
+        host::Lcd::current()->paint();
+        return std::exchange(first.pixels, 0);
+    }
+
+    WatchedRow first{"First"}, second{"Second"};
+};
+
+TEST_F(LinesRowEndTest, NoMoreThanAnEndOfTheSameWidthIsPaintedAgain)
+{
+    const int all = heightOf(lookOf({"a", "b"}), layout) * 150;
+    first.showEnd(letters("59:59"));
+    const int once = paint();
+    EXPECT_GT(once, 0);
+    EXPECT_LT(once, all / 8);
+    EXPECT_EQ(second.times, 1);
+    first.showEnd(letters("59:59"));
+    EXPECT_EQ(paint(), 0);
+    first.showEnd(letters("1:00:00"));
+    EXPECT_GT(paint(), once * 3);
 }
 
 TEST_F(LinesRowTest, MovesWhatStandsBelowItWhenItHasMoreLines)
