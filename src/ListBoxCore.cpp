@@ -45,7 +45,8 @@ ListBoxCore::~ListBoxCore()
 int ListBoxCore::Message(const PegMessage& message)
 {
     switch (message.wType) {
-    case PM_CURRENT_CHANGED: changed(); break;
+    case PM_CURRENT_CHANGED:
+    case PM_ROW_CHANGED: changed(); break;
     case PM_CLICKED: raise(isOnBackRow() ? mCommands.back : mCommands.select); break;
     case PM_RIGHT: raise(isOnBackRow() ? nullptr : mCommands.right); break;
     case PM_LEFT: raise(mCommands.back); break;

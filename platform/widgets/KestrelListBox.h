@@ -12,7 +12,8 @@ class KestrelListBoxItem;
 
 /// A column of rows of which one is current, with the keys to move through it. GUI thread only.
 ///
-/// The message target is told what the user does: PM_CURRENT_CHANGED, PM_CLICKED (OK), PM_LEFT, PM_RIGHT.
+/// The message target is told what the user does: PM_CURRENT_CHANGED, PM_CLICKED (OK), PM_LEFT, PM_RIGHT; and
+/// PM_ROW_CHANGED of a row that says so.
 /// Up and down stop at the ends, where the key goes on to the parent, as OK and right do where there are no rows.
 /// Ownership: rows belong to whoever appended them. Rows may differ in height; the list shows as many whole ones as it
 /// has room for, at least one. Cost: append, row access, scrolling and painting do not depend on the number of rows.
@@ -58,6 +59,9 @@ public:
 
     /// The same of a part of it alone, which is told of the place that the row has for its text.
     void itemChanged(const KestrelListBoxItem* item, const Part& part);
+
+    /// Tells the message target of the row if it is visible. The row, and the list, may be gone then.
+    void tellItemChanged(const KestrelListBoxItem* item);
 
     /// As well, and what stands below it. The current row stays in view.
     void itemHeightChanged(const KestrelListBoxItem* item);

@@ -71,6 +71,9 @@ protected:
     /// As changed(), where no more than a part of the row does.
     void changed(const KestrelListBox::Part& part);
 
+    /// Tells whoever hears the list that the row shows something else. Comes last: the row may be gone then.
+    void tellChanged();
+
     /// As changed(), and what stands below the row moves.
     void heightChanged();
 

@@ -109,6 +109,12 @@ void KestrelListBox::itemChanged(const KestrelListBoxItem* item, const Part& par
         Invalidate(intersection(row->area, part(mImpl->layout, mImpl->textOf(*row))));
 }
 
+void KestrelListBox::tellItemChanged(const KestrelListBoxItem* item)
+{
+    if (StatusIs(PSF_VISIBLE) && mImpl->view().find(item) != nullptr)
+        mImpl->tell(PM_ROW_CHANGED, rowOf(item));
+}
+
 void KestrelListBox::itemHeightChanged(const KestrelListBoxItem* item)
 {
     if (item == nullptr || item->mList != this)

@@ -69,6 +69,12 @@ void KestrelListBoxItem::changed(const KestrelListBox::Part& part)
         mList->itemChanged(this, part);
 }
 
+void KestrelListBoxItem::tellChanged()
+{
+    if (mList != nullptr)
+        mList->tellItemChanged(this);
+}
+
 void KestrelListBoxItem::heightChanged()
 {
     if (mList != nullptr)

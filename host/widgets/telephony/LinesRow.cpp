@@ -129,6 +129,7 @@ void LinesRow::show(LinesLook look)
     DataSet(mLook.lines.front().text);
     if (isHigher)
         heightChanged();
+    tellChanged();
 }
 
 void LinesRow::showEnd(PegString end)

@@ -1,4 +1,5 @@
 #include "DisplayAPI/ContextMenu.h"
+#include "DisplayAPI/DisplayEventIfc.h"
 #include "DisplayAPI/MenuCommand.h"
 #include "unit/host/variants/telephony/CallRowsTest.h"
 #include "utilities/CallPartyIdentifier.h"
@@ -244,6 +245,29 @@ TEST_P(CallConnectedItemPrivateTest, ScreenAsTextHasLinesAndDuration)
     EXPECT_EQ(shown(), "object:\nname:KestrelListBox\n"
                        "subitem:\nname:CallConnectedItem\nstring0:Ada\nstring1:01:01\nstring2:Support\nendsubitem:\n"
                        "end:\n");
+}
+
+/// Counts how often the screen has changed.
+class Changes : public DisplayEventIfc {
+public:
+    void displayChanged(std::string) override { ++count; }
+    int count = 0;
+};
+
+TEST_P(CallConnectedItemPrivateTest, ObserverLearnsOfWhatIsSaidOfACallAndNotOfEachSecond)
+{
+    Call& call = make(Call::CONNECTED, true);
+    Changes changes;
+    display.subscribe(&changes);
+    call.setSecondLineText("busy");
+    EXPECT_EQ(changes.count, 1);
+    call.setSecondLineText("busy");
+    call.setCallId("7");
+    time.pass(5'000);
+    EXPECT_EQ(changes.count, 1);
+    call.enabled(false);
+    EXPECT_EQ(changes.count, 2);
+    display.unSubscribe();
 }
 
 TEST_P(CallConnectedItemPrivateTest, RightKeyOpensTheMenuThatHasBeenAskedFor)

@@ -20,7 +20,11 @@ protected:
             members.push_back(std::make_unique<Call>(state, name, nullptr, false, true));
     }
 
-    ~ConferenceCallItemPrivateTest() override { list.removeAll(); }
+    ~ConferenceCallItemPrivateTest() override
+    {
+        if (item != nullptr)
+            list.remove(item.get());
+    }
 
     ConferenceCallItem& make(bool open, int count = 3)
     {

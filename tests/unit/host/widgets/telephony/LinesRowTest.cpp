@@ -151,6 +151,22 @@ protected:
     WatchedRow first{"First"}, second{"Second"};
 };
 
+TEST_F(LinesRowEndTest, WhoeverHearsTheListIsToldOfAnotherLookAndNotOfAnEnd)
+{
+    MessageNotes notes;
+    auto* const list = static_cast<KestrelListBox*>(gpPresent->First());
+    list->setMessageTarget(&notes);
+    second.showEnd(letters("59:59"));
+    second.show(second.look());
+    EXPECT_THAT(notes.take(), testing::IsEmpty());
+    second.show(lookOf({"c"}));
+    EXPECT_THAT(notes.take(), ElementsAre(std::pair<int, int>(PM_ROW_CHANGED, 1)));
+    list->remove(&second);
+    second.show(lookOf({"d"}));
+    EXPECT_THAT(notes.take(), testing::IsEmpty());
+    list->setMessageTarget(nullptr);
+}
+
 TEST_F(LinesRowEndTest, NoMoreThanAnEndOfTheSameWidthIsPaintedAgain)
 {
     const int all = heightOf(lookOf({"a", "b"}), layout) * 150;
