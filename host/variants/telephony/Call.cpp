@@ -30,9 +30,10 @@ CallConnectedItemSide::Call::~Call()
 
 void CallConnectedItemSide::Call::changed()
 {
-    row.show(look());
-    if (whole != nullptr)
-        whole->memberChanged();
+    Whole* const conference = whole;
+    row.show(look()); // tells who hears its list: it may be gone then, unless it is a member and stands in none
+    if (conference != nullptr)
+        conference->memberChanged();
 }
 
 void CallConnectedItemSide::Call::setState(CallConnectedItem::CallStateIcon newState)
