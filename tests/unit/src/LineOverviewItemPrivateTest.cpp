@@ -148,6 +148,7 @@ TEST_F(LineOverviewItemPrivateTest, HoldHighlightsTheRowAsLongAsItSays)
     expectRefreshes(1);
     pass(1);
     EXPECT_FALSE(row().isHighlighted());
+    line->holdItem(0); // there is none any more
     pass(10'000);
     EXPECT_FALSE(isTimerRunning());
 }

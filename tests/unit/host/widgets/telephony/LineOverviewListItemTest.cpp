@@ -100,6 +100,18 @@ TEST_F(LineOverviewListItemTest, IdentityIsASecondLineThatMovesWhatStandsBelow)
     EXPECT_EQ(topBelow(), line);
 }
 
+TEST_F(LineOverviewListItemTest, CurrentRowStaysInViewWhenItGrows)
+{
+    show();
+    RowsOwner rows;
+    rows.append(*list, "abcde");
+    const int last = list->numItems() - 1;
+    list->setCurrentRow(last);
+    ASSERT_FALSE(host::isEmpty(list->rowArea(last)));
+    row.setIdentity(letters("4711"));
+    EXPECT_FALSE(host::isEmpty(list->rowArea(last)));
+}
+
 TEST_F(LineOverviewListItemTest, OnTwoLinesTheIdentityStandsOnTheFirst)
 {
     show(host::Variant::WP1);
