@@ -128,7 +128,7 @@ bool Switchboard::resume(CallId id)
     LiveCall* const call = findTalking(id);
     if (call == nullptr || !call->isHeldByMe)
         return false;
-    holdActive(id, call->partner);
+    holdActive(id);
     for (LiveCall* const member : membersOf(*call)) {
         member->isResuming = true;
         tell(*member, CallState::RESUMING, {.to = member->joined, .with = member->partner});
@@ -256,7 +256,6 @@ void Switchboard::isTransferredByOther(LiveCall& call)
     if (destination.behaviour == nullptr)
         return comeBack(call, {.reason = destination.reason, .text = destination.text});
     call.event.forwardedBy = call.event.other;
-    call.isHeldByOther = false;
     ring(call, destination);
 }
 

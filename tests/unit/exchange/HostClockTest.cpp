@@ -38,6 +38,16 @@ TEST_F(HostClockTest, RealTimePassesByItself)
     EXPECT_EQ(listener.take().size(), 6u);
 }
 
+TEST_F(HostClockTest, WakingCountsForOneSleep)
+{
+    exchange::HostClock other;
+    other.wake();
+    other.sleepUntil(other.now() + 60 * 60 * 1000);
+    const std::int64_t until = other.now() + 10;
+    other.sleepUntil(until);
+    EXPECT_GE(other.now(), until);
+}
+
 class VirtualHostClockTest : private VirtualTime, public HostClockTest {};
 
 TEST_F(VirtualHostClockTest, StandsStillUntilItIsMoved)
