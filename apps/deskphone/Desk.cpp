@@ -44,7 +44,7 @@ Desk::Desk(DisplayAPI::Display& display, exchange::Telephony& telephony, const s
       mPopups(mTelephone, mCalls, mTarget), mCall(mTelephone, mCalls, mTarget), mHandset(mCalls),
       mDetails(mTelephone, mCall), mHome(mTelephone, mCall, mHistory),
       mCallLogs(mTelephone, mHome, mHistory, mCall, mDetails), mContacts(mTelephone, &mHome, mCall),
-      mSettings(mTelephone, mHome), mServices(mTelephone, &mHome, mCall), mAbout(mTelephone, &mHome)
+      mSettings(mTelephone, mHome, mCalls), mServices(mTelephone, &mHome, mCall), mAbout(mTelephone, &mHome)
 {
     mHome.setMenu({{"Menu.call.log", "Key.call.log", &mCallLogs},
                    {"Menu.contacts", "Key.contacts", &mContacts},

@@ -2,6 +2,7 @@
 
 #include "DisplayAPI/List.h"
 #include "DisplayAPI/ListItem.h"
+#include "apps/deskphone/Calls.h"
 #include "apps/deskphone/Home.h"
 #include "apps/deskphone/Telephone.h"
 
@@ -32,8 +33,9 @@ std::vector<std::string> namesOf(const std::vector<host::Language>& languages)
 
 } // namespace
 
-Settings::Settings(Telephone& telephone, Home& home)
-    : Screen(telephone, &home, "Settings.title"), mHome(home), mLanguages(telephone.languages().available()),
+Settings::Settings(Telephone& telephone, Home& home, Calls& calls)
+    : Screen(telephone, &home, "Settings.title"), mHome(home), mCalls(calls),
+      mLanguages(telephone.languages().available()),
       mLanguage(telephone, this, "Settings.language", namesOf(mLanguages), AS_THEY_ARE,
                 [this](std::size_t value) { return useLanguage(value); }),
       mRingTone(telephone, this, "Settings.ring.tone",
@@ -50,7 +52,10 @@ Settings::Settings(Telephone& telephone, Home& home)
                   [this](std::size_t value) { return useHomeScreen(value); }),
       mScreensaver(telephone, this, "Settings.saver",
                    {"Screensaver.never", "Screensaver.1.minute", "Screensaver.5.minutes", "Screensaver.15.minutes"},
-                   TRANSLATED, [this](std::size_t value) { return useScreensaver(value); })
+                   TRANSLATED, [this](std::size_t value) { return useScreensaver(value); }),
+      mDisturb(telephone, this, "Settings.disturb", {"Switch.off", "Switch.on"}, TRANSLATED,
+               [this](std::size_t value) { return useDisturb(value); }),
+      mForwarding(telephone, this, calls), mForwardingText(text("Settings.forwarding"))
 {
     const auto current = std::ranges::find(mLanguages, telephone.languages().current().code, &host::Language::code);
     if (current != mLanguages.end())
@@ -66,11 +71,34 @@ void Settings::build()
         mRows[i] = new DisplayAPI::ListItem(choices()[i]->summary().info(), false);
         list().append(mRows[i]);
     }
+    append(mForwardingText);
 }
 
 void Settings::chosen(int row)
 {
-    choices().at(static_cast<std::size_t>(row))->open();
+    if (const auto place = static_cast<std::size_t>(row); place < choices().size())
+        choices().at(place)->open();
+    else
+        mForwarding.open();
+}
+
+void Settings::stopListening()
+{
+    Screen::stopListening();
+    mForwarding.stopListening();
+}
+
+void Settings::stopWorking()
+{
+    Screen::stopWorking();
+    mForwarding.stopWorking();
+}
+
+std::string Settings::useDisturb(std::size_t value)
+{
+    for (const exchange::Line& line : mCalls.telephony().lines())
+        mCalls.telephony().setDoNotDisturb(line.number, value > 0);
+    return {};
 }
 
 std::string Settings::useLanguage(std::size_t value)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "apps/deskphone/Choice.h"
+#include "apps/deskphone/ForwardingScreen.h"
 #include "apps/deskphone/Screen.h"
 #include "host/languages/Languages.h"
 
@@ -9,16 +10,21 @@
 
 namespace deskphone {
 
+class Calls;
 class Home;
 
 /// The settings with their values. Choosing one leads to its possible values.
 class Settings : public Screen {
 public:
-    Settings(Telephone& telephone, Home& home);
+    Settings(Telephone& telephone, Home& home, Calls& calls);
 
-    std::array<Choice*, 7> choices()
+    void stopListening() override;
+    void stopWorking() override;
+
+    std::array<Choice*, 8> choices()
     {
-        return {&mLanguage, &mRingTone, &mBrightness, &mDateFormat, &mTimeFormat, &mHomeScreen, &mScreensaver};
+        return {&mLanguage,   &mRingTone,   &mBrightness,  &mDateFormat,
+                &mTimeFormat, &mHomeScreen, &mScreensaver, &mDisturb};
     }
 
 private:
@@ -30,8 +36,10 @@ private:
     std::string useTimeFormat(std::size_t value);
     std::string useHomeScreen(std::size_t value);
     std::string useScreensaver(std::size_t value);
+    std::string useDisturb(std::size_t value);
 
     Home& mHome;
+    Calls& mCalls;
     std::vector<host::Language> mLanguages;
     Choice mLanguage;
     Choice mRingTone;
@@ -40,7 +48,10 @@ private:
     Choice mTimeFormat;
     Choice mHomeScreen;
     Choice mScreensaver;
-    std::array<DisplayAPI::ListItem*, 7> mRows{};
+    Choice mDisturb;
+    ForwardingScreen mForwarding;
+    Text& mForwardingText;
+    std::array<DisplayAPI::ListItem*, 8> mRows{};
 };
 
 } // namespace deskphone

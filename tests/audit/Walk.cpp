@@ -13,7 +13,7 @@ namespace {
 
 /// A list remembers its row: up again, however many rows it has, and in a tab on to the bar. A menu begins with the
 /// first one, and goes round.
-const std::string FIRST_ROW = "hold up 1000\n";
+const std::string FIRST_ROW = "hold up 1500\n";
 
 /// Longer than a message stays.
 const std::string NO_MESSAGE = "wait 3000\n";

@@ -74,7 +74,7 @@ TEST(AuditWalk, VisitsEachScreenAndEachOfItsRows)
     ASSERT_EQ(screens.size(), 1u);
     EXPECT_THAT(
         audit::scriptThrough(screens, 2, false),
-        HasSubstr("key ok\nkey down\nkey ok\nhold up 1000\nkey ok\nhold up 1000\ndump --json log.json\nkey down\n"
+        HasSubstr("key ok\nkey down\nkey ok\nhold up 1500\nkey ok\nhold up 1500\ndump --json log.json\nkey down\n"
                   "dump --json log.1.json\nkey left\ndump --json from-log.json\nkey hook\nkey left\n"));
 }
 
@@ -83,7 +83,7 @@ TEST(AuditWalk, AnotherKeyThanOkLeavesTheSelectionAlone)
     const auto screens = audit::readScreens(fileWith("menu 1 0 0 1:right\n"));
     ASSERT_EQ(screens.size(), 1u);
     EXPECT_THAT(audit::scriptThrough(screens, 0, false),
-                HasSubstr("key ok\nkey ok\nhold up 1000\nkey down\nkey right\ndump --json menu.json\nkey left\n"));
+                HasSubstr("key ok\nkey ok\nhold up 1500\nkey down\nkey right\ndump --json menu.json\nkey left\n"));
 }
 
 TEST(AuditWalk, LineOfAScriptIsTakenAsItIs)
