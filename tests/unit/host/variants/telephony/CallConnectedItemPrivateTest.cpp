@@ -223,6 +223,16 @@ TEST_P(CallConnectedItemPrivateTest, DurationEndsWithTheCall)
     }
 }
 
+TEST_P(CallConnectedItemPrivateTest, DurationThatWasStoppedStaysWhenTheCallEndsLater)
+{
+    Call& call = make(Call::CONNECTED, true);
+    time.pass(7'000);
+    call.stopDurationTimer();
+    time.pass(60'000);
+    call.setState(Call::ENDED);
+    EXPECT_EQ(endOf(call), "00:07");
+}
+
 TEST_P(CallConnectedItemPrivateTest, CallThatIsNotTimedOrStoppedBeforeTheTalkHasNoDuration)
 {
     time.pass(1);

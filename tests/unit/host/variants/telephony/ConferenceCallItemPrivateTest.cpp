@@ -168,6 +168,20 @@ TEST_P(ConferenceCallItemPrivateTest, RightKeyOpensTheMenuOfTheSelectedMember)
     EXPECT_EQ(talk.getSelectedMember(), nullptr);
 }
 
+TEST_P(ConferenceCallItemPrivateTest, KeysOfOneThatHasLeftAndLeftOnAClosedOneAreNotUsed)
+{
+    ConferenceCallItem& talk = make(true);
+    KestrelListBoxItem& row = *talk.getPrivateImplemetation()->getKestrelListItem();
+    MenuCommand hold("Hold", 1);
+    at(1).getContextMenu()->addCommand(&hold, nullptr, false);
+    talk.setCallItem(1);
+    talk.removeCall(1);
+    EXPECT_FALSE(row.key(PK_RIGHT));
+    EXPECT_EQ(display.getCurrent(), &list);
+    EXPECT_TRUE(row.key(PK_LEFT));
+    EXPECT_FALSE(row.key(PK_LEFT));
+}
+
 TEST_P(ConferenceCallItemPrivateTest, MemberThatChangesIsShownAsItIs)
 {
     ConferenceCallItem& talk = make(true);
