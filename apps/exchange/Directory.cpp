@@ -6,6 +6,12 @@ namespace {
 
 constexpr int MOST_HOPS = 10;
 
+bool forwardsAtOnce(const Number* number)
+{
+    return number != nullptr && number->behaviour->arrival == Behaviour::Arrival::FORWARDS &&
+           number->behaviour->after == 0;
+}
+
 } // namespace
 
 Directory::Directory(std::vector<Number> numbers) : mNumbers(std::move(numbers))
@@ -18,10 +24,7 @@ Directory::Destination Directory::find(const std::string& number, int& hops) con
 {
     const Number* found = this->number(number);
     Party forwardedBy;
-    while (found != nullptr && found->behaviour->arrival == Behaviour::Arrival::FORWARDS &&
-           found->behaviour->after == 0) {
-        if (++hops > MOST_HOPS)
-            return {found->party, forwardedBy, nullptr, Reason::FAILURE, "Forwarded too often"};
+    while (hops <= MOST_HOPS && forwardsAtOnce(found) && ++hops <= MOST_HOPS) {
         if (forwardedBy.number.empty())
             forwardedBy = found->party;
         const std::string& next = found->behaviour->text;
@@ -31,6 +34,8 @@ Directory::Destination Directory::find(const std::string& number, int& hops) con
     }
     if (found == nullptr)
         return {party(number), {}, nullptr, Reason::UNKNOWN_NUMBER};
+    if (hops > MOST_HOPS)
+        return {found->party, forwardedBy, nullptr, Reason::FAILURE, "Forwarded too often"};
     if (found->behaviour->arrival == Behaviour::Arrival::IS_BUSY)
         return {found->party, forwardedBy, nullptr, Reason::BUSY};
     if (found->behaviour->arrival == Behaviour::Arrival::FAILS)

@@ -22,7 +22,7 @@ public:
         std::string text = {};
     };
 
-    /// `hops` counts how often the call has been forwarded: there is an end to it.
+    /// `hops` counts how often the call has been forwarded, at once or after it has rung: there is an end to it.
     Destination find(const std::string& number, int& hops) const;
 
     /// The name is empty where it is not known.

@@ -46,20 +46,23 @@ public:
 
     void setListener(TelephonyListener* listener)
     {
-        std::unique_lock lock(mMutex);
-        mSchedule.runUntil(mClock.now());
-        if (mListener == nullptr)
+        const std::uint64_t begun = change([=, this](Switchboard& board) {
+            mListener = listener;
             mHappenings.clear();
-        mListener = listener;
+            board.tellAll();
+            mHeard.notify_all();
+            return mBegun;
+        });
+        std::unique_lock lock(mMutex);
         if (!isOwnThread())
-            mHeard.wait(lock, [this] { return !mIsHearing; });
+            mHeard.wait(lock, [=, this] { return mHeardOut >= begun; });
     }
 
     void waitUntilHeard()
     {
         change([](Switchboard&) {});
         std::unique_lock lock(mMutex);
-        mHeard.wait(lock, [this] { return !mIsHearing && mHappenings.empty(); });
+        mHeard.wait(lock, [this] { return mHeardOut == mBegun && mHappenings.empty(); });
     }
 
 private:
@@ -80,6 +83,8 @@ private:
         std::unique_lock lock(mMutex);
         while (!mIsOver) {
             mSchedule.runUntil(mClock.now());
+            if (mListener == nullptr)
+                forgetAll();
             if (!mHappenings.empty()) {
                 tellNext(lock);
                 continue;
@@ -91,17 +96,23 @@ private:
         }
     }
 
+    void forgetAll()
+    {
+        mHappenings.clear();
+        mHeard.notify_all();
+    }
+
+    /// REQUIRES: there is a listener.
     void tellNext(std::unique_lock<std::mutex>& lock)
     {
         const Happening happening = std::move(mHappenings.front());
         mHappenings.pop_front();
-        TelephonyListener* const listener = mListener;
-        mIsHearing = true;
+        TelephonyListener& listener = *mListener;
+        ++mBegun;
         lock.unlock();
-        if (listener != nullptr)
-            tell(*listener, happening);
+        tell(listener, happening);
         lock.lock();
-        mIsHearing = false;
+        ++mHeardOut;
         mHeard.notify_all();
     }
 
@@ -120,7 +131,8 @@ private:
     Schedule mSchedule;
     Switchboard mSwitchboard;
     TelephonyListener* mListener = nullptr;
-    bool mIsHearing = false;
+    std::uint64_t mBegun = 0;    ///< how many times a listener has begun to hear
+    std::uint64_t mHeardOut = 0; ///< how many times it has returned
     bool mIsOver = false;
     std::thread mThread;
 };
@@ -187,7 +199,7 @@ bool Exchange::join(CallId call, CallId other)
 bool Exchange::setForwarding(LineNumber line, const Forwarding& forwarding)
 {
     const auto forward = [&](Line& changed) { changed.forwarding = forwarding; };
-    return forwarding.answerTime >= 0 &&
+    return forwarding.answerTime >= 0 && forwarding.answerTime <= LONGEST_TIME &&
            mImpl->change([&](Switchboard& board) { return board.changeLine(line, forward); });
 }
 

@@ -1,16 +1,11 @@
 #include "apps/exchange/HostClock.h"
 
+#include "apps/exchange/Line.h"
 #include "host/clock/Clock.h"
 
 #include <algorithm>
 
 namespace exchange {
-
-namespace {
-
-constexpr std::int64_t LONGEST_SLEEP = 24 * 60 * 60 * 1000;
-
-} // namespace
 
 std::int64_t HostClock::now() const
 {
@@ -20,7 +15,7 @@ std::int64_t HostClock::now() const
 void HostClock::sleepUntil(std::int64_t until)
 {
     host::Clock& clock = host::Clock::instance();
-    clock.sleepFor(std::min(until - clock.now(), LONGEST_SLEEP), &mIsWoken);
+    clock.sleepFor(std::min(until - clock.now(), LONGEST_TIME), &mIsWoken);
     clock.wakeSleepers([this] { mIsWoken = false; });
 }
 

@@ -7,6 +7,9 @@
 
 namespace exchange {
 
+/// The longest time that anybody can be told to wait, in milliseconds: a day.
+inline constexpr std::int64_t LONGEST_TIME = 24 * 60 * 60 * 1000;
+
 /// Where calls for a line go on to; an empty number is nowhere.
 struct Forwarding {
     std::string always = {};             ///< before do not disturb, and without ringing

@@ -9,6 +9,14 @@
 
 namespace exchange {
 
+/// What an event says beside the call's own.
+struct Circumstances {
+    Reason reason = Reason::NONE;
+    std::string text = {};
+    Party to = {};
+    CallId with = NO_CALL;
+};
+
 /// A call that is not over, as the switchboard keeps it.
 struct LiveCall {
     enum class Stage { SETTING_UP, RINGING, INCOMING, TALK, TRANSFERRING };
@@ -23,19 +31,13 @@ struct LiveCall {
     Party joined = {};                               ///< in the other one's conference
     std::shared_ptr<const Behaviour> behaviour = {}; ///< never null once it rings
     std::size_t talkStep = 0;
-    std::string dialled = {};
-    std::string target = {}; ///< where it goes when it is passed on
+    std::string dialled = {}; ///< who calls back once it has ended; nobody where it has been transferred
+    std::string target = {};  ///< where it goes when it is passed on
     int hops = 0;
+    std::int64_t givesUpAt = 0;   ///< INCOMING: when who calls loses patience
+    Circumstances left = {};      ///< TRANSFERRING to another call: why that has ended
     Schedule::Ticket mine = {};   ///< what the exchange does for me
     Schedule::Ticket theirs = {}; ///< what the other one does next
-};
-
-/// What an event says beside the call's own.
-struct Circumstances {
-    Reason reason = Reason::NONE;
-    std::string text = {};
-    Party to = {};
-    CallId with = NO_CALL;
 };
 
 /// Who calls here.

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <fstream>
+#include <map>
 #include <sstream>
 #include <unordered_set>
 #include <utility>
@@ -12,6 +13,8 @@ namespace exchange {
 
 namespace {
 
+constexpr LineNumber DEFAULT_LINES = 2;
+constexpr int FIRST_FREE_NUMBER = 101;
 constexpr std::string_view BYTE_ORDER_MARK = "\xEF\xBB\xBF";
 
 std::string_view trimmed(std::string_view text)
@@ -30,46 +33,56 @@ public:
     void read(std::string_view sentence, int line)
     {
         try {
-            std::visit([this](const auto& parsed) { take(parsed); }, parseSentence(sentence, Occasion::IN_FILE));
+            std::visit([=, this](const auto& parsed) { take(parsed, line); },
+                       parseSentence(sentence, Occasion::IN_FILE));
         } catch (const Mistake& mistake) {
-            mNumbers.errors.push_back(mFileName + ":" + std::to_string(line) + ": " + mistake.what());
+            mErrors[line] = mistake.what();
         }
     }
 
     Numbers finished()
     {
-        if (mNumbers.lines.empty())
-            mNumbers.lines = {{.number = 1, .party = {"101", {}}}, {.number = 2, .party = {"102", {}}}};
+        for (LineNumber line = 1; line <= DEFAULT_LINES && !mAreLinesNamed; ++line)
+            mNumbers.lines.push_back({.number = line, .party = {freeNumber(), {}}});
+        for (const auto& [line, sentence] : mChanges)
+            change(sentence, line);
+        for (const auto& [line, error] : mErrors)
+            mNumbers.errors.push_back(mFileName + ":" + std::to_string(line) + ": " + error);
         std::sort(mNumbers.lines.begin(), mNumbers.lines.end(),
                   [](const Line& one, const Line& other) { return one.number < other.number; });
         return std::move(mNumbers);
     }
 
 private:
-    void take(const Number& number)
+    void take(const Number& number, int)
     {
         claim(number.party.number);
         mNumbers.others.push_back(number);
     }
 
-    void take(const LineSentence& sentence)
+    void take(const LineSentence& sentence, int line)
     {
         const Party* const party = std::get_if<Party>(&sentence.what);
-        if (party == nullptr)
-            return change(sentence);
+        if (party == nullptr) {
+            mChanges.emplace(line, sentence);
+            return;
+        }
         if (find(sentence.line) != nullptr)
             throw Mistake("there is a line " + std::to_string(sentence.line) + " already");
         claim(party->number);
         mNumbers.lines.push_back({.number = sentence.line, .party = *party});
+        mAreLinesNamed = true;
     }
 
-    void take(const Deed&) {}
+    void take(const Deed&, int) {}
 
-    void change(const LineSentence& sentence)
+    void change(const LineSentence& sentence, int fileLine)
     {
         Line* const line = find(sentence.line);
-        if (line == nullptr)
-            throw Mistake("it is not said before who line " + std::to_string(sentence.line) + " is");
+        if (line == nullptr) {
+            mErrors[fileLine] = "it is not said who line " + std::to_string(sentence.line) + " is";
+            return;
+        }
         if (const bool* const isRegistered = std::get_if<bool>(&sentence.what))
             line->isRegistered = *isRegistered;
         if (const int* const messages = std::get_if<int>(&sentence.what))
@@ -82,6 +95,15 @@ private:
             throw Mistake("there is a " + number + " already");
     }
 
+    /// One that nobody in the file has.
+    std::string freeNumber()
+    {
+        int number = FIRST_FREE_NUMBER;
+        while (!mTaken.insert(std::to_string(number)).second)
+            ++number;
+        return std::to_string(number);
+    }
+
     Line* find(LineNumber number)
     {
         const auto found = std::find_if(mNumbers.lines.begin(), mNumbers.lines.end(),
@@ -91,6 +113,9 @@ private:
 
     std::string mFileName;
     Numbers mNumbers;
+    bool mAreLinesNamed = false;
+    std::map<int, LineSentence> mChanges; ///< by line of the file, until it is known who the lines are
+    std::map<int, std::string> mErrors;   ///< by line of the file
     std::unordered_set<std::string> mTaken;
 };
 

@@ -47,7 +47,8 @@ struct Numbers {
     std::vector<std::string> errors; ///< one sentence each, with file and line; what is wrong is left out
 
     /// Reads one sentence a line; empty lines and lines that begin with # are nothing, nor is a byte order mark.
-    /// Without a line of the telephone's there are two, 101 and 102.
+    /// Where it is not said who a line of the telephone's is there are two, 101 and 102, or the next numbers that
+    /// nobody has.
     static Numbers parse(const std::string& fileName, std::string_view text);
 
     /// As above; a file that cannot be read is an error and has nobody in it.

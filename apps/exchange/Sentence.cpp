@@ -90,11 +90,19 @@ void takeCall(Words& words, Deed& deed)
         deed.patience = words.takeTime();
 }
 
+std::string takeReason(Words& words)
+{
+    std::string reason = words.takeText("the reason");
+    if (reason.empty())
+        throw Mistake("the reason is empty");
+    return reason;
+}
+
 void takeEnd(Words& words, Deed& deed)
 {
     deed.isBusy = words.skip("busy");
     if (!deed.isBusy && words.isText())
-        deed.text = words.takeText("a reason");
+        deed.text = takeReason(words);
 }
 
 /// What belongs to the verb alone.
@@ -104,7 +112,7 @@ void takeObject(Words& words, Clause& clause)
     case Verb::FORWARDS:
     case Verb::TRANSFERS:
     case Verb::PLAYS_IN_CONFERENCE: clause.number = words.takeNumber(); return;
-    case Verb::FAILS: clause.text = words.takeText("the reason"); return;
+    case Verb::FAILS: clause.text = takeReason(words); return;
     case Verb::CALLS: return takeCall(words, clause.deed);
     case Verb::ENDS: return takeEnd(words, clause.deed);
     default: return;

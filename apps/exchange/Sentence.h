@@ -26,7 +26,7 @@ struct Deed {
 
     Party who; ///< the name empty where it is not said
     Kind kind = Kind::CALLS;
-    LineNumber line = 1;                       ///< CALLS
+    LineNumber line = 0;                       ///< CALLS; 0: the first there is
     std::string forwardedBy = {};              ///< CALLS: a number, or empty
     std::optional<std::int64_t> patience = {}; ///< CALLS: milliseconds until it gives up
     std::string number = {};                   ///< TRANSFERS, PLAYS_IN_CONFERENCE

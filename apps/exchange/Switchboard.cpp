@@ -62,10 +62,21 @@ void Switchboard::tell(LiveCall& call, CallState state, Circumstances circumstan
     mHappenings.push_back(event);
 }
 
+void Switchboard::tellAll() const
+{
+    for (const auto& [id, call] : mCalls)
+        mHappenings.push_back(call.event);
+}
+
 void Switchboard::finish(LiveCall& call, CallState state, Circumstances circumstances)
 {
     mSchedule.cancel(call.mine);
     mSchedule.cancel(call.theirs);
+    if (LiveCall* const consulted = find(call.event.with);
+        consulted != nullptr && call.stage == LiveCall::Stage::TRANSFERRING)
+        consulted->left = {.reason = circumstances.reason, .text = circumstances.text};
+    if (circumstances.reason == Reason::TRANSFERRED)
+        call.dialled.clear();
     tell(call, state, std::move(circumstances));
     leaveConference(call);
     planCallBack(call);

@@ -39,6 +39,9 @@ public:
     /// Lets `change` change a line, and tells of it where it has. False where there is no such line.
     bool changeLine(LineNumber line, const std::function<void(Line&)>& change);
 
+    /// Tells the last event of each call that lives once more.
+    void tellAll() const;
+
     /// Throws a Mistake where it cannot be followed.
     void follow(const Sentence& sentence);
 
@@ -58,10 +61,11 @@ private:
     int callsOn(LineNumber line) const;
 
     // On the way to somebody.
+    void dial(LiveCall& call, const std::string& number);
     void proceed(LiveCall& call);
     void reach(LiveCall& call);
     void ring(LiveCall& call, const Directory::Destination& destination);
-    void waitForOther(LiveCall& call);
+    void waitForOther(LiveCall& call, Circumstances circumstances = {});
     void otherAnswers(LiveCall& call);
     void otherRejects(LiveCall& call);
     void otherForwards(LiveCall& call);
@@ -70,7 +74,7 @@ private:
 
     // On the way to here.
     void arrive(Line& line, const Caller& caller);
-    void passOn(LiveCall& call, const std::string& number);
+    void passOn(LiveCall& call, const std::string& number, int hops);
     void isNotAnswered(LiveCall& call);
 
     // While one speaks.
@@ -100,6 +104,7 @@ private:
     void follow(const Deed& deed);
     void callNow(const Deed& deed);
     void endNow(const Deed& deed);
+    void failCallsOn(LineNumber line);
     LiveCall& findFor(const Deed& deed);
 
     Schedule& mSchedule;

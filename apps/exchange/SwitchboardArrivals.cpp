@@ -22,15 +22,21 @@ CallId Switchboard::place(LineNumber number, const std::string& dialled)
         holdActive(NO_CALL);
     LiveCall& call = make(number, Direction::OUTGOING, mDirectory.party(dialled));
     const CallId id = call.event.call;
-    call.dialled = dialled;
     tell(call, CallState::DIALLING);
     if (!line->isRegistered)
         finish(call, CallState::FAILED, {.reason = Reason::NOT_REGISTERED});
     else if (isFull)
         finish(call, CallState::FAILED, {.reason = Reason::FAILURE, .text = "The line has too many calls"});
     else
-        later(&LiveCall::theirs, call, UNTIL_PROCEEDING, &Switchboard::proceed);
+        dial(call, dialled);
     return id;
+}
+
+/// Nobody knows of a call before.
+void Switchboard::dial(LiveCall& call, const std::string& number)
+{
+    call.dialled = number;
+    later(&LiveCall::theirs, call, UNTIL_PROCEEDING, &Switchboard::proceed);
 }
 
 void Switchboard::proceed(LiveCall& call)
@@ -57,12 +63,12 @@ void Switchboard::ring(LiveCall& call, const Directory::Destination& destination
     waitForOther(call);
 }
 
-void Switchboard::waitForOther(LiveCall& call)
+void Switchboard::waitForOther(LiveCall& call, Circumstances circumstances)
 {
     using Arrival = Behaviour::Arrival;
     const Behaviour& behaviour = *call.behaviour;
     call.stage = LiveCall::Stage::RINGING;
-    tell(call, CallState::RINGING_BACK);
+    tell(call, CallState::RINGING_BACK, std::move(circumstances));
     switch (behaviour.arrival) {
     case Arrival::ANSWERS: return later(&LiveCall::theirs, call, behaviour.after, &Switchboard::otherAnswers);
     case Arrival::REJECTS: return later(&LiveCall::theirs, call, behaviour.after, &Switchboard::otherRejects);
@@ -119,26 +125,31 @@ void Switchboard::arrive(Line& line, const Caller& caller)
     call.behaviour = known != nullptr ? known->behaviour : std::make_shared<const Behaviour>();
     call.event.forwardedBy = caller.forwardedBy;
     call.hops = caller.hops;
+    const std::int64_t patience = caller.patience.value_or(LONGEST_RINGING);
+    call.givesUpAt = mSchedule.now() + patience;
     call.stage = LiveCall::Stage::INCOMING;
     if (!forwarding.always.empty())
-        return passOn(call, forwarding.always);
+        return passOn(call, forwarding.always, call.hops + 1);
     if ((line.doNotDisturb || isBusy) && !forwarding.whenBusy.empty())
-        return passOn(call, forwarding.whenBusy);
+        return passOn(call, forwarding.whenBusy, call.hops + 1);
     if (line.doNotDisturb || isBusy)
         return finish(call, CallState::ENDED, {.reason = line.doNotDisturb ? Reason::DO_NOT_DISTURB : Reason::BUSY});
     tell(call, CallState::INCOMING);
     call.target = forwarding.whenNotAnswered;
     if (!call.target.empty())
         later(&LiveCall::mine, call, forwarding.answerTime, &Switchboard::isNotAnswered);
-    later(&LiveCall::theirs, call, caller.patience.value_or(LONGEST_RINGING), &Switchboard::ringsTooLong);
+    later(&LiveCall::theirs, call, patience, &Switchboard::ringsTooLong);
 }
 
-/// A line that forwards to another one of the telephone lets it ring there. Lines that forward in a circle let it ring
-/// nowhere.
-void Switchboard::passOn(LiveCall& call, const std::string& number)
+/// A line that forwards to another one of the telephone lets it ring there, as long as who calls has patience. Lines
+/// that forward in a circle let it ring nowhere.
+void Switchboard::passOn(LiveCall& call, const std::string& number, int hops)
 {
-    const Caller onward{
-        .who = call.event.other, .forwardedBy = findLine(call.event.line)->party, .hops = call.hops + 1};
+    const Party& first = call.event.forwardedBy;
+    const Caller onward{.who = call.event.other,
+                        .forwardedBy = first.number.empty() ? findLine(call.event.line)->party : first,
+                        .patience = call.givesUpAt - mSchedule.now(),
+                        .hops = hops};
     Line* const line = findLine(number);
     const Party to = line != nullptr ? line->party : mDirectory.party(number);
     finish(call, CallState::FORWARDED, {.to = to});
@@ -148,7 +159,7 @@ void Switchboard::passOn(LiveCall& call, const std::string& number)
 
 void Switchboard::isNotAnswered(LiveCall& call)
 {
-    passOn(call, std::string(call.target));
+    passOn(call, std::string(call.target), call.hops + 1);
 }
 
 bool Switchboard::answer(CallId id)
@@ -167,7 +178,7 @@ bool Switchboard::deflect(CallId id, const std::string& number)
     LiveCall* const call = find(id);
     if (call == nullptr || call->stage != LiveCall::Stage::INCOMING || number.empty())
         return false;
-    passOn(*call, number);
+    passOn(*call, number, 0);
     return true;
 }
 

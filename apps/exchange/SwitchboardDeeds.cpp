@@ -57,8 +57,18 @@ void Switchboard::follow(const LineSentence& sentence)
     });
     if (findLine(sentence.line)->isRegistered)
         return;
+    failCallsOn(sentence.line);
+}
+
+/// Nobody who is to fail as well is told that he is alone in a conference.
+void Switchboard::failCallsOn(LineNumber line)
+{
+    const auto isOnLine = [line](const LiveCall* call) { return call != nullptr && call->event.line == line; };
+    for (auto& [id, call] : mCalls)
+        if (LiveCall* const partner = find(call.partner); isOnLine(&call) && isOnLine(partner))
+            call.partner = partner->partner = NO_CALL;
     for (auto next = mCalls.begin(); next != mCalls.end();)
-        if (LiveCall& call = next++->second; call.event.line == sentence.line)
+        if (LiveCall& call = next++->second; isOnLine(&call))
             finish(call, CallState::FAILED, {.reason = Reason::NOT_REGISTERED});
 }
 
@@ -84,11 +94,11 @@ void Switchboard::follow(const Deed& deed)
 
 void Switchboard::callNow(const Deed& deed)
 {
-    Line* const line = findLine(deed.line);
+    Line* const line = deed.line == 0 ? &mLines.front() : findLine(deed.line);
     if (line == nullptr)
         throw Mistake("there is no " + lineName(deed.line));
     if (!line->isRegistered)
-        throw Mistake(lineName(deed.line) + " is not registered");
+        throw Mistake(lineName(line->number) + " is not registered");
     if (findLine(deed.who.number) != nullptr)
         throw Mistake(deed.who.number + " is a line of this telephone");
     Party who = mDirectory.party(deed.who.number);

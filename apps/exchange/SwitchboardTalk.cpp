@@ -237,14 +237,14 @@ void Switchboard::haveBroughtTogether(CallId id, CallId consultedId)
         finish(*call, CallState::ENDED, {.reason = Reason::TRANSFERRED, .to = two});
         finish(*consulted, CallState::ENDED, {.reason = Reason::TRANSFERRED, .to = one});
     } else if (LiveCall* const left = call != nullptr ? call : consulted; left != nullptr) {
-        comeBack(*left, {.reason = Reason::ENDED_BY_OTHER});
+        comeBack(*left, left->left);
     }
 }
 
 void Switchboard::comeBack(LiveCall& call, Circumstances circumstances)
 {
     if (call.rang)
-        waitForOther(call);
+        waitForOther(call, std::move(circumstances));
     else
         beginTalk(call, std::move(circumstances));
 }
@@ -256,6 +256,7 @@ void Switchboard::isTransferredByOther(LiveCall& call)
     if (destination.behaviour == nullptr)
         return comeBack(call, {.reason = destination.reason, .text = destination.text});
     call.event.forwardedBy = call.event.other;
+    call.dialled.clear();
     ring(call, destination);
 }
 

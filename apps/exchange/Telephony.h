@@ -25,15 +25,20 @@ public:
 /// What a telephone asks of the network: a simulated exchange, or a signalling stack in its place.
 ///
 /// Threads: safe from any, the listener's included; nothing waits for the network. What has come of an operation is
-/// told by events, which come after it has returned or, to a listener on its thread, while it runs.
+/// told by events, on the listener's thread. To one that calls the operation itself they come once it has returned from
+/// the event that it is hearing. To any other caller they may come before the operation returns: the listener can hear
+/// DIALLING of a call whose id place() has not returned yet.
 /// An operation on a call that is not in a state for it (it may just have ended) changes nothing and returns false.
 /// Only one call is connected at a time, or one conference: place(), answer() and resume() hold it first.
 class Telephony {
 public:
     virtual ~Telephony() = default;
 
-    /// Who hears the events from now on; null is nobody, and then events are dropped. No event comes to the former
-    /// listener once this has returned, but the one that calls it. Not from a thread that a listener waits for.
+    /// Who hears the events from now on; null is nobody, and then events are dropped. A new listener hears the last
+    /// event of each call that lives first, whoever has heard it before; the lines it asks for. Waits until the former
+    /// one has returned from the event that it is hearing, and for nothing of the new one's; no other event comes to
+    /// the former one any more. From the former one itself it does not wait. Not from a thread that the former one
+    /// waits for.
     virtual void setListener(TelephonyListener* listener) = 0;
 
     /// From 1 on.
@@ -70,7 +75,8 @@ public:
     /// both, and neither is in a conference.
     virtual bool join(CallId call, CallId other) = 0;
 
-    /// False where there is no such line, or `answerTime` is negative. Both hold for the calls to come.
+    /// False where there is no such line, or `answerTime` is negative or longer than a day. They hold for the calls to
+    /// come.
     virtual bool setForwarding(LineNumber line, const Forwarding& forwarding) = 0;
     virtual bool setDoNotDisturb(LineNumber line, bool on) = 0;
     virtual bool setTakesSeveral(LineNumber line, bool on) = 0;

@@ -1,5 +1,6 @@
 #include "apps/exchange/Words.h"
 
+#include "apps/exchange/Line.h"
 #include "apps/exchange/Sentence.h"
 
 #include <algorithm>
@@ -13,7 +14,6 @@ namespace {
 
 constexpr std::size_t LONGEST_SENTENCE = 1000;
 constexpr std::size_t LONGEST_NUMBER = 32;
-constexpr double LONGEST_TIME = 24 * 60 * 60 * 1000;
 
 /// The length of the character at `at`; 0 where there is none.
 std::size_t characterLength(std::string_view text, std::size_t at)
@@ -165,7 +165,7 @@ std::int64_t Words::takeTime()
     if (!unit)
         throw Mistake("expected ms, s or min behind " + word + ", not " + unitHere);
     ++mAt;
-    if (count * *unit > LONGEST_TIME)
+    if (count * *unit > static_cast<double>(LONGEST_TIME))
         throw Mistake("no time may be longer than a day");
     return std::llround(count * *unit);
 }

@@ -92,8 +92,8 @@ TEST_P(EndingTest, LeavesTheLineToOthers)
     fixture.exchange.end(1);
     fixture.exchange.end(2);
     EXPECT_EQ(fixture.exchange.command("4799 calls"), "");
-    const std::vector<std::string> before = fixture.heard();
     fixture.exchange.setListener(&fixture.listener);
+    EXPECT_EQ(fixture.heard().size(), 1u) << "the only one that lives";
     EXPECT_EQ(fixture.exchange.command("4799 ends"), "");
     ASSERT_EQ(fixture.heard().size(), 1u);
 }

@@ -6,6 +6,7 @@
 
 #include <atomic>
 #include <gmock/gmock.h>
+#include <limits>
 #include <memory>
 
 namespace test {
@@ -38,6 +39,8 @@ TEST(ExchangeTest, RefusesWhatThereIsNot)
     EXPECT_EQ(telephone.place(1, ""), exchange::NO_CALL);
     EXPECT_FALSE(telephone.setForwarding(3, {}));
     EXPECT_FALSE(telephone.setForwarding(1, {.answerTime = -1}));
+    EXPECT_FALSE(telephone.setForwarding(1, {.answerTime = exchange::LONGEST_TIME + 1}));
+    EXPECT_FALSE(telephone.setForwarding(1, {.answerTime = std::numeric_limits<std::int64_t>::max()}));
     EXPECT_FALSE(telephone.setDoNotDisturb(3, true));
     EXPECT_FALSE(telephone.setTakesSeveral(3, true));
     for (const CallId none : {exchange::NO_CALL, 1, -1}) {
@@ -162,6 +165,7 @@ INSTANTIATE_TEST_SUITE_P(
         {"4711 transfers to 4712", "4711 has no call that it could transfer"},
         {"4711 plays in a conference with 4712", "4711 has no call that it could play in a conference with"},
         {"4711 holds after 3 s", "it is not said what happens when it is called"},
+        {"4711 ends \"\"", "the reason is empty"},
         {"line 3 is registered", "there is no line 3"},
         {"line 1 is 4799", "who line 1 is can be said in the file of numbers only"},
     }));
@@ -172,6 +176,18 @@ TEST(ExchangeTest, LineThatIsNotRegisteredIsNotCalled)
     EXPECT_EQ(fixture.exchange.command("line 2 is not registered"), "");
     EXPECT_EQ(fixture.exchange.command("4711 calls line 2"), "line 2 is not registered");
     EXPECT_THAT(fixture.heard(), ElementsAre("line 2 not registered"));
+}
+
+TEST(ExchangeTest, WhoDoesNotSayALineCallsTheFirst)
+{
+    StandingClock clock;
+    exchange::Exchange exchange(exchange::Numbers::parse("numbers", "line 3 is 3303\nline 5 is 3305"), clock);
+    NotingListener listener;
+    exchange.setListener(&listener);
+    EXPECT_EQ(exchange.command("4711 calls"), "");
+    exchange.waitUntilHeard();
+    EXPECT_THAT(listener.take(), ElementsAre("0 #1 on 3 incoming 4711"));
+    exchange.setListener(nullptr);
 }
 
 TEST(ExchangeTest, DeedIsForTheLatestCallThatFits)
@@ -275,10 +291,63 @@ TEST(ExchangeTest, WhatHappensWithoutAListenerIsDropped)
     ExchangeFixture fixture;
     fixture.exchange.setListener(nullptr);
     fixture.exchange.command("4711 calls");
+    fixture.exchange.command("4712 calls");
+    fixture.exchange.end(1);
     fixture.exchange.setListener(&fixture.listener);
-    EXPECT_THAT(fixture.heard(), IsEmpty());
-    EXPECT_TRUE(fixture.exchange.answer(1));
-    EXPECT_THAT(fixture.heard(), ElementsAre("0 #1 connected 4711"));
+    EXPECT_THAT(fixture.heard(), ElementsAre("0 #2 incoming 4712")) << "what lives is told anew";
+    EXPECT_TRUE(fixture.exchange.answer(2));
+    EXPECT_THAT(fixture.heard(), ElementsAre("0 #2 connected 4712"));
+}
+
+TEST(ExchangeTest, ListenerThatReplacesAnotherHearsOfLivingCallsAloneAndIsNotWaitedFor)
+{
+    ExchangeFixture fixture;
+    SlowListener former, next;
+    fixture.exchange.setListener(&former);
+    for (const char* const sentence : {"4711 calls", "4711 ends", "4712 calls", "4713 calls"})
+        fixture.exchange.command(sentence);
+    ASSERT_TRUE(former.begun.wait());
+    Worker owner([&] { fixture.exchange.setListener(&next); });
+    EXPECT_TRUE(owner.isBlocked());
+    former.goOn.open();
+    ASSERT_TRUE(next.begun.wait());
+    EXPECT_TRUE(becomesTrue([&] { return owner.hasReturned(); })) << "while the next one hears";
+    next.goOn.open();
+    fixture.exchange.waitUntilHeard();
+    EXPECT_THAT(former.take(), ElementsAre("0 #1 incoming 4711"));
+    EXPECT_THAT(next.take(), ElementsAre("0 #2 incoming 4712", "0 #3 incoming 4713"));
+    fixture.exchange.setListener(nullptr);
+}
+
+/// Sleeps through all that happens until the gate is open.
+class DeafClock final : public exchange::Clock {
+public:
+    std::int64_t now() const override { return 0; }
+    void wake() override {}
+    void sleepUntil(std::int64_t) override
+    {
+        asleep.open();
+        goOn.wait();
+    }
+
+    Gate asleep;
+    Gate goOn;
+};
+
+TEST(ExchangeTest, WhatIsDroppedIsNotWaitedFor)
+{
+    DeafClock clock;
+    exchange::Exchange exchange(exchange::Numbers::parse("numbers", ""), clock);
+    NotingListener listener;
+    ASSERT_TRUE(clock.asleep.wait());
+    exchange.command("4711 calls");
+    exchange.command("4711 ends");
+    Worker waiting([&] { exchange.waitUntilHeard(); });
+    EXPECT_TRUE(waiting.isBlocked());
+    exchange.setListener(&listener);
+    EXPECT_TRUE(becomesTrue([&] { return waiting.hasReturned(); }));
+    clock.goOn.open();
+    exchange.setListener(nullptr);
 }
 
 TEST(ExchangeTest, EndsWithCallsAndPlansLeft)

@@ -91,6 +91,23 @@ TEST(NumbersTest, WithoutLinesThereAreTwo)
                                            exchange::Line{.number = 2, .party = {"102", ""}}));
 }
 
+TEST(NumbersTest, LinesThatNobodyHasNamedLeaveTheirNumbersToOthers)
+{
+    const Numbers numbers = parse("101 \"Bob\" answers\n103 answers");
+    EXPECT_THAT(numbers.errors, IsEmpty());
+    EXPECT_THAT(numbers.lines, ElementsAre(exchange::Line{.number = 1, .party = {"102", ""}},
+                                           exchange::Line{.number = 2, .party = {"104", ""}}));
+}
+
+TEST(NumbersTest, MoreCanBeSaidOfLinesThatNobodyHasNamed)
+{
+    const Numbers numbers = parse("line 2 is not registered\nline 3 has 1 message\n4711 sings");
+    EXPECT_THAT(numbers.lines, ElementsAre(exchange::Line{.number = 1, .party = {"101", ""}},
+                                           exchange::Line{.number = 2, .party = {"102", ""}, .isRegistered = false}));
+    EXPECT_THAT(numbers.errors, ElementsAre("numbers.txt:2: it is not said who line 3 is",
+                                            HasSubstr("numbers.txt:3: expected what the number does")));
+}
+
 TEST(NumbersTest, EmptyLinesAndCommentsAreNothing)
 {
     const Numbers numbers = parse("\xEF\xBB\xBF# 4711 sings\r\n\n \t \n  # \xff\n4711 is busy");
@@ -139,6 +156,7 @@ INSTANTIATE_TEST_SUITE_P(
         {"4711 answers, is busy", "'is busy' comes on top of what happens when it is called"},
         {"4711 holds after 3 s", "it is not said what happens when it is called"},
         {"4711 fails with nothing", "expected the reason in double quotes, not 'nothing'"},
+        {"4711 fails with \"\"", "the reason is empty"},
         {"4711 forwards to Ada", "expected a number of digits, * and #, not 'Ada'"},
         {"4711 answers, calls back", "it is not said after what time it calls back"},
         {"4711 is busy, calls back after 1 s, calls back after 2 s", "it calls back once only"},
@@ -152,7 +170,7 @@ INSTANTIATE_TEST_SUITE_P(
         {"line 2 is 1", "there is a 1 already"},
         {"line 9 is 3309", "expected the number of a line from 1 to 8, not '9'"},
         {"line one is 3301", "expected the number of a line from 1 to 8, not 'one'"},
-        {"line 2 is registered", "it is not said before who line 2 is"},
+        {"line 2 is registered", "it is not said who line 2 is"},
         {"line 1 has 1000 messages", "expected a number of messages from 0 to 999, not '1000'"},
         {"line 1 has 3 letters", "expected 'messages', not 'letters'"},
         {"line 1 is registered today", "expected the end of the line, not 'today'"},
