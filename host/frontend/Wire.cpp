@@ -11,7 +11,8 @@ namespace {
 // Never destroyed: a front end's thread may ask as late as at process exit.
 
 struct Wires {
-    std::mutex mutex;
+    std::mutex telling; ///< held while the front end's listener runs; before the other one
+    std::mutex mutex;   ///< guards what follows
     std::vector<const Wire*> wires;
     std::function<void()> listener;
 };
@@ -25,6 +26,7 @@ Wires& allWires()
 template <typename Change>
 void changeWires(Change change)
 {
+    const std::lock_guard telling(allWires().telling);
     std::function<void()> listener;
     {
         const std::lock_guard lock(allWires().mutex);
@@ -37,15 +39,23 @@ void changeWires(Change change)
 
 } // namespace
 
+struct Wire::Ear {
+    std::mutex mutex; ///< held while one hears
+    Listener listener;
+};
+
 Wire::Wire(std::string name, Listener listener, std::vector<Offer> offers)
-    : mName(std::move(name)), mListener(std::move(listener)), mOffers(std::move(offers))
+    : mName(std::move(name)), mEar(std::make_shared<Ear>()), mOffers(std::move(offers))
 {
+    mEar->listener = std::move(listener);
     changeWires([this](auto& wires) { wires.push_back(this); });
 }
 
 Wire::~Wire()
 {
     changeWires([this](auto& wires) { std::erase(wires, this); });
+    const std::lock_guard lock(mEar->mutex);
+    mEar->listener = nullptr;
 }
 
 /// REQUIRES: the lock is held. Null where there is none.
@@ -59,9 +69,19 @@ const Wire* Wire::find(std::string_view name)
 
 std::string Wire::say(std::string_view name, std::string_view line)
 {
+    if (const std::shared_ptr<Ear> ear = earOf(name); ear != nullptr) {
+        const std::lock_guard lock(ear->mutex);
+        if (ear->listener)
+            return ear->listener(line);
+    }
+    return "the program has no " + std::string(name);
+}
+
+std::shared_ptr<Wire::Ear> Wire::earOf(std::string_view name)
+{
     const std::lock_guard lock(allWires().mutex);
     const Wire* const wire = find(name);
-    return wire != nullptr ? wire->mListener(line) : "the program has no " + std::string(name);
+    return wire != nullptr ? wire->mEar : nullptr;
 }
 
 bool Wire::isThere(std::string_view name)
@@ -79,6 +99,7 @@ std::vector<Wire::Offer> Wire::offers(std::string_view name)
 
 void Wire::setListener(std::function<void()> listener)
 {
+    const std::lock_guard telling(allWires().telling);
     const std::lock_guard lock(allWires().mutex);
     allWires().listener = std::move(listener);
 }

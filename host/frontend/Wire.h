@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,8 +11,9 @@ namespace host {
 /// What a script or a page says to the program in words of the program's own: an exchange hears "4711 calls". Make one
 /// to hear it; of two with the same name the one made last does. Safe from any thread.
 ///
-/// Lock: a mutex guards all wires and is held while one hears, so that none is called once it has gone. A listener must
-/// neither make nor delete a wire, nor wait for a thread that does.
+/// Locks: a mutex guards all wires, a leaf. Each wire has one of its own, held while it hears, so that it is not called
+/// once it has gone; others hear meanwhile. A listener must neither say anything to its own wire nor delete it, nor
+/// wait for a thread that does.
 class Wire {
 public:
     /// Returns the sentence that says why nothing comes of the line; empty when all is well.
@@ -40,14 +42,18 @@ public:
     static bool isThere(std::string_view name);
     static std::vector<Offer> offers(std::string_view name);
 
-    /// Told each time that a wire has come or gone, without the lock; must not block. An empty function removes it.
+    /// Told each time that a wire has come or gone, one time after the other; may look at the wires, and must neither
+    /// block nor make or delete one. An empty function removes it. Waits until the former one has returned.
     static void setListener(std::function<void()> listener);
 
 private:
+    struct Ear;
+
     static const Wire* find(std::string_view name);
+    static std::shared_ptr<Ear> earOf(std::string_view name);
 
     std::string mName;
-    Listener mListener;
+    std::shared_ptr<Ear> mEar; ///< whoever says something holds it as long as that is heard
     std::vector<Offer> mOffers;
 };
 

@@ -74,4 +74,38 @@ TEST(WireTest, EndWaitsUntilTheLineHasBeenHeard)
     EXPECT_TRUE(isHeard);
 }
 
+TEST(WireTest, WireThatHearsHoldsUpNoOther)
+{
+    test::Gate begun, goOn;
+    const Wire slow("weather", [&](std::string_view) {
+        begun.open();
+        goOn.wait();
+        return std::string();
+    });
+    test::Worker asker([] { Wire::say("weather", "it rains"); });
+    ASSERT_TRUE(begun.wait());
+    test::Worker others([] {
+        const Wire wire("exchange", agree);
+        EXPECT_EQ(Wire::say("exchange", "4711 calls"), "");
+        EXPECT_TRUE(Wire::isThere("weather"));
+        EXPECT_THAT(Wire::offers("weather"), IsEmpty());
+    });
+    EXPECT_FALSE(others.isBlocked());
+    goOn.open();
+}
+
+TEST(WireTest, ListenerThatIsTakenOffHasReturned)
+{
+    test::Gate begun, goOn;
+    Wire::setListener([&] {
+        begun.open();
+        goOn.wait();
+    });
+    test::Worker program([] { const Wire wire("exchange", agree); });
+    ASSERT_TRUE(begun.wait());
+    test::Worker frontEnd([] { Wire::setListener({}); });
+    EXPECT_TRUE(frontEnd.isBlocked());
+    goOn.open();
+}
+
 } // namespace
