@@ -14,8 +14,11 @@ bool forwardsAtOnce(const Number* number)
 
 } // namespace
 
-Directory::Directory(std::vector<Number> numbers) : mNumbers(std::move(numbers))
+Directory::Directory(std::vector<Number> numbers, const std::vector<Line>& own) : mNumbers(std::move(numbers))
 {
+    const Behaviour busy{Behaviour::Arrival::IS_BUSY};
+    for (const Line& line : own)
+        mOwn[line.party.number] = {line.party, std::make_shared<const Behaviour>(busy)};
     for (std::size_t at = 0; at < mNumbers.size(); ++at)
         mPlaces[mNumbers[at].party.number] = at;
 }
@@ -51,6 +54,8 @@ Party Directory::party(const std::string& number) const
 
 const Number* Directory::number(const std::string& number) const
 {
+    if (const auto own = mOwn.find(number); own != mOwn.end())
+        return &own->second;
     const auto place = mPlaces.find(number);
     return place != mPlaces.end() ? &mNumbers[place->second] : nullptr;
 }

@@ -11,7 +11,8 @@ namespace exchange {
 /// Who is behind a number.
 class Directory {
 public:
-    explicit Directory(std::vector<Number> numbers);
+    /// A call of the telephone's to one of its own lines finds that busy.
+    Directory(std::vector<Number> numbers, const std::vector<Line>& own);
 
     /// Where a call to a number comes out, after all that forwards at once.
     struct Destination {
@@ -34,9 +35,11 @@ public:
     /// Puts a number in, or what it does from now on; a name that is not said stays.
     void define(Number number);
 
+    /// The others, without the telephone's own lines.
     std::vector<Party> parties() const;
 
 private:
+    std::unordered_map<std::string, Number> mOwn;
     std::vector<Number> mNumbers;
     std::unordered_map<std::string, std::size_t> mPlaces;
 };

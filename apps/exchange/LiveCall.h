@@ -34,10 +34,13 @@ struct LiveCall {
     std::string dialled = {}; ///< who calls back once it has ended; nobody where it has been transferred
     std::string target = {};  ///< where it goes when it is passed on
     int hops = 0;
-    std::int64_t givesUpAt = 0;   ///< INCOMING: when who calls loses patience
-    Circumstances left = {};      ///< TRANSFERRING to another call: why that has ended
-    Schedule::Ticket mine = {};   ///< what the exchange does for me
-    Schedule::Ticket theirs = {}; ///< what the other one does next
+    std::int64_t givesUpAt = 0;                 ///< INCOMING: when who calls loses patience
+    Circumstances left = {};                    ///< TRANSFERRING to another call: why that has ended
+    std::optional<std::int64_t> remaining = {}; ///< TRANSFERRING: what was left of his next step
+    CallId partnerBefore = NO_CALL;             ///< TRANSFERRING: in my conference
+    Party joinedBefore = {};                    ///< TRANSFERRING: in the other one's
+    Schedule::Ticket mine = {};                 ///< what the exchange does for me
+    Schedule::Ticket theirs = {};               ///< what the other one does next
 };
 
 /// Who calls here.

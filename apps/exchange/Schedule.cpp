@@ -16,6 +16,11 @@ void Schedule::cancel(Ticket& ticket)
     mWork.erase(std::exchange(ticket, Ticket()));
 }
 
+std::optional<std::int64_t> Schedule::left(const Ticket& ticket) const
+{
+    return mWork.contains(ticket) ? std::optional(ticket.first - mNow) : std::nullopt;
+}
+
 void Schedule::runUntil(std::int64_t moment)
 {
     while (nextDue() <= moment) {

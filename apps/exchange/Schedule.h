@@ -4,6 +4,7 @@
 #include <functional>
 #include <limits>
 #include <map>
+#include <optional>
 #include <utility>
 
 namespace exchange {
@@ -26,6 +27,9 @@ public:
 
     /// Leaves it out and empties the ticket. What has been done already does not matter.
     void cancel(Ticket& ticket);
+
+    /// Milliseconds until it is done; nothing where it has been, or was never planned.
+    std::optional<std::int64_t> left(const Ticket& ticket) const;
 
     /// Does what is due until then, each at its own moment, what it plans itself included.
     void runUntil(std::int64_t moment);

@@ -1,12 +1,13 @@
 #include "apps/exchange/Switchboard.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace exchange {
 
 Switchboard::Switchboard(Numbers numbers, Schedule& schedule, std::deque<Happening>& happenings)
     : mSchedule(schedule), mHappenings(happenings), mLines(std::move(numbers.lines)),
-      mDirectory(std::move(numbers.others))
+      mDirectory(std::move(numbers.others), mLines)
 {
 }
 
@@ -48,6 +49,11 @@ void Switchboard::later(Schedule::Ticket LiveCall::*ticket, LiveCall& call, std:
     mSchedule.cancel(call.*ticket);
     const CallId id = call.event.call;
     call.*ticket = mSchedule.in(milliseconds, [this, id, step] { (this->*step)(mCalls.at(id)); });
+}
+
+void Switchboard::goOn(LiveCall& call, std::int64_t milliseconds, Step step)
+{
+    later(&LiveCall::theirs, call, std::exchange(call.remaining, {}).value_or(milliseconds), step);
 }
 
 void Switchboard::tell(LiveCall& call, CallState state, Circumstances circumstances)

@@ -55,6 +55,7 @@ private:
     Line* findLine(const std::string& number);
     LiveCall& make(LineNumber line, Direction direction, Party other);
     void later(Schedule::Ticket LiveCall::*ticket, LiveCall& call, std::int64_t milliseconds, Step step);
+    void goOn(LiveCall& call, std::int64_t milliseconds, Step step); ///< what he does next; less if he was at it before
     void tell(LiveCall& call, CallState state, Circumstances circumstances = {});
     void finish(LiveCall& call, CallState state, Circumstances circumstances);
     void finishUnanswered(LiveCall& call, const Directory::Destination& destination);
@@ -73,6 +74,7 @@ private:
     void planCallBack(const LiveCall& gone);
 
     // On the way to here.
+    static Reason refusalOf(const Line& line, int calls); ///< NONE where it rings; whatever it forwards
     void arrive(Line& line, const Caller& caller);
     void passOn(LiveCall& call, const std::string& number, int hops);
     void isNotAnswered(LiveCall& call);
@@ -95,6 +97,7 @@ private:
     void beginTransfer(LiveCall& call, Circumstances circumstances);
     void isTransferred(LiveCall& call);
     void haveBroughtTogether(CallId call, CallId consulted);
+    LiveCall* rejoin(LiveCall& call);
     void comeBack(LiveCall& call, Circumstances circumstances);
     void isTransferredByOther(LiveCall& call);
 

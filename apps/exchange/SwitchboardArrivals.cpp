@@ -47,8 +47,6 @@ void Switchboard::proceed(LiveCall& call)
 
 void Switchboard::reach(LiveCall& call)
 {
-    if (findLine(call.dialled) != nullptr)
-        return finish(call, CallState::ENDED, {.reason = Reason::BUSY});
     ring(call, mDirectory.find(call.dialled, call.hops));
 }
 
@@ -70,10 +68,10 @@ void Switchboard::waitForOther(LiveCall& call, Circumstances circumstances)
     call.stage = LiveCall::Stage::RINGING;
     tell(call, CallState::RINGING_BACK, std::move(circumstances));
     switch (behaviour.arrival) {
-    case Arrival::ANSWERS: return later(&LiveCall::theirs, call, behaviour.after, &Switchboard::otherAnswers);
-    case Arrival::REJECTS: return later(&LiveCall::theirs, call, behaviour.after, &Switchboard::otherRejects);
-    case Arrival::FORWARDS: return later(&LiveCall::theirs, call, behaviour.after, &Switchboard::otherForwards);
-    default: return later(&LiveCall::theirs, call, LONGEST_RINGING, &Switchboard::ringsTooLong);
+    case Arrival::ANSWERS: return goOn(call, behaviour.after, &Switchboard::otherAnswers);
+    case Arrival::REJECTS: return goOn(call, behaviour.after, &Switchboard::otherRejects);
+    case Arrival::FORWARDS: return goOn(call, behaviour.after, &Switchboard::otherForwards);
+    default: return goOn(call, LONGEST_RINGING, &Switchboard::ringsTooLong);
     }
 }
 
@@ -116,10 +114,20 @@ void Switchboard::planCallBack(const LiveCall& gone)
     });
 }
 
+Reason Switchboard::refusalOf(const Line& line, int calls)
+{
+    if (!line.isRegistered)
+        return Reason::NOT_REGISTERED;
+    if (line.doNotDisturb)
+        return Reason::DO_NOT_DISTURB;
+    return calls >= (line.takesSeveral ? MOST_CALLS : 1) ? Reason::BUSY : Reason::NONE;
+}
+
+/// REQUIRES: the line is registered.
 void Switchboard::arrive(Line& line, const Caller& caller)
 {
     const Forwarding& forwarding = line.forwarding;
-    const bool isBusy = callsOn(line.number) >= (line.takesSeveral ? MOST_CALLS : 1);
+    const Reason refusal = refusalOf(line, callsOn(line.number));
     LiveCall& call = make(line.number, Direction::INCOMING, caller.who);
     const Number* const known = mDirectory.number(caller.who.number);
     call.behaviour = known != nullptr ? known->behaviour : std::make_shared<const Behaviour>();
@@ -130,10 +138,10 @@ void Switchboard::arrive(Line& line, const Caller& caller)
     call.stage = LiveCall::Stage::INCOMING;
     if (!forwarding.always.empty())
         return passOn(call, forwarding.always, call.hops + 1);
-    if ((line.doNotDisturb || isBusy) && !forwarding.whenBusy.empty())
+    if (refusal != Reason::NONE && !forwarding.whenBusy.empty())
         return passOn(call, forwarding.whenBusy, call.hops + 1);
-    if (line.doNotDisturb || isBusy)
-        return finish(call, CallState::ENDED, {.reason = line.doNotDisturb ? Reason::DO_NOT_DISTURB : Reason::BUSY});
+    if (refusal != Reason::NONE)
+        return finish(call, CallState::ENDED, {.reason = refusal});
     tell(call, CallState::INCOMING);
     call.target = forwarding.whenNotAnswered;
     if (!call.target.empty())
@@ -151,8 +159,7 @@ void Switchboard::passOn(LiveCall& call, const std::string& number, int hops)
                         .patience = call.givesUpAt - mSchedule.now(),
                         .hops = hops};
     Line* const line = findLine(number);
-    const Party to = line != nullptr ? line->party : mDirectory.party(number);
-    finish(call, CallState::FORWARDED, {.to = to});
+    finish(call, CallState::FORWARDED, {.to = mDirectory.party(number)});
     if (line != nullptr && line->isRegistered && onward.hops < static_cast<int>(mLines.size()))
         arrive(*line, onward);
 }

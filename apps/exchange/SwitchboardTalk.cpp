@@ -11,6 +11,11 @@ namespace {
 constexpr std::int64_t UNTIL_RESUMED = 200;
 constexpr std::int64_t UNTIL_TRANSFERRED = 500;
 
+bool forwardsWhenBusy(const Line& line)
+{
+    return !line.forwarding.always.empty() || !line.forwarding.whenBusy.empty();
+}
+
 } // namespace
 
 /// One that resumes is as good as active: it is going to be.
@@ -37,9 +42,13 @@ bool Switchboard::isInConference(const LiveCall& call)
 /// One who answers while the telephone speaks with another one is held.
 void Switchboard::beginTalk(LiveCall& call, Circumstances circumstances)
 {
-    const auto isOtherActive = [&](const auto& entry) { return &entry.second != &call && isActive(entry.second); };
+    const auto isOtherActive = [&](const auto& entry) {
+        return &entry.second != &call && entry.first != call.partner && isActive(entry.second);
+    };
     call.isHeldByMe = call.isHeldByMe || std::any_of(mCalls.begin(), mCalls.end(), isOtherActive);
     call.stage = LiveCall::Stage::TALK;
+    circumstances.to = call.joined;
+    circumstances.with = call.partner;
     tell(call, talkState(call), std::move(circumstances));
     planTalkStep(call);
 }
@@ -55,7 +64,7 @@ void Switchboard::planTalkStep(LiveCall& call)
 {
     mSchedule.cancel(call.theirs);
     if (call.talkStep < call.behaviour->talk.size())
-        later(&LiveCall::theirs, call, call.behaviour->talk[call.talkStep].after, &Switchboard::takeTalkStep);
+        goOn(call, call.behaviour->talk[call.talkStep].after, &Switchboard::takeTalkStep);
 }
 
 void Switchboard::takeTalkStep(LiveCall& call)
@@ -174,6 +183,9 @@ void Switchboard::leaveConference(LiveCall& call)
 
 void Switchboard::beginTransfer(LiveCall& call, Circumstances circumstances)
 {
+    call.remaining = mSchedule.left(call.theirs);
+    call.partnerBefore = call.partner;
+    call.joinedBefore = call.joined;
     mSchedule.cancel(call.mine);
     mSchedule.cancel(call.theirs);
     call.isResuming = false;
@@ -189,8 +201,7 @@ bool Switchboard::transferTo(CallId id, const std::string& number)
     if (call == nullptr || isInConference(*call) || number.empty())
         return false;
     call->target = number;
-    const Line* const line = findLine(number);
-    beginTransfer(*call, {.to = line != nullptr ? line->party : mDirectory.party(number)});
+    beginTransfer(*call, {.to = mDirectory.party(number)});
     later(&LiveCall::mine, *call, UNTIL_TRANSFERRED, &Switchboard::isTransferred);
     return true;
 }
@@ -198,7 +209,10 @@ bool Switchboard::transferTo(CallId id, const std::string& number)
 void Switchboard::isTransferred(LiveCall& call)
 {
     const Caller onward{.who = call.event.other, .forwardedBy = findLine(call.event.line)->party};
-    if (Line* const line = findLine(call.target); line != nullptr && line->isRegistered) {
+    if (Line* const line = findLine(call.target); line != nullptr) {
+        if (const Reason refusal = refusalOf(*line, callsOn(line->number) - (call.event.line == line->number ? 1 : 0));
+            refusal == Reason::NOT_REGISTERED || (refusal != Reason::NONE && !forwardsWhenBusy(*line)))
+            return comeBack(call, {.reason = refusal});
         finish(call, CallState::ENDED, {.reason = Reason::TRANSFERRED, .to = line->party});
         return arrive(*line, onward);
     }
@@ -241,20 +255,36 @@ void Switchboard::haveBroughtTogether(CallId id, CallId consultedId)
     }
 }
 
+/// The conference in which it was, where the partner is free for it. Returns him, or null.
+LiveCall* Switchboard::rejoin(LiveCall& call)
+{
+    call.joined = call.joinedBefore;
+    LiveCall* const partner = findTalking(call.partnerBefore);
+    if (partner == nullptr || isInConference(*partner))
+        return nullptr;
+    call.partner = partner->event.call;
+    partner->partner = call.event.call;
+    call.isHeldByMe = partner->isHeldByMe;
+    return partner;
+}
+
 void Switchboard::comeBack(LiveCall& call, Circumstances circumstances)
 {
     if (call.rang)
-        waitForOther(call, std::move(circumstances));
-    else
-        beginTalk(call, std::move(circumstances));
+        return waitForOther(call, std::move(circumstances));
+    LiveCall* const partner = rejoin(call);
+    beginTalk(call, std::move(circumstances));
+    if (partner != nullptr)
+        tellTalk(*partner);
 }
 
 void Switchboard::isTransferredByOther(LiveCall& call)
 {
-    int hops = 0;
-    Directory::Destination destination = mDirectory.find(call.target, hops);
+    call.hops = 0;
+    Directory::Destination destination = mDirectory.find(call.target, call.hops);
     if (destination.behaviour == nullptr)
         return comeBack(call, {.reason = destination.reason, .text = destination.text});
+    call.remaining = {};
     call.event.forwardedBy = call.event.other;
     call.dialled.clear();
     ring(call, destination);
