@@ -1,0 +1,123 @@
+#include "unit/apps/deskphone/CallsFixture.h"
+
+#include <chrono>
+#include <thread>
+#include <vector>
+
+using deskphone::PhoneCall;
+using exchange::CallState;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+class CallsTest : public testing::Test {
+protected:
+    exchange::CallId place(const std::string& number, const std::string& name)
+    {
+        const exchange::CallId call = phone.calls.place(1, {number, name});
+        phone.pass(1000);
+        return call;
+    }
+
+    test::CallsFixture phone;
+};
+
+TEST_F(CallsTest, PlacedCallHasTheNameAndTheSpacesThatTheUserChose)
+{
+    const PhoneCall* const call = phone.calls.find(place("47 10", "Lovelace"));
+    ASSERT_NE(call, nullptr);
+    EXPECT_EQ(call->party(), "Lovelace");
+    EXPECT_EQ(call->number(), "47 10");
+    EXPECT_EQ(call->last.other.number, "4710");
+}
+
+TEST_F(CallsTest, PlacedCallWithoutANameHasTheNetworks)
+{
+    EXPECT_EQ(phone.calls.find(place("4710", ""))->party(), "Ada");
+}
+
+TEST_F(CallsTest, PlacingNobodyIsNoCall)
+{
+    EXPECT_EQ(place("", ""), exchange::NO_CALL);
+    EXPECT_THAT(phone.calls.all(), IsEmpty());
+}
+
+TEST_F(CallsTest, TalkBeginsWithTheAnswerAndGoesOnWhileOneIsHeld)
+{
+    const exchange::CallId id = place("4710", "");
+    EXPECT_EQ(phone.calls.find(id)->spokenUntil(5000), 0);
+    phone.say("4710 answers");
+    phone.pass(1000);
+    phone.say("4710 holds");
+    phone.pass(1000);
+    EXPECT_EQ(phone.calls.find(id)->state(), CallState::HELD_BY_OTHER);
+    EXPECT_EQ(phone.calls.find(id)->spokenUntil(phone.clock.now()), 2000);
+}
+
+TEST_F(CallsTest, CallThatRingsIsNotTheUsersYet)
+{
+    phone.say("4710 calls");
+    phone.settle();
+    EXPECT_EQ(phone.calls.all().size(), 1U);
+    EXPECT_FALSE(phone.calls.isInCall());
+    ASSERT_TRUE(phone.exchange.answer(phone.calls.all().front()->id()));
+    phone.settle();
+    EXPECT_EQ(phone.calls.current(), phone.calls.all().front());
+}
+
+TEST_F(CallsTest, EndOfACallIsToldWhenItIsInNoListAnyMore)
+{
+    std::vector<std::size_t> left;
+    phone.calls.addCallListener([&](const PhoneCall& call) {
+        if (isFinal(call.state()))
+            left.push_back(phone.calls.all().size());
+    });
+    phone.say("4710 calls");
+    phone.say("4711 calls");
+    phone.say("4710 ends");
+    phone.say("4711 ends");
+    phone.settle();
+    EXPECT_THAT(left, ElementsAre(1, 0));
+}
+
+TEST_F(CallsTest, ListenerThatIsSlowMissesNothingOfAFastNetwork)
+{
+    constexpr int ROUNDS = 50;
+    std::vector<CallState> told;
+    phone.calls.addCallListener([&](const PhoneCall& call) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        told.push_back(call.state());
+    });
+    for (int i = 0; i < ROUNDS; ++i) {
+        phone.say("4710 calls");
+        phone.say("4710 ends");
+    }
+    phone.settle();
+    std::vector<CallState> expected;
+    for (int i = 0; i < ROUNDS; ++i)
+        expected.insert(expected.end(), {CallState::INCOMING, CallState::ENDED});
+    EXPECT_EQ(told, expected);
+}
+
+TEST_F(CallsTest, LinesAreToldAsTheyChange)
+{
+    std::vector<int> messages;
+    phone.calls.addLineListener([&](const exchange::Line& line) { messages.push_back(line.messages); });
+    phone.say("line 2 has 3 messages");
+    phone.say("line 2 has no messages");
+    phone.settle();
+    EXPECT_THAT(messages, ElementsAre(3, 0));
+}
+
+TEST_F(CallsTest, NothingIsHeardAnyMoreWhenItHasStopped)
+{
+    int heard = 0;
+    phone.calls.addCallListener([&](const PhoneCall&) { ++heard; });
+    phone.calls.stopListening();
+    phone.say("4710 calls");
+    phone.settle();
+    EXPECT_EQ(heard, 0);
+}
+
+} // namespace
