@@ -10,9 +10,16 @@ using exchange::Telephony;
 
 namespace {
 
+/// Of mine, or one that the other one has made.
 bool isInConference(const PhoneCall& call)
 {
-    return call.last.with != exchange::NO_CALL;
+    return call.last.with != exchange::NO_CALL || !call.last.to.number.empty();
+}
+
+bool isUnanswered(const PhoneCall& call)
+{
+    using enum CallState;
+    return call.state() == DIALLING || call.state() == PROCEEDING || call.state() == RINGING_BACK;
 }
 
 /// Whether something can be done with what is said in it.
@@ -35,7 +42,7 @@ void CallActions::doObvious(const PhoneCall& call)
         telephony.resume(call.id());
     else if (isTalk(call))
         telephony.hold(call.id());
-    else
+    else if (isUnanswered(call))
         telephony.end(call.id());
 }
 

@@ -17,7 +17,8 @@ class CallActions {
 public:
     CallActions(Calls& calls, NumberQuestion& target) : mCalls(calls), mTarget(target) {}
 
-    /// What OK does: resume, hold, or hang up one that nobody has answered yet.
+    /// What OK does: resume, hold, or hang up one that nobody has answered yet. Nothing while one of these, or a
+    /// transfer, is under way.
     void doObvious(const PhoneCall& call);
 
     /// Everything. What has become impossible when it is chosen does nothing.

@@ -32,21 +32,32 @@ CallRecorder::CallRecorder(Telephone& telephone, Calls& calls, CallHistory& hist
 
 void CallRecorder::note(const PhoneCall& call)
 {
-    if (!isFinal(call.state()))
-        return;
-    keep(call);
-    if (const std::string message = epilogue(call); !message.empty())
+    if (isFinal(call.state()))
+        keep(call);
+    const std::string message = isFinal(call.state()) ? epilogue(call) : failure(call);
+    if (!message.empty())
         mTelephone.tell(message);
 }
 
-/// Who has rejected a call has seen it.
+/// Who has rejected a call has seen it. What was dialled is dialled again, whoever has answered.
 void CallRecorder::keep(const PhoneCall& call)
 {
-    PastCall past{kindOf(call), call.moment, call.party(), call.number()};
+    const bool isOutgoing = call.last.direction == Direction::OUTGOING;
+    PastCall past{kindOf(call), call.moment, isOutgoing ? nameOf(call.dialled) : call.party(),
+                  isOutgoing ? call.dialled.number : call.last.other.number};
     past.seconds = static_cast<int>(call.spokenUntil(call.last.at) / 1000);
     past.other = nameOf(call.state() == CallState::FORWARDED ? call.last.to : call.last.forwardedBy);
     past.isSeen = call.last.reason == Reason::REJECTED;
     mHistory.add(past);
+}
+
+/// Why what the user wanted of a call has come to nothing, such as a transfer.
+std::string CallRecorder::failure(const PhoneCall& call)
+{
+    if (!call.last.text.empty())
+        return call.last.text;
+    const std::string key = keyOf(call.last.reason);
+    return key.empty() ? std::string() : words(key, {});
 }
 
 std::string CallRecorder::epilogue(const PhoneCall& call)

@@ -17,6 +17,7 @@ public:
 private:
     void note(const PhoneCall& call);
     void keep(const PhoneCall& call);
+    std::string failure(const PhoneCall& call);
     std::string epilogue(const PhoneCall& call);
     std::string words(const std::string& key, const std::string& argument);
 

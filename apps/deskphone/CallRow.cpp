@@ -37,19 +37,27 @@ CallConnectedItem::CallStateIcon iconOf(const PhoneCall& call)
     return CallConnectedItem::IDLE;
 }
 
+/// With whom one speaks, and who else has been taken in.
+std::string partiesOf(const PhoneCall& call)
+{
+    const bool isJoined = isTalk(call.state()) && !call.last.to.number.empty();
+    return isJoined ? call.party() + ", " + nameOf(call.last.to) : call.party();
+}
+
 } // namespace
 
 CallRow::CallRow(const PhoneCall& call, Words words)
     : mCall(call.id()), mWords(std::move(words)),
-      mItem(new CallConnectedItem(iconOf(call), call.party(), nullptr, TIMED, HAS_MENU)), mParty(call.party())
+      mItem(new CallConnectedItem(iconOf(call), partiesOf(call), nullptr, TIMED, HAS_MENU)), mParty(partiesOf(call))
 {
     update(call);
 }
 
 void CallRow::update(const PhoneCall& call)
 {
-    if (std::exchange(mParty, call.party()) != call.party())
-        mItem->setText(call.party());
+    const std::string parties = partiesOf(call);
+    if (std::exchange(mParty, parties) != parties)
+        mItem->setText(parties);
     if (std::exchange(mForwardedBy, call.last.forwardedBy) != call.last.forwardedBy)
         mItem->setThirdLineIconText(DisplayAPI::FORWARDED_BY_SERVER, nameOf(call.last.forwardedBy));
     if (std::exchange(mState, call.state()) != call.state())

@@ -42,11 +42,6 @@ std::string PhoneCall::party() const
     return isDialled ? dialled.number : last.other.number;
 }
 
-std::string PhoneCall::number() const
-{
-    return dialled.number.empty() ? last.other.number : dialled.number;
-}
-
 Calls::Calls(exchange::Telephony& telephony) : mTelephony(telephony), mWake([this](DisplayAPI::Command*) { catchUp(); })
 {
     mTelephony.setListener(this);
@@ -147,6 +142,8 @@ void Calls::accept(const CallEvent& event)
         call.moment = host::WallClock::now();
         if (const auto dialled = mDialled.extract(event.call))
             call.dialled = dialled.mapped();
+        if (call.dialled.name.empty() && event.direction == exchange::Direction::OUTGOING)
+            call.dialled.name = event.other.name;
     }
     call.last = event;
     if (!call.talkSince && isTalk(event.state))

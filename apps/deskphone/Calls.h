@@ -21,16 +21,13 @@ struct PhoneCall {
     exchange::CallEvent last = {};              ///< what was told of it last
     std::time_t moment = 0;                     ///< of its begin
     std::optional<std::int64_t> talkSince = {}; ///< on the telephony's clock; nothing while nobody has answered
-    exchange::Party dialled = {};               ///< as the user has chosen it; OUTGOING
+    exchange::Party dialled = {};               ///< OUTGOING: as the user has chosen it, and the network knows it
 
     exchange::CallId id() const { return last.call; }
     exchange::CallState state() const { return last.state; }
 
     /// The name by which the user has called it, the one that the network knows, or the number.
     std::string party() const;
-
-    /// As the user has chosen it, with its spaces, else as the network tells it.
-    std::string number() const;
 
     /// How long the two have spoken until then; 0 where they have not.
     std::int64_t spokenUntil(std::int64_t then) const { return talkSince ? then - *talkSince : 0; }

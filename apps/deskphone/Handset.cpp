@@ -10,12 +10,14 @@ using host::Keyboard;
 
 namespace {
 
+/// The latest, whose popup is on top.
 const PhoneCall* ringing(const Calls& calls)
 {
+    const PhoneCall* latest = nullptr;
     for (const PhoneCall* const call : calls.all())
         if (call->state() == exchange::CallState::INCOMING)
-            return call;
-    return nullptr;
+            latest = call;
+    return latest;
 }
 
 } // namespace
@@ -39,16 +41,22 @@ void Handset::stopListening()
 void Handset::moved()
 {
     exchange::Telephony& telephony = mCalls.telephony();
-    if (const PhoneCall* const call = ringing(mCalls); call != nullptr) {
+    const PhoneCall* const current = mCalls.current();
+    if (current != nullptr && !isHeldByMe(*current))
+        putDown(*current);
+    else if (const PhoneCall* const call = ringing(mCalls); call != nullptr)
         telephony.answer(call->id());
-    } else if (const PhoneCall* const current = mCalls.current(); current != nullptr) {
-        if (isHeldByMe(*current)) {
-            telephony.resume(current->id());
-        } else {
-            telephony.end(current->id());
-            telephony.end(current->last.with);
-        }
-    }
+    else if (current != nullptr)
+        telephony.resume(current->id());
+}
+
+/// Those who are brought together speak on with each other.
+void Handset::putDown(const PhoneCall& current)
+{
+    if (current.state() == exchange::CallState::TRANSFERRING)
+        return;
+    mCalls.telephony().end(current.id());
+    mCalls.telephony().end(current.last.with);
 }
 
 } // namespace deskphone

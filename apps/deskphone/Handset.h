@@ -5,9 +5,11 @@
 namespace deskphone {
 
 class Calls;
+struct PhoneCall;
 
-/// The handset: lifting it answers the call that rings, else resumes the one that waits; putting it down ends the one
-/// that the user speaks on, or all of a conference. Make and delete it on the GUI thread.
+/// The handset: putting it down ends the call that the user speaks on or dials, or all of a conference; lifting it
+/// answers the call that rings, of several the latest, else resumes the one that waits. Make and delete it on the GUI
+/// thread.
 class Handset {
 public:
     explicit Handset(Calls& calls);
@@ -20,6 +22,7 @@ public:
 
 private:
     void moved();
+    void putDown(const PhoneCall& current);
 
     Calls& mCalls;
     Ear mMoved;

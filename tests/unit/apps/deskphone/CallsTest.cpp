@@ -28,13 +28,21 @@ TEST_F(CallsTest, PlacedCallHasTheNameAndTheSpacesThatTheUserChose)
     const PhoneCall* const call = phone.calls.find(place("47 10", "Lovelace"));
     ASSERT_NE(call, nullptr);
     EXPECT_EQ(call->party(), "Lovelace");
-    EXPECT_EQ(call->number(), "47 10");
+    EXPECT_EQ(call->dialled.number, "47 10");
     EXPECT_EQ(call->last.other.number, "4710");
 }
 
 TEST_F(CallsTest, PlacedCallWithoutANameHasTheNetworks)
 {
     EXPECT_EQ(phone.calls.find(place("4710", ""))->party(), "Ada");
+}
+
+TEST_F(CallsTest, PlacedCallThatIsForwardedKeepsWhomTheUserDialled)
+{
+    phone.say("4710 forwards to 4711");
+    const PhoneCall* const call = phone.calls.find(place("4710", ""));
+    EXPECT_EQ(call->party(), "Bert");
+    EXPECT_EQ(call->dialled, (exchange::Party{"4710", "Ada"}));
 }
 
 TEST_F(CallsTest, PlacingNobodyIsNoCall)
