@@ -22,6 +22,12 @@ PastCall::Kind kindOf(const PhoneCall& call)
     return call.state() == CallState::FORWARDED ? PastCall::Kind::FORWARDED : PastCall::Kind::MISSED;
 }
 
+/// By the user, or because he does not want to be disturbed.
+bool wasRefused(const PhoneCall& call)
+{
+    return call.last.reason == Reason::REJECTED || call.last.reason == Reason::DO_NOT_DISTURB;
+}
+
 } // namespace
 
 CallRecorder::CallRecorder(Telephone& telephone, Calls& calls, CallHistory& history)
@@ -67,7 +73,7 @@ std::string CallRecorder::epilogue(const PhoneCall& call)
                      nameOf(call.last.to));
     const bool isIncoming = call.last.direction == Direction::INCOMING;
     if (isIncoming && !call.talkSince)
-        return call.last.reason == Reason::REJECTED ? std::string() : words("Details.missed", {});
+        return wasRefused(call) ? std::string() : words("Details.missed", {});
     if (!call.last.text.empty())
         return call.last.text;
     const std::string key = keyOf(call.last.reason);

@@ -19,7 +19,13 @@ namespace kit = DisplayAPI::kit;
 
 namespace {
 
-constexpr exchange::LineNumber USUAL_LINE = 1;
+/// The first one that can be called from.
+exchange::LineNumber usualLine(const exchange::Telephony& telephony)
+{
+    const std::vector<exchange::Line> lines = telephony.lines();
+    const auto registered = std::ranges::find_if(lines, &exchange::Line::isRegistered);
+    return registered != lines.end() ? registered->number : lines.front().number;
+}
 
 } // namespace
 
@@ -41,7 +47,7 @@ CallScreen::CallScreen(Telephone& telephone, Calls& calls, NumberQuestion& targe
 void CallScreen::begin(Place& from, const std::string& party, const std::string& number)
 {
     const std::string name = party == number ? std::string() : party;
-    if (mCalls.place(USUAL_LINE, {number, name}) != exchange::NO_CALL && &from != this)
+    if (mCalls.place(usualLine(mCalls.telephony()), {number, name}) != exchange::NO_CALL && &from != this)
         setParent(&from);
 }
 
