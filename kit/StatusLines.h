@@ -46,17 +46,18 @@ public:
         mDisplay.setSystemWindowText(line, text);
     }
 
-    /// How many lines there are; 0 takes them off the screen. They may come back to another one, which has no texts
-    /// yet.
+    /// How many lines there are; 0 takes them off the screen. A screen takes another number only with a text that is
+    /// sent, and they may come back to one that has no texts yet.
     void setSize(int lines)
     {
-        std::unique_lock lock(mMutex);
-        const bool comeBack = std::exchange(mLines.size, lines) == 0;
-        lock.unlock();
-        if (comeBack)
-            sendAgain();
+        {
+            const std::lock_guard lock(mMutex);
+            mLines.size = lines;
+        }
+        if (lines == 0)
+            mDisplay.setSystemWindowSize(0);
         else
-            mDisplay.setSystemWindowSize(lines);
+            sendAgain();
     }
 
 private:

@@ -42,6 +42,8 @@ void StatusLines::open()
     mTelephone.display().setTimeInSystemWindow(now.tm_hour, now.tm_min, now.tm_sec);
     mTelephone.display().showTimeInSystemWindow(!isSmallPanel());
     showOwnName();
+    if (!isSmallPanel())
+        setCount(1);
 }
 
 void StatusLines::setVisible(bool visible)
@@ -80,16 +82,14 @@ void StatusLines::callEnds()
 
 void StatusLines::showOwnName()
 {
-    if (isSmallPanel())
-        return;
-    mLines.setText(OWN_NAME, mOwnName.get());
-    setCount(1);
+    if (!isSmallPanel())
+        mLines.setText(OWN_NAME, mOwnName.get());
 }
 
 void StatusLines::setCount(int count)
 {
     mCount = count;
-    mLines.setSize(mIsVisible ? count : 0);
+    mLines.setSize(mIsVisible || isSmallPanel() ? count : 0);
 }
 
 } // namespace deskphone
