@@ -1,7 +1,5 @@
 #include "apps/deskphone/CallActions.h"
 
-#include "apps/deskphone/PhoneBook.h"
-
 namespace deskphone {
 
 using exchange::CallId;
@@ -62,10 +60,7 @@ void CallActions::add(Actions& actions, const std::string& text, Operation opera
 
 void CallActions::addTransfer(Actions& actions, const PhoneCall& call)
 {
-    const auto transfer = [this, id = call.id()](const std::string& number) {
-        mCalls.telephony().transferTo(id, digitsOf(number));
-    };
-    actions.push_back({"Call.transfer", [this, transfer] { mTarget.ask(transfer); }});
+    actions.push_back({"Call.transfer", [this, id = call.id()] { mTransfers.ask(id); }});
 }
 
 void CallActions::addTalk(Actions& actions, const PhoneCall& call)

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "apps/deskphone/Calls.h"
-#include "apps/deskphone/NumberQuestion.h"
 #include "apps/deskphone/RowMenu.h"
+#include "apps/deskphone/TransferQuestions.h"
 
 #include <string>
 #include <vector>
@@ -15,7 +15,7 @@ bool isHeldByMe(const PhoneCall& call);
 /// What the user can do with a call, by its state. On the threads that answer the user.
 class CallActions {
 public:
-    CallActions(Calls& calls, NumberQuestion& target) : mCalls(calls), mTarget(target) {}
+    CallActions(Calls& calls, TransferQuestions& transfers) : mCalls(calls), mTransfers(transfers) {}
 
     /// What OK does: resume, hold, or hang up one that nobody has answered yet. Nothing while one of these, or a
     /// transfer, is under way.
@@ -34,7 +34,7 @@ private:
     void addOthers(Actions& actions, const PhoneCall& call);
 
     Calls& mCalls;
-    NumberQuestion& mTarget; ///< asks to whom a call goes on
+    TransferQuestions& mTransfers;
 };
 
 } // namespace deskphone

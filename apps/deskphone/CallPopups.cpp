@@ -2,7 +2,6 @@
 
 #include "DisplayAPI/ContextMenu.h"
 #include "DisplayAPI/Display.h"
-#include "apps/deskphone/PhoneBook.h"
 #include "apps/deskphone/Telephone.h"
 #include "kit/OnGuiThread.h"
 #include "utilities/CallPartyIdentifier.h"
@@ -41,8 +40,9 @@ CallPopups::Ringing::Ringing(Telephone& telephone, const PhoneCall& ringing)
     popup.setCommands({&answer, &reject, &deflect});
 }
 
-CallPopups::CallPopups(Telephone& telephone, Calls& calls, NumberQuestion& target)
-    : mTelephone(telephone), mCalls(calls), mTarget(target), mChoice([this](Command* command) { chosen(command); })
+CallPopups::CallPopups(Telephone& telephone, Calls& calls, TransferQuestions& transfers)
+    : mTelephone(telephone), mCalls(calls), mTransfers(transfers),
+      mChoice([this](Command* command) { chosen(command); })
 {
     calls.addListener([this] { refresh(); });
 }
@@ -84,13 +84,8 @@ void CallPopups::chosen(const Command* command)
         if (command == &ringing.reject)
             mCalls.telephony().end(ringing.call);
         if (command == &ringing.deflect)
-            deflect(ringing.call);
+            mTransfers.ask(ringing.call);
     }
-}
-
-void CallPopups::deflect(exchange::CallId call)
-{
-    mTarget.ask([this, call](const std::string& number) { mCalls.telephony().deflect(call, digitsOf(number)); });
 }
 
 } // namespace deskphone

@@ -4,7 +4,7 @@
 #include "DisplayAPI/PopupCall.h"
 #include "apps/deskphone/Calls.h"
 #include "apps/deskphone/Ear.h"
-#include "apps/deskphone/NumberQuestion.h"
+#include "apps/deskphone/TransferQuestions.h"
 
 #include <list>
 
@@ -16,7 +16,7 @@ class Telephone;
 /// or gives up. Make and delete it on the GUI thread.
 class CallPopups {
 public:
-    CallPopups(Telephone& telephone, Calls& calls, NumberQuestion& target);
+    CallPopups(Telephone& telephone, Calls& calls, TransferQuestions& transfers);
 
     /// What the user chooses is not heard after this. Not on the GUI thread.
     void stopListening() { mChoice.stop(); }
@@ -36,11 +36,10 @@ private:
     void ring(const PhoneCall& call);
     void bringBack();
     void chosen(const DisplayAPI::Command* command);
-    void deflect(exchange::CallId call);
 
     Telephone& mTelephone;
     Calls& mCalls;
-    NumberQuestion& mTarget; ///< asks to whom a call goes on
+    TransferQuestions& mTransfers;
     Ear mChoice;
     std::list<Ringing> mRinging;
 };

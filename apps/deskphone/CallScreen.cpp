@@ -29,10 +29,10 @@ exchange::LineNumber usualLine(const exchange::Telephony& telephony)
 
 } // namespace
 
-CallScreen::CallScreen(Telephone& telephone, Calls& calls, NumberQuestion& target)
+CallScreen::CallScreen(Telephone& telephone, Calls& calls, TransferQuestions& transfers)
     : Screen(telephone, nullptr, isSmallPanel() ? WITHOUT_TITLE : "Call.title",
              std::make_unique<DisplayAPI::List>(kit::listType(kit::WayBack::EVERYWHERE))),
-      mCalls(calls), mActions(calls, target), mMenu(telephone, {})
+      mCalls(calls), mActions(calls, transfers), mMenu(telephone, {})
 {
     using enum exchange::CallState;
     for (const exchange::CallState state : {DIALLING, PROCEEDING, RINGING_BACK, CONNECTED, HELD_BY_ME, HELD_BY_OTHER,

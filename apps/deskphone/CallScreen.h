@@ -16,7 +16,7 @@ namespace deskphone {
 /// leads away from it meanwhile.
 class CallScreen : public Screen {
 public:
-    CallScreen(Telephone& telephone, Calls& calls, NumberQuestion& target);
+    CallScreen(Telephone& telephone, Calls& calls, TransferQuestions& transfers);
 
     /// Calls `party` and goes back to `from` afterwards. On the threads that answer the user.
     void begin(Place& from, const std::string& party, const std::string& number);

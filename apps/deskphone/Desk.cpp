@@ -40,8 +40,8 @@ Desk::Desk(DisplayAPI::Display& display, exchange::Telephony& telephony, const s
     : mTelephone(display), mComplaint(mTelephone.useLanguage(language)),
       mNewsText(&mTelephone.languages(), "News.ticker"), mNews(mNewsText.get()), mHistory(historyIn(state)),
       mCalls(telephony), mRecorder(mTelephone, mCalls, mHistory),
-      mStatus(mTelephone, mCalls, [this] { return mCall.showsCallsOrPopup(); }), mTarget(mTelephone, "Call.transfer"),
-      mPopups(mTelephone, mCalls, mTarget), mCall(mTelephone, mCalls, mTarget), mHandset(mCalls),
+      mStatus(mTelephone, mCalls, [this] { return mCall.showsCallsOrPopup(); }), mTransfers(mTelephone, mCalls),
+      mPopups(mTelephone, mCalls, mTransfers), mCall(mTelephone, mCalls, mTransfers), mHandset(mCalls),
       mDetails(mTelephone, mCall), mHome(mTelephone, mCall, mHistory),
       mCallLogs(mTelephone, mHome, mHistory, mCall, mDetails), mContacts(mTelephone, &mHome, mCall),
       mSettings(mTelephone, mHome, mCalls), mServices(mTelephone, &mHome, mCall), mAbout(mTelephone, &mHome)
@@ -76,11 +76,11 @@ void Desk::open()
 void Desk::close()
 {
     mCalls.stopListening();
-    mTarget.stopListening();
     mPopups.stopListening();
     mHandset.stopListening();
     for (Place* place : places())
         place->stopListening();
+    mTransfers.stopListening();
     for (Place* place : places())
         place->stopWorking();
 }

@@ -16,6 +16,7 @@
 #include "apps/deskphone/Services.h"
 #include "apps/deskphone/Settings.h"
 #include "apps/deskphone/Telephone.h"
+#include "apps/deskphone/TransferQuestions.h"
 
 #include <filesystem>
 #include <string>
@@ -49,7 +50,7 @@ private:
     Calls mCalls;
     CallRecorder mRecorder;
     CallStatus mStatus; ///< before the screen: lines that go have to go before it does
-    NumberQuestion mTarget;
+    TransferQuestions mTransfers;
     CallPopups mPopups;
     CallScreen mCall;
     Handset mHandset;

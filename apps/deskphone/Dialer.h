@@ -28,6 +28,9 @@ public:
     void open(char digit);
     void open() { show({}); }
 
+    /// Takes it off the screen, if it is there.
+    void close() { mPopup.dismiss(); }
+
     bool isUp() const;
 
     /// Adds a digit that was pressed before it was up.

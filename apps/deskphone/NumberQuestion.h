@@ -7,7 +7,8 @@
 
 namespace deskphone {
 
-/// Asks the user for a number that is not called: to whom a call goes on. Make and delete it on the GUI thread.
+/// Asks the user for a number that is not called, such as the one to which calls are forwarded. Make and delete it on
+/// the GUI thread.
 class NumberQuestion {
 public:
     using Answer = std::function<void(const std::string& number)>;
@@ -25,6 +26,9 @@ public:
         mAnswer = std::move(answer);
         mDialer.open();
     }
+
+    /// Takes the question off the screen, whatever lies on it.
+    void withdraw() { mDialer.close(); }
 
     /// What the user chooses is not heard after this. Not on the GUI thread.
     void stopListening() { mDialer.stopListening(); }
