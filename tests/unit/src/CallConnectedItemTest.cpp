@@ -3,6 +3,7 @@
 #include "DisplayAPI/CallConnectedItemPrivateIfc.h"
 #include "DisplayAPI/ContextMenu.h"
 #include "DisplayAPI/List.h"
+#include "support/WidgetName.h"
 #include "unit/src/FacadeTest.h"
 #include "unit/src/Posted.h"
 #include "utilities/CallPartyIdentifier.h"
@@ -13,17 +14,11 @@ using namespace DisplayAPI;
 using doubles::callText;
 using test::From;
 using test::Posted;
+using test::WidgetName;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace {
-
-/// Its name is everybody's to read here.
-class NamedCall : public CallConnectedItem {
-public:
-    using CallConnectedItem::CallConnectedItem;
-    const std::string& getName() const { return name; }
-};
 
 using Parameters = std::tuple<From, int>;
 
@@ -48,13 +43,13 @@ protected:
     {
         item.reset();
         reached();
-        run([&] { item = std::make_unique<NamedCall>(args...); });
+        run([&] { item = std::make_unique<CallConnectedItem>(args...); });
         expectAllOnGuiThread();
-        EXPECT_EQ(item->getName(), "CallConnectedItem");
+        EXPECT_EQ(WidgetName::of(*item), "CallConnectedItem");
         return reached();
     }
 
-    std::unique_ptr<NamedCall> item;
+    std::unique_ptr<CallConnectedItem> item;
     TranslationInfo text{"Key", nullptr};
     Image* const picture = reinterpret_cast<Image*>(&text); // only its address travels
     Image* const none = nullptr;
@@ -129,11 +124,11 @@ TEST_P(CallConnectedItemTest, WithoutAnApplicationThereIsNoSideAndAListTakesNoSu
     KestrelApplication* const application = KestrelApplication::getCurrentApplication();
     gui.call([] { KestrelApplication::setCurrentApplication(nullptr); });
     run([&] {
-        item = std::make_unique<NamedCall>(CallConnectedItem::CONNECTED, std::string("Ada"), none, true, true);
+        item = std::make_unique<CallConnectedItem>(CallConnectedItem::CONNECTED, std::string("Ada"), none, true, true);
     });
     gui.call([&] { KestrelApplication::setCurrentApplication(application); });
     EXPECT_EQ(item->getPrivateImplemetation(), nullptr);
-    EXPECT_EQ(item->getName(), "CallConnectedItem");
+    EXPECT_EQ(WidgetName::of(*item), "CallConnectedItem");
     run([&] {
         List list(1);
         list.append(item.get());

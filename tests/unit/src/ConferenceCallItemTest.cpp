@@ -2,6 +2,7 @@
 
 #include "DisplayAPI/ConferenceCallItemPrivateIfc.h"
 #include "DisplayAPI/ListItemPrivateIfc.h"
+#include "support/WidgetName.h"
 #include "unit/src/FacadeTest.h"
 #include "unit/src/Posted.h"
 #include "utilities/TranslationInfo.h"
@@ -11,17 +12,11 @@ using namespace DisplayAPI;
 using doubles::callText;
 using test::From;
 using test::Posted;
+using test::WidgetName;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace {
-
-/// Its name is everybody's to read here.
-class NamedConference : public ConferenceCallItem {
-public:
-    using ConferenceCallItem::ConferenceCallItem;
-    const std::string& getName() const { return name; }
-};
 
 using Parameters = std::tuple<From, int>;
 
@@ -46,12 +41,12 @@ protected:
     {
         item.reset();
         reached();
-        run([&] { item = std::make_unique<NamedConference>(args...); });
+        run([&] { item = std::make_unique<ConferenceCallItem>(args...); });
         expectAllOnGuiThread();
-        EXPECT_EQ(item->getName(), "ConferenceCallItem");
+        EXPECT_EQ(WidgetName::of(*item), "ConferenceCallItem");
     }
 
-    std::unique_ptr<NamedConference> item;
+    std::unique_ptr<ConferenceCallItem> item;
     TranslationInfo text{"Key", nullptr};
 };
 
@@ -122,7 +117,7 @@ TEST_P(ConferenceCallItemTest, WithoutAnApplicationThereIsNoSide)
 {
     KestrelApplication* const application = KestrelApplication::getCurrentApplication();
     gui.call([] { KestrelApplication::setCurrentApplication(nullptr); });
-    run([&] { item = std::make_unique<NamedConference>(STATE, std::string("Talk"), true); });
+    run([&] { item = std::make_unique<ConferenceCallItem>(STATE, std::string("Talk"), true); });
     gui.call([&] { KestrelApplication::setCurrentApplication(application); });
     EXPECT_EQ(item->getPrivateImplemetation(), nullptr);
 }

@@ -1,6 +1,7 @@
 #include "DisplayAPI/ListItem.h"
 
 #include "DisplayAPI/ListItemPrivateIfc.h"
+#include "support/WidgetName.h"
 #include "unit/src/FacadeTest.h"
 #include "unit/src/Posted.h"
 #include "utilities/TranslationInfo.h"
@@ -10,6 +11,7 @@ using namespace DisplayAPI;
 using doubles::callText;
 using test::From;
 using test::Posted;
+using test::WidgetName;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -36,8 +38,6 @@ public:
         name = "NamedRow";
         createEmpty();
     }
-
-    static const std::string& nameOf(const ListItem& row) { return row.*&NamedRow::name; }
 };
 
 class ListItemTest : public test::FacadeTest, public testing::WithParamInterface<Parameters> {
@@ -66,13 +66,13 @@ protected:
 TEST_P(ListItemTest, ItsNameIsThatOfItsClassOrTheOneThatADerivedRowHasTaken)
 {
     make();
-    EXPECT_EQ(NamedRow::nameOf(*item), "ListItem");
+    EXPECT_EQ(WidgetName::of(*item), "ListItem");
     make(std::string("Ada"), true);
-    EXPECT_EQ(NamedRow::nameOf(*item), "ListItem");
+    EXPECT_EQ(WidgetName::of(*item), "ListItem");
     make(&text, true);
-    EXPECT_EQ(NamedRow::nameOf(*item), "ListItem");
+    EXPECT_EQ(WidgetName::of(*item), "ListItem");
     run([&] { item = std::make_unique<NamedRow>(); });
-    EXPECT_EQ(NamedRow::nameOf(*item), "NamedRow");
+    EXPECT_EQ(WidgetName::of(*item), "NamedRow");
 }
 
 TEST_P(ListItemTest, DefaultRowHasTheItemFlagOnTheGuiThreadAndNotElsewhere)
