@@ -44,12 +44,16 @@ std::string PhoneCall::party() const
 
 Calls::Calls(exchange::Telephony& telephony) : mTelephony(telephony), mWake([this](DisplayAPI::Command*) { catchUp(); })
 {
-    mTelephony.setListener(this);
 }
 
 Calls::~Calls()
 {
     mTelephony.setListener(nullptr);
+}
+
+void Calls::startListening()
+{
+    mTelephony.setListener(this);
 }
 
 void Calls::stopListening()

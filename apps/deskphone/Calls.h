@@ -43,9 +43,13 @@ public:
     using Listener = std::function<void()>;
     using CallListener = std::function<void(const PhoneCall&)>;
 
-    /// Hears `telephony`, which outlives it.
+    /// `telephony` outlives it.
     explicit Calls(exchange::Telephony& telephony);
     ~Calls() override;
+
+    /// Hears what happens from now on, and of each call that lives already. REQUIRES: all listeners have been added,
+    /// which are called on other threads from now on.
+    void startListening();
 
     /// Nothing is heard after this. Not on the GUI thread.
     void stopListening();

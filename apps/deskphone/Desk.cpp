@@ -69,6 +69,7 @@ void Desk::open()
 {
     mHome.open();
     mTelephone.status().open();
+    mCalls.startListening();
     if (!mComplaint.empty())
         mTelephone.tell(mComplaint);
 }

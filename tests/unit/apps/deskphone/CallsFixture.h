@@ -15,7 +15,7 @@ namespace test {
 /// The telephone's calls, and an exchange with two lines and four who do as they are told, on a clock of the test's.
 class CallsFixture {
 public:
-    CallsFixture() = default;
+    CallsFixture() { calls.startListening(); }
     CallsFixture(const CallsFixture&) = delete;
     CallsFixture& operator=(const CallsFixture&) = delete;
     ~CallsFixture() { calls.stopListening(); }

@@ -118,6 +118,19 @@ TEST_F(CallsTest, LinesAreToldAsTheyChange)
     EXPECT_THAT(messages, ElementsAre(3, 0));
 }
 
+TEST_F(CallsTest, NothingIsHeardBeforeAllWhoListenAreThere)
+{
+    deskphone::Calls calls(phone.exchange);
+    phone.say("4710 calls");
+    phone.settle();
+    EXPECT_THAT(calls.all(), IsEmpty());
+    EXPECT_EQ(phone.calls.all().size(), 1U);
+    calls.startListening();
+    phone.settle();
+    EXPECT_EQ(calls.all().size(), 1U);
+    calls.stopListening();
+}
+
 TEST_F(CallsTest, NothingIsHeardAnyMoreWhenItHasStopped)
 {
     int heard = 0;
