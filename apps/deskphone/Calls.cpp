@@ -2,6 +2,7 @@
 
 #include "apps/deskphone/PhoneBook.h"
 #include "host/clock/WallClock.h"
+#include "kit/Fence.h"
 
 #include <algorithm>
 #include <utility>
@@ -54,6 +55,19 @@ Calls::~Calls()
 void Calls::startListening()
 {
     mTelephony.setListener(this);
+}
+
+void Calls::endAll(std::int64_t now)
+{
+    mTelephony.waitUntilHeard();
+    mTelephony.setListener(nullptr);
+    Ear last([=, this](DisplayAPI::Command*) {
+        catchUp();
+        acceptEnds(now);
+    });
+    last.postCommandAction(nullptr, nullptr);
+    DisplayAPI::kit::Fence().wait();
+    stopListening();
 }
 
 void Calls::stopListening()
@@ -155,6 +169,18 @@ void Calls::accept(const CallEvent& event)
     const PhoneCall told = isFinal(event.state) ? std::move(mCalls.extract(event.call).mapped()) : call;
     for (const CallListener& listener : mCallListeners)
         listener(told);
+}
+
+void Calls::acceptEnds(std::int64_t now)
+{
+    for (const PhoneCall* const call : all()) {
+        CallEvent end = call->last;
+        end.state = CallState::ENDED;
+        end.reason = exchange::Reason::NONE; // whatever has come to nothing before
+        end.text.clear();
+        end.at = now;
+        accept(end);
+    }
 }
 
 } // namespace deskphone

@@ -51,6 +51,10 @@ public:
     /// which are called on other threads from now on.
     void startListening();
 
+    /// Tells what has happened by now, and of each call that still lives that it has ended, `now` on the telephony's
+    /// clock; then nothing is heard any more. Not on the GUI thread.
+    void endAll(std::int64_t now);
+
     /// Nothing is heard after this. Not on the GUI thread.
     void stopListening();
 
@@ -100,6 +104,7 @@ private:
 
     void catchUp();
     void accept(const exchange::CallEvent& event);
+    void acceptEnds(std::int64_t now);
 
     exchange::Telephony& mTelephony;
     exchange::SignedCalls mSigns; ///< the network's thread's

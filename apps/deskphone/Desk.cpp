@@ -3,6 +3,7 @@
 #include "DisplayAPI/Display.h"
 #include "apps/deskphone/CallStore.h"
 #include "apps/deskphone/Panel.h"
+#include "host/clock/Clock.h"
 #include "host/clock/WallClock.h"
 #include "kit/Fence.h"
 #include "kit/OffGuiThread.h"
@@ -76,7 +77,7 @@ void Desk::open()
 
 void Desk::close()
 {
-    mCalls.stopListening();
+    mCalls.endAll(host::Clock::instance().now());
     mPopups.stopListening();
     mHandset.stopListening();
     for (Place* place : places())

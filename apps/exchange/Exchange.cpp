@@ -146,6 +146,11 @@ void Exchange::setListener(TelephonyListener* listener)
     mImpl->setListener(listener);
 }
 
+void Exchange::waitUntilHeard()
+{
+    mImpl->waitUntilHeard();
+}
+
 std::vector<Line> Exchange::lines() const
 {
     return mImpl->ask([](const Switchboard& board) { return board.lines(); });
@@ -229,11 +234,6 @@ std::string Exchange::command(std::string_view line)
 std::vector<Party> Exchange::parties() const
 {
     return mImpl->ask([](const Switchboard& board) { return board.parties(); });
-}
-
-void Exchange::waitUntilHeard()
-{
-    mImpl->waitUntilHeard();
 }
 
 } // namespace exchange

@@ -25,6 +25,7 @@ public:
     ~Exchange() override;
 
     void setListener(TelephonyListener* listener) override;
+    void waitUntilHeard() override;
     std::vector<Line> lines() const override;
     CallId place(LineNumber line, const std::string& number) override;
     bool answer(CallId call) override;
@@ -45,9 +46,6 @@ public:
 
     /// The numbers of the others, in the order of the file.
     std::vector<Party> parties() const;
-
-    /// Returns when everything that has happened by now has been heard. Not from the listener.
-    void waitUntilHeard();
 
 private:
     class Impl;

@@ -41,6 +41,10 @@ public:
     /// waits for.
     virtual void setListener(TelephonyListener* listener) = 0;
 
+    /// Returns when everything that has happened by now has been heard. Not from the listener, nor from a thread that
+    /// it waits for.
+    virtual void waitUntilHeard() = 0;
+
     /// From 1 on.
     virtual std::vector<Line> lines() const = 0;
 

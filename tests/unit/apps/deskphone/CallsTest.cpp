@@ -8,6 +8,7 @@ using deskphone::PhoneCall;
 using exchange::CallState;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::Pair;
 
 namespace {
 
@@ -106,6 +107,28 @@ TEST_F(CallsTest, ListenerThatIsSlowMissesNothingOfAFastNetwork)
     for (int i = 0; i < ROUNDS; ++i)
         expected.insert(expected.end(), {CallState::INCOMING, CallState::ENDED});
     EXPECT_EQ(told, expected);
+}
+
+TEST_F(CallsTest, EndOfAllTellsWhatHasHappenedAndEndsWhatLives)
+{
+    const exchange::CallId spoken = place("4710", "");
+    phone.say("4710 answers");
+    phone.say("4711 calls");
+    phone.pass(3000);
+    std::vector<std::pair<std::string, std::int64_t>> ended;
+    phone.calls.addCallListener([&](const PhoneCall& call) {
+        if (isFinal(call.state()))
+            ended.emplace_back(call.party(), call.spokenUntil(call.last.at));
+    });
+    phone.say("4712 calls");
+    phone.say("4712 ends");
+    phone.say("4713 calls");
+    phone.calls.endAll(phone.clock.now() + 2000);
+    EXPECT_THAT(ended, ElementsAre(Pair("Cleo", 0), Pair("Ada", 5000), Pair("Bert", 0), Pair("Dora", 0)));
+    EXPECT_THAT(phone.calls.all(), IsEmpty());
+    phone.exchange.end(spoken);
+    phone.settle();
+    EXPECT_EQ(ended.size(), 4U);
 }
 
 TEST_F(CallsTest, LinesAreToldAsTheyChange)
