@@ -65,6 +65,17 @@ TEST_F(StatusLinesTest, ComeWithTheirTextsToAnotherScreenThanTheyWereTakenDownFr
     phone.display().setCurrent(nullptr);
 }
 
+TEST_F(StatusLinesTest, FewerLinesTakeTheLowerOnesOffTheScreen)
+{
+    lines.setText(0, "Line 1");
+    lines.setText(1, "Line 2");
+    lines.setSize(2);
+    ASSERT_THAT(screen(), HasSubstr("Line 2"));
+    lines.setSize(1);
+    EXPECT_THAT(screen(), HasSubstr("Line 1"));
+    EXPECT_THAT(screen(), Not(HasSubstr("Line 2")));
+}
+
 TEST_F(StatusLinesTest, LinesThatDoNotExistAreIgnored)
 {
     lines.setText(-1, "Nowhere");
