@@ -1,6 +1,7 @@
 #pragma once
 
 #include "apps/deskphone/Calls.h"
+#include "apps/deskphone/Ear.h"
 #include "kit/Fence.h"
 #include "unit/exchange/StandingClock.h"
 
@@ -31,6 +32,16 @@ public:
     {
         exchange.waitUntilHeard();
         DisplayAPI::kit::Fence().wait();
+    }
+
+    /// As the user has it done: on a thread that answers him, on which the calls become true.
+    exchange::CallId place(exchange::LineNumber line, const exchange::Party& party)
+    {
+        exchange::CallId call = exchange::NO_CALL;
+        deskphone::Ear user([&](DisplayAPI::Command*) { call = calls.place(line, party); });
+        user.postCommandAction(nullptr, nullptr);
+        DisplayAPI::kit::Fence().wait();
+        return call;
     }
 
     void say(const std::string& sentence) { EXPECT_EQ(exchange.command(sentence), ""); }

@@ -119,7 +119,7 @@ protected:
         const int line = 1 + chance.below(2);
         holdActive(party);
         legs[party] = {.line = line, .stage = Stage::RINGS_THERE};
-        legs[party].id = phone.calls.place(line, {numberOf(party), ""});
+        legs[party].id = phone.place(line, {numberOf(party), ""});
     }
 
     void otherAnswers(int party)

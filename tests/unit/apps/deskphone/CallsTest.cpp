@@ -16,7 +16,7 @@ class CallsTest : public testing::Test {
 protected:
     exchange::CallId place(const std::string& number, const std::string& name)
     {
-        const exchange::CallId call = phone.calls.place(1, {number, name});
+        const exchange::CallId call = phone.place(1, {number, name});
         phone.pass(1000);
         return call;
     }
