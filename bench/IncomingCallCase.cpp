@@ -43,6 +43,7 @@ public:
     /// Milliseconds from the exchange's event to the painted popup.
     double incoming()
     {
+        std::this_thread::sleep_for(20ms); // a frame is painted at once where the last one is not of just now
         const auto start = Clock::now();
         tell("4711 calls");
         waitUntilPopup(true);
