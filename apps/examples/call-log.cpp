@@ -6,8 +6,10 @@
 #include "kit/Subscription.h"
 #include "kit/WayBack.h"
 #include "utilities/CallPartyIdentifier.h"
+#include "utilities/TranslatorIfc.h"
 
 #include <memory>
+#include <string>
 
 using DisplayAPI::CallBackMainItem;
 using DisplayAPI::CallLogMainItem;
@@ -18,6 +20,15 @@ using DisplayAPI::ListItem;
 namespace {
 
 namespace kit = DisplayAPI::kit;
+
+/// Has words for the one text that the library looks up by itself.
+class Words : public TranslatorIfc {
+public:
+    std::string translate(const std::string& key) override
+    {
+        return key == "Caller.Unknown.XXX" ? "Unknown caller" : key;
+    }
+};
 
 CallPartyIdentifier gAda("Ada", "4711"), gBert("Bert", "4712"), gNobody;
 
@@ -49,7 +60,9 @@ void showDetails(List& details, int entry)
 /// Calls, new ones in bold letters: OK shows the details of one, left goes back. The last row is a call-back.
 int main()
 {
+    Words words;
     kit::Phone phone(examples::phoneSettings());
+    phone.display().setTranslator(&words);
     List calls(0), details(kit::listType(kit::WayBack::EVERYWHERE));
     kit::Subscription choice(calls, [&](Command*) {
         const int entry = calls.getSelectedIndex();
