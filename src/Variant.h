@@ -1,5 +1,6 @@
 #pragma once
 
+#include "utilities/HardwareVersion.h"
 #include "widgets/KestrelApplication.h"
 
 namespace DisplayAPI {
@@ -25,6 +26,13 @@ inline int softwareType()
 inline bool isFullPanel()
 {
     return hardwareVariant() == FULL_PANEL;
+}
+
+/// The same question, for the classes that ask the production data instead of the application.
+inline bool isFullPanelHardware()
+{
+    const int variant = HardwareVersion::getHWVariant();
+    return variant != 0 && variant != 1 && variant != 8;
 }
 
 } // namespace DisplayAPI

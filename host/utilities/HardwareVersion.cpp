@@ -1,17 +1,28 @@
 #include "utilities/HardwareVersion.h"
 
+#include "host/Phone.h"
+
 #include <atomic>
 
 namespace {
 
-std::atomic<int> gVariant{0};
+constexpr int WP1_HARDWARE = 0;
+constexpr int PLAIN_HARDWARE = 2;
+
+std::atomic<int> gVariant{HardwareVersion::AS_BUILT};
 std::atomic<int> gSubVariant{0};
+
+int variantOfPanel()
+{
+    return host::variant() == host::Variant::WP1 ? WP1_HARDWARE : PLAIN_HARDWARE;
+}
 
 } // namespace
 
 int HardwareVersion::getHWVariant()
 {
-    return gVariant;
+    const int variant = gVariant;
+    return variant != AS_BUILT ? variant : variantOfPanel();
 }
 
 int HardwareVersion::getHWSubVariant()
