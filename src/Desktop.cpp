@@ -146,8 +146,8 @@ DisplayablePrivateIfc* Desktop::getPrivateImpl()
 /// Never destroyed: listeners may still hear it while the process ends.
 MenuCommand* Desktop::HIDDEN_COMMAND()
 {
-    static auto* const command = new MenuCommand("WIDGET_IS_HIDDEN_EVENT", HIDDEN_ID);
-    return command;
+    static MenuCommand command("WIDGET_IS_HIDDEN_EVENT", HIDDEN_ID);
+    return &command;
 }
 
 void Desktop::setLogoText(const std::string& text)

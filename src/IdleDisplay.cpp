@@ -412,8 +412,8 @@ void IdleDisplay::fire(Command* command)
 
 Command* IdleDisplay::BACK_COMMAND()
 {
-    static auto* const command = new Command("", Command::BACK);
-    return command;
+    static Command command("", Command::BACK);
+    return &command;
 }
 
 } // namespace DisplayAPI

@@ -104,8 +104,8 @@ DisplayablePrivateIfc* PopupConfirm::getPrivateImpl()
 /// Never destroyed: listeners may still hear it while the process ends.
 MenuCommand* PopupConfirm::HIDDEN_COMMAND()
 {
-    static auto* const command = new MenuCommand("WIDGET_IS_HIDDEN_EVENT", HIDDEN_ID);
-    return command;
+    static MenuCommand command("WIDGET_IS_HIDDEN_EVENT", HIDDEN_ID);
+    return &command;
 }
 
 void PopupConfirm::setLine1PrefixText(const std::string& text)

@@ -117,18 +117,16 @@ DisplayablePrivateIfc* PopupDialer::getPrivateImpl()
     return mImplementation;
 }
 
-// Never destroyed: dialers raise them as long as the process lives.
-
 Command* PopupDialer::BackCommand()
 {
-    static auto* const command = new Command("", Command::BACK);
-    return command;
+    static Command command("", Command::BACK);
+    return &command;
 }
 
 Command* PopupDialer::EditFieldShownCommand()
 {
-    static auto* const command = new Command("", Command::ITEM);
-    return command;
+    static Command command("", Command::ITEM);
+    return &command;
 }
 
 void PopupDialer::setLine1PrefixText(const std::string& text)

@@ -95,8 +95,8 @@ DisplayablePrivateIfc* PopupNotification::getPrivateImpl()
 /// Never destroyed: listeners may still hear it while the process ends.
 MenuCommand* PopupNotification::HIDDEN_COMMAND()
 {
-    static auto* const command = new MenuCommand("WIDGET_IS_HIDDEN_EVENT", HIDDEN_ID);
-    return command;
+    static MenuCommand command("WIDGET_IS_HIDDEN_EVENT", HIDDEN_ID);
+    return &command;
 }
 
 void PopupNotification::setLine1PrefixText(const std::string& text)

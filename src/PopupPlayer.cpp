@@ -10,12 +10,12 @@ namespace {
 
 enum Request { CREATE = 0, DESTROY = 1 };
 
-/// The one object of this type, which outlives every listener.
+/// The one object of this type.
 template <int TYPE>
 Command* commandOf()
 {
-    static auto* const command = new Command("", static_cast<Command::Type>(TYPE));
-    return command;
+    static Command command("", static_cast<Command::Type>(TYPE));
+    return &command;
 }
 
 } // namespace
@@ -27,7 +27,10 @@ PopupPlayer::PopupPlayer()
     Ops::call<CREATE>(*this, mImplementation);
 }
 
-PopupPlayer::PopupPlayer(PopupPlayerPrivateIfc* implementation) : mImplementation(implementation) {}
+PopupPlayer::PopupPlayer(PopupPlayerPrivateIfc* implementation) : mImplementation(implementation)
+{
+    name = "PopupPlayer";
+}
 
 PopupPlayer::~PopupPlayer()
 {
@@ -36,6 +39,7 @@ PopupPlayer::~PopupPlayer()
 
 void PopupPlayer::create()
 {
+    name = "PopupPlayer";
     mImplementation = new PopupPlayerPrivate;
 }
 

@@ -336,26 +336,26 @@ int TabScreen::indexOf(Displayable* page)
 
 Command* TabScreen::TABFWD_COMMAND()
 {
-    static auto* const command = new Command("", Command::TABFWD);
-    return command;
+    static Command command("", Command::TABFWD);
+    return &command;
 }
 
 Command* TabScreen::TABBACK_COMMAND()
 {
-    static auto* const command = new Command("", Command::TABBACK);
-    return command;
+    static Command command("", Command::TABBACK);
+    return &command;
 }
 
 Command* TabScreen::OK()
 {
-    static auto* const command = new Command("", Command::OK);
-    return command;
+    static Command command("", Command::OK);
+    return &command;
 }
 
 Command* TabScreen::BACK_COMMAND()
 {
-    static auto* const command = new Command("", Command::BACK);
-    return command;
+    static Command command("", Command::BACK);
+    return &command;
 }
 
 } // namespace DisplayAPI

@@ -8,7 +8,8 @@ class Command;
 class CommandListener;
 class PopupPlayerPrivateIfc;
 
-/// The popup of a media player: what its commands are. This telephone plays nothing, so it shows nothing.
+/// The popup of a media player: what its commands are. This telephone plays nothing, so it shows nothing:
+/// where it is made current, all other displayables leave the screen, and do not come back when it goes.
 ///
 /// Threads: made and deleted on the GUI thread. Once a display has been made, a worker that does either waits for ever:
 /// the request is carried out and never completed. Everything else runs on the calling thread.

@@ -227,19 +227,6 @@ TEST_P(IdleDisplayTest, BackCommandIsOneWithoutALabel)
     EXPECT_EQ(IdleDisplay::BACK_COMMAND()->getType(), Command::BACK);
 }
 
-/// Looked at when all that was made before is gone.
-TEST(IdleDisplayExitTest, BackCommandIsThereToTheEnd)
-{
-    GTEST_FLAG_SET(death_test_style, "threadsafe");
-    EXPECT_EXIT(
-        {
-            std::atexit([] { std::_Exit(Command::exists(IdleDisplay::BACK_COMMAND()) ? 0 : 1); });
-            IdleDisplay::BACK_COMMAND();
-            std::exit(0);
-        },
-        testing::ExitedWithCode(0), "");
-}
-
 TEST_P(IdleDisplayTest, MakesADialerWhenItIsAskedForOne)
 {
     made();

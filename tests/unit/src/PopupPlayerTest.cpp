@@ -5,6 +5,7 @@
 #include "PopupPlayerPrivate.h"
 #include "doubles/Mocks.h"
 #include "support/SteppedLoop.h"
+#include "support/WidgetName.h"
 #include "support/Worker.h"
 
 #include <map>
@@ -46,6 +47,7 @@ TEST_F(PopupPlayerTest, OnTheGuiThreadItIsMadeAtOnceForEveryPanel)
 {
     PopupPlayer player;
     EXPECT_NE(dynamic_cast<PopupPlayerPrivate*>(player.getPrivateImpl()), nullptr);
+    EXPECT_EQ(test::WidgetName::of(player), "PopupPlayer");
     EXPECT_EQ(gui.queued(), 0);
 }
 
@@ -56,6 +58,7 @@ TEST_F(PopupPlayerTest, DeletesTheSideThatItHasAdopted)
         auto* const side = new WatchedSide(lives);
         PopupPlayer player(side);
         EXPECT_EQ(player.getPrivateImpl(), static_cast<PopupPlayerPrivateIfc*>(side));
+        EXPECT_EQ(test::WidgetName::of(player), "PopupPlayer");
         EXPECT_TRUE(lives);
     }
     EXPECT_FALSE(lives);
