@@ -42,14 +42,20 @@ int LineOverviewItemPrivate::Message(const PegMessage& message)
 void LineOverviewItemPrivate::localeChanged(std::string)
 {
     refreshItem();
+    mItem->tell();
 }
 
 void LineOverviewItemPrivate::refreshItem()
 {
     mItem->setName(ICC::fromUTF8toUNICODE(mName));
-    mItem->setIdentity(mIdentity.shown());
+    showIdentity();
     mItem->setNamePrefix(mNamePrefix.shown());
     setLineStateHelper();
+}
+
+void LineOverviewItemPrivate::showIdentity()
+{
+    mItem->setIdentity((mTranslatedIdentity.isTranslated() ? mTranslatedIdentity : mIdentity).shown());
 }
 
 void LineOverviewItemPrivate::setLineStateHelper()
@@ -63,39 +69,43 @@ void LineOverviewItemPrivate::setLineState(LineOverviewItem::LineState state)
 {
     mState = state;
     setLineStateHelper();
+    mItem->tell();
 }
 
 void LineOverviewItemPrivate::setDisplayHDIconStatus(bool on)
 {
     mItem->setHDIcon(on);
+    mItem->tell();
 }
 
 void LineOverviewItemPrivate::setLineNamePrefix(TranslationInfo* prefix)
 {
     mNamePrefix = TranslatedText(prefix);
     mItem->setNamePrefix(mNamePrefix.shown());
+    mItem->tell();
 }
 
+/// Without a translation the identity is the text again.
 void LineOverviewItemPrivate::setLineIdentity(TranslationInfo* identity)
 {
-    setIdentity(TranslatedText(identity));
+    mTranslatedIdentity = TranslatedText(identity);
+    showIdentity();
+    mItem->tell();
 }
 
 void LineOverviewItemPrivate::setLineIdentity(std::string identity)
 {
-    setIdentity(TranslatedText(std::move(identity)));
-}
-
-void LineOverviewItemPrivate::setIdentity(TranslatedText identity)
-{
-    mIdentity = std::move(identity);
-    mItem->setIdentity(mIdentity.shown());
+    mTranslatedIdentity = TranslatedText();
+    mIdentity = TranslatedText(std::move(identity));
+    showIdentity();
+    mItem->tell();
 }
 
 void LineOverviewItemPrivate::setLineName(std::string name)
 {
     mName = std::move(name);
     mItem->setName(ICC::fromUTF8toUNICODE(mName));
+    mItem->tell();
 }
 
 void LineOverviewItemPrivate::holdItem(int milliseconds)
@@ -107,6 +117,7 @@ void LineOverviewItemPrivate::holdItem(int milliseconds)
     mHolds = milliseconds > 0;
     mHoldTimer.start(milliseconds);
     mItem->setHighlighted(mHolds);
+    mItem->tell();
 }
 
 void LineOverviewItemPrivate::endHold()
@@ -114,6 +125,7 @@ void LineOverviewItemPrivate::endHold()
     mHolds = false;
     refreshItem();
     mItem->setHighlighted(false);
+    mItem->tell();
 }
 
 void LineOverviewItemPrivate::releaseOwnership()

@@ -36,12 +36,13 @@ public:
 private:
     void refreshItem();
     void setLineStateHelper();
-    void setIdentity(TranslatedText identity);
+    void showIdentity();
     void endHold();
 
     LineOverviewListItem* mItem = new LineOverviewListItem;
     OwnershipDelegate<LineOverviewListItem> mOwnership{&mItem, true};
     std::string mName;
+    TranslatedText mTranslatedIdentity; ///< where there is one, in place of the other
     TranslatedText mIdentity;
     TranslatedText mNamePrefix;
     LineOverviewItem::LineState mState;

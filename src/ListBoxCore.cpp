@@ -45,8 +45,8 @@ ListBoxCore::~ListBoxCore()
 int ListBoxCore::Message(const PegMessage& message)
 {
     switch (message.wType) {
-    case PM_CURRENT_CHANGED:
-    case PM_ROW_CHANGED: changed(); break;
+    case PM_CURRENT_CHANGED: changed(); break;
+    case PM_ROW_CHANGED: rowChanged(); break;
     case PM_CLICKED: raise(isOnBackRow() ? mCommands.back : mCommands.select); break;
     case PM_RIGHT: raise(isOnBackRow() ? nullptr : mCommands.right); break;
     case PM_LEFT: raise(mCommands.back); break;
@@ -73,9 +73,19 @@ void ListBoxCore::typed(int key)
 void ListBoxCore::applicationChanged(const PegMessage& message)
 {
     const auto& locale = *static_cast<const PegString*>(message.pData);
-    if (message.iData == KestrelApplication::LOCALE && mLocaleChanged)
+    if (message.iData == KestrelApplication::LOCALE && mLocaleChanged) {
+        mChangesLanguage = true;
         mLocaleChanged(ICC::fromUNICODEtoASCII(locale));
+        mChangesLanguage = false;
+    }
     showTitle();
+}
+
+/// Not while the rows are walked: whoever is told may remove some.
+void ListBoxCore::rowChanged()
+{
+    if (!mChangesLanguage)
+        changed();
 }
 
 void ListBoxCore::followLanguage()

@@ -97,6 +97,7 @@ private:
     void typed(int key);
     bool isOnBackRow() const;
     void applicationChanged(const PegMessage& message);
+    void rowChanged();
     void showTitle();
 
     DisplayablePrivate& mSelf;
@@ -108,6 +109,7 @@ private:
     std::unique_ptr<KestrelListBoxItem> mBackRow; ///< null where there is none
     TranslatedText mTitle;
     std::optional<ApplicationWatch> mApplication;
+    bool mChangesLanguage = false;       ///< rows change one by one; the display is told when all have
     std::function<void(int key)> mTyped; ///< empty is nobody
 };
 

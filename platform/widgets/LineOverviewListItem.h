@@ -41,6 +41,9 @@ public:
     /// motion.
     void setHighlighted(bool on);
 
+    /// Tells whoever hears the list, once, what has changed since the last time. Comes last: the row may be gone then.
+    void tell();
+
     Sign sign() const;
     bool isDimmed() const;
     bool isHighlighted() const;

@@ -27,8 +27,7 @@ void AbbreviatedItemSide::Impl::show()
     host::LinesLook look;
     look.lines.front() = {.text = ICC::fromUTF8toUNICODE(shown), .icon = host::phonebookIcon(icon)};
     look.hasIcons = !isNumbered;
-    row->show(std::move(look));
-    row->DataSet(text.shown());
+    row->show(std::move(look), text.shown());
 }
 
 /// Short dial entries look alike on both panels; what differs is the list's.

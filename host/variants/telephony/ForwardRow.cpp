@@ -7,8 +7,11 @@ namespace DisplayAPI {
 
 void ForwardRow::setChecked(bool on)
 {
+    if (on == mChecked)
+        return;
     mChecked = on;
     changed();
+    tellChanged();
 }
 
 void ForwardRow::showMark(bool on)

@@ -11,8 +11,10 @@ public:
 
     bool isChecked() const { return mChecked; }
 
-    /// Checked or not, and whether there is a mark that shows it.
+    /// Whoever hears the list is told last, as by show().
     void setChecked(bool on);
+
+    /// Whether there is a mark that shows it. Nobody is told.
     void showMark(bool on);
 
     bool hasMark() const override { return mShowsMark; }

@@ -51,9 +51,9 @@ struct LineOverviewListItem::Impl final : KestrelTimerObserver {
     const Icon* icon() const;
     LinesLook look() const;
 
-    /// Sets what is different, and paints the row again.
+    /// Sets what is different, and paints the row again. Returns whether it is.
     template <typename Value>
-    void set(Value& variable, Value value);
+    bool set(Value& variable, Value value);
 
     LineOverviewListItem& row;
     PegString prefix;
@@ -62,13 +62,16 @@ struct LineOverviewListItem::Impl final : KestrelTimerObserver {
     bool isHD = false;
     bool isDimmed = false;
     bool isHighlighted = false;
-    bool isLit = false; ///< while it is highlighted
+    bool isLit = false;    ///< while it is highlighted
+    bool isToTell = false; ///< something has changed since it was told last
     KestrelPegTimer blink;
 };
 
+/// Nobody is told: it goes on by itself.
 int LineOverviewListItem::Impl::Message(const PegMessage&)
 {
-    set(isLit, !isLit || Motion::isReduced());
+    isLit = !isLit || Motion::isReduced();
+    row.changed();
     return 0;
 }
 
@@ -95,12 +98,14 @@ LinesLook LineOverviewListItem::Impl::look() const
 }
 
 template <typename Value>
-void LineOverviewListItem::Impl::set(Value& variable, Value value)
+bool LineOverviewListItem::Impl::set(Value& variable, Value value)
 {
     if (variable == value)
-        return;
+        return false;
     variable = std::move(value);
+    isToTell = true;
     row.changed();
+    return true;
 }
 
 LineOverviewListItem::LineOverviewListItem() : KestrelListBoxItem(PegString()), mImpl(std::make_unique<Impl>(*this)) {}
@@ -109,8 +114,10 @@ LineOverviewListItem::~LineOverviewListItem() = default;
 
 void LineOverviewListItem::setName(PegString name)
 {
-    if (name != DataGet())
-        DataSet(std::move(name));
+    if (name == DataGet())
+        return;
+    mImpl->isToTell = true;
+    DataSet(std::move(name));
 }
 
 void LineOverviewListItem::setNamePrefix(PegString prefix)
@@ -121,8 +128,7 @@ void LineOverviewListItem::setNamePrefix(PegString prefix)
 void LineOverviewListItem::setIdentity(PegString identity)
 {
     const bool isAsHigh = identity.empty() == mImpl->identity.empty();
-    mImpl->set(mImpl->identity, std::move(identity));
-    if (!isAsHigh)
+    if (mImpl->set(mImpl->identity, std::move(identity)) && !isAsHigh)
         heightChanged();
 }
 
@@ -148,6 +154,12 @@ void LineOverviewListItem::setHighlighted(bool on)
     mImpl->isLit = on;
     mImpl->set(mImpl->isHighlighted, on);
     on ? mImpl->blink.start(BLINK_MS) : mImpl->blink.stop();
+}
+
+void LineOverviewListItem::tell()
+{
+    if (std::exchange(mImpl->isToTell, false))
+        tellChanged();
 }
 
 LineOverviewListItem::Sign LineOverviewListItem::sign() const

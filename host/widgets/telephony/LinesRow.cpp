@@ -122,11 +122,17 @@ KestrelListBoxItem::Description describe(std::string name, const LinesLook& look
 
 void LinesRow::show(LinesLook look)
 {
+    PegString text = look.lines.front().text;
+    show(std::move(look), std::move(text));
+}
+
+void LinesRow::show(LinesLook look, PegString text)
+{
     if (look == mLook)
         return;
     const bool isHigher = look.lines.size() != mLook.lines.size();
     mLook = std::move(look);
-    DataSet(mLook.lines.front().text);
+    DataSet(std::move(text));
     if (isHigher)
         heightChanged();
     tellChanged();

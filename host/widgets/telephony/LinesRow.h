@@ -46,8 +46,11 @@ public:
 
     const LinesLook& look() const { return mLook; }
 
-    /// Paints the row again where the look differs, and moves what stands below it where the number of lines does. The
-    /// text of the row is that of the first line. Whoever hears the list is told last; of an end alone nobody is.
+    /// Paints the row again where the look differs, and moves what stands below it where the number of lines does.
+    /// Whoever hears the list is told last; of an end alone nobody is.
+    void show(LinesLook look, PegString text);
+
+    /// The text of the row is that of the first line.
     void show(LinesLook look);
 
     /// Another end, of which no more is painted than itself where it is as wide as the one before.

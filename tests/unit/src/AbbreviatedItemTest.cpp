@@ -1,5 +1,6 @@
 #include "DisplayAPI/AbbreviatedItem.h"
 
+#include "support/WidgetName.h"
 #include "unit/src/Posted.h"
 #include "unit/src/RowFacadeTest.h"
 #include "utilities/TranslationInfo.h"
@@ -29,6 +30,7 @@ TEST_P(AbbreviatedItemTest, RowIsMadeFromNumberIconTextAndFlag)
         expectAllOnGuiThread();
         EXPECT_THAT(reached(), ElementsAre(callText(side(), 12, -77, std::string("Anna"), flag)));
         EXPECT_EQ(text(), "Anna");
+        EXPECT_EQ(test::WidgetName::of(*row), "AbbreviatedItem");
         row.reset();
         reached();
     }
@@ -40,6 +42,12 @@ TEST_P(AbbreviatedItemTest, RowIsMadeFromATranslation)
     expectAllOnGuiThread();
     EXPECT_THAT(reached(), ElementsAre(callText(side(), 12, -77, &key, true)));
     EXPECT_EQ(text(), "key");
+}
+
+TEST_P(AbbreviatedItemTest, NoTranslationIsNoText)
+{
+    make(12, ANY_ICON, static_cast<TranslationInfo*>(nullptr), true);
+    EXPECT_EQ(text(), "");
 }
 
 TEST_P(AbbreviatedItemTest, CodesTenAndElevenDeleteTheRowAndMakeAnother)

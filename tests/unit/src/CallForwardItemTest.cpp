@@ -1,5 +1,6 @@
 #include "DisplayAPI/CallForwardItem.h"
 
+#include "support/WidgetName.h"
 #include "unit/src/Posted.h"
 #include "unit/src/RowFacadeTest.h"
 #include "utilities/TranslationInfo.h"
@@ -42,6 +43,7 @@ TEST_P(CallForwardItemTest, IsMadeFromIconTextAndTwoFlags)
         EXPECT_THAT(reached(), ElementsAre(callText(side(), -77, TEXT, flag, !flag)));
         make(ANY_ICON, &key, flag, !flag);
         EXPECT_EQ(reached().front(), callText(side(), -77, KEY, flag, !flag));
+        EXPECT_EQ(test::WidgetName::of(*row), "CallForwardItem");
         row.reset();
         reached();
     }

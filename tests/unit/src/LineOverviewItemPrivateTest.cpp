@@ -1,13 +1,17 @@
 #include "LineOverviewItemPrivate.h"
 
 #include "doubles/Mocks.h"
+#include "presentation/PRESCPresentationManager.h"
 #include "support/RunningToolkit.h"
 #include "support/VirtualTime.h"
 #include "utilities/ICC.h"
 #include "utilities/TranslationInfo.h"
 #include "widgets/KestrelApplication.h"
+#include "widgets/KestrelListBoxWithTitle.h"
 
 #include <gmock/gmock.h>
+
+#include <functional>
 
 using namespace DisplayAPI;
 using testing::_;
@@ -53,6 +57,32 @@ protected:
     std::unique_ptr<LineOverviewItemPrivate> line;
 };
 
+/// The row in a list on the panel, and how often the list tells that it has changed.
+class ToldList : public PegThing {
+public:
+    explicit ToldList(KestrelListBoxItem& row) : mList(new KestrelListBoxWithTitle)
+    {
+        mList->append(&row);
+        mList->setMessageTarget(this);
+        gpPresent->Add(mList);
+    }
+
+    ~ToldList() override { delete mList; }
+    ToldList(const ToldList&) = delete;
+    ToldList& operator=(const ToldList&) = delete;
+
+    int Message(const PegMessage& message) override
+    {
+        changes += message.wType == PM_ROW_CHANGED ? 1 : 0;
+        return 0;
+    }
+
+    int changes = 0;
+
+private:
+    KestrelListBox* mList;
+};
+
 using State = LineOverviewItem::LineState;
 using Sign = LineOverviewListItem::Sign;
 
@@ -91,8 +121,14 @@ TEST_F(LineOverviewItemPrivateTest, IdentityIsTheOneSetLastInWhicheverForm)
     EXPECT_THAT(texts(), ElementsAre("Büro", "4712"));
     line->localeChanged("de");
     EXPECT_THAT(texts(), ElementsAre("Büro", "4712"));
-    line->setLineIdentity(static_cast<TranslationInfo*>(nullptr));
+}
+
+TEST_F(LineOverviewItemPrivateTest, WithoutATranslationTheIdentityIsTheTextAgain)
+{
+    line->setLineIdentity(&identity);
     EXPECT_THAT(texts(), ElementsAre("Büro"));
+    line->setLineIdentity(static_cast<TranslationInfo*>(nullptr));
+    EXPECT_THAT(texts(), ElementsAre("Büro", "4711"));
 }
 
 TEST_F(LineOverviewItemPrivateTest, NoPrefixIsNoText)
@@ -116,6 +152,26 @@ TEST_F(LineOverviewItemPrivateTest, TranslationsFollowTheLanguageOfTheApplicatio
     KestrelApplication::getCurrentApplication()->setLocale(ICC::fromUTF8toUNICODE("de"));
     EXPECT_THAT(texts(), ElementsAre("Leitung Büro", "keine"));
     KestrelApplication::getCurrentApplication()->setLocale(PegString());
+}
+
+TEST_F(LineOverviewItemPrivateTest, EachChangeIsToldToTheList)
+{
+    const std::vector<std::function<void()>> changes{
+        [&] { line->setLineState(LineOverviewItem::HELD); },
+        [&] { line->setDisplayHDIconStatus(true); },
+        [&] { line->setLineNamePrefix(&prefix); },
+        [&] { line->setLineIdentity(&identity); },
+        [&] { line->setLineIdentity(std::string("4712")); },
+        [&] { line->setLineName("Lab"); },
+        [&] { line->holdItem(1000); },
+        [&] { pass(1000); },
+    };
+    ON_CALL(translator, translate(_)).WillByDefault(testing::ReturnArg<0>());
+    ToldList told(row());
+    for (std::size_t i = 0; i < changes.size(); ++i) {
+        changes[i]();
+        EXPECT_EQ(told.changes, static_cast<int>(i) + 1);
+    }
 }
 
 TEST_F(LineOverviewItemPrivateTest, ListTellsItOfTheLanguageAsWell)

@@ -1,5 +1,6 @@
 #include "DisplayAPI/LineOverviewItem.h"
 
+#include "support/WidgetName.h"
 #include "unit/src/Posted.h"
 #include "unit/src/RowFacadeTest.h"
 #include "utilities/TranslationInfo.h"
@@ -28,6 +29,7 @@ TEST_P(LineOverviewItemTest, ShowsWhatItIsMadeWithOnEveryVariant)
     make(LineOverviewItem::RINGING, "Office", "4711", &prefix);
     EXPECT_THAT(texts(), ElementsAre("Line.1 Office", "4711"));
     EXPECT_EQ(item().sign(), LineOverviewListItem::RINGS);
+    EXPECT_EQ(test::WidgetName::of(*row), "LineOverviewItem");
 }
 
 TEST_P(LineOverviewItemTest, NameAloneIsEnough)

@@ -1,5 +1,6 @@
 #include "DisplayAPI/PhonebookItem.h"
 
+#include "support/WidgetName.h"
 #include "unit/src/Posted.h"
 #include "unit/src/RowFacadeTest.h"
 #include "utilities/TranslationInfo.h"
@@ -14,9 +15,16 @@ namespace {
 
 class PhonebookItemTest : public test::RowFacadeTest<PhonebookItem> {
 protected:
-    bool hasPhonebookRow()
+    const PhonebookListItem* item()
     {
-        return dynamic_cast<PhonebookListItem*>(row->getPrivateImpl()->getKestrelListItem()) != nullptr;
+        return dynamic_cast<PhonebookListItem*>(row->getPrivateImpl()->getKestrelListItem());
+    }
+
+    void expectLook(PhonebookItem::IconType icon, bool isBold)
+    {
+        ASSERT_NE(item(), nullptr);
+        EXPECT_EQ(item()->icon(), icon);
+        EXPECT_EQ(item()->isBold(), isBold);
     }
 
     TranslationInfo key{"key", nullptr};
@@ -27,30 +35,37 @@ protected:
 TEST_P(PhonebookItemTest, ShowsItsTextOnEveryVariant)
 {
     make(PhonebookItem::ICON_HOME, true, std::string("Zoë"), false);
-    EXPECT_TRUE(hasPhonebookRow());
+    expectLook(PhonebookItem::ICON_HOME, true);
     EXPECT_EQ(text(), "Zoë");
     EXPECT_THAT(texts(), ElementsAre("Zoë"));
+    EXPECT_EQ(test::WidgetName::of(*row), "PhonebookItem");
 }
 
 TEST_P(PhonebookItemTest, TranslationIsShownWhereItIsMadeOnTheGuiThreadAndNotElsewhere)
 {
     make(PhonebookItem::ICON_HOME, false, &key, true);
-    EXPECT_TRUE(hasPhonebookRow());
+    expectLook(PhonebookItem::ICON_HOME, false);
     EXPECT_EQ(text(), from() == From::GUI_THREAD ? "key" : "");
 }
 
 TEST_P(PhonebookItemTest, CodeTenMakesARowFromTheTextAndElevenFromTheTranslation)
 {
     make(PhonebookItem::ICON_HOME, true, std::string("Zoë"), false);
+    bool isPreferred = true;
     const auto fill = [&](GuiRequestEvent& r) {
         r.intParam1 = PhonebookItem::ICON_WORK;
+        r.boolParam1 = isPreferred;
+        r.boolParam2 = !isPreferred;
         r.stringParam1 = "Ada";
         r.ptrParam1 = &key;
     };
     carryOut(from(), *row, 10, fill);
     EXPECT_EQ(text(), "Ada");
+    expectLook(PhonebookItem::ICON_WORK, true);
+    isPreferred = false;
     carryOut(from(), *row, 11, fill);
     EXPECT_EQ(text(), "key");
+    expectLook(PhonebookItem::ICON_WORK, false);
     EXPECT_EQ(row->getPrivateImpl(), row->getPrivateImplemetation());
 }
 

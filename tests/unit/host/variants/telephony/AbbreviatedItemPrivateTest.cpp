@@ -43,6 +43,59 @@ TEST_P(AbbreviatedItemPrivateTest, TranslationFollowsTheLanguage)
     EXPECT_EQ(row.getText(), "de:Desk");
 }
 
+TEST_P(AbbreviatedItemPrivateTest, ItsTextIsTheNewOneWhenTheObserverIsTold)
+{
+    TranslationInfo text("Desk", &dictionary);
+    auto& row = add<AbbreviatedItem>(3, AbbreviatedItem::ICON_NUMBER, &text, true);
+    std::string told;
+    class Reader : public DisplayEventIfc {
+    public:
+        Reader(ListItem& read, std::string& text) : mRead(read), mText(text) {}
+        void displayChanged(std::string) override { mText = mRead.getText(); }
+
+    private:
+        ListItem& mRead;
+        std::string& mText;
+    } reader(row, told);
+    display.subscribe(&reader);
+    dictionary.language = "de:";
+    row.getPrivateImpl()->localeChanged("de");
+    display.unSubscribe();
+    EXPECT_EQ(told, "de:Desk");
+}
+
+TEST_P(AbbreviatedItemPrivateTest, ObserverIsToldOfALanguageAsOftenForManyRowsAsForOne)
+{
+    TranslationInfo text("Desk", &dictionary);
+    add<AbbreviatedItem>(1, AbbreviatedItem::ICON_NUMBER, &text, true);
+    const int forOne = changesBy([this] { changeLanguage("de"); });
+    add<AbbreviatedItem>(2, AbbreviatedItem::ICON_NUMBER, &text, true);
+    EXPECT_EQ(changesBy([this] { changeLanguage("fr"); }), forOne);
+}
+
+TEST_P(AbbreviatedItemPrivateTest, ObserverMayRemoveTheRowsWhileTheLanguageChanges)
+{
+    TranslationInfo text("Desk", &dictionary);
+    add<AbbreviatedItem>(1, AbbreviatedItem::ICON_NUMBER, &text, true);
+    add<AbbreviatedItem>(2, AbbreviatedItem::ICON_NUMBER, &text, true);
+    class Remover : public DisplayEventIfc {
+    public:
+        explicit Remover(List& list) : mList(list) {}
+        void displayChanged(std::string) override
+        {
+            if (mList.size() > 0)
+                mList.clear();
+        }
+
+    private:
+        List& mList;
+    } remover(list);
+    display.subscribe(&remover);
+    changeLanguage("de");
+    display.unSubscribe();
+    EXPECT_EQ(list.size(), 0);
+}
+
 TEST_P(AbbreviatedItemPrivateTest, ToolkitRowGoesWithWhoeverOwnsIt)
 {
     std::unique_ptr<KestrelListBoxItem> item;

@@ -41,6 +41,14 @@ TEST_P(CallForwardItemPrivateTest, HasACheckMarkThatItsOperationsTurn)
     EXPECT_FALSE(row.getCheck());
 }
 
+TEST_P(CallForwardItemPrivateTest, ObserverIsToldOfEachTurnOfTheMark)
+{
+    CallForwardItem& row = addRow();
+    EXPECT_EQ(changesBy([&] { row.check(); }), 1);
+    EXPECT_EQ(changesBy([&] { row.check(); }), 0);
+    EXPECT_EQ(changesBy([&] { row.swapCheck(); }), 1);
+}
+
 TEST_P(CallForwardItemPrivateTest, BeginsAsItIsMade)
 {
     auto& row = add<CallForwardItem>(CallLogMainItem::ICON_FORWARDING_ALWAYS, &nowhere, true, true);

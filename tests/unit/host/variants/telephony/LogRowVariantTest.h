@@ -1,6 +1,7 @@
 #pragma once
 
 #include "DisplayAPI/Display.h"
+#include "DisplayAPI/DisplayEventIfc.h"
 #include "DisplayAPI/DisplayablePrivate.h"
 #include "DisplayAPI/DisplayablePrivateIfc.h"
 #include "DisplayAPI/List.h"
@@ -12,6 +13,7 @@
 #include "utilities/CallPartyIdentifier.h"
 #include "utilities/ICC.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -67,6 +69,20 @@ protected:
     }
 
     std::string shown() { return list.getPrivateImpl()->serialise(); }
+
+    /// How often the screen's observer is told while that is done.
+    int changesBy(const std::function<void()>& work)
+    {
+        class Changes : public DisplayAPI::DisplayEventIfc {
+        public:
+            void displayChanged(std::string) override { ++count; }
+            int count = 0;
+        } changes;
+        display.subscribe(&changes);
+        work();
+        display.unSubscribe();
+        return changes.count;
+    }
 
     void changeLanguage(const char* language)
     {

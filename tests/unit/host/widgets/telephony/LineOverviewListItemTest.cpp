@@ -112,6 +112,36 @@ TEST_F(LineOverviewListItemTest, CurrentRowStaysInViewWhenItGrows)
     EXPECT_FALSE(host::isEmpty(list->rowArea(last)));
 }
 
+/// What the list tells whoever hears it of its rows.
+class RowChanges : public PegThing {
+public:
+    int Message(const PegMessage& message) override
+    {
+        count += message.wType == PM_ROW_CHANGED ? 1 : 0;
+        return 0;
+    }
+
+    int count = 0;
+};
+
+TEST_F(LineOverviewListItemTest, ListIsToldOnceOfAllThatHasChangedAndNotOfWhatBlinks)
+{
+    show();
+    RowChanges changes;
+    list->setMessageTarget(&changes);
+    row.setIdentity(letters("4711"));
+    row.setName(letters("Lab"));
+    row.setHighlighted(true);
+    EXPECT_EQ(changes.count, 0);
+    row.tell();
+    EXPECT_EQ(changes.count, 1);
+    pass(2'000);
+    row.setName(letters("Lab"));
+    row.tell();
+    EXPECT_EQ(changes.count, 1);
+    list->setMessageTarget(nullptr);
+}
+
 TEST_F(LineOverviewListItemTest, OnTwoLinesTheIdentityStandsOnTheFirst)
 {
     show(host::Variant::WP1);
