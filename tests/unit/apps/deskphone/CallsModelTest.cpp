@@ -1,266 +1,194 @@
-// Two lines and four parties do at random what they can. What the telephone knows of every call has to be what the few
-// rules of this file make of it, which know nothing of the exchange's own.
+// Two lines and four parties do at random what they can. What the telephone knows of every call, and what its panel
+// shows, has to be what the model makes of it.
 
-#include "support/Application.h"
+#include "unit/apps/deskphone/CallsModel.h"
+#include "apps/deskphone/CallWords.h"
+#include "host/Phone.h"
 #include "unit/apps/deskphone/CallsFixture.h"
+#include "unit/apps/deskphone/DeskFixture.h"
+#include "unit/apps/deskphone/ShownObject.h"
 
 #include <algorithm>
 #include <array>
-#include <map>
-#include <optional>
-#include <sstream>
+#include <string>
+#include <utility>
+#include <vector>
 
 using deskphone::PhoneCall;
-using exchange::CallId;
 using exchange::CallState;
+using test::CallsModel;
+using test::Leg;
+using test::ShownObject;
+using test::Stage;
+using testing::ElementsAreArray;
 
 namespace {
 
-constexpr int STEPS = 10'000; ///< of each seed
-constexpr int PARTIES = 4;
-constexpr int LONGEST_RINGING = 40; ///< in steps of a second; the network gives up after a minute
-
-enum class Stage { RINGS_HERE, RINGS_THERE, TALKS };
-
-struct Leg {
-    CallId id = exchange::NO_CALL;
-    int line = 1;
-    Stage stage = Stage::RINGS_HERE;
-    bool heldByMe = false, heldByOther = false;
-    std::optional<int> partner = {}; ///< the other party of the conference
-    int age = 0;
-
-    bool isActive() const { return stage == Stage::TALKS && !heldByMe; }
-
-    CallState state() const
-    {
-        if (stage != Stage::TALKS)
-            return stage == Stage::RINGS_HERE ? CallState::INCOMING : CallState::RINGING_BACK;
-        if (heldByMe)
-            return heldByOther ? CallState::HELD_BY_BOTH : CallState::HELD_BY_ME;
-        if (heldByOther)
-            return CallState::HELD_BY_OTHER;
-        return partner ? CallState::CONFERENCE : CallState::CONNECTED;
-    }
-};
-
-/// By party.
-using Legs = std::map<int, Leg>;
-
-std::string numberOf(int party)
-{
-    return "471" + std::to_string(party);
-}
+constexpr int STEPS = CALLS_MODEL_STEPS; ///< of each seed
 
 class CallsModelTest : public test::SeededTest {
 protected:
-    test::CallsFixture phone;
-    test::Chance chance{seed(), 0};
-    Legs legs;
-    std::ostringstream done; ///< what has been done last, for whoever has to find out why
-
-    bool say(int party, const std::string& what)
+    /// Compares after every step.
+    template <typename Compare>
+    void walk(CallsModel& model, Compare compare)
     {
-        done << numberOf(party) << " " << what << "; ";
-        return phone.exchange.command(numberOf(party) + " " + what).empty();
-    }
-
-    bool is(int party, Stage stage) const
-    {
-        const auto leg = legs.find(party);
-        return leg != legs.end() && leg->second.stage == stage;
-    }
-
-    bool isActive(int party) const { return legs.contains(party) && legs.at(party).isActive(); }
-    bool talksAlone(int party) const { return is(party, Stage::TALKS) && !legs.at(party).partner; }
-    CallId idOf(int party) const { return legs.contains(party) ? legs.at(party).id : 9'999'999; }
-
-    void holdActive(int but, std::optional<int> butAlso = {})
-    {
-        for (auto& [party, leg] : legs)
-            if (party != but && party != butAlso && leg.isActive())
-                leg.heldByMe = true;
-    }
-
-    void withPartner(int party, const std::function<void(Leg&)>& change)
-    {
-        change(legs.at(party));
-        if (const auto partner = legs.at(party).partner)
-            change(legs.at(*partner));
-    }
-
-    void leave(int party)
-    {
-        if (const auto partner = legs.at(party).partner)
-            legs.at(*partner).partner.reset();
-        legs.erase(party);
-    }
-
-    // Each does something that may be possible, and makes the model follow where it is.
-
-    void calls(int party)
-    {
-        if (legs.contains(party))
-            return;
-        const int line = 1 + chance.below(2);
-        ASSERT_TRUE(say(party, "calls line " + std::to_string(line)));
-        legs[party] = {.line = line};
-        phone.settle();
-        for (const PhoneCall* call : phone.calls.all())
-            if (call->last.other.number == numberOf(party))
-                legs[party].id = call->id();
-    }
-
-    void place(int party)
-    {
-        if (legs.contains(party))
-            return;
-        done << "place " << party << "; ";
-        const int line = 1 + chance.below(2);
-        holdActive(party);
-        legs[party] = {.line = line, .stage = Stage::RINGS_THERE};
-        legs[party].id = phone.place(line, {numberOf(party), ""});
-    }
-
-    void otherAnswers(int party)
-    {
-        const bool isPossible = is(party, Stage::RINGS_THERE);
-        ASSERT_EQ(say(party, "answers"), isPossible);
-        if (!isPossible)
-            return;
-        legs[party].heldByMe = std::ranges::any_of(legs, [](const auto& leg) { return leg.second.isActive(); });
-        legs[party].stage = Stage::TALKS;
-    }
-
-    void answer(int party)
-    {
-        const bool isPossible = is(party, Stage::RINGS_HERE);
-        done << "answer " << party << "; ";
-        ASSERT_EQ(phone.exchange.answer(idOf(party)), isPossible);
-        if (!isPossible)
-            return;
-        holdActive(party);
-        legs[party].stage = Stage::TALKS;
-    }
-
-    void end(int party)
-    {
-        done << "end " << party << "; ";
-        ASSERT_EQ(phone.exchange.end(idOf(party)), legs.contains(party));
-        if (legs.contains(party))
-            leave(party);
-    }
-
-    void otherEnds(int party)
-    {
-        ASSERT_EQ(say(party, "ends"), legs.contains(party));
-        if (legs.contains(party))
-            leave(party);
-    }
-
-    void hold(int party)
-    {
-        const bool isPossible = isActive(party);
-        done << "hold " << party << "; ";
-        ASSERT_EQ(phone.exchange.hold(idOf(party)), isPossible);
-        if (isPossible)
-            withPartner(party, [](Leg& leg) { leg.heldByMe = true; });
-    }
-
-    void resume(int party)
-    {
-        const bool isPossible = is(party, Stage::TALKS) && !isActive(party);
-        done << "resume " << party << "; ";
-        ASSERT_EQ(phone.exchange.resume(idOf(party)), isPossible);
-        if (!isPossible)
-            return;
-        holdActive(party, legs[party].partner);
-        withPartner(party, [](Leg& leg) { leg.heldByMe = false; });
-    }
-
-    void otherHolds(int party)
-    {
-        const bool isPossible = is(party, Stage::TALKS) && !legs.at(party).heldByOther;
-        ASSERT_EQ(say(party, "holds"), isPossible);
-        if (isPossible)
-            legs[party].heldByOther = true;
-    }
-
-    void otherResumes(int party)
-    {
-        const bool isPossible = is(party, Stage::TALKS) && legs.at(party).heldByOther;
-        ASSERT_EQ(say(party, "resumes"), isPossible);
-        if (isPossible)
-            legs[party].heldByOther = false;
-    }
-
-    void join(int party)
-    {
-        const int other = chance.below(PARTIES);
-        const bool isPossible = party != other && talksAlone(party) && talksAlone(other);
-        done << "join " << party << " " << other << "; ";
-        ASSERT_EQ(phone.exchange.join(idOf(party), idOf(other)), isPossible);
-        if (!isPossible)
-            return;
-        holdActive(party, other);
-        legs[party].partner = other;
-        legs[other].partner = party;
-        withPartner(party, [](Leg& leg) { leg.heldByMe = false; });
-    }
-
-    void transfer(int party)
-    {
-        const int other = chance.below(PARTIES);
-        if (party == other || !talksAlone(party) || !talksAlone(other))
-            return;
-        done << "transfer " << party << " " << other << "; ";
-        ASSERT_TRUE(phone.exchange.transfer(idOf(party), idOf(other)));
-        legs.erase(party);
-        legs.erase(other);
-    }
-
-    void step()
-    {
-        using Deed = void (CallsModelTest::*)(int);
-        constexpr std::array<Deed, 14> DEEDS{
-            &CallsModelTest::calls,  &CallsModelTest::calls,        &CallsModelTest::place,
-            &CallsModelTest::place,  &CallsModelTest::otherAnswers, &CallsModelTest::answer,
-            &CallsModelTest::end,    &CallsModelTest::otherEnds,    &CallsModelTest::hold,
-            &CallsModelTest::resume, &CallsModelTest::otherHolds,   &CallsModelTest::otherResumes,
-            &CallsModelTest::join,   &CallsModelTest::transfer};
-        (this->*DEEDS[static_cast<std::size_t>(chance.below(static_cast<int>(DEEDS.size())))])(chance.below(PARTIES));
-        for (int party = 0; party < PARTIES; ++party)
-            if (legs.contains(party) && legs[party].stage != Stage::TALKS && ++legs[party].age > LONGEST_RINGING)
-                end(party);
-        phone.pass(1000);
-    }
-
-    void compare()
-    {
-        ASSERT_EQ(phone.calls.all().size(), legs.size()) << done.str();
-        for (const auto& [party, leg] : legs) {
-            const PhoneCall* const call = phone.calls.find(leg.id);
-            ASSERT_NE(call, nullptr) << numberOf(party) << ": " << done.str();
-            ASSERT_EQ(nameOf(call->state()), nameOf(leg.state())) << numberOf(party) << ": " << done.str();
-            ASSERT_EQ(call->last.other.number, numberOf(party)) << done.str();
-            ASSERT_EQ(call->last.line, leg.line) << done.str();
-            ASSERT_EQ(call->talkSince.has_value(), leg.stage == Stage::TALKS) << done.str();
+        for (int i = 0; i < STEPS && !HasFatalFailure(); ++i) {
+            model.step();
+            if (!HasFatalFailure())
+                compare();
         }
-        const bool speaks = std::ranges::any_of(legs, [](const auto& leg) { return leg.second.isActive(); });
-        ASSERT_TRUE(!speaks || phone.calls.current()->state() != CallState::HELD_BY_ME) << done.str();
+        ASSERT_FALSE(HasFatalFailure()) << model.done();
     }
 };
 
+void compare(const CallsModel& model, const deskphone::Calls& calls)
+{
+    ASSERT_EQ(calls.all().size(), model.legs().size());
+    for (const auto& [party, leg] : model.legs()) {
+        const PhoneCall* const call = calls.find(leg.id);
+        ASSERT_NE(call, nullptr) << party;
+        ASSERT_EQ(nameOf(call->state()), nameOf(leg.state())) << party;
+        ASSERT_EQ(call->last.other.number, CallsModel::numberOf(party));
+        ASSERT_EQ(call->last.line, leg.line) << party;
+        ASSERT_EQ(call->talkSince.has_value(), leg.stage == Stage::TALKS) << party;
+    }
+    ASSERT_TRUE(!model.isSpeaking() || calls.current()->state() != CallState::HELD_BY_ME);
+}
+
 TEST_P(CallsModelTest, TelephoneKnowsEveryCallAsItIs)
 {
-    for (int i = 0; i < STEPS; ++i) {
-        if (i % 50 == 0)
-            done.str(std::to_string(i) + ": ");
-        step();
-        ASSERT_FALSE(HasFatalFailure()) << done.str();
-        compare();
-        ASSERT_FALSE(HasFatalFailure());
+    test::CallsFixture phone;
+    CallsModel model(phone, seed());
+    walk(model, [&] { compare(model, phone.calls); });
+}
+
+constexpr std::array<const char*, 4> NAMES{"Ada", "Bert", "Cleo", "Dora"};
+
+std::string nameOf(int party)
+{
+    return NAMES.at(static_cast<std::size_t>(party));
+}
+
+std::string wordOf(const Leg& leg)
+{
+    switch (leg.state()) {
+    case CallState::RINGING_BACK: return "Ringing";
+    case CallState::CONNECTED: return "Connected";
+    case CallState::HELD_BY_ME: return "On hold";
+    case CallState::HELD_BY_OTHER: return "Held by other";
+    case CallState::HELD_BY_BOTH: return "Held by both";
+    case CallState::CONFERENCE: return "Conference";
+    default: return "no state of this model";
     }
+}
+
+bool isDuration(const std::string& text)
+{
+    return text.size() >= 5 && text.find_first_not_of("0123456789:") == std::string::npos;
+}
+
+/// What the panel shows, beside the model. A conference may be one row with both of its members, of which a small panel
+/// names but one; its word is that of one of them.
+class Sight {
+public:
+    /// `rows` are all on the panel; those of other screens do not matter.
+    Sight(const CallsModel& model, const std::string& screen, std::vector<ShownObject> rows)
+        : mModel(model), mLegs(model.legs()), mStack(test::readScreen(screen)), mRows(std::move(rows))
+    {
+        std::erase_if(mRows, [](const ShownObject& row) {
+            return row.name != "CallConnectedItem" && row.name != "ConferenceCallItem";
+        });
+    }
+
+    void compare() const
+    {
+        comparePopups();
+        if (!mRows.empty() || mModel.ringing().empty())
+            for (const auto& [party, leg] : mLegs)
+                compareRow(party, leg);
+        for (const ShownObject& row : mRows)
+            compareRow(row);
+        if (mModel.ringing().empty())
+            compareStatus();
+    }
+
+private:
+    bool isOf(const ShownObject& row, int party) const
+    {
+        const auto& partner = mLegs.at(party).partner;
+        return row.says(nameOf(party)) || (row.name == "ConferenceCallItem" && partner && row.says(nameOf(*partner)));
+    }
+
+    /// Those that ring here, and no others: the latest on top of all.
+    void comparePopups() const
+    {
+        std::vector<std::string> shown, wanted;
+        for (const ShownObject& object : mStack)
+            if (object.name == "PopupCall")
+                shown.push_back(object.caption);
+        for (const int party : mModel.ringing())
+            wanted.push_back(nameOf(party));
+        ASSERT_THAT(shown, ElementsAreArray(wanted));
+        ASSERT_TRUE(wanted.empty() || mStack.back().name == "PopupCall") << mStack.back().name;
+    }
+
+    /// What rings here has no row, all else has one.
+    void compareRow(int party, const Leg& leg) const
+    {
+        const auto rows = std::ranges::count_if(mRows, [=, this](const ShownObject& row) { return isOf(row, party); });
+        ASSERT_EQ(rows, leg.stage == Stage::RINGS_HERE ? 0 : 1) << nameOf(party);
+    }
+
+    /// It is of those of whom it is, and says of them what is so.
+    void compareRow(const ShownObject& row) const
+    {
+        std::vector<std::string> words;
+        bool isTalk = true;
+        for (const auto& [party, leg] : mLegs)
+            if (isOf(row, party)) {
+                words.push_back(wordOf(leg));
+                isTalk = isTalk && leg.stage == Stage::TALKS;
+            }
+        ASSERT_EQ(words.size(), row.name == "ConferenceCallItem" ? 2U : 1U) << row.texts.front();
+        ASSERT_TRUE(std::ranges::any_of(words, [&](const std::string& word) { return row.says(word); }))
+            << testing::PrintToString(row.texts) << " is " << testing::PrintToString(words);
+        ASSERT_EQ(std::ranges::any_of(row.texts, isDuration), isTalk) << row.texts.front();
+    }
+
+    /// The status lines tell of one with whom the user speaks, where he speaks with anybody.
+    void compareStatus() const
+    {
+        const bool isTold = std::ranges::any_of(mLegs, [this](const auto& leg) {
+            return (leg.second.isActive() || !mModel.isSpeaking()) && isInStatus(nameOf(leg.first));
+        });
+        ASSERT_EQ(isTold, !mLegs.empty() && host::variant() != host::Variant::WP1);
+    }
+
+    bool isInStatus(const std::string& name) const
+    {
+        return std::ranges::any_of(mStack.front().parts, [&](const ShownObject& part) {
+            return part.name == "SystemWindow" && part.says(name);
+        });
+    }
+
+    const CallsModel& mModel;
+    const CallsModel::Legs& mLegs;
+    std::vector<ShownObject> mStack;
+    std::vector<ShownObject> mRows;
+};
+
+/// A panel for each of three seeds.
+TEST_P(CallsModelTest, PanelShowsEveryCallAsItIs)
+{
+    test::DeskFixture phone(static_cast<host::Variant>(seed() % 3));
+    CallsModel model(phone, seed());
+    phone.run([&] {
+        walk(model, [&] {
+            const std::string screen = phone.shows();
+            Sight(model, screen, phone.rows()).compare();
+            ASSERT_FALSE(HasFatalFailure()) << screen;
+        });
+    });
 }
 
 INSTANTIATE_SEEDED(CallsModelTest);
