@@ -63,27 +63,26 @@ std::string CallRecorder::failure(const PhoneCall& call)
     if (!call.last.text.empty())
         return call.last.text;
     const std::string key = keyOf(call.last.reason);
-    return key.empty() ? std::string() : words(key, {});
+    return key.empty() ? std::string() : said(key);
 }
 
 std::string CallRecorder::epilogue(const PhoneCall& call)
 {
     if (call.state() == CallState::FORWARDED || call.last.reason == Reason::TRANSFERRED)
-        return words(call.state() == CallState::FORWARDED ? "Call.forwarded" : "Call.transferred",
-                     nameOf(call.last.to));
+        return said(call.state() == CallState::FORWARDED ? "Call.forwarded" : "Call.transferred", nameOf(call.last.to));
     const bool isIncoming = call.last.direction == Direction::INCOMING;
     if (isIncoming && !call.talkSince)
-        return wasRefused(call) ? std::string() : words("Details.missed", {});
+        return wasRefused(call) ? std::string() : said("Details.missed");
     if (!call.last.text.empty())
         return call.last.text;
     const std::string key = keyOf(call.last.reason);
-    return key.empty() ? words("Call.ended", DisplayAPI::durationText(call.spokenUntil(call.last.at) / 1000))
-                       : words(key, {});
+    return key.empty() ? said("Call.ended", DisplayAPI::durationText(call.spokenUntil(call.last.at) / 1000))
+                       : said(key);
 }
 
-std::string CallRecorder::words(const std::string& key, const std::string& argument)
+std::string CallRecorder::said(const std::string& key, const std::string& argument)
 {
-    return DisplayAPI::kit::Text(&mTelephone.languages(), key, {[&argument] { return argument; }}).get();
+    return words(mTelephone.languages(), key, argument);
 }
 
 } // namespace deskphone

@@ -19,7 +19,7 @@ private:
     void keep(const PhoneCall& call);
     std::string failure(const PhoneCall& call);
     std::string epilogue(const PhoneCall& call);
-    std::string words(const std::string& key, const std::string& argument);
+    std::string said(const std::string& key, const std::string& argument = {});
 
     Telephone& mTelephone;
     CallHistory& mHistory;

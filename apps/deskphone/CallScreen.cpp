@@ -17,18 +17,6 @@ namespace deskphone {
 using exchange::CallId;
 namespace kit = DisplayAPI::kit;
 
-namespace {
-
-/// The first one that can be called from.
-exchange::LineNumber usualLine(const exchange::Telephony& telephony)
-{
-    const std::vector<exchange::Line> lines = telephony.lines();
-    const auto registered = std::ranges::find_if(lines, &exchange::Line::isRegistered);
-    return registered != lines.end() ? registered->number : lines.front().number;
-}
-
-} // namespace
-
 CallScreen::CallScreen(Telephone& telephone, Calls& calls, TransferQuestions& transfers)
     : Screen(telephone, nullptr, isSmallPanel() ? WITHOUT_TITLE : "Call.title",
              std::make_unique<DisplayAPI::List>(kit::listType(kit::WayBack::EVERYWHERE))),
@@ -47,7 +35,7 @@ CallScreen::CallScreen(Telephone& telephone, Calls& calls, TransferQuestions& tr
 void CallScreen::begin(Place& from, const std::string& party, const std::string& number)
 {
     const std::string name = party == number ? std::string() : party;
-    if (mCalls.place(usualLine(mCalls.telephony()), {number, name}) != exchange::NO_CALL && &from != this)
+    if (mCalls.place({number, name}) != exchange::NO_CALL && &from != this)
         setParent(&from);
 }
 

@@ -1,9 +1,16 @@
 #include "apps/deskphone/CallWords.h"
 
+#include "kit/Text.h"
+
 namespace deskphone {
 
 using exchange::CallState;
 using exchange::Reason;
+
+std::string words(TranslatorIfc& translator, const std::string& key, const std::string& argument)
+{
+    return DisplayAPI::kit::Text(&translator, key, {[&argument] { return argument; }}).get();
+}
 
 std::string keyOf(CallState state)
 {

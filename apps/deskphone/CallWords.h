@@ -4,7 +4,12 @@
 
 #include <string>
 
+class TranslatorIfc;
+
 namespace deskphone {
+
+/// A text with what stands in the place of its %1, in the language of the moment.
+std::string words(TranslatorIfc& translator, const std::string& key, const std::string& argument = {});
 
 /// The key of the words for the state of a call that the user takes part in.
 std::string keyOf(exchange::CallState state);

@@ -43,7 +43,8 @@ std::string PhoneCall::party() const
     return isDialled ? dialled.number : last.other.number;
 }
 
-Calls::Calls(exchange::Telephony& telephony) : mTelephony(telephony), mWake([this](DisplayAPI::Command*) { catchUp(); })
+Calls::Calls(exchange::Telephony& telephony)
+    : mTelephony(telephony), mLines(telephony), mWake([this](DisplayAPI::Command*) { catchUp(); })
 {
 }
 
@@ -99,6 +100,18 @@ const PhoneCall* Calls::current() const
     return nearest;
 }
 
+void Calls::chooseLine(exchange::LineNumber line)
+{
+    mLines.choose(line);
+    tellOf(mLines.find(line));
+}
+
+void Calls::tellOf(const exchange::Line& line)
+{
+    for (const auto& listener : mLineListeners)
+        listener(line);
+}
+
 CallId Calls::place(exchange::LineNumber line, const exchange::Party& party)
 {
     const CallId call = mTelephony.place(line, digitsOf(party.number));
@@ -147,8 +160,7 @@ void Calls::catchUp()
     for (const CallEvent& event : news.calls)
         accept(event);
     for (const exchange::Line& line : news.lines)
-        for (const auto& listener : mLineListeners)
-            listener(line);
+        tellOf(line);
     for (const Listener& listener : mListeners)
         listener();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "apps/deskphone/Ear.h"
+#include "apps/deskphone/OwnLines.h"
 #include "apps/exchange/SignedCalls.h"
 #include "apps/exchange/Telephony.h"
 
@@ -61,6 +62,10 @@ public:
     // The rest on the threads that answer the user, and before there are any on the GUI thread.
 
     exchange::Telephony& telephony() { return mTelephony; }
+    OwnLines& lines() { return mLines; }
+
+    /// Calls go out on this line from now on, as OwnLines says.
+    void chooseLine(exchange::LineNumber line);
 
     /// Those that are not over, the one that began first in front.
     std::vector<const PhoneCall*> all() const;
@@ -75,13 +80,14 @@ public:
     /// Whether there is one that the user has answered or dialled.
     bool isInCall() const { return current() != nullptr; }
 
-    /// Calls somebody. NO_CALL where the network has no such number.
+    /// Calls somebody, without a line on the one that calls go out on. NO_CALL where the network has no such number.
+    exchange::CallId place(const exchange::Party& party) { return place(mLines.outgoing().number, party); }
     exchange::CallId place(exchange::LineNumber line, const exchange::Party& party);
 
     /// Called with each change of a call, its end included: then it is in no list any more.
     void addCallListener(CallListener listener) { mCallListeners.push_back(std::move(listener)); }
 
-    /// Called with each change of a line.
+    /// Called with each change of a line, and when it has been chosen.
     void addLineListener(std::function<void(const exchange::Line&)> listener)
     {
         mLineListeners.push_back(std::move(listener));
@@ -105,8 +111,10 @@ private:
     void catchUp();
     void accept(const exchange::CallEvent& event);
     void acceptEnds(std::int64_t now);
+    void tellOf(const exchange::Line& line);
 
     exchange::Telephony& mTelephony;
+    OwnLines mLines;
     exchange::SignedCalls mSigns; ///< the network's thread's
     std::map<exchange::CallId, PhoneCall> mCalls;
     std::map<exchange::CallId, exchange::Party> mDialled; ///< calls of which nothing has been told yet

@@ -43,14 +43,16 @@ Desk::Desk(DisplayAPI::Display& display, exchange::Telephony& telephony, const s
       mCalls(telephony), mRecorder(mTelephone, mCalls, mHistory),
       mStatus(mTelephone, mCalls, [this] { return mCall.showsCallsOrPopup(); }), mTransfers(mTelephone, mCalls),
       mPopups(mTelephone, mCalls, mTransfers), mCall(mTelephone, mCalls, mTransfers), mHandset(mCalls),
-      mDetails(mTelephone, mCall), mHome(mTelephone, mCall, mHistory),
+      mDetails(mTelephone, mCall), mHome(mTelephone, mCall, mHistory), mLineStatus(mTelephone, mCalls, mHome),
       mCallLogs(mTelephone, mHome, mHistory, mCall, mDetails), mContacts(mTelephone, &mHome, mCall),
-      mSettings(mTelephone, mHome, mCalls), mServices(mTelephone, &mHome, mCall), mAbout(mTelephone, &mHome)
+      mLines(mTelephone, &mHome, mCalls, mCall), mSettings(mTelephone, mHome, mCalls),
+      mServices(mTelephone, &mHome, mCall), mAbout(mTelephone, &mHome)
 {
     mHome.setMenu({{"Menu.call.log", "Key.call.log", &mCallLogs},
                    {"Menu.contacts", "Key.contacts", &mContacts},
                    {"Menu.settings", "Key.settings", &mSettings},
                    {"Menu.services", "Key.services", &mServices},
+                   {"Menu.lines", "Key.lines", &mLines},
                    {"Menu.about", "Key.about", &mAbout}});
     if (!isSmallPanel()) // which has no line to spare
         mServices.setTicker(mNews);
@@ -89,7 +91,7 @@ void Desk::close()
 
 std::vector<Place*> Desk::places()
 {
-    std::vector<Place*> all = {&mHome,  &mCallLogs, &mContacts, &mSettings, &mContacts.card(),
+    std::vector<Place*> all = {&mHome,  &mCallLogs, &mContacts, &mLines,   &mSettings, &mContacts.card(),
                                &mAbout, &mCall,     &mDetails,  &mServices};
     for (Choice* choice : mSettings.choices())
         all.push_back(choice);

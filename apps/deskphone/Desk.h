@@ -13,6 +13,8 @@
 #include "apps/deskphone/Contacts.h"
 #include "apps/deskphone/Handset.h"
 #include "apps/deskphone/Home.h"
+#include "apps/deskphone/LineOverview.h"
+#include "apps/deskphone/LineStatus.h"
 #include "apps/deskphone/Services.h"
 #include "apps/deskphone/Settings.h"
 #include "apps/deskphone/Telephone.h"
@@ -56,8 +58,10 @@ private:
     Handset mHandset;
     CallDetails mDetails;
     Home mHome;
+    LineStatus mLineStatus;
     CallLogs mCallLogs;
     Contacts mContacts;
+    LineOverview mLines;
     Settings mSettings;
     Services mServices;
     About mAbout;

@@ -3,6 +3,7 @@
 #include "DisplayAPI/Display.h"
 #include "DisplayAPI/MenuCommand.h"
 #include "apps/deskphone/Dialer.h"
+#include "apps/deskphone/LineSigns.h"
 #include "apps/deskphone/MainMenu.h"
 #include "apps/deskphone/Telephone.h"
 #include "host/clock/WallClock.h"
@@ -14,9 +15,15 @@ using DisplayAPI::Desktop;
 using DisplayAPI::MenuCommand;
 using host::WallClock;
 
+namespace {
+
+/// Of the icons behind the time.
+enum Icon { LETTER = 1, ARROW = 2 };
+
+} // namespace
+
 DesktopHome::DesktopHome(Telephone& telephone, Dialer& dialer, std::function<void()> woken)
     : mTelephone(telephone), mDialer(dialer), mWoken(std::move(woken)),
-      mOwnName(&telephone.languages(), "Status.own.name"),
       mTitle(&telephone.languages(), "Menu.title"), mPictures{APP_PICTURES "/sea.png", APP_PICTURES "/hills.png"},
       mKeys([this](Command* command) { pressed(static_cast<MenuCommand*>(command)->getId()); }),
       mMenuOnTop(HAS_WAY_BACK), mChoice(mMenuOnTop, [this](Command* command) { mMenu->choose(command); })
@@ -56,6 +63,16 @@ void DesktopHome::setMenu(MainMenu& menu)
     renewTexts();
 }
 
+void DesktopHome::show(const LineSigns& signs)
+{
+    mDesktop.setExtLabelText(signs.name);
+    mDesktop.setExtensionNumberAndArrowState(!signs.forwardedTo.empty());
+    mDesktop.setStatusBarMode(signs.state, {});
+    mDesktop.displayDNDIcon(signs.isQuiet);
+    mDesktop.setSBPostTimeIcon(LETTER, signs.messages > 0);
+    mDesktop.setSBPostTimeIcon(ARROW, signs.forwards);
+}
+
 void DesktopHome::startScreensaver()
 {
     setClock();
@@ -65,7 +82,6 @@ void DesktopHome::startScreensaver()
 
 void DesktopHome::renewTexts()
 {
-    mDesktop.setExtLabelText(mOwnName.get());
     mDesktop.setLogoText(mTitle.get());
     int key = 0;
     for (const std::string& label : mMenu->shortTexts())

@@ -15,6 +15,7 @@ namespace deskphone {
 
 class Dialer;
 class MainMenu;
+struct LineSigns;
 class Telephone;
 
 /// The desktop: the date, and the main menu on the programmable keys, and whole under OK. The screensaver is its.
@@ -31,6 +32,7 @@ public:
     /// Not owned. Once, before the first open().
     void setMenu(MainMenu& menu);
     void setMissedCalls(int count) { mDesktop.displayCallbacksIcon(count > 0); }
+    void show(const LineSigns& signs);
 
     /// Shows pictures until a key is pressed.
     void startScreensaver();
@@ -45,7 +47,6 @@ private:
     Dialer& mDialer;
     std::function<void()> mWoken;
     MainMenu* mMenu = nullptr;
-    DisplayAPI::kit::Text mOwnName;
     DisplayAPI::kit::Text mTitle;
     std::list<std::string> mPictures;
     Ear mKeys;

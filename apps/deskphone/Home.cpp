@@ -66,6 +66,12 @@ bool Home::isHome(const DisplayAPI::Displayable* screen)
     return screen == (mKind == Kind::DESKTOP ? &mDesktop.screen() : &mIdle.screen());
 }
 
+void Home::show(const LineSigns& signs)
+{
+    mIdle.show(signs);
+    mDesktop.show(signs);
+}
+
 void Home::setMissedCalls(int count)
 {
     mIdle.setMissedCalls(count);

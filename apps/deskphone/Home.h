@@ -14,6 +14,7 @@ namespace deskphone {
 
 class CallScreen;
 class CallHistory;
+struct LineSigns;
 
 /// Where the telephone is when nobody uses it: the idle screen, or the desktop. A digit dials, OK leads everywhere
 /// else.
@@ -31,6 +32,9 @@ public:
 
     /// Takes effect when it is opened the next time.
     void use(Kind kind);
+
+    /// Tells how the lines stand, wherever home is. On the GUI thread.
+    void show(const LineSigns& signs);
 
     /// 0 is never.
     void setScreensaverMinutes(int minutes) { mScreensaver.setMinutes(minutes); }

@@ -9,6 +9,7 @@ namespace deskphone {
 
 class Dialer;
 class MainMenu;
+struct LineSigns;
 class Telephone;
 
 /// The idle screen: who the telephone is, what was missed, the news, and the main menu.
@@ -24,6 +25,7 @@ public:
     /// Not owned. Once, before the first open().
     void setMenu(MainMenu& menu);
     void setMissedCalls(int count) { mIdle.setMissedCalls(count); }
+    void show(const LineSigns& signs);
 
 private:
     void renewTexts();
@@ -31,7 +33,6 @@ private:
 
     Telephone& mTelephone;
     MainMenu* mMenu = nullptr;
-    DisplayAPI::kit::Text mOwnName;
     DisplayAPI::kit::Text mTitle;
     DisplayAPI::kit::Text mCanteen;
     DisplayAPI::kit::Text mLift;

@@ -4,6 +4,7 @@
 #include "apps/deskphone/Panel.h"
 #include "apps/deskphone/Telephone.h"
 #include "host/clock/WallClock.h"
+#include "kit/OnGuiThread.h"
 
 #include <cstdio>
 
@@ -30,18 +31,13 @@ std::string timerText(std::int64_t seconds)
 
 } // namespace
 
-StatusLines::StatusLines(Telephone& telephone, kit::StatusLines& lines)
-    : mTelephone(telephone), mLines(lines), mOwnName(&telephone.languages(), "Status.own.name")
-{
-    telephone.addLanguageListener([this] { showOwnName(); });
-}
+StatusLines::StatusLines(Telephone& telephone, kit::StatusLines& lines) : mTelephone(telephone), mLines(lines) {}
 
 void StatusLines::open()
 {
     const std::tm now = WallClock::local(WallClock::now());
     mTelephone.display().setTimeInSystemWindow(now.tm_hour, now.tm_min, now.tm_sec);
     mTelephone.display().showTimeInSystemWindow(!isSmallPanel());
-    showOwnName();
     if (!isSmallPanel())
         setCount(1);
 }
@@ -80,15 +76,26 @@ void StatusLines::callEnds()
         setCount(1);
 }
 
+void StatusLines::setOwnName(const std::string& name, const std::string& state)
+{
+    mOwnName = name;
+    mOwnState = state;
+    showOwnName();
+}
+
+/// The timer of a call takes the room of the state.
 void StatusLines::showOwnName()
 {
-    if (!isSmallPanel())
-        mLines.setText(OWN_NAME, mOwnName.get());
+    if (isSmallPanel())
+        return;
+    const bool hasState = !mOwnState.empty() && mCount < 2;
+    mLines.setText(OWN_NAME, hasState ? mOwnName + "  " + mOwnState : mOwnName);
 }
 
 void StatusLines::setCount(int count)
 {
     mCount = count;
+    kit::onGuiThread([this] { showOwnName(); });
     mLines.setSize(mIsVisible || isSmallPanel() ? count : 0);
 }
 

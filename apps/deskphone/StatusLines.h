@@ -1,14 +1,12 @@
 #pragma once
 
 #include "kit/StatusLines.h"
-#include "kit/Text.h"
 
 #include <atomic>
 #include <cstdint>
+#include <string>
 
 namespace deskphone {
-
-using DisplayAPI::kit::Text;
 
 class Telephone;
 
@@ -20,6 +18,10 @@ public:
 
     /// REQUIRES: the display is shown.
     void open();
+
+    /// What the first line says: which of the telephone's lines it is about, and what is the matter with that, where it
+    /// is not a call's. On the GUI thread.
+    void setOwnName(const std::string& name, const std::string& state);
 
     /// Takes them off the large panels, and puts them back.
     void setVisible(bool visible);
@@ -39,7 +41,8 @@ private:
 
     Telephone& mTelephone;
     DisplayAPI::kit::StatusLines& mLines;
-    Text mOwnName;
+    std::string mOwnName; ///< the GUI thread's, as the state is
+    std::string mOwnState;
     std::atomic<int> mCount{0};
     std::atomic<bool> mIsVisible{true};
 };

@@ -141,6 +141,22 @@ TEST_F(CallsTest, LinesAreToldAsTheyChange)
     EXPECT_THAT(messages, ElementsAre(3, 0));
 }
 
+TEST_F(CallsTest, LineIsToldWhenItIsChosenAndCallsGoOutOnIt)
+{
+    std::vector<int> told;
+    phone.calls.addLineListener([&](const exchange::Line& line) { told.push_back(line.number); });
+    exchange::CallId call = exchange::NO_CALL;
+    deskphone::Ear user([&](DisplayAPI::Command*) {
+        phone.calls.chooseLine(2);
+        call = phone.calls.place({"4710", ""});
+    });
+    user.postCommandAction(nullptr, nullptr);
+    phone.settle();
+    EXPECT_THAT(told, ElementsAre(2));
+    ASSERT_NE(phone.calls.find(call), nullptr);
+    EXPECT_EQ(phone.calls.find(call)->last.line, 2);
+}
+
 TEST_F(CallsTest, NothingIsHeardBeforeAllWhoListenAreThere)
 {
     deskphone::Calls calls(phone.exchange);
