@@ -1,4 +1,4 @@
-"""A copy of the project's tree, built beside the build folders of the presets, and its tests."""
+"""A copy of the project's tree, built with the flags and in the folders of the presets, and its tests."""
 
 import contextlib
 import filecmp
@@ -11,8 +11,9 @@ import signal
 import subprocess
 import time
 
-# Built soon rather than fast; the tests choose for themselves.
-PLAIN = ("dev", "-DCMAKE_CXX_FLAGS_DEBUG=-O1")
+# As in the tree itself, so that ccache knows what is not broken.
+PLAIN = ("release", "-DDISPLAYAPI_UNIT_TESTS=ON")
+BUILDS = "build"
 SANITIZED = {"asan": ("asan",), "tsan": ("tsan",)}
 SECONDS_FOR_A_CASE = 20
 SANITIZERS_SLOW_DOWN = 4
@@ -29,11 +30,12 @@ def copy_tree(root, tree):
     for name in old:
         (tree / name).parent.mkdir(parents=True, exist_ok=True)
         shutil.copy(root / name, tree / name)
-    gone = [path for path in tree.rglob("*") if path.is_file() and str(path.relative_to(tree)) not in files]
+    gone = [path for path in tree.rglob("*") if path.is_file() and not path.is_relative_to(tree / BUILDS)
+            and str(path.relative_to(tree)) not in files]
     for path in gone:
         path.unlink()
     if old or gone:
-        for known in tree.parent.glob(f"*/{KNOWN_TESTS}"):
+        for known in tree.glob(f"{BUILDS}/*/{KNOWN_TESTS}"):
             known.unlink()
 
 
