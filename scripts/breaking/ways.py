@@ -21,7 +21,7 @@ CONDITION = re.compile(r"\bif \(([^=;]|[=!<>]=)+\)(?=$| \{$)")
 RETURN = re.compile(r"\breturn (?!true;|false;|\d+;|nullptr;|\{\};|\"\";|std::nullopt;)([^;{}]+);")
 WHOLE = re.compile(r"(?:^\s*|\{ )(?P<statement>[^{};]+(?:\{[^{};]*\})?;)(?: \})?$")
 LOCK = re.compile(r"(?:const )?(?:std::)?\w*(?:[lL]ock|guard|Guard)(?:<.*>)? \w+[({].*[)}];$")
-CALL = re.compile(r"(?!return\b|sizeof)[\w:.\->\[\]()<>*]+\(.*\);$")
+CALL = re.compile(r"(?!return\b|sizeof|static_cast<void>\()[\w:.\->\[\]()<>*]+\(.*\);$")
 ASSIGNMENT = re.compile(r"[\w:.\->\[\]()*]+ (?:[-+*/|&]?=) (?!default;|delete;).*;$")
 SMALL = re.compile(r"(?:delete (?:\[\] )?.*|(?:\+\+|--).*|.*(?:\+\+|--)|return|break|continue);$")
 

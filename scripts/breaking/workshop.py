@@ -14,7 +14,7 @@ import time
 # As in the tree itself, so that ccache knows what is not broken.
 PLAIN = ("release", "-DDISPLAYAPI_UNIT_TESTS=ON")
 BUILDS = "build"
-SANITIZED = {"asan": ("asan",), "tsan": ("tsan",)}
+SANITIZED = {"asan": ("asan",), "tsan": ("tsan", "-DCMAKE_CXX_CLANG_TIDY=")}
 SECONDS_FOR_A_CASE = 20
 SANITIZERS_SLOW_DOWN = 4
 KNOWN_TESTS = "seconds-of-tests.json"

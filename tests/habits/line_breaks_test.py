@@ -41,7 +41,8 @@ class Ways(unittest.TestCase):
         self.assertEqual(broken("    ~Lock() { mMutex.unlock(); }"), ["~Lock() { {} }"])
 
     def test_declarations_and_continued_statements_stay(self):
-        for source in ("Box box(mArea);", "Box(const Box&) = delete;", "call(a,\n     b(c));"):
+        for source in ("Box box(mArea);", "Box(const Box&) = delete;", "call(a,\n     b(c));",
+                       "static_cast<void>(a());"):
             self.assertEqual(broken(source), [], source)
 
     def test_comments_texts_logs_and_assertions_stay(self):
