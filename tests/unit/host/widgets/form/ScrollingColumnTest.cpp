@@ -90,6 +90,19 @@ TEST_F(ScrollingColumnTest, KeepsTheFocusInSight)
     }
 }
 
+TEST_F(ScrollingColumnTest, OneFieldHasTheFocusWhileTheColumnHasIt)
+{
+    const TestField* first = append(20);
+    const TestField* second = append(20);
+    EXPECT_TRUE(first->hasFocus());
+    EXPECT_FALSE(second->hasFocus());
+    press(column, "v");
+    EXPECT_FALSE(first->hasFocus());
+    EXPECT_TRUE(second->hasFocus());
+    column.setFocus(false);
+    EXPECT_FALSE(second->hasFocus());
+}
+
 TEST_F(ScrollingColumnTest, PassesOverWhatTakesNoFocusAndShowsItsHeading)
 {
     const TestField* heading = append(20, false);
