@@ -1,7 +1,9 @@
 """A copy of the project's tree, built with the flags and in the folders of the presets, and its tests."""
 
+import concurrent.futures
 import contextlib
 import filecmp
+import itertools
 import json
 import os
 import pathlib
@@ -158,22 +160,29 @@ class Build:
         others.sort(key=lambda test: (test.program not in near, cost[test.program], test.program, test.seconds))
         return own + others
 
-    def target_of(self, test):
-        return [test.program] if pathlib.Path(test.command[0]).name == test.program else []
+    @staticmethod
+    def target_of(test):
+        """What is built for the test; a script wants all programs."""
+        return (test.program,) if pathlib.Path(test.command[0]).name == test.program else ()
 
     def first_failure(self, path):
         """(compiles, what noticed it or None)"""
-        made = set()
-        for test in self.in_order(path):
-            target = self.target_of(test)
-            if tuple(target) not in made:
-                made.add(tuple(target))
-                if self.make(*target)[0] != 0:
-                    return False, None
-            failure = self.failure_of(test)
+        for target, tests in itertools.groupby(self.in_order(path), self.target_of):
+            if self.make(*target)[0] != 0:
+                return False, None
+            failure = self.first_failure_of(tests)
             if failure is not None:
                 return True, failure
         return True, None
+
+    def first_failure_of(self, tests):
+        """One more at a time than there are compilers, because tests mostly wait."""
+        with concurrent.futures.ThreadPoolExecutor(self.jobs + 1) as runners:
+            for failure in runners.map(self.failure_of, tests):
+                if failure is not None:
+                    runners.shutdown(wait=False, cancel_futures=True)
+                    return failure
+        return None
 
     def failure_of(self, test):
         """A test notices a break when it fails twice with it and passes without it."""
