@@ -25,8 +25,6 @@ ListBoxCore::ListBoxCore(DisplayablePrivate& self, Displayable* owner, WatchedWi
                          const Commands& commands, LocaleChanged localeChanged)
     : mSelf(self), mOwner(owner), mCommands(commands), mLocaleChanged(std::move(localeChanged)), mBox(std::move(box))
 {
-    if (back == Back::NONE)
-        mCommands.back = nullptr;
     mBox->setMessageTarget(this);
     mBox->setTellsLeft(back != Back::NONE);
     mBox->setBackArrow(back == Back::KEY);

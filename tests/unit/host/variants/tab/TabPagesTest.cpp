@@ -5,6 +5,9 @@
 #include "support/LogLines.h"
 #include "unit/host/variants/tab/TabScreenVariantTest.h"
 
+#include <functional>
+#include <utility>
+
 using namespace DisplayAPI;
 using testing::ElementsAre;
 
@@ -310,6 +313,30 @@ TEST_P(TabPagesTest, TabScreenThatGoesLeavesItsPages)
     EXPECT_EQ(widgetOf(*all)->Parent(), nullptr);
     display.setCurrent(all.get());
     EXPECT_EQ(gpPresent->Focus(), widgetOf(*all));
+}
+
+TEST_P(TabPagesTest, ChangeOfATabReachesTheObserverWhileTheTabsAreOnScreen)
+{
+    const std::vector<std::pair<const char*, std::function<void()>>> changes{
+        {"title", [&] { tabs->setTitleForTabAtIndex(1, "Lost"); }},
+        {"empty tab", [&] { tabs->addTab("Sent", nullptr, false); }},
+        {"page", [&] { tabs->setCurrentDisplayableForTabAtIndex(1, nullptr); }},
+        {"removal", [&] { tabs->removeTabAtIndex(2); }},
+    };
+    Observer observer;
+    open();
+    display.subscribe(&observer);
+    for (const auto& [what, change] : changes) {
+        change();
+        EXPECT_EQ(std::exchange(observer.changes, 0), 1) << what;
+    }
+    display.setCurrent(missed.get());
+    observer.changes = 0;
+    for (const auto& [what, change] : changes) {
+        change();
+        EXPECT_EQ(observer.changes, 0) << what;
+    }
+    display.unSubscribe();
 }
 
 TEST_P(TabPagesTest, ChangeOfTheShownPageReachesTheObserver)
