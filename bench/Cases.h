@@ -31,6 +31,7 @@ std::vector<Case> dialerCases();
 std::vector<Case> popupCases();
 std::vector<Case> callLogCases();
 std::vector<Case> tabCases();
+std::vector<Case> treeCases();
 std::vector<Case> callRowsCases();
 std::vector<Case> idleCases();
 std::vector<Case> desktopCases();

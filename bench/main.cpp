@@ -9,27 +9,17 @@ namespace {
 
 std::vector<bench::Case> allCases(const std::string& directory)
 {
-    std::vector<std::vector<bench::Case>> sources{bench::libraryCases(),
-                                                  bench::neighbourCases(),
-                                                  bench::listCases(),
-                                                  bench::menuCases(),
-                                                  bench::dialerCases(),
-                                                  bench::popupCases(),
-                                                  bench::callLogCases(),
-                                                  bench::tabCases(),
-                                                  bench::idleCases(),
-                                                  bench::desktopCases(),
-                                                  bench::callCases(),
-                                                  bench::callRowsCases(),
-                                                  bench::incomingCallCases(),
-                                                  bench::repaintCases(),
-                                                  bench::screenTextCases(),
-                                                  bench::languageCases(),
-                                                  bench::observerCases(),
-                                                  bench::destroyingCases(),
-                                                  bench::firstFrameCases(directory),
-                                                  bench::heapCases(directory),
-                                                  bench::futexCases(),
+    std::vector<std::vector<bench::Case>> sources{bench::libraryCases(),       bench::neighbourCases(),
+                                                  bench::listCases(),          bench::menuCases(),
+                                                  bench::dialerCases(),        bench::popupCases(),
+                                                  bench::callLogCases(),       bench::tabCases(),
+                                                  bench::treeCases(),          bench::idleCases(),
+                                                  bench::desktopCases(),       bench::callCases(),
+                                                  bench::callRowsCases(),      bench::incomingCallCases(),
+                                                  bench::repaintCases(),       bench::screenTextCases(),
+                                                  bench::languageCases(),      bench::observerCases(),
+                                                  bench::destroyingCases(),    bench::firstFrameCases(directory),
+                                                  bench::heapCases(directory), bench::futexCases(),
                                                   bench::mutexLoopCases()};
 #ifdef BENCH_LIBUV
     sources.push_back(bench::libuvCases());

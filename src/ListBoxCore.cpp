@@ -11,9 +11,6 @@ namespace DisplayAPI {
 
 namespace {
 
-/// An arrow is understood in every language.
-constexpr const char* BACK_ROW_TEXT = "\u2190";
-
 KestrelListBoxItem* itemOf(ListItemPrivateIfc* row)
 {
     return row == nullptr ? nullptr : row->getKestrelListItem();
@@ -29,7 +26,7 @@ ListBoxCore::ListBoxCore(DisplayablePrivate& self, Displayable* owner, WatchedWi
     mBox->setTellsLeft(back != Back::NONE);
     mBox->setBackArrow(back == Back::KEY);
     if (back == Back::KEY_AND_ROW) {
-        mBackRow = std::make_unique<KestrelListBoxItem>(ICC::fromUTF8toUNICODE(BACK_ROW_TEXT));
+        mBackRow = std::make_unique<KestrelListBoxItem>(KestrelListBoxItem::wayBackText());
         mBox->append(mBackRow.get());
     }
 }
@@ -138,8 +135,13 @@ void ListBoxCore::select(ListItemPrivateIfc* row)
 
 void ListBoxCore::insert(ListItemPrivateIfc* row, int index)
 {
+    insert(itemOf(row), index);
+}
+
+void ListBoxCore::insert(KestrelListBoxItem* item, int index)
+{
     followLanguage();
-    changeRows([&](KestrelListBox& list) { list.insert(itemOf(row), std::min(index, size())); });
+    changeRows([&](KestrelListBox& list) { list.insert(item, std::min(index, size())); });
 }
 
 void ListBoxCore::remove(ListItemPrivateIfc* row)

@@ -70,6 +70,8 @@ extern const Icon CONFERENCE;
 extern const Icon HUNG_UP;
 extern const Icon PADLOCK_OPEN;
 extern const Icon HD;
+extern const Icon OPENED;
+extern const Icon CLOSED;
 extern const Icon BOX;
 extern const Icon BOX_CHECKED;
 extern const Icon RECORDING;

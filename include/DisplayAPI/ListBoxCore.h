@@ -71,6 +71,7 @@ public:
 
     /// A negative index inserts at the front, one past the end appends. Rows are not owned.
     void insert(ListItemPrivateIfc* row, int index);
+    void insert(KestrelListBoxItem* item, int index);
     void remove(ListItemPrivateIfc* row);
     void clear();
 
@@ -90,10 +91,13 @@ public:
     /// Tells the display when a list on screen looks different.
     void changed();
 
+protected:
+    /// Null raises nothing.
+    void raise(Commands::Accessor command);
+
 private:
     template <typename Change>
     void changeRows(Change apply);
-    void raise(Commands::Accessor command);
     void typed(int key);
     bool isOnBackRow() const;
     void applicationChanged(const PegMessage& message);

@@ -22,6 +22,9 @@ public:
     /// What the lists of the panels differ in; known to the platform's rows.
     struct Layout;
 
+    /// What may stand before a title; the platform's own, and there as long as the process.
+    struct Picture;
+
     using Part = std::function<PegRect(const Layout& layout, const PegRect& text)>;
 
     ~KestrelListBox() override;
@@ -87,6 +90,9 @@ public:
     /// An empty one takes no room.
     void setTitle(PegString title);
     const PegString& title() const;
+
+    /// Stands before the title, or alone; null is none.
+    void setTitlePicture(const Picture* picture);
 
     /// Whether the current row is shown inverted; it is at first.
     void setSelectionHighlight(bool on);

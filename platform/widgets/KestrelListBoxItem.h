@@ -64,7 +64,13 @@ public:
     virtual bool hasMark() const;
     virtual void drawMark(PegPainter& painter, const PegRect& cell, bool inverted) const;
 
+    /// The text of a row that leads back: an arrow, which is understood in every language.
+    static PegString wayBackText();
+
 protected:
+    /// The list that it stands in; null where it stands in none.
+    KestrelListBox* list() const { return mList; }
+
     /// The row looks different: paints it again where it is in view.
     void changed();
 

@@ -16,6 +16,7 @@ void Answers::reset()
     icon = 0;
     call = nullptr;
     menu = nullptr;
+    node = nullptr;
 }
 
 } // namespace doubles

@@ -5,6 +5,7 @@
 namespace DisplayAPI {
 class CallConnectedItem;
 class ContextMenu;
+class TreeNode;
 } // namespace DisplayAPI
 
 namespace doubles {
@@ -17,6 +18,7 @@ struct Answers {
     std::atomic<int> icon{0};
     std::atomic<DisplayAPI::CallConnectedItem*> call{nullptr};
     std::atomic<DisplayAPI::ContextMenu*> menu{nullptr};
+    std::atomic<DisplayAPI::TreeNode*> node{nullptr};
 
     static Answers& instance();
 

@@ -5,10 +5,9 @@
 #include "DisplayAPI/ListBoxText.h"
 #include "DisplayAPI/TickerPlace.h"
 #include "DisplayAPI/TickerPrivateIfc.h"
+#include "host/variants/list/PanelBox.h"
 #include "host/variants/popup/InitialKey.h"
 #include "utilities/ICC.h"
-#include "widgets/KestrelListBoxWP1.h"
-#include "widgets/KestrelListBoxWithTitle.h"
 
 namespace DisplayAPI {
 
@@ -17,13 +16,6 @@ namespace {
 using Back = ListBoxCore::Back;
 
 constexpr ListBoxCore::Commands COMMANDS{&List::SELECT_COMMAND, &List::RIGHT_COMMAND, &List::BACK_COMMAND};
-
-WatchedWidget<KestrelListBox> makeBox(Panel panel)
-{
-    using Box = WatchedWidget<KestrelListBox>;
-    return panel == Panel::FULL ? Box(std::in_place_type<KestrelListBoxWithTitle>)
-                                : Box(std::in_place_type<KestrelListBoxWP1>);
-}
 
 Back wayBack(bool wanted, Panel panel)
 {

@@ -160,6 +160,13 @@ const PegString& KestrelListBox::title() const
     return mImpl->title;
 }
 
+void KestrelListBox::setTitlePicture(const Picture* picture)
+{
+    mImpl->titlePicture = picture;
+    mImpl->update();
+    Invalidate();
+}
+
 void KestrelListBox::setSelectionHighlight(bool on)
 {
     mImpl->highlight = on;

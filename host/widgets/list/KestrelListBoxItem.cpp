@@ -57,6 +57,12 @@ void KestrelListBoxItem::drawMark(PegPainter& painter, const PegRect& cell, bool
     painter.icon(mMarked ? icons::RADIO_CHOSEN : icons::RADIO, cell, inverted ? Level::BARE : Level::DARK);
 }
 
+PegString KestrelListBoxItem::wayBackText()
+{
+    constexpr PegChar ARROW = 0x2190;
+    return {&ARROW, 1};
+}
+
 void KestrelListBoxItem::changed()
 {
     if (mList != nullptr)

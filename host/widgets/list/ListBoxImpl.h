@@ -50,6 +50,7 @@ struct KestrelListBox::Impl final : host::StatusTimeView {
     void placeStatus();
 
     void drawStatus(PegPainter& painter, const host::ListGeometry& parts) const;
+    void drawTitleText(PegPainter& painter, const PegRect& cell) const;
     void drawTitle(PegPainter& painter, const host::ListGeometry& parts) const;
     void drawRow(PegPainter& painter, const host::ListView& view, const host::RowInView& row) const;
     void drawScroll(PegPainter& painter, const host::ListGeometry& parts) const;
@@ -62,6 +63,7 @@ struct KestrelListBox::Impl final : host::StatusTimeView {
     int statusShown = 0; ///< status lines that take room where there is any
     DisplayAPI::Sequence<KestrelListBoxItem, RowPlace> rows;
     PegString title;
+    const Picture* titlePicture = nullptr;
     PegThing* target = nullptr;
     int current = -1;
     int top = 0;

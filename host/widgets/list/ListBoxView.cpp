@@ -13,7 +13,7 @@ ListState KestrelListBox::Impl::state() const
             .top = top,
             .lastTop = lastTop,
             .statusLines = statusShown,
-            .titled = !title.empty(),
+            .titled = !title.empty() || titlePicture != nullptr,
             .ticker = ticker,
             .back = back,
             .mirrored = isReadFromTheRight()};

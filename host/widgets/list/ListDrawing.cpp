@@ -1,12 +1,15 @@
 #include "host/lcd/Geometry.h"
 #include "host/lcd/Painter.h"
 #include "host/widgets/Reading.h"
+#include "host/widgets/Strip.h"
 #include "host/widgets/list/ListBoxImpl.h"
 #include "widgets/KestrelListBoxItem.h"
 
 using namespace host;
 
 namespace {
+
+constexpr int PICTURE_GAP = 4;
 
 /// The selection bar, its corners rounded by a pixel.
 void drawBar(PegPainter& painter, const PegRect& row)
@@ -58,10 +61,20 @@ void KestrelListBox::Impl::drawTitle(PegPainter& painter, const ListGeometry& pa
         painter.fill({bar.left, bar.top, bar.right, line}, hidden ? Level::BARE : Level::LIGHT);
         painter.fill({bar.left, line, bar.right, line}, Level::DARK);
         if (!hidden)
-            painter.text(parts.titleText, title, {layout.titleFont, startAlign()});
+            drawTitleText(painter, parts.titleText);
     }
     if (!isEmpty(parts.back))
         painter.icon(icons::BACK, parts.back, Level::DARK);
+}
+
+void KestrelListBox::Impl::drawTitleText(PegPainter& painter, const PegRect& cell) const
+{
+    Strip strip(cell);
+    if (titlePicture != nullptr) {
+        painter.icon(titlePicture->icon, strip.fromStart(titlePicture->icon.width()), Level::DARK);
+        strip.fromStart(PICTURE_GAP);
+    }
+    painter.text(strip.rest(), title, {layout.titleFont, startAlign()});
 }
 
 void KestrelListBox::Impl::drawRow(PegPainter& painter, const ListView& view, const RowInView& row) const

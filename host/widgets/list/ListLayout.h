@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/lcd/Fonts.h"
+#include "host/lcd/Icons.h"
 #include "widgets/KestrelListBox.h"
 
 /// What the list boxes of the panels differ in. Sizes in pixels.
@@ -17,4 +18,8 @@ struct KestrelListBox::Layout {
     int scrollWidth;
     bool tickerInTitle; ///< a ticker takes the title's place, not a row's
     bool scrollBar;     ///< a bar, there when it is needed; otherwise arrows, with a place that is always kept
+};
+
+struct KestrelListBox::Picture {
+    const host::Icon& icon;
 };

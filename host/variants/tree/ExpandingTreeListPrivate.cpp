@@ -1,0 +1,159 @@
+#include "variants/tree/ExpandingTreeListPrivate.h"
+
+#include "DisplayAPI/ExpandingTreeList.h"
+#include "DisplayAPI/ListItemPrivateIfc.h"
+#include "host/variants/list/ListScreen.h"
+#include "host/variants/tree/TreeCore.h"
+#include "widgets/Peg_TreeListItem.h"
+
+#include <algorithm>
+
+namespace DisplayAPI {
+
+struct ExpandingTreeListSide::Impl {
+    Impl(ExpandingTreeListSide& side, ExpandingTreeList* facade, ListBoxCore::Back back, Panel panel)
+        : tree(side, facade, panel, back, nullptr, [facade](const std::string& locale) {
+              if (facade != nullptr)
+                  facade->localeChanged(locale);
+          })
+    {
+    }
+
+    Peg_TreeListItem* parentOf(int level);
+    void append(KestrelListBoxItem& row, int level);
+    void setAligned(bool on);
+
+    /// The last row, and those above it: where the next one may belong.
+    struct Above {
+        Peg_TreeListItem* item;
+        int level;
+    };
+
+    TreeCore tree;
+    Screen screen{tree};
+    std::vector<KestrelListBoxItem*> rows; ///< all, in the order of append()
+    std::vector<Above> path;
+    bool aligned = false;
+};
+
+/// The last row that stands less deep; null for those on top.
+Peg_TreeListItem* ExpandingTreeListSide::Impl::parentOf(int level)
+{
+    while (!path.empty() && path.back().level >= level)
+        path.pop_back();
+    return path.empty() ? nullptr : path.back().item;
+}
+
+/// A row that is not a tree's stands on top, and nothing below it.
+void ExpandingTreeListSide::Impl::append(KestrelListBoxItem& row, int level)
+{
+    rows.push_back(&row);
+    auto* const item = dynamic_cast<Peg_TreeListItem*>(&row);
+    Peg_TreeListItem* const parent = item != nullptr ? parentOf(std::max(level, 0)) : nullptr;
+    if (item != nullptr) {
+        item->setAligned(aligned);
+        path.push_back({item, std::max(level, 0)});
+    }
+    if (parent != nullptr)
+        tree.change([&](KestrelListBox&) { parent->append(*item); });
+    else
+        tree.insert(&row, tree.size());
+}
+
+void ExpandingTreeListSide::Impl::setAligned(bool on)
+{
+    aligned = on;
+    for (KestrelListBoxItem* row : rows)
+        if (auto* const item = dynamic_cast<Peg_TreeListItem*>(row))
+            item->setAligned(on);
+    tree.changed();
+}
+
+ExpandingTreeListSide::ExpandingTreeListSide(ExpandingTreeList* owner, bool backItem, Panel panel)
+    : mImpl(std::make_unique<Impl>(*this, owner, backItem ? ListBoxCore::Back::KEY_AND_ROW : ListBoxCore::Back::KEY,
+                                   panel))
+{
+}
+
+ExpandingTreeListSide::~ExpandingTreeListSide() = default;
+
+ExpandingTreeListPrivate::ExpandingTreeListPrivate(ExpandingTreeList* owner)
+    : ExpandingTreeListSide(owner, false, Panel::FULL)
+{
+}
+
+ExpandingTreeListPrivateWP1::ExpandingTreeListPrivateWP1(ExpandingTreeList* owner, bool backItem)
+    : ExpandingTreeListSide(owner, backItem, Panel::SMALL)
+{
+}
+
+ListScreenSide::Screen& ExpandingTreeListSide::screen()
+{
+    return mImpl->screen;
+}
+
+void ExpandingTreeListSide::addCommandListener(CommandListener* listener)
+{
+    DisplayablePrivate::addCommandListener(listener);
+}
+
+void ExpandingTreeListSide::removeCommandListener(CommandListener* listener)
+{
+    DisplayablePrivate::removeCommandListener(listener);
+}
+
+void ExpandingTreeListSide::append(ListItemPrivateIfc* row, int level)
+{
+    if (row != nullptr)
+        mImpl->append(*row->getKestrelListItem(), level);
+}
+
+void ExpandingTreeListSide::clear()
+{
+    mImpl->rows.clear();
+    mImpl->path.clear();
+    mImpl->tree.clear();
+}
+
+int ExpandingTreeListSide::getSelectedIndex()
+{
+    const KestrelListBox* const box = mImpl->tree.box();
+    const KestrelListBoxItem* const current = box != nullptr ? box->itemAt(box->currentRow()) : nullptr;
+    const auto found = std::find(mImpl->rows.begin(), mImpl->rows.end(), current);
+    return found != mImpl->rows.end() ? static_cast<int>(found - mImpl->rows.begin()) : -1;
+}
+
+void ExpandingTreeListSide::setTitle(const std::string& title)
+{
+    mImpl->tree.setTitle(TranslatedText(title));
+}
+
+void ExpandingTreeListSide::setTitle(TranslationInfo* title)
+{
+    mImpl->tree.setTitle(TranslatedText(title));
+}
+
+void ExpandingTreeListSide::align()
+{
+    mImpl->setAligned(true);
+}
+
+void ExpandingTreeListSide::unalign()
+{
+    mImpl->setAligned(false);
+}
+
+void ExpandingTreeListSide::setReadonly(int index, bool on)
+{
+    const auto place = static_cast<std::size_t>(index);
+    auto* const item = place < mImpl->rows.size() ? dynamic_cast<Peg_TreeListItem*>(mImpl->rows[place]) : nullptr;
+    if (item != nullptr)
+        item->setInactive(on);
+}
+
+void ExpandingTreeListSide::setRightArrowEqualsOK(bool on)
+{
+    mImpl->tree.setRightEqualsOK(on);
+}
+
+} // namespace DisplayAPI

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "widgets/Peg_TreeListItem.h"
+
+#include <utility>
+
+namespace DisplayAPI {
+
+class TreeNode;
+
+/// A node's row, which knows whose it is.
+struct TreeNodeRow : Peg_TreeListItem {
+    TreeNodeRow(PegString text, TreeNode* facade) : Peg_TreeListItem(std::move(text)), node(facade) {}
+
+    TreeNode* const node; ///< not owned
+};
+
+} // namespace DisplayAPI

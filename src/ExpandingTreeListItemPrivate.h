@@ -1,0 +1,23 @@
+#pragma once
+
+#include "DisplayAPI/ListItemPrivateIfc.h"
+#include "DisplayAPI/TranslatedText.h"
+#include "widgets/Peg_TreeListItem.h"
+
+namespace DisplayAPI {
+
+/// A row of a tree list on the toolkit's, whatever the panel. GUI thread only.
+class ExpandingTreeListItemPrivate : public ListItemPrivateIfc {
+public:
+    explicit ExpandingTreeListItemPrivate(TranslatedText text);
+
+    void localeChanged(std::string locale) override;
+    void releaseOwnership() override;
+    KestrelListBoxItem* getKestrelListItem() override;
+
+private:
+    TranslatedText mText;
+    Peg_TreeListItem mItem{mText.shown()};
+};
+
+} // namespace DisplayAPI
