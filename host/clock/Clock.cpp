@@ -6,6 +6,7 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <iterator>
 #include <string_view>
 #include <time.h>
 #include <utility>
@@ -18,6 +19,14 @@ using namespace std::chrono_literals;
 
 /// How long the virtual clock waits for a woken sleeper, or a busy loop, before it moves on without it.
 constexpr std::chrono::milliseconds PATIENCE = 500ms;
+
+/// Who sleeps longer is waiting to be stopped: no clock of the system's counts that far.
+constexpr std::int64_t LONGEST_REAL_SLEEP = 365LL * 24 * 60 * 60 * 1000;
+
+bool isTrue(const bool* flag)
+{
+    return flag != nullptr && *flag;
+}
 
 std::int64_t realNow()
 {
@@ -36,6 +45,12 @@ bool isVirtualWanted()
 }
 
 } // namespace
+
+/// A thread that sleeps on the virtual clock.
+struct Clock::Sleeper {
+    const bool* stop;
+    std::uint64_t wokenAt = 0; ///< the stop; 0 while it sleeps
+};
 
 /// Knows of the calling thread whether the virtual clock has woken it and it has not gone back to sleep. A thread that
 /// ends counts as asleep.
@@ -96,7 +111,7 @@ bool Clock::isVirtual() const
 int Clock::sleepers() const
 {
     std::lock_guard lock(mMutex);
-    return static_cast<int>(mSleeperDues.size());
+    return static_cast<int>(mSleepers.size());
 }
 
 void Clock::setTimerDue(std::int64_t due)
@@ -117,15 +132,17 @@ void Clock::advance(std::int64_t ms)
     letOthersRun();
     const std::int64_t end = now() + ms;
     while (now() < end) {
-        letTimersRun(end);
+        if (letTimersRun(end))
+            letOthersRun();
         moveToNextStop(end);
         letOthersRun();
     }
 }
 
 /// A handover between threads for each timer would take a hundred times as long as the timer: the loop goes from one to
-/// the next by itself, up to where a sleeper has to wake. It may take its time as long as the clock moves.
-void Clock::letTimersRun(std::int64_t end)
+/// the next by itself, up to where a sleeper has to wake or a timer has woken one. It may take its time as long as the
+/// clock moves. Returns whether somebody has been woken.
+bool Clock::letTimersRun(std::int64_t end)
 {
     mLeftToLoop = end;
     std::int64_t before = 0;
@@ -134,6 +151,7 @@ void Clock::letTimersRun(std::int64_t end)
     while (!Loop::waitUntilIdle(PATIENCE) && now() > before);
     std::lock_guard lock(mMutex);
     mLeftToLoop = 0;
+    return mAwake > 0;
 }
 
 bool Clock::isTimerDue() const
@@ -151,7 +169,7 @@ bool Clock::moveToTimer()
     if (!leavesTimersToLoop())
         return false;
     std::lock_guard lock(mMutex);
-    if (firstSleeperDue() <= mTimerDue)
+    if (firstSleeperDue() <= mTimerDue || mAwake > 0)
         mLeftToLoop = 0;
     if (!leavesTimersToLoop())
         return false;
@@ -161,8 +179,7 @@ bool Clock::moveToTimer()
 
 std::int64_t Clock::firstSleeperDue() const
 {
-    const auto due = mSleeperDues.upper_bound(mVirtualNow);
-    return due != mSleeperDues.end() ? *due : NEVER;
+    return mSleepers.empty() ? NEVER : mSleepers.begin()->first;
 }
 
 /// Due times that have passed already belong to a loop that does not run: they do not hold the clock up.
@@ -174,10 +191,9 @@ void Clock::moveToNextStop(std::int64_t end)
         stop = std::min<std::int64_t>(stop, mTimerDue);
     mVirtualNow = std::max<std::int64_t>(stop, mVirtualNow);
     ++mStopNumber;
-    const auto firstStillAsleep = mSleeperDues.upper_bound(mVirtualNow);
-    mAwake = static_cast<int>(std::distance(mSleeperDues.begin(), firstStillAsleep));
-    mSleeperDues.erase(mSleeperDues.begin(), firstStillAsleep);
-    mMoved.notify_all();
+    mAwake = 0;
+    for (auto sleeper = mSleepers.begin(); sleeper != mSleepers.end() && sleeper->first <= mVirtualNow;)
+        sleeper = wake(sleeper);
 }
 
 void Clock::letOthersRun()
@@ -203,28 +219,65 @@ void Clock::fellAsleep(std::uint64_t stopNumber)
         mSettled.notify_all();
 }
 
+bool Clock::sleepUntil(std::int64_t due, const bool* stop)
+{
+    std::unique_lock lock(mMutex);
+    return sleep(lock, due, stop);
+}
+
 bool Clock::sleepFor(std::int64_t ms, const bool* stop)
 {
     std::unique_lock lock(mMutex);
-    if (mVirtual)
-        return sleepVirtual(lock, ms, stop);
-    return !mMoved.wait_for(lock, std::chrono::milliseconds(ms), [stop] { return stop != nullptr && *stop; });
+    return sleep(lock, now() + ms, stop);
 }
 
-bool Clock::sleepVirtual(std::unique_lock<std::mutex>& lock, std::int64_t ms, const bool* stop)
+bool Clock::sleep(std::unique_lock<std::mutex>& lock, std::int64_t due, const bool* stop)
 {
-    const std::int64_t due = mVirtualNow + ms;
-    if (ms <= 0)
-        return !(stop != nullptr && *stop);
-    mSleeperDues.insert(due);
+    if (isTrue(stop))
+        return false;
+    return mVirtual ? sleepVirtual(lock, due, stop) : sleepReal(lock, due, stop);
+}
+
+bool Clock::sleepReal(std::unique_lock<std::mutex>& lock, std::int64_t due, const bool* stop)
+{
     Wakefulness::ofThisThread().end();
-    mMoved.wait(lock, [&] { return mVirtualNow >= due || !mVirtual || (stop != nullptr && *stop); });
-    if (mVirtualNow < due) {
-        mSleeperDues.erase(mSleeperDues.find(due));
-        return !(stop != nullptr && *stop);
-    }
-    Wakefulness::ofThisThread().beginAt(mStopNumber);
-    return true;
+    const auto isOver = [stop] { return isTrue(stop); };
+    const std::int64_t ms = due - realNow();
+    if (ms < LONGEST_REAL_SLEEP)
+        return !mMoved.wait_for(lock, std::chrono::milliseconds(ms), isOver);
+    mMoved.wait(lock, isOver);
+    return false;
+}
+
+/// A thread that does not fall asleep is as awake as before.
+bool Clock::sleepVirtual(std::unique_lock<std::mutex>& lock, std::int64_t due, const bool* stop)
+{
+    if (due <= mVirtualNow)
+        return true;
+    Sleeper self{stop};
+    const auto place = mSleepers.emplace(due, &self);
+    Wakefulness::ofThisThread().end();
+    mMoved.wait(lock, [&] { return self.wokenAt != 0 || !mVirtual; });
+    if (self.wokenAt == 0)
+        mSleepers.erase(place);
+    Wakefulness::ofThisThread().beginAt(self.wokenAt);
+    return !isTrue(stop);
+}
+
+/// Counts it as awake from now on, and not from when its thread gets to run. Returns the next one.
+Clock::Sleepers::iterator Clock::wake(Sleepers::iterator sleeper)
+{
+    sleeper->second->wokenAt = mStopNumber;
+    ++mAwake;
+    mMoved.notify_all();
+    return mSleepers.erase(sleeper);
+}
+
+void Clock::wakeStopped()
+{
+    for (auto sleeper = mSleepers.begin(); sleeper != mSleepers.end();)
+        sleeper = isTrue(sleeper->second->stop) ? wake(sleeper) : std::next(sleeper);
+    mMoved.notify_all();
 }
 
 } // namespace host

@@ -4,8 +4,8 @@
 #include <condition_variable>
 #include <cstdint>
 #include <limits>
+#include <map>
 #include <mutex>
-#include <set>
 
 namespace host {
 
@@ -29,21 +29,27 @@ public:
     bool isVirtual() const;
 
     /// Moves the virtual clock, from one due time to the next so that sleepers and timers run in order, and wakes the
-    /// GUI loop. At each stop the loop handles all its messages, and the sleepers that were woken go back to sleep, end
-    /// or have used up some real time, before the clock moves on; it is painted in the end, and where a sleeper is
-    /// woken. Negative values are ignored, and so is the call while the clock is real.
+    /// GUI loop. At each stop the loop handles all its messages, and the sleepers that were woken, by the clock or by
+    /// their `stop` flags, go back to sleep, end or have used up some real time, before the clock moves on; it is
+    /// painted in the end, and where a sleeper is woken. Negative values are ignored, and so is the call while the
+    /// clock is real.
     void advance(std::int64_t ms);
 
-    /// Sleeps on this clock. Returns early with false when `stop` (may be null) becomes true; look at wakeSleepers().
+    /// Sleeps on this clock until the moment `due`; NEVER will do. Returns early with false when `stop` (may be null)
+    /// becomes true; look at wakeSleepers(). Where it is true already, or the moment has passed, nobody has slept.
+    bool sleepUntil(std::int64_t due, const bool* stop = nullptr);
+
+    /// As well, for so many milliseconds.
     bool sleepFor(std::int64_t ms, const bool* stop = nullptr);
 
     /// Lets all sleepers look at their `stop` flags, which the caller changes inside `change`, under the clock's lock.
+    /// The virtual clock does not move on without those that it wakes so.
     template <typename Change>
     void wakeSleepers(Change change)
     {
         std::lock_guard lock(mMutex);
         change();
-        mMoved.notify_all();
+        wakeStopped();
     }
 
     /// Threads that sleep on this clock now.
@@ -67,8 +73,15 @@ private:
 
     Clock();
 
-    bool sleepVirtual(std::unique_lock<std::mutex>& lock, std::int64_t ms, const bool* stop);
-    void letTimersRun(std::int64_t end);
+    struct Sleeper;
+    using Sleepers = std::multimap<std::int64_t, Sleeper*>; ///< by their due times
+
+    bool sleep(std::unique_lock<std::mutex>& lock, std::int64_t due, const bool* stop);
+    bool sleepReal(std::unique_lock<std::mutex>& lock, std::int64_t due, const bool* stop);
+    bool sleepVirtual(std::unique_lock<std::mutex>& lock, std::int64_t due, const bool* stop);
+    Sleepers::iterator wake(Sleepers::iterator sleeper);
+    void wakeStopped();
+    bool letTimersRun(std::int64_t end);
     std::int64_t firstSleeperDue() const;
     void moveToNextStop(std::int64_t end);
     void letOthersRun();
@@ -82,8 +95,8 @@ private:
     std::atomic<std::int64_t> mVirtualNow{0};
     std::atomic<std::int64_t> mTimerDue{NEVER};
     std::atomic<std::int64_t> mLeftToLoop{0}; ///< timers up to this moment are the loop's to go to
-    std::multiset<std::int64_t> mSleeperDues;
-    std::uint64_t mStopNumber = 0; ///< counts the stops of the virtual clock
+    Sleepers mSleepers;
+    std::uint64_t mStopNumber = 1; ///< counts the stops of the virtual clock
     int mAwake = 0;                ///< sleepers woken at this stop that still run
 };
 

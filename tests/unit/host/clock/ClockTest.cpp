@@ -2,8 +2,10 @@
 
 #include "host/lcd/Lcd.h"
 #include "support/RunningToolkit.h"
+#include "support/Worker.h"
 
 #include <atomic>
+#include <chrono>
 #include <cstdlib>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -97,6 +99,14 @@ TEST(Clock, RealSleepEndsWhenStopped)
     sleeper.join();
 }
 
+TEST(Clock, RealSleepWithoutEndLastsUntilItIsStopped)
+{
+    bool stop = false;
+    test::Worker sleeper([&] { EXPECT_FALSE(Clock::instance().sleepUntil(Clock::NEVER, &stop)); });
+    EXPECT_TRUE(sleeper.isBlocked());
+    Clock::instance().wakeSleepers([&] { stop = true; });
+}
+
 TEST_F(VirtualClockTest, StandsStillUntilAdvanced)
 {
     EXPECT_EQ(passed(), 0);
@@ -126,6 +136,32 @@ TEST_F(VirtualClockTest, SleepOfNoTimeReturnsAtOnce)
 {
     EXPECT_TRUE(clock.sleepFor(0));
     EXPECT_TRUE(clock.sleepFor(-3));
+}
+
+TEST_F(VirtualClockTest, SleepUntilAMomentLastsUntilThen)
+{
+    const std::int64_t due = clock.now() + 100;
+    std::int64_t woken = 0;
+    std::thread sleeper([&] {
+        EXPECT_TRUE(clock.sleepUntil(due));
+        woken = passed();
+    });
+    ASSERT_TRUE(sleeperIsThere());
+    clock.advance(1'000);
+    sleeper.join();
+    EXPECT_EQ(woken, 100);
+    EXPECT_TRUE(clock.sleepUntil(due)) << "which has passed";
+}
+
+TEST_F(VirtualClockTest, SleepWithoutEndDoesNotHoldTheClockUp)
+{
+    bool stop = false;
+    std::thread sleeper([&] { EXPECT_FALSE(clock.sleepUntil(Clock::NEVER, &stop)); });
+    ASSERT_TRUE(sleeperIsThere());
+    clock.advance(1'000);
+    EXPECT_EQ(passed(), 1'000);
+    clock.wakeSleepers([&] { stop = true; });
+    sleeper.join();
 }
 
 TEST_F(VirtualClockTest, StoppedSleeperReturnsEarly)
@@ -196,6 +232,48 @@ TEST_F(VirtualClockTest, SleeperMayAdvance)
     clock.advance(10);
     sleeper.join();
     EXPECT_EQ(passed(), 15);
+}
+
+/// Has the clock time to move on, where it does not wait.
+void beSlow()
+{
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+}
+
+TEST_F(VirtualClockTest, SleeperThatIsStoppedIsWaitedForBeforeTheClockMovesOn)
+{
+    bool stop = false;
+    std::int64_t woken = 0;
+    std::thread stopped([&] {
+        EXPECT_FALSE(clock.sleepFor(1'000'000, &stop));
+        beSlow();
+        woken = passed();
+    });
+    std::thread sleeper([&] {
+        clock.sleepFor(10);
+        clock.wakeSleepers([&] { stop = true; });
+    });
+    ASSERT_TRUE(sleeperIsThere(2));
+    clock.advance(1'000);
+    stopped.join();
+    sleeper.join();
+    EXPECT_EQ(woken, 10);
+}
+
+TEST_F(VirtualClockTest, WhoIsStoppedBeforeItSleepsIsStillAwake)
+{
+    const bool stop = true;
+    std::int64_t noted = 0;
+    std::thread sleeper([&] {
+        clock.sleepFor(10);
+        EXPECT_FALSE(clock.sleepFor(5, &stop));
+        beSlow();
+        noted = passed();
+    });
+    ASSERT_TRUE(sleeperIsThere());
+    clock.advance(1'000);
+    sleeper.join();
+    EXPECT_EQ(noted, 10);
 }
 
 TEST_F(VirtualClockTest, BecomingRealWakesSleepers)
@@ -336,6 +414,27 @@ TEST_F(VirtualClockTest, TimersAndSleepersRunInTheOrderOfTheirTimes)
     clock.advance(100);
     sleeper.join();
     EXPECT_EQ(order.size(), 5u);
+}
+
+TEST_F(VirtualClockTest, SleeperThatATimerStopsIsWaitedForBeforeTheNextTimer)
+{
+    RunningToolkit toolkit;
+    bool stop = false;
+    std::int64_t woken = 0;
+    std::thread stopped([&] {
+        EXPECT_FALSE(clock.sleepFor(1'000'000, &stop));
+        beSlow();
+        woken = passed();
+    });
+    ASSERT_TRUE(sleeperIsThere());
+    toolkit.run([&] {
+        auto* const ticking = new Ticking([&](std::int32_t) { clock.wakeSleepers([&] { stop = true; }); });
+        gpPresent->Add(ticking);
+        ticking->SetTimer(1, 300, true);
+    });
+    clock.advance(1'000);
+    stopped.join();
+    EXPECT_EQ(woken, 300);
 }
 
 TEST_F(VirtualClockTest, WhatATimerPushesIsHandledBeforeTheClockMovesOn)
