@@ -1,9 +1,6 @@
 #include "apps/exchange/HostClock.h"
 
-#include "apps/exchange/Line.h"
 #include "host/clock/Clock.h"
-
-#include <algorithm>
 
 namespace exchange {
 
@@ -15,7 +12,7 @@ std::int64_t HostClock::now() const
 void HostClock::sleepUntil(std::int64_t until)
 {
     host::Clock& clock = host::Clock::instance();
-    clock.sleepFor(std::min(until - clock.now(), LONGEST_TIME), &mIsWoken);
+    clock.sleepUntil(until, &mIsWoken);
     clock.wakeSleepers([this] { mIsWoken = false; });
 }
 

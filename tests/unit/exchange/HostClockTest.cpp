@@ -5,7 +5,10 @@
 #include "unit/exchange/ExchangeTest.h"
 
 #include <atomic>
+#include <chrono>
 #include <gmock/gmock.h>
+#include <thread>
+#include <vector>
 
 namespace test {
 
@@ -59,6 +62,33 @@ TEST_F(VirtualHostClockTest, StandsStillUntilItIsMoved)
     exchange.waitUntilHeard();
     EXPECT_THAT(listener.take(),
                 ElementsAre(EndsWith("proceeding 4711"), EndsWith("ringing back 4711"), EndsWith("connected 4711")));
+}
+
+/// Takes its time, and then looks whether the clock stands where the call has changed.
+class SlowListener : public exchange::TelephonyListener {
+public:
+    void callChanged(const exchange::CallEvent& event) override
+    {
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        late.push_back(host::Clock::instance().now() - event.at);
+    }
+
+    std::vector<std::int64_t> late;
+};
+
+TEST_F(VirtualHostClockTest, WhatIsDoneWhileTheClockMovesIsHeardAtItsMoment)
+{
+    SlowListener slow;
+    exchange.setListener(&slow);
+    Worker caller([this] {
+        host::Clock::instance().sleepFor(100);
+        exchange.place(1, "4711");
+    });
+    waitUntil([] { return host::Clock::instance().sleepers() == 2; });
+    host::Clock::instance().advance(10'000);
+    caller.join();
+    exchange.setListener(nullptr);
+    EXPECT_THAT(slow.late, ElementsAre(0, 0, 0, 0));
 }
 
 } // namespace
