@@ -184,9 +184,8 @@ TEST_P(CallsModelTest, PanelShowsEveryCallAsItIs)
     CallsModel model(phone, seed());
     phone.run([&] {
         walk(model, [&] {
-            const std::string screen = phone.shows();
-            Sight(model, screen, phone.rows()).compare();
-            ASSERT_FALSE(HasFatalFailure()) << screen;
+            Sight(model, phone.shows(), phone.rows()).compare();
+            ASSERT_FALSE(HasFatalFailure()) << phone.shows();
         });
     });
 }

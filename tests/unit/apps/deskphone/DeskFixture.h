@@ -15,6 +15,7 @@
 #include "widgets/KestrelListBoxItem.h"
 
 #include <functional>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -40,8 +41,10 @@ public:
     void settle() override
     {
         exchange.waitUntilHeard();
-        for (std::string before; shows() != before;)
-            before = shows();
+        std::string before;
+        do {
+            before = std::exchange(mShown, look());
+        } while (mShown != before);
     }
 
     exchange::CallId place(exchange::LineNumber line, const exchange::Party& party) override
@@ -49,12 +52,8 @@ public:
         return exchange.place(line, party.number);
     }
 
-    /// The displayables as text, from the lowest one to the one on top, when what has been raised by now is heard.
-    std::string shows()
-    {
-        DisplayAPI::kit::Fence().wait();
-        return mPhone.display().serialise();
-    }
+    /// The displayables as text, from the lowest one to the one on top, when it settled last.
+    const std::string& shows() const { return mShown; }
 
     /// All rows of the lists on the panel, in view or not, be there something over them.
     std::vector<ShownObject> rows()
@@ -65,6 +64,13 @@ public:
     }
 
 private:
+    /// When what has been raised by now is heard.
+    std::string look()
+    {
+        DisplayAPI::kit::Fence().wait();
+        return mPhone.display().serialise();
+    }
+
     static void addRows(std::vector<ShownObject>& all, PegThing& thing)
     {
         if (auto* const list = dynamic_cast<KestrelListBox*>(&thing); list != nullptr)
@@ -96,6 +102,7 @@ private:
     Panel mPanel;
     DisplayAPI::kit::Phone mPhone{{.hardware = host::hardwareName(), .narrow = host::isNarrow()}};
     deskphone::Desk mDesk{mPhone.display(), exchange, "en", {}};
+    std::string mShown;
 };
 
 } // namespace test
