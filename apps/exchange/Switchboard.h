@@ -75,6 +75,7 @@ private:
 
     // On the way to here.
     static Reason refusalOf(const Line& line, int calls); ///< NONE where it rings; whatever it forwards
+    bool canPassOnTo(const std::string& number);          ///< false for nobody
     void arrive(Line& line, const Caller& caller);
     void passOn(LiveCall& call, const std::string& number, int hops);
     void isNotAnswered(LiveCall& call);

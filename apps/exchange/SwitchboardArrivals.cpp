@@ -123,6 +123,13 @@ Reason Switchboard::refusalOf(const Line& line, int calls)
     return calls >= (line.takesSeveral ? MOST_CALLS : 1) ? Reason::BUSY : Reason::NONE;
 }
 
+/// Not to a line of the telephone that is not registered: who calls would be lost.
+bool Switchboard::canPassOnTo(const std::string& number)
+{
+    const Line* const line = findLine(number);
+    return !number.empty() && (line == nullptr || line->isRegistered);
+}
+
 /// REQUIRES: the line is registered.
 void Switchboard::arrive(Line& line, const Caller& caller)
 {
@@ -136,9 +143,9 @@ void Switchboard::arrive(Line& line, const Caller& caller)
     const std::int64_t patience = caller.patience.value_or(LONGEST_RINGING);
     call.givesUpAt = mSchedule.now() + patience;
     call.stage = LiveCall::Stage::INCOMING;
-    if (!forwarding.always.empty())
+    if (canPassOnTo(forwarding.always))
         return passOn(call, forwarding.always, call.hops + 1);
-    if (refusal != Reason::NONE && !forwarding.whenBusy.empty())
+    if (refusal != Reason::NONE && canPassOnTo(forwarding.whenBusy))
         return passOn(call, forwarding.whenBusy, call.hops + 1);
     if (refusal != Reason::NONE)
         return finish(call, CallState::ENDED, {.reason = refusal});
@@ -149,8 +156,8 @@ void Switchboard::arrive(Line& line, const Caller& caller)
     later(&LiveCall::theirs, call, patience, &Switchboard::ringsTooLong);
 }
 
-/// A line that forwards to another one of the telephone lets it ring there, as long as who calls has patience. Lines
-/// that forward in a circle let it ring nowhere.
+/// REQUIRES: it can be passed on. A line that forwards to another one of the telephone lets it ring there, as long as
+/// who calls has patience. Lines that forward in a circle let it ring nowhere.
 void Switchboard::passOn(LiveCall& call, const std::string& number, int hops)
 {
     const Party& first = call.event.forwardedBy;
@@ -160,13 +167,14 @@ void Switchboard::passOn(LiveCall& call, const std::string& number, int hops)
                         .hops = hops};
     Line* const line = findLine(number);
     finish(call, CallState::FORWARDED, {.to = mDirectory.party(number)});
-    if (line != nullptr && line->isRegistered && onward.hops < static_cast<int>(mLines.size()))
+    if (line != nullptr && onward.hops < static_cast<int>(mLines.size()))
         arrive(*line, onward);
 }
 
 void Switchboard::isNotAnswered(LiveCall& call)
 {
-    passOn(call, std::string(call.target), call.hops + 1);
+    if (canPassOnTo(call.target))
+        passOn(call, std::string(call.target), call.hops + 1);
 }
 
 bool Switchboard::answer(CallId id)
@@ -183,7 +191,7 @@ bool Switchboard::answer(CallId id)
 bool Switchboard::deflect(CallId id, const std::string& number)
 {
     LiveCall* const call = find(id);
-    if (call == nullptr || call->stage != LiveCall::Stage::INCOMING || number.empty())
+    if (call == nullptr || call->stage != LiveCall::Stage::INCOMING || !canPassOnTo(number))
         return false;
     passOn(*call, number, 0);
     return true;

@@ -11,11 +11,6 @@ namespace {
 constexpr std::int64_t UNTIL_RESUMED = 200;
 constexpr std::int64_t UNTIL_TRANSFERRED = 500;
 
-bool forwardsWhenBusy(const Line& line)
-{
-    return !line.forwarding.always.empty() || !line.forwarding.whenBusy.empty();
-}
-
 } // namespace
 
 /// One that resumes is as good as active: it is going to be.
@@ -211,7 +206,8 @@ void Switchboard::isTransferred(LiveCall& call)
     const Caller onward{.who = call.event.other, .forwardedBy = findLine(call.event.line)->party};
     if (Line* const line = findLine(call.target); line != nullptr) {
         if (const Reason refusal = refusalOf(*line, callsOn(line->number) - (call.event.line == line->number ? 1 : 0));
-            refusal == Reason::NOT_REGISTERED || (refusal != Reason::NONE && !forwardsWhenBusy(*line)))
+            refusal == Reason::NOT_REGISTERED || (refusal != Reason::NONE && !canPassOnTo(line->forwarding.always) &&
+                                                  !canPassOnTo(line->forwarding.whenBusy)))
             return comeBack(call, {.reason = refusal});
         finish(call, CallState::ENDED, {.reason = Reason::TRANSFERRED, .to = line->party});
         return arrive(*line, onward);

@@ -55,7 +55,7 @@ public:
     /// INCOMING.
     virtual bool answer(CallId call) = 0;
 
-    /// INCOMING: passes it on to another number unanswered.
+    /// INCOMING: passes it on to another number unanswered. Not to a line of mine that is not registered.
     virtual bool deflect(CallId call, const std::string& number) = 0;
 
     /// Ends a call that lives, in whatever state; rejects one that is INCOMING. Of a conference one call only.

@@ -35,6 +35,14 @@ bool isMisspelt(std::string_view character)
            (lead == 0xF4 && next >= 0x90);
 }
 
+/// REQUIRES: it is no misspelt one.
+bool isControl(std::string_view character)
+{
+    const auto lead = static_cast<unsigned char>(character[0]);
+    const bool isLatin = lead == 0xC2 && static_cast<unsigned char>(character[1]) < 0xA0;
+    return (lead < ' ' && lead != '\t') || lead == 0x7F || isLatin;
+}
+
 void check(std::string_view sentence)
 {
     if (sentence.size() > LONGEST_SENTENCE)
@@ -43,8 +51,7 @@ void check(std::string_view sentence)
         const std::size_t length = characterLength(sentence, at);
         if (length == 0 || isMisspelt(sentence.substr(at, length)))
             throw Mistake("byte " + std::to_string(at + 1) + " is no UTF-8");
-        const auto byte = static_cast<unsigned char>(sentence[at]);
-        if ((byte < ' ' && byte != '\t') || byte == 0x7F)
+        if (isControl(sentence.substr(at, length)))
             throw Mistake("byte " + std::to_string(at + 1) + " is a control character");
         at += length;
     }
@@ -157,11 +164,11 @@ std::int64_t Words::takeTime()
     const std::string instead = here();
     const std::string word = takeWord("a time such as 3 s");
     double count = 0;
-    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), count);
+    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), count, std::chars_format::fixed);
     if (error != std::errc() || end != word.data() + word.size() || !std::isfinite(count) || count < 0)
         throw Mistake("expected a time such as 3 s, not " + instead);
     const std::string unitHere = here();
-    const auto unit = areOver() ? std::nullopt : toMilliseconds(mWords[mAt].text);
+    const auto unit = areOver() || isText() ? std::nullopt : toMilliseconds(mWords[mAt].text);
     if (!unit)
         throw Mistake("expected ms, s or min behind " + word + ", not " + unitHere);
     ++mAt;

@@ -58,6 +58,11 @@ Wire::~Wire()
     mEar->listener = nullptr;
 }
 
+void Wire::setOffers(std::vector<Offer> offers)
+{
+    changeWires([&](auto&) { mOffers = std::move(offers); });
+}
+
 /// REQUIRES: the lock is held. Null where there is none.
 const Wire* Wire::find(std::string_view name)
 {

@@ -34,6 +34,9 @@ public:
     /// Waits until the listener returns.
     ~Wire();
 
+    /// Other ones from now on. From any thread, the listener's included.
+    void setOffers(std::vector<Offer> offers);
+
     // For front ends.
 
     /// Has the program hear a line. Returns what the listener has, or that there is nobody to hear it.
@@ -42,8 +45,9 @@ public:
     static bool isThere(std::string_view name);
     static std::vector<Offer> offers(std::string_view name);
 
-    /// Told each time that a wire has come or gone, one time after the other; may look at the wires, and must neither
-    /// block nor make or delete one. An empty function removes it. Waits until the former one has returned.
+    /// Told each time that a wire has come or gone, or has other offers, one time after the other; may look at the
+    /// wires, and must neither block nor make or delete one. An empty function removes it. Waits until the former one
+    /// has returned.
     static void setListener(std::function<void()> listener);
 
 private:

@@ -130,6 +130,15 @@ TEST(ExchangeTest, OneConferenceAtATimeForACall)
 }
 
 /// A sentence that cannot be followed, and a part of why.
+TEST(ExchangeTest, CallIsNotDeflectedToALineThatIsNotRegistered)
+{
+    ExchangeFixture fixture;
+    fixture.exchange.command("line 2 is not registered");
+    fixture.exchange.command("4711 calls");
+    EXPECT_FALSE(fixture.exchange.deflect(1, "3302"));
+    EXPECT_THAT(fixture.heard(), ElementsAre("line 2 not registered", "0 #1 incoming 4711"));
+}
+
 struct Refusal {
     const char* sentence;
     const char* reason;

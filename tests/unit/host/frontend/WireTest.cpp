@@ -55,6 +55,16 @@ TEST(WireTest, ListenerIsToldOfComingsAndGoingsAndMayLook)
     EXPECT_THAT(seen, ElementsAre(true, false));
 }
 
+TEST(WireTest, OffersChangeWhileTheWireIsThere)
+{
+    Wire wire("exchange", agree, {{"one", "1"}});
+    std::vector<std::vector<Wire::Offer>> seen;
+    Wire::setListener([&] { seen.push_back(Wire::offers("exchange")); });
+    wire.setOffers({{"two", "2"}});
+    Wire::setListener({});
+    EXPECT_THAT(seen, ElementsAre(ElementsAre(Wire::Offer{"two", "2"})));
+}
+
 TEST(WireTest, EndWaitsUntilTheLineHasBeenHeard)
 {
     test::Gate begun, goOn;
