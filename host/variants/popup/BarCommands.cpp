@@ -12,24 +12,26 @@ namespace DisplayAPI {
 bool BarCommands::add(Command* command)
 {
     auto label = mTexts.textOf(command);
-    if (mBox == nullptr || !label)
+    host::CommandBar* const bar = mBar();
+    if (bar == nullptr || !label)
         return false;
     mCommands.push_back(command);
-    mBox->bar().append(std::move(*label));
+    bar->append(std::move(*label));
     if (command == mDefault && !mUserHasMoved)
         selectDefault();
-    mBox->fitField();
+    mFit();
     return true;
 }
 
 bool BarCommands::remove(Command* command)
 {
     const auto found = std::ranges::find(mCommands, command);
-    if (mBox == nullptr || found == mCommands.end())
+    host::CommandBar* const bar = mBar();
+    if (bar == nullptr || found == mCommands.end())
         return false;
-    mBox->bar().remove(static_cast<int>(found - mCommands.begin()));
+    bar->remove(static_cast<int>(found - mCommands.begin()));
     mCommands.erase(found);
-    mBox->fitField();
+    mFit();
     return true;
 }
 
@@ -38,8 +40,11 @@ void BarCommands::clear()
     mCommands.clear();
     mDefault = nullptr;
     mUserHasMoved = false;
-    if (mBox != nullptr)
-        mBox->setCommands({});
+    host::CommandBar* const bar = mBar();
+    if (bar == nullptr)
+        return;
+    bar->setCommands({});
+    mFit();
 }
 
 void BarCommands::setDefault(Command* command)
@@ -57,15 +62,15 @@ void BarCommands::begin()
 
 void BarCommands::selectDefault()
 {
-    if (mBox == nullptr)
-        return;
     const auto found = std::ranges::find(mCommands, mDefault);
-    mBox->bar().setCurrent(found != mCommands.end() ? static_cast<int>(found - mCommands.begin()) : 0);
+    if (host::CommandBar* const bar = mBar())
+        bar->setCurrent(found != mCommands.end() ? static_cast<int>(found - mCommands.begin()) : 0);
 }
 
 int BarCommands::selected() const
 {
-    return mBox != nullptr ? mBox->bar().current() : -1;
+    const host::CommandBar* const bar = mBar();
+    return bar != nullptr ? bar->current() : -1;
 }
 
 Command* BarCommands::at(int place) const
@@ -76,20 +81,21 @@ Command* BarCommands::at(int place) const
 
 void BarCommands::translate()
 {
-    if (mBox == nullptr)
+    host::CommandBar* const bar = mBar();
+    if (bar == nullptr)
         return;
     for (std::size_t i = 0; i < mCommands.size(); ++i)
         if (auto label = mTexts.textOf(mCommands[i]))
-            mBox->bar().setText(static_cast<int>(i), std::move(*label));
+            bar->setText(static_cast<int>(i), std::move(*label));
 }
 
 std::string BarCommands::asText(const std::vector<DisplayAPIUtils::Rect>& visible) const
 {
     std::string text;
-    for (const host::CommandBar::Cell& cell : mBox->bar().cells())
+    const host::CommandBar& bar = *mBar();
+    for (const host::CommandBar::Cell& cell : bar.cells())
         if (isVisible(cell.area, visible))
-            text += screen::subItem("MenuCommand",
-                                    screen::textLine(0, ICC::fromUNICODEtoUTF8(mBox->bar().text(cell.command))));
+            text += screen::subItem("MenuCommand", screen::textLine(0, ICC::fromUNICODEtoUTF8(bar.text(cell.command))));
     return text;
 }
 

@@ -4,7 +4,9 @@
 #include "host/variants/menu/CommandTexts.h"
 #include "host/widgets/popup/PopupBox.h"
 
+#include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace DisplayAPIUtils {
@@ -15,11 +17,20 @@ namespace DisplayAPI {
 
 class Command;
 
-/// The commands in the bar of a popup's box, of which another thread may delete any: it keeps its text, and is none any
-/// more. Where the box has gone they are nowhere. GUI thread only.
+/// The commands in the bar of a popup's box or of a form, of which another thread may delete any: it keeps its text,
+/// and is none any more. Where the bar has gone they are nowhere. GUI thread only.
 class BarCommands {
 public:
-    explicit BarCommands(const WatchedWidget<host::PopupBox>& box) : mBox(box) {}
+    /// Null where the bar has gone; and what is done when it wants another place.
+    BarCommands(std::function<host::CommandBar*()> bar, std::function<void()> fit)
+        : mBar(std::move(bar)), mFit(std::move(fit))
+    {
+    }
+
+    explicit BarCommands(const WatchedWidget<host::PopupBox>& box)
+        : BarCommands([&box] { return box != nullptr ? &box->bar() : nullptr; }, [&box] { box->fitField(); })
+    {
+    }
 
     /// Null, a deleted and an unknown one are ignored: false.
     bool add(Command* command);
@@ -50,7 +61,8 @@ public:
 private:
     void selectDefault();
 
-    const WatchedWidget<host::PopupBox>& mBox;
+    const std::function<host::CommandBar*()> mBar;
+    const std::function<void()> mFit;
     CommandTexts mTexts;
     std::vector<Command*> mCommands;
     Command* mDefault = nullptr;
