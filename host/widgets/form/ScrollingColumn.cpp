@@ -3,6 +3,7 @@
 #include "host/lcd/Geometry.h"
 #include "host/lcd/Icons.h"
 #include "host/lcd/Painter.h"
+#include "host/widgets/Strip.h"
 
 #include <algorithm>
 #include <utility>
@@ -22,24 +23,38 @@ Field* ScrollingColumn::at(int index) const
     return index >= 0 && index < count() ? mFields[static_cast<std::size_t>(index)] : nullptr;
 }
 
-int ScrollingColumn::indexOf(const Field* field) const
+/// From the end: a form takes its items out from there.
+int ScrollingColumn::indexOf(const PegThing* field) const
 {
-    const auto found = std::find(mFields.begin(), mFields.end(), field);
-    return found == mFields.end() ? -1 : static_cast<int>(found - mFields.begin());
+    const auto found = std::find(mFields.rbegin(), mFields.rend(), field);
+    return static_cast<int>(mFields.rend() - found) - 1;
 }
 
 void ScrollingColumn::append(Field* field)
 {
+    const bool keepsFocus = field->Parent() == this && field == focused();
+    if (field->Parent() != nullptr)
+        field->Parent()->Remove(field);
+    if (!keepsFocus)
+        field->setFocus(false);
+    field->Resize(OUT_OF_SIGHT);
     mFields.push_back(field);
     Add(field, false);
-    if (mFocused < 0 && field->takesFocus())
+    if (keepsFocus || (mFocused < 0 && field->takesFocus()))
         moveFocusTo(count() - 1);
     place();
 }
 
 void ScrollingColumn::remove(Field* field)
 {
-    const int index = indexOf(field);
+    if (field->Parent() == this)
+        delete field;
+}
+
+/// The field may be in its destructor: nothing of it is touched.
+void ScrollingColumn::ChildRemoved(PegThing* child)
+{
+    const int index = indexOf(child);
     if (index < 0)
         return;
     takeOut(index);
@@ -48,26 +63,28 @@ void ScrollingColumn::remove(Field* field)
 
 void ScrollingColumn::takeOut(int index)
 {
-    Field* const field = at(index);
+    std::erase(mInSight, mFields[static_cast<std::size_t>(index)]);
     if (index == mFocused) {
         const int next = nextTakingFocus(index, 1);
-        moveFocusTo(next >= 0 ? next : nextTakingFocus(index, -1));
+        mFocused = next >= 0 ? next : nextTakingFocus(index, -1);
+        focusChanged();
     }
     mFields.erase(mFields.begin() + index);
     if (mFocused > index)
         --mFocused;
     if (mTop > index)
         --mTop;
-    delete field;
+    Invalidate();
 }
 
 void ScrollingColumn::clear()
 {
     mFocused = -1;
     mTop = 0;
+    mInSight.clear();
     for (Field* field : std::exchange(mFields, {}))
         delete field;
-    Invalidate();
+    place();
 }
 
 int ScrollingColumn::nextTakingFocus(int from, int by) const
@@ -124,6 +141,12 @@ bool ScrollingColumn::key(int key)
     return true;
 }
 
+void ScrollingColumn::released(int key)
+{
+    if (Field* const field = focused())
+        field->released(key);
+}
+
 void ScrollingColumn::Resize(const PegRect& area)
 {
     Field::Resize(area);
@@ -154,29 +177,58 @@ void ScrollingColumn::keepInSight()
         ++mTop;
 }
 
+/// Moves no more than what comes into sight and what leaves it.
 void ScrollingColumn::place()
 {
     keepInSight();
+    const std::vector<Field*> before = std::exchange(mInSight, placeInSight());
+    for (Field* field : before)
+        if (std::ranges::find(mInSight, field) == mInSight.end())
+            field->Resize(OUT_OF_SIGHT);
+    markEnds();
+}
+
+std::vector<Field*> ScrollingColumn::placeInSight()
+{
+    std::vector<Field*> shown;
     const int last = lastShown(mTop);
+    Strip whole(Area());
+    whole.fromEnd(SCROLL_WIDTH);
     int top = Area().top;
-    for (int index = 0; index < count(); ++index) {
-        const bool inSight = index >= mTop && index <= last;
-        const int height = inSight ? at(index)->heightFor(fieldWidth()) : 0;
-        at(index)->Resize(inSight ? rectAt(Area().left, top, fieldWidth(), height) : OUT_OF_SIGHT);
-        top += height;
+    for (int index = mTop; index <= last; ++index) {
+        Field* const field = at(index);
+        const PegRect area = rectAt(whole.rest().left, top, fieldWidth(), field->heightFor(fieldWidth()));
+        if (field->Area() != area)
+            field->Resize(area);
+        top += heightOf(area);
+        shown.push_back(field);
     }
-    Invalidate();
+    return shown;
+}
+
+void ScrollingColumn::markEnds()
+{
+    const bool above = mTop > 0;
+    const bool below = mTop + static_cast<int>(mInSight.size()) < count();
+    if (std::exchange(mHasAbove, above) != above)
+        Invalidate(arrowArea(true));
+    if (std::exchange(mHasBelow, below) != below)
+        Invalidate(arrowArea(false));
+}
+
+PegRect ScrollingColumn::arrowArea(bool upper) const
+{
+    const PegRect scroll = Strip(Area()).fromEnd(SCROLL_WIDTH);
+    return rectAt(scroll.left, upper ? scroll.top : scroll.bottom + 1 - ARROW_HEIGHT, SCROLL_WIDTH, ARROW_HEIGHT);
 }
 
 void ScrollingColumn::Draw(PegPainter& painter)
 {
     painter.fill(Area(), Level::BARE);
-    const int left = Area().right + 1 - SCROLL_WIDTH;
-    if (mTop > 0)
-        painter.icon(icons::SMALL_ARROW_UP, rectAt(left, Area().top, SCROLL_WIDTH, ARROW_HEIGHT), Level::DARK);
-    if (lastShown(mTop) + 1 < count())
-        painter.icon(icons::SMALL_ARROW_DOWN,
-                     rectAt(left, Area().bottom + 1 - ARROW_HEIGHT, SCROLL_WIDTH, ARROW_HEIGHT), Level::DARK);
+    if (mHasAbove)
+        painter.icon(icons::SMALL_ARROW_UP, arrowArea(true), Level::DARK);
+    if (mHasBelow)
+        painter.icon(icons::SMALL_ARROW_DOWN, arrowArea(false), Level::DARK);
 }
 
 } // namespace host
