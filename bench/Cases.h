@@ -29,6 +29,7 @@ std::vector<Case> listCases();
 std::vector<Case> menuCases();
 std::vector<Case> dialerCases();
 std::vector<Case> popupCases();
+std::vector<Case> formCases();
 std::vector<Case> callLogCases();
 std::vector<Case> tabCases();
 std::vector<Case> treeCases();

@@ -11,4 +11,7 @@ void onlyOnGuiThread(const char* operation);
 inline void onlyOnGuiThread(const char*) {}
 #endif
 
+/// Whether a GUI thread is recorded and it is the caller: nobody but him carries out what he posts.
+bool isRecordedGuiThread();
+
 } // namespace DisplayAPI

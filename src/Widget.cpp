@@ -2,6 +2,7 @@
 
 #include "DisplayAPI/GuiRequestEvent.h"
 #include "DisplayEventFilter.h"
+#include "GuiThread.h"
 #include "Log.h"
 #include "RequestQueue.h"
 #include "WidgetSync.h"
@@ -189,6 +190,11 @@ bool Widget::isGuiThread()
 {
     const unsigned int gui = WidgetImpl::m_GuiThreadId.load(std::memory_order_relaxed);
     return gui == 0 || gui == Threadable::currentThreadId();
+}
+
+bool isRecordedGuiThread()
+{
+    return WidgetImpl::m_GuiThreadId != 0 && Widget::isGuiThread();
 }
 
 void Widget::setGuiThreadId()

@@ -20,7 +20,7 @@ namespace DisplayAPI {
 class DISPLAYAPI_EXPORT Command {
 public:
     /// What the command is for; any value travels through. Not all values have names.
-    enum Type : int { BACK = 1, OK = 6, ITEM = 7, RIGHT = 9, TABBACK = 18, TABFWD = 19 };
+    enum Type : int { BACK = 1, OK = 6, ITEM = 7, RIGHT = 9, SAVE = 11, TABBACK = 18, TABFWD = 19 };
 
     /// A null label is an empty text.
     Command(TranslationInfo* label, Type type);

@@ -17,6 +17,8 @@ void Answers::reset()
     call = nullptr;
     menu = nullptr;
     node = nullptr;
+    item = nullptr;
+    command = nullptr;
 }
 
 } // namespace doubles

@@ -5,6 +5,8 @@
 namespace DisplayAPI {
 class CallConnectedItem;
 class ContextMenu;
+class Item;
+class MenuCommand;
 class TreeNode;
 } // namespace DisplayAPI
 
@@ -19,6 +21,8 @@ struct Answers {
     std::atomic<DisplayAPI::CallConnectedItem*> call{nullptr};
     std::atomic<DisplayAPI::ContextMenu*> menu{nullptr};
     std::atomic<DisplayAPI::TreeNode*> node{nullptr};
+    std::atomic<DisplayAPI::Item*> item{nullptr};
+    std::atomic<DisplayAPI::MenuCommand*> command{nullptr};
 
     static Answers& instance();
 

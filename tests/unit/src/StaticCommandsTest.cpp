@@ -1,4 +1,5 @@
 #include "DisplayAPI/Desktop.h"
+#include "DisplayAPI/Form.h"
 #include "DisplayAPI/IdleDisplay.h"
 #include "DisplayAPI/List.h"
 #include "DisplayAPI/MenuCommand.h"
@@ -32,6 +33,13 @@ std::set<Command*> commandsOfClasses()
             TabScreen::OK(),
             TabScreen::BACK_COMMAND(),
             Desktop::HIDDEN_COMMAND(),
+            Form::CURRENT_ITEM_CHANGED_COMMAND(),
+            Form::CLIPBOARD_CHANGED_COMMAND(),
+            Form::SELECTION_CHANGED_COMMAND(),
+            Form::SELECTION_DISPLAY_COMMAND(),
+            Form::SAVE_COMMAND(),
+            Form::OK_COMMAND(),
+            Form::BACK_COMMAND(),
             PopupConfirm::HIDDEN_COMMAND(),
             PopupNotification::HIDDEN_COMMAND(),
             PopupDialer::BackCommand(),
@@ -72,7 +80,7 @@ TEST(StaticCommandsDeathTest, CommandsOfAllClassesGoAtTheEndOfTheProcess)
 TEST(StaticCommandsTest, EachIsAnObjectOfItsOwnAndTheSameForTheWholeProcess)
 {
     const std::set<Command*> commands = commandsOfClasses();
-    EXPECT_EQ(commands.size(), 25U);
+    EXPECT_EQ(commands.size(), 32U);
     EXPECT_EQ(commandsOfClasses(), commands);
 }
 

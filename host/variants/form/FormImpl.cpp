@@ -1,0 +1,201 @@
+#include "host/variants/form/FormImpl.h"
+
+#include "DisplayAPI/Command.h"
+#include "DisplayAPI/Item.h"
+#include "DisplayAPI/ItemPrivateIfc.h"
+#include "DisplayAPI/Rectangles.h"
+#include "DisplayAPI/ScreenText.h"
+#include "host/widgets/form/ChoicePopup.h"
+#include "utilities/ICC.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace DisplayAPI {
+
+namespace {
+
+/// In hundredths of a line.
+int shareOfLabels(Form::FormProportionType proportion)
+{
+    switch (proportion) {
+    case Form::SHORT_LABELS: return 33;
+    case Form::LONG_LABELS: return 67;
+    case Form::LABELS_ABOVE: return 100;
+    default: return 50;
+    }
+}
+
+const PegThing* widgetOf(Item* item)
+{
+    ItemPrivateIfc* const side = item != nullptr ? item->getPrivateImpl() : nullptr;
+    return side != nullptr ? side->getWidget() : nullptr;
+}
+
+} // namespace
+
+FormSide::Impl::Impl(FormSide& form, Form* facade, Form::FormProportionType proportion, Panel panelOfForm)
+    : self(form), owner(facade), panel(panelOfForm),
+      window(std::in_place_type<host::FormWindow>, shareOfLabels(proportion))
+{
+    window->setListener(this);
+}
+
+FormSide::Impl::~Impl()
+{
+    if (window != nullptr)
+        window->setListener(nullptr);
+}
+
+int FormSide::Impl::Message(const PegMessage& message)
+{
+    if (message.wType != PM_APPLICATION_CHANGED)
+        return PegThing::Message(message);
+    languageChanged(ICC::fromUNICODEtoASCII(*static_cast<const PegString*>(message.pData)));
+    return 0;
+}
+
+void FormSide::Impl::languageChanged(const std::string& locale)
+{
+    if (window == nullptr)
+        return;
+    window->setTitle(title.shown());
+    commands.translate();
+    if (owner != nullptr)
+        for (Item* item : owner->getItems())
+            if (ItemPrivateIfc* const side = item->getPrivateImpl())
+                side->localeChanged(locale);
+    changed();
+}
+
+void FormSide::Impl::currentChanged()
+{
+    changed();
+    self.postCommand(Form::CURRENT_ITEM_CHANGED_COMMAND(), owner);
+}
+
+void FormSide::Impl::valueChanged(host::FormField& field)
+{
+    if (owner != nullptr)
+        if (Item* const item = itemOf(&field))
+            owner->callListeners(item);
+    self.postCommand(Form::SELECTION_CHANGED_COMMAND(), owner);
+    changed();
+}
+
+void FormSide::Impl::choicesShown(host::FormField&)
+{
+    self.postCommand(Form::SELECTION_DISPLAY_COMMAND(), owner);
+    changed();
+}
+
+/// One that has been deleted meanwhile is none any more.
+void FormSide::Impl::commandChosen(int command)
+{
+    if (Command* const chosen = commands.at(command))
+        self.postCommand(chosen, owner);
+}
+
+void FormSide::Impl::formKey(int key)
+{
+    if (key == PK_LEFT)
+        self.postCommand(Form::BACK_COMMAND(), owner);
+    else if (key == PK_OK)
+        self.postCommand(okSaves ? Form::SAVE_COMMAND() : Form::OK_COMMAND(), owner);
+}
+
+void FormSide::Impl::append(PegThing* item)
+{
+    auto* const field = dynamic_cast<host::FormField*>(item);
+    if (window == nullptr || field == nullptr)
+        return;
+    window->append(field);
+    changed();
+}
+
+void FormSide::Impl::select(Item* item)
+{
+    if (window == nullptr)
+        return;
+    window->setCurrent(dynamic_cast<const host::FormField*>(widgetOf(item)));
+    changed();
+}
+
+Item* FormSide::Impl::itemOf(const host::FormField* field) const
+{
+    if (owner == nullptr || field == nullptr)
+        return nullptr;
+    const std::vector<Item*>& items = owner->getItems();
+    const auto found = std::ranges::find(items, field, &widgetOf);
+    return found != items.end() ? *found : nullptr;
+}
+
+void FormSide::Impl::setTitle(TranslatedText text)
+{
+    title = std::move(text);
+    if (window != nullptr)
+        window->setTitle(title.shown());
+    changed();
+}
+
+void FormSide::Impl::setClipboard(std::string text)
+{
+    if (text == clipboard)
+        return;
+    clipboard = std::move(text);
+    self.postCommand(Form::CLIPBOARD_CHANGED_COMMAND(), owner);
+}
+
+void FormSide::Impl::changed()
+{
+    if (window != nullptr && window->StatusIs(PSF_VISIBLE))
+        self.generateDisplayChangedEvent();
+}
+
+std::string FormSide::Impl::asText(const std::vector<DisplayAPIUtils::Rect>& visible) const
+{
+    if (window == nullptr || !isVisible(window->Area(), visible))
+        return {};
+    std::string contents;
+    if (isVisible(window->titleArea(), visible))
+        contents += screen::caption(title.text());
+    contents += statusAsText(visible) + fieldsAsText(visible) + commands.asText(visible) + choicesAsText(visible);
+    return screen::object("Form", contents);
+}
+
+std::string FormSide::Impl::statusAsText(const std::vector<DisplayAPIUtils::Rect>& visible) const
+{
+    const host::StatusStrip& status = window->status();
+    std::string lines;
+    for (int line = 0; line < status.lines(); ++line)
+        lines += screen::textLine(line, status.text(line));
+    return !lines.empty() && isVisible(status.Area(), visible) ? screen::subItem("SystemWindow", lines) : "";
+}
+
+std::string FormSide::Impl::fieldsAsText(const std::vector<DisplayAPIUtils::Rect>& visible) const
+{
+    std::string text;
+    for (const host::Field* each : window->column().inSight()) {
+        if (!isVisible(each->Area(), visible))
+            continue;
+        const auto& field = static_cast<const host::FormField&>(*each);
+        text += screen::subItem("FormItem", screen::textLine(0, ICC::fromUNICODEtoUTF8(field.label())) +
+                                                screen::textLine(1, ICC::fromUNICODEtoUTF8(field.value())));
+    }
+    return text;
+}
+
+std::string FormSide::Impl::choicesAsText(const std::vector<DisplayAPIUtils::Rect>& visible) const
+{
+    const auto* const popup = dynamic_cast<const host::ChoicePopup*>(window->opened());
+    if (popup == nullptr)
+        return {};
+    const host::CommandColumn& choices = popup->column();
+    std::string text;
+    for (int row = choices.top(); row < choices.count(); ++row)
+        if (isVisible(choices.rowArea(row), visible))
+            text += screen::subItem("MenuCommand", screen::textLine(0, ICC::fromUNICODEtoUTF8(choices.at(row).text)));
+    return text;
+}
+
+} // namespace DisplayAPI

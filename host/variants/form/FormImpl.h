@@ -1,0 +1,57 @@
+#pragma once
+
+#include "DisplayAPI/OwnershipDelegate.h"
+#include "DisplayAPI/TranslatedText.h"
+#include "DisplayAPI/WatchedWidget.h"
+#include "host/variants/popup/BarCommands.h"
+#include "host/widgets/form/FormWindow.h"
+#include "variants/form/FormPrivate.h"
+#include "widgets/ApplicationWatch.h"
+
+namespace DisplayAPI {
+
+/// A form's data, and what hears its window and the language.
+struct FormSide::Impl final : public PegThing, public host::FormListener {
+    Impl(FormSide& form, Form* facade, Form::FormProportionType proportion, Panel panelOfForm);
+    ~Impl() override;
+
+    int Message(const PegMessage& message) override;
+    void currentChanged() override;
+    void valueChanged(host::FormField& field) override;
+    void choicesShown(host::FormField& field) override;
+    void lookChanged() override { changed(); }
+    void commandChosen(int command) override;
+    void formKey(int key) override;
+
+    void append(PegThing* item);
+    void select(Item* item);
+    Item* itemOf(const host::FormField* field) const;
+    void setTitle(TranslatedText text);
+    void setClipboard(std::string text);
+
+    /// Tells the display when a form on screen looks different.
+    void changed();
+    std::string asText(const std::vector<DisplayAPIUtils::Rect>& visible) const;
+
+    FormSide& self;
+    Form* const owner;
+    const Panel panel;
+    WatchedWidget<host::FormWindow> window;
+    OwnershipDelegate<host::FormWindow> ownership{window.slot(), true};
+    BarCommands commands{[this] { return window != nullptr ? &window->bar() : nullptr; }, [this] { window->fitBar(); }};
+    TranslatedText title;
+    std::string clipboard;
+    TranslatorIfc* speller = nullptr; ///< for fields that type; there are none yet
+    bool okSaves = false;
+    bool isReadOnly = false;
+
+private:
+    void languageChanged(const std::string& locale);
+    std::string statusAsText(const std::vector<DisplayAPIUtils::Rect>& visible) const;
+    std::string fieldsAsText(const std::vector<DisplayAPIUtils::Rect>& visible) const;
+    std::string choicesAsText(const std::vector<DisplayAPIUtils::Rect>& visible) const;
+
+    const ApplicationWatch mApplication{*this};
+};
+
+} // namespace DisplayAPI

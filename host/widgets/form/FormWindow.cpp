@@ -1,0 +1,254 @@
+#include "host/widgets/form/FormWindow.h"
+
+#include "host/lcd/Geometry.h"
+#include "host/widgets/Column.h"
+#include "host/widgets/Reading.h"
+#include "host/widgets/Strip.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace host {
+
+namespace {
+
+constexpr int RULE = 1; ///< between the parts
+constexpr int INSET = 4;
+constexpr int INDENT = 8; ///< of what lies over the form, from the panel's edges
+constexpr int BACK_WIDTH = 14;
+constexpr int STATUS_LINE_HEIGHT = 16;
+constexpr int LEAST_HEIGHT = 40; ///< a title and a field
+
+int titleHeight()
+{
+    return hasTwoLines() ? BIG_LINE_HEIGHT : 20;
+}
+
+int barHeight()
+{
+    return Field::lineHeight() + (hasTwoLines() ? 0 : RULE);
+}
+
+} // namespace
+
+FormWindow::FormWindow(int labelShare)
+    : PegWindow(FF_NONE), mStatus(new StatusStrip([this] { layOut(); })), mColumn(new ScrollingColumn),
+      mBar(new CommandBar), mLabelShare(labelShare)
+{
+    for (PegThing* part :
+         {static_cast<PegThing*>(mStatus), static_cast<PegThing*>(mColumn), static_cast<PegThing*>(mBar)})
+        Add(part, false);
+    mColumn->setMessageTarget(this);
+    mBar->setMessageTarget(this);
+    const auto [width, height] = runningPanel();
+    Resize(rectAt(0, 0, width, height));
+    setPlace(FIELDS);
+}
+
+/// While there is a form for its fields to speak to.
+FormWindow::~FormWindow()
+{
+    mColumn->clear();
+}
+
+void FormWindow::Resize(const PegRect& area)
+{
+    PegWindow::Resize(area);
+    layOut();
+}
+
+void FormWindow::setTitle(PegString title)
+{
+    mTitle = std::move(title);
+    layOut();
+    Invalidate(parts().title);
+}
+
+void FormWindow::append(FormField* field)
+{
+    field->setHolder(this);
+    field->setLabelShare(mLabelShare);
+    field->setFormReadOnly(mReadOnly);
+    mColumn->append(field);
+    if (field == current())
+        setPlace(mPlace);
+}
+
+void FormWindow::setCurrent(const FormField* field)
+{
+    mColumn->focus(field);
+    if (field == current())
+        setPlace(FIELDS);
+}
+
+void FormWindow::setReadOnly(bool on)
+{
+    mReadOnly = on;
+    for (int index = 0; index < mColumn->count(); ++index)
+        fieldAt(index)->setFormReadOnly(on);
+}
+
+void FormWindow::fitBar()
+{
+    setPlace(mPlace);
+}
+
+FormWindow::Place FormWindow::place() const
+{
+    if (mBar->count() == 0)
+        return FIELDS;
+    return mColumn->takesFocus() ? mPlace : COMMANDS;
+}
+
+void FormWindow::setPlace(Place place)
+{
+    mPlace = place;
+    mColumn->setFocus(this->place() == FIELDS);
+    mBar->setFocus(this->place() == COMMANDS);
+    layOut();
+}
+
+bool FormWindow::hasRoomForTitle(int height) const
+{
+    const int field = current() != nullptr ? current()->heightFor(widthOf(Area())) : Field::lineHeight();
+    return !mTitle.empty() && height >= titleHeight() + field;
+}
+
+FormWindow::Parts FormWindow::parts() const
+{
+    const bool hasBar = mBar->count() > 0 && (!hasTwoLines() || place() == COMMANDS);
+    Column column(Area());
+    Parts parts;
+    parts.status = column.fromTop(mStatus->height());
+    parts.bar = column.fromBottom(hasBar ? barHeight() : 0);
+    const bool isCrowded = hasBar && hasTwoLines();
+    const bool hasTitle = isCrowded ? !mTitle.empty() : hasRoomForTitle(heightOf(column.rest()));
+    parts.title = column.fromTop(hasTitle ? titleHeight() : 0);
+    parts.fields = column.rest();
+    if (mOpened != nullptr)
+        parts.opened = openedArea();
+    return parts;
+}
+
+/// In the middle; on two lines all of it.
+PegRect FormWindow::openedArea() const
+{
+    const int indent = hasTwoLines() ? 0 : INDENT;
+    const int width = widthOf(Area()) - 2 * indent;
+    const int most = heightOf(Area()) - 2 * indent;
+    const int height = hasTwoLines() ? most : std::min(mOpened->heightFor(width), most);
+    return rectAt(Area().left + indent, Area().top + (heightOf(Area()) - height) / 2, width, height);
+}
+
+void FormWindow::layOut()
+{
+    mStatus->setMostLines((heightOf(Area()) - barHeight() - LEAST_HEIGHT) / STATUS_LINE_HEIGHT);
+    const Parts where = parts();
+    if (mStatus->Area() != where.status)
+        mStatus->Resize(where.status);
+    if (mColumn->Area() != where.fields)
+        mColumn->Resize(where.fields);
+    if (mOpened != nullptr && mOpened->Area() != where.opened)
+        mOpened->Resize(where.opened);
+    const PegRect bar = isEmpty(where.bar) ? where.bar
+                                           : rectAt(where.bar.left, where.bar.bottom + 1 - Field::lineHeight(),
+                                                    widthOf(where.bar), Field::lineHeight());
+    if (mBar->Area() == bar)
+        return;
+    mBar->Resize(bar);
+    Invalidate();
+}
+
+int FormWindow::Message(const PegMessage& message)
+{
+    switch (message.wType) {
+    case PM_KEY:
+        if (!key(message.iData) && mListener != nullptr)
+            mListener->formKey(message.iData);
+        break;
+    case PM_KEYRELEASE: mColumn->released(message.iData); break;
+    case PM_CURRENT_CHANGED:
+        layOut();
+        if (mListener != nullptr && message.pSource == mColumn)
+            mListener->currentChanged();
+        break;
+    case PM_CLICKED:
+        if (mListener != nullptr)
+            mListener->commandChosen(message.iData);
+        break;
+    default: return PegWindow::Message(message);
+    }
+    return 0;
+}
+
+bool FormWindow::key(int key)
+{
+    if (mOpened != nullptr)
+        return mOpened->key(key);
+    if (place() == COMMANDS)
+        return keyInBar(key);
+    if (mColumn->key(key))
+        return true;
+    if ((key != PK_UP && key != PK_DOWN) || mBar->count() == 0)
+        return false;
+    setPlace(COMMANDS);
+    return true;
+}
+
+bool FormWindow::keyInBar(int key)
+{
+    if (mBar->key(key))
+        return true;
+    if ((key != PK_UP && key != PK_DOWN) || !mColumn->takesFocus())
+        return false;
+    setPlace(FIELDS);
+    return true;
+}
+
+void FormWindow::valueChanged(FormField& field)
+{
+    if (mListener != nullptr)
+        mListener->valueChanged(field);
+}
+
+void FormWindow::choicesShown(FormField& field)
+{
+    if (mListener != nullptr)
+        mListener->choicesShown(field);
+}
+
+void FormWindow::lookChanged()
+{
+    if (mListener != nullptr)
+        mListener->lookChanged();
+}
+
+void FormWindow::open(Field* choices)
+{
+    delete std::exchange(mOpened, choices);
+    Add(choices);
+    layOut();
+}
+
+void FormWindow::Draw(PegPainter& painter)
+{
+    const Parts where = parts();
+    painter.fill(Area(), Level::BARE);
+    if (!isEmpty(where.bar) && !hasTwoLines())
+        painter.fill(rectAt(where.bar.left, where.bar.top, widthOf(where.bar), RULE), Level::MIDDLE);
+    if (!isEmpty(where.title))
+        drawTitle(painter, where.title);
+}
+
+/// The arrow says that the left key goes back.
+void FormWindow::drawTitle(PegPainter& painter, const PegRect& bar) const
+{
+    painter.fill(bar, Level::LIGHT);
+    painter.fill(rectAt(bar.left, bar.bottom, widthOf(bar), RULE), Level::DARK);
+    Strip strip(rectAt(bar.left + INSET, bar.top, widthOf(bar) - 2 * INSET, heightOf(bar) - RULE));
+    const PegRect back = strip.fromEnd(BACK_WIDTH);
+    painter.icon(icons::BACK, back, Level::DARK);
+    painter.text(strip.rest(), mTitle, {.font = Field::boldFont(), .align = startAlign()});
+}
+
+} // namespace host

@@ -1,0 +1,110 @@
+#pragma once
+
+#include "DisplayAPI/Command.h"
+#include "DisplayAPI/Display.h"
+#include "DisplayAPI/DisplayablePrivateIfc.h"
+#include "DisplayAPI/Form.h"
+#include "DisplayAPI/PopupNotification.h"
+#include "doubles/Mocks.h"
+#include "host/Phone.h"
+#include "presentation/PRESCPresentationManager.h"
+#include "support/VirtualTime.h"
+#include "unit/host/variants/OnPanel.h"
+#include "utilities/TranslatorIfc.h"
+#include "widgets/KestrelApplication.h"
+
+#include <gmock/gmock.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace test {
+
+/// Says the key in the language of the moment.
+class FormDictionary : public TranslatorIfc {
+public:
+    std::string translate(const std::string& key) override { return language + key; }
+
+    std::string language = "en:";
+};
+
+/// A form on the screen, on the real private sides. The test's thread is the GUI thread.
+class FormVariantTest : public testing::TestWithParam<host::Variant> {
+protected:
+    FormVariantTest()
+    {
+        ON_CALL(listener, postCommandAction).WillByDefault([this](DisplayAPI::Command* command, auto* shown) {
+            EXPECT_EQ(shown, form.get());
+            raised.push_back(nameOf(command));
+        });
+        form->addCommandListener(&listener);
+        display.show();
+    }
+
+    ~FormVariantTest() override
+    {
+        display.setCurrent(nullptr);
+        KestrelApplication::getCurrentApplication()->setLocale(PegString());
+    }
+
+    static bool isSmall() { return GetParam() == host::Variant::WP1; }
+
+    static std::string nameOf(DisplayAPI::Command* command)
+    {
+        using DisplayAPI::Form;
+        const std::vector<std::pair<DisplayAPI::Command*, const char*>> names{
+            {Form::CURRENT_ITEM_CHANGED_COMMAND(), "current"},
+            {Form::CLIPBOARD_CHANGED_COMMAND(), "clipboard"},
+            {Form::SELECTION_CHANGED_COMMAND(), "changed"},
+            {Form::SELECTION_DISPLAY_COMMAND(), "choices"},
+            {Form::SAVE_COMMAND(), "save"},
+            {Form::OK_COMMAND(), "ok"},
+            {Form::BACK_COMMAND(), "back"}};
+        for (const auto& [known, name] : names)
+            if (known == command)
+                return name;
+        return command->getBasicText();
+    }
+
+    void open() { display.setCurrent(form.get()); }
+    std::string shown() { return form->getPrivateImpl()->serialise(); }
+
+    /// To whoever has the focus.
+    static void press(int key) { gpPresent->Focus()->Message({.wType = PM_KEY, .iData = key}); }
+
+    void press(std::initializer_list<int> keys)
+    {
+        for (const int key : keys)
+            press(key);
+    }
+
+    void changeLanguage(const char* language)
+    {
+        dictionary.language = std::string(language) + ":";
+        display.localeChanged(language);
+    }
+
+    /// A field as the screen's text has it.
+    static std::string item(const std::string& label, const std::string& value)
+    {
+        return "subitem:\nname:FormItem\nstring0:" + label + "\nstring1:" + value + "\nendsubitem:\n";
+    }
+
+    static std::string command(const std::string& label)
+    {
+        return "subitem:\nname:MenuCommand\nstring0:" + label + "\nendsubitem:\n";
+    }
+
+    static std::string asText(const std::string& contents) { return "object:\nname:Form\n" + contents + "end:\n"; }
+
+    VirtualTime time;
+    OnPanel gui{GetParam()};
+    DisplayAPI::Display display{host::hardwareName(), "en_GB", "dd.mm.yyyy", "24h", host::isNarrow(), nullptr};
+    FormDictionary dictionary;
+    testing::NiceMock<doubles::MockCommandListener> listener;
+    std::vector<std::string> raised;
+    std::unique_ptr<DisplayAPI::Form> form = std::make_unique<DisplayAPI::Form>(DisplayAPI::Form::HALF_AND_HALF);
+};
+
+} // namespace test

@@ -1,0 +1,217 @@
+// What a selection field shows, and how the user chooses.
+
+#include "DisplayAPI/SelectionField.h"
+
+#include "DisplayAPI/ItemPrivateIfc.h"
+#include "DisplayAPI/MenuCommand.h"
+#include "unit/host/variants/form/FormVariantTest.h"
+#include "utilities/TranslationInfo.h"
+
+using namespace DisplayAPI;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+class SelectionFieldPrivateTest : public test::FormVariantTest {
+protected:
+    SelectionFieldPrivateTest()
+    {
+        form->append(field);
+        for (MenuCommand* choice : {home.get(), work.get(), mobile.get()})
+            field->appendSelection(choice);
+    }
+    ~SelectionFieldPrivateTest() override { form.reset(); }
+
+    static std::unique_ptr<MenuCommand> choice(const char* text) { return std::make_unique<MenuCommand>(text, 0); }
+
+    /// The three choices over the form: as many as there is room for.
+    static std::string choices() { return command("Home") + command("Work") + (isSmall() ? "" : command("Mobile")); }
+
+    std::unique_ptr<MenuCommand> none = choice("None"), home = choice("Home"), work = choice("Work"),
+                                 mobile = choice("Mobile");
+    SelectionField* field = new SelectionField("Kind", PhonebookItem::ICON_HOME, none.get(), form.get(), true);
+};
+
+TEST_P(SelectionFieldPrivateTest, ShowsItsContentsUntilSomethingIsSelected)
+{
+    open();
+    EXPECT_EQ(shown(), asText(item("Kind", "None")));
+    EXPECT_EQ(field->getSelectionIndex(), -1);
+    EXPECT_EQ(field->getSelectionCommand(), nullptr);
+    field->setSelectionIndex(1);
+    EXPECT_EQ(shown(), asText(item("Kind", "Work")));
+    EXPECT_EQ(field->getSelectionCommand(), work.get());
+    field->displayCurrentSelection(false);
+    EXPECT_EQ(shown(), asText(item("Kind", "None")));
+    field->setFieldContents(mobile.get());
+    EXPECT_EQ(shown(), asText(item("Kind", "Mobile")));
+    field->displayCurrentSelection(true);
+    field->setSelectionIndex(-1);
+    field->setFieldContents(nullptr);
+    EXPECT_EQ(shown(), asText(item("Kind", "")));
+    EXPECT_THAT(raised, IsEmpty());
+}
+
+TEST_P(SelectionFieldPrivateTest, ChoicesThatThereAreNotAreIgnored)
+{
+    field->setSelectionCommand(mobile.get());
+    EXPECT_EQ(field->getSelectionIndex(), 2);
+    for (const int index : {-2, 3})
+        field->setSelectionIndex(index);
+    field->setSelectionCommand(none.get());
+    field->setSelectionCommand(nullptr);
+    EXPECT_EQ(field->getSelectionIndex(), 2);
+}
+
+TEST_P(SelectionFieldPrivateTest, LeftAndRightGoToTheNextChoice)
+{
+    open();
+    press(PK_RIGHT);
+    EXPECT_EQ(field->getSelectionIndex(), 0);
+    press({PK_LEFT, PK_RIGHT, PK_RIGHT, PK_RIGHT});
+    EXPECT_EQ(field->getSelectionIndex(), 2);
+    EXPECT_THAT(raised, ElementsAre("changed", "changed", "changed"));
+    changeLanguage("ar");
+    press(PK_RIGHT);
+    EXPECT_EQ(field->getSelectionIndex(), 1);
+}
+
+TEST_P(SelectionFieldPrivateTest, OkShowsAllChoicesAndTakesOne)
+{
+    field->setSelectionIndex(0);
+    open();
+    EXPECT_EQ(field->getHighlightedIndex(), -1);
+    press(PK_OK);
+    EXPECT_EQ(field->getHighlightedIndex(), 0);
+    EXPECT_EQ(shown(), asText(item("Kind", "Home") + choices()));
+    press(PK_DOWN);
+    EXPECT_EQ(field->getHighlightedIndex(), 1);
+    EXPECT_EQ(field->getSelectionIndex(), 0);
+    press(PK_OK);
+    EXPECT_EQ(field->getHighlightedIndex(), -1);
+    EXPECT_EQ(field->getSelectionIndex(), 1);
+    EXPECT_EQ(shown(), asText(item("Kind", "Work")));
+    EXPECT_THAT(raised, ElementsAre("choices", "changed"));
+}
+
+TEST_P(SelectionFieldPrivateTest, LeftLeavesTheChoicesAndTheSameOneIsNoChange)
+{
+    field->setSelectionIndex(2);
+    open();
+    press({PK_OK, PK_UP, PK_LEFT});
+    EXPECT_EQ(field->getHighlightedIndex(), -1);
+    EXPECT_EQ(shown(), asText(item("Kind", "Mobile")));
+    press({PK_OK, PK_OK});
+    EXPECT_EQ(field->getSelectionIndex(), 2);
+    EXPECT_THAT(raised, ElementsAre("choices", "choices"));
+}
+
+TEST_P(SelectionFieldPrivateTest, ApplicationIsInformedOfOkWhereItWantsToBe)
+{
+    field->setInformAppOnOk(true);
+    open();
+    press({PK_OK, PK_DOWN, PK_OK});
+    press({PK_OK, PK_OK});
+    EXPECT_THAT(raised, ElementsAre("choices", "Work", "changed", "choices", "Work"));
+    press(PK_RIGHT);
+    EXPECT_EQ(raised.back(), "changed");
+}
+
+TEST_P(SelectionFieldPrivateTest, ReadOnlyItStaysAsItIsAndItsChoicesGo)
+{
+    open();
+    press(PK_OK);
+    field->setReadOnlyMode(true);
+    EXPECT_TRUE(field->getReadOnlyMode());
+    EXPECT_EQ(field->getHighlightedIndex(), -1);
+    press({PK_RIGHT, PK_OK, PK_LEFT});
+    EXPECT_EQ(field->getSelectionIndex(), -1);
+    EXPECT_THAT(raised, ElementsAre("choices", "ok", "back"));
+}
+
+TEST_P(SelectionFieldPrivateTest, ClearedFieldHasNoChoices)
+{
+    field->setSelectionIndex(1);
+    open();
+    press(PK_OK);
+    field->clearSelections(mobile.get());
+    EXPECT_EQ(field->getSelectionIndex(), -1);
+    EXPECT_EQ(shown(), asText(item("Kind", "Mobile")));
+    press({PK_OK, PK_LEFT});
+    EXPECT_THAT(raised, ElementsAre("choices", "ok", "back"));
+    field->clearSelections(nullptr);
+    EXPECT_EQ(shown(), asText(item("Kind", "Mobile")));
+}
+
+TEST_P(SelectionFieldPrivateTest, PopupOverTheChoicesGivesThemBack)
+{
+    open();
+    press({PK_OK, PK_DOWN});
+    PopupNotification popup;
+    popup.setText("News");
+    popup.show();
+    popup.dismiss();
+    EXPECT_EQ(field->getHighlightedIndex(), 1);
+    press(PK_OK);
+    EXPECT_EQ(field->getSelectionIndex(), 1);
+}
+
+TEST_P(SelectionFieldPrivateTest, DeletedChoiceKeepsItsTextAndIsNoCommand)
+{
+    field->setSelectionIndex(1);
+    field->setInformAppOnOk(true);
+    open();
+    work.reset();
+    changeLanguage("de");
+    EXPECT_EQ(shown(), asText(item("Kind", "Work")));
+    EXPECT_EQ(field->getSelectionCommand(), nullptr);
+    press({PK_OK, PK_OK});
+    EXPECT_THAT(raised, ElementsAre("choices"));
+}
+
+TEST_P(SelectionFieldPrivateTest, TextsFollowTheLanguage)
+{
+    MenuCommand translated(new TranslationInfo("other", &dictionary), 0);
+    field->clearSelections(nullptr);
+    field->appendSelection(&translated);
+    field->setFieldContents(&translated);
+    field->setLabel("Sort");
+    open();
+    changeLanguage("de");
+    EXPECT_EQ(shown(), asText(item("Sort", "de:other")));
+    press(PK_OK);
+    EXPECT_EQ(shown(), asText(item("Sort", "de:other") + command("de:other")));
+}
+
+TEST_P(SelectionFieldPrivateTest, EndOfTheFieldTakesItsChoicesOff)
+{
+    open();
+    press(PK_OK);
+    form->clear();
+    EXPECT_EQ(shown(), asText(""));
+    press(PK_LEFT);
+    EXPECT_THAT(raised, ElementsAre("choices", "back"));
+}
+
+TEST_P(SelectionFieldPrivateTest, AnswersWithNothingWhenItsFormHasGone)
+{
+    open();
+    field->setSelectionIndex(1);
+    delete field->getPrivateImpl()->getWidget();
+    field->setSelectionIndex(0);
+    field->setFieldContents(work.get());
+    field->appendSelection(work.get());
+    field->displayCurrentSelection(false);
+    field->setReadOnlyMode(true);
+    field->setLabel("Sort");
+    field->clearSelections(none.get());
+    EXPECT_EQ(field->getSelectionIndex(), -1);
+    EXPECT_EQ(field->getHighlightedIndex(), -1);
+    EXPECT_EQ(field->getSelectionCommand(), nullptr);
+    EXPECT_FALSE(field->getReadOnlyMode());
+}
+
+INSTANTIATE_ON_PANELS(SelectionFieldPrivateTest);
+
+} // namespace
