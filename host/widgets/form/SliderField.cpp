@@ -10,7 +10,7 @@ namespace host {
 namespace {
 
 constexpr int BAR_HEIGHT = 8;
-constexpr int PADDING = 2; ///< between the frame and what fills it
+constexpr int BAR_PADDING = 2; ///< between the frame and what fills it
 constexpr int FULL = 100;
 
 /// Room for five characters.
@@ -75,7 +75,8 @@ void SliderField::drawValue(PegPainter& painter, const PegRect& cell) const
     const PegRect bar =
         rectAt(strip.rest().left, cell.top + (heightOf(cell) - BAR_HEIGHT) / 2, widthOf(strip.rest()), BAR_HEIGHT);
     painter.frame(bar, ink());
-    Strip inside(rectAt(bar.left + PADDING, bar.top + PADDING, widthOf(bar) - 2 * PADDING, BAR_HEIGHT - 2 * PADDING));
+    Strip inside(rectAt(bar.left + BAR_PADDING, bar.top + BAR_PADDING, widthOf(bar) - 2 * BAR_PADDING,
+                        BAR_HEIGHT - 2 * BAR_PADDING));
     painter.fill(inside.fromStart(widthOf(inside.rest()) * mNumber.percentOf(mLeast, mMost) / FULL), ink());
 }
 
