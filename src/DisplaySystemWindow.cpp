@@ -208,10 +208,8 @@ void DisplaySystemWindow::renewLine(int line)
 void DisplaySystemWindow::changeHands()
 {
     Displayable* const current = mDisplay.getCurrent();
-    if (mPreviousCurrent == nullptr) {
+    if (mPreviousCurrent == nullptr)
         mPreviousCurrent = current;
-        return;
-    }
     if (current == mPreviousCurrent)
         return;
     if (DisplayablePrivate* previous = statusSide(*mPreviousCurrent))

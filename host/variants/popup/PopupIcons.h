@@ -22,13 +22,13 @@ const host::Icon* iconAt(const std::array<const host::Icon*, SIZE>& icons, int v
 inline const host::Icon* iconOf(PopupConfirm::PopupState state)
 {
     using namespace host::icons;
-    return iconAt(std::array<const host::Icon*, 4>{nullptr, &QUESTION, &WARNING, &FAILURE}, state);
+    return iconAt(std::to_array<const host::Icon*>({nullptr, &QUESTION, &WARNING, &FAILURE}), state);
 }
 
 inline const host::Icon* iconOf(PopupNotification::InfoType type)
 {
     using namespace host::icons;
-    return iconAt(std::array<const host::Icon*, 5>{nullptr, &INFORMATION, &WARNING, &FAILURE, &CHECK}, type);
+    return iconAt(std::to_array<const host::Icon*>({nullptr, &INFORMATION, &WARNING, &FAILURE, &CHECK}), type);
 }
 
 /// The same news, of work that is under way.
@@ -41,28 +41,29 @@ inline const host::Icon* iconOf(PopupNotification::IconElemType icon)
 {
     using namespace host::icons;
     return iconAt(
-        std::array<const host::Icon*, 7>{nullptr, &HANDSET, &MISSED_CALL, &FORWARDED, &LETTER, &PERSON, &PADLOCK},
+        std::to_array<const host::Icon*>({nullptr, &HANDSET, &MISSED_CALL, &FORWARDED, &LETTER, &PERSON, &PADLOCK}),
         icon);
 }
 
 inline const host::Icon* iconOf(PopupCall::CallState state)
 {
     using namespace host::icons;
-    return iconAt(std::array<const host::Icon*, 10>{nullptr, &CALL_IN, &CALL_OUT, &CALL_OUT, &HANDSET, &HOLD, &FORWARD,
-                                                    &FORWARDED, &NO_ENTRY, &FAILURE},
+    return iconAt(std::to_array<const host::Icon*>({nullptr, &CALL_IN, &CALL_OUT, &CALL_OUT, &HANDSET, &HOLD, &FORWARD,
+                                                    &FORWARDED, &NO_ENTRY, &FAILURE}),
                   state);
 }
 
 inline const host::Icon* iconOf(PopupCall::CallPriority priority)
 {
     using namespace host::icons;
-    return iconAt(std::array<const host::Icon*, 3>{nullptr, &URGENT, &WARNING}, priority);
+    return iconAt(std::to_array<const host::Icon*>({nullptr, &URGENT, &WARNING}), priority);
 }
 
 inline const host::Icon* iconOf(ForwardedCallType type)
 {
     using namespace host::icons;
-    return iconAt(std::array<const host::Icon*, 5>{nullptr, &FORWARDED, &NO_ENTRY, &BELL_OFF, &SERVER_FORWARDED}, type);
+    return iconAt(std::to_array<const host::Icon*>({nullptr, &FORWARDED, &NO_ENTRY, &BELL_OFF, &SERVER_FORWARDED}),
+                  type);
 }
 
 } // namespace DisplayAPI

@@ -3,6 +3,10 @@
 #include "unit/host/variants/menu/ContextMenuVariantTest.h"
 
 #include "DisplayAPI/DisplayEventIfc.h"
+#include "support/Keys.h"
+
+#include <functional>
+#include <utility>
 
 using namespace DisplayAPI;
 using testing::ElementsAre;
@@ -297,6 +301,28 @@ TEST_P(ContextMenuLifeTest, ObserverLearnsOfItsComingItsMovingAndItsGoing)
     EXPECT_EQ(changes(), 1) << "the list below announces itself";
     menu->addCommand(call.get(), nullptr, false);
     EXPECT_EQ(changes(), 0);
+}
+
+TEST_P(ContextMenuLifeTest, ObserverLearnsOfWhatLooksDifferent)
+{
+    struct Difference {
+        const char* what;
+        int times;
+        std::function<void()> make;
+    };
+    KestrelApplication& application = *KestrelApplication::getCurrentApplication();
+    open();
+    changes();
+    for (const auto& [what, times, make] : std::vector<Difference>{
+             {"row", 1, [&] { menu->addCommand(edit.get(), nullptr, false); }},
+             {"default", 1, [&] { menu->setDefaultCommand(edit.get()); }},
+             {"language, which is the list's as well", 2, [&] { application.setLocale(test::peg("de")); }},
+             {"status lines", 1, [&] { menu->setSysWindowSize(1); }},
+             {"no rows", 1, [&] { menu->clearCommands(); }},
+         }) {
+        make();
+        EXPECT_EQ(changes(), times) << what;
+    }
 }
 
 TEST_P(ContextMenuLifeTest, ShownMenuMayBeDeleted)

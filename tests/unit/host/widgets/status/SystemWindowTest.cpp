@@ -276,6 +276,22 @@ TEST_F(SystemWindowTest, ClockKeepsLineZeroOnTheScreen)
     EXPECT_TRUE(isEmpty(window->Area()));
 }
 
+TEST_F(SystemWindowTest, LongTextEndsBesideTheTimeFromWhicheverSideItIsRead)
+{
+    window->setTime(14, 5, 0);
+    window->showTime(true);
+    show(1);
+    window->setSystemWindowText(0, std::string(60, 'x'));
+    for (const char* locale : {"en", "ar"}) {
+        application.setLocale(ICC::fromUTF8toUNICODE(locale));
+        window->Invalidate();
+        Lcd::current()->paint();
+        const auto texts = Lcd::current()->picture().texts;
+        ASSERT_EQ(texts.size(), 2U) << locale;
+        EXPECT_FALSE(overlap(texts[0].area, texts[1].area)) << locale;
+    }
+}
+
 TEST_F(SystemWindowTest, ClockFollowsTheTimeFormat)
 {
     show(1);
