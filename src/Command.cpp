@@ -131,7 +131,6 @@ void Command::removeCommand(Command* command)
         return;
     std::lock_guard guard(listLockGuard());
     gCommandListMutex = nullptr;
-    listLockOwner().reset();
 }
 
 bool Command::exists(Command* command)
