@@ -1,8 +1,9 @@
 #include "apps/deskphone/CallActions.h"
 
+#include "apps/deskphone/Telephone.h"
+
 namespace deskphone {
 
-using exchange::CallId;
 using exchange::CallState;
 using exchange::Telephony;
 
@@ -49,13 +50,52 @@ std::vector<RowMenu::Action> CallActions::all(const PhoneCall& call)
     Actions actions;
     if (isTalk(call))
         addTalk(actions, call);
-    add(actions, "Call.hang.up", &Telephony::end, call);
+    else if (call.state() == CallState::RINGING_BACK)
+        addHandOver(actions, call);
+    const bool isMember = exchange::isTalk(call.state()) && call.last.with != exchange::NO_CALL;
+    add(actions, isMember ? "Call.take.out" : "Call.hang.up", &Telephony::end, call);
+    if (isMember)
+        actions.back().argument = call.party();
+    return actions;
+}
+
+std::vector<RowMenu::Action> CallActions::ofConference(const PhoneCall& call, const PhoneCall& partner)
+{
+    Actions actions;
+    if (isTalk(call)) {
+        addHold(actions, call);
+        add(actions, "Call.connect.both", &Telephony::transfer, call, partner);
+        actions.back().argument.clear();
+    }
+    actions.push_back({"Call.hang.up.both", [this, one = call.id(), two = partner.id()] {
+                           mCalls.telephony().end(one);
+                           mCalls.telephony().end(two);
+                       }});
     return actions;
 }
 
 void CallActions::add(Actions& actions, const std::string& text, Operation operation, const PhoneCall& call)
 {
-    actions.push_back({text, [this, operation, id = call.id()] { (mCalls.telephony().*operation)(id); }});
+    actions.push_back(
+        {text, [this, operation, id = call.id()] { tellIfRefused((mCalls.telephony().*operation)(id)); }});
+}
+
+/// With the other one's name.
+void CallActions::add(Actions& actions, const std::string& text, BothOperation operation, const PhoneCall& call,
+                      const PhoneCall& other)
+{
+    actions.push_back({text,
+                       [this, operation, one = call.id(), two = other.id()] {
+                           tellIfRefused((mCalls.telephony().*operation)(one, two));
+                       },
+                       other.party()});
+}
+
+/// It may just have ended, or somebody has been quicker.
+void CallActions::tellIfRefused(bool isDone)
+{
+    if (!isDone)
+        mTelephone.tell(mTelephone.languages().translate("Call.refused"));
 }
 
 void CallActions::addTransfer(Actions& actions, const PhoneCall& call)
@@ -63,7 +103,7 @@ void CallActions::addTransfer(Actions& actions, const PhoneCall& call)
     actions.push_back({"Call.transfer", [this, id = call.id()] { mTransfers.ask(id); }});
 }
 
-void CallActions::addTalk(Actions& actions, const PhoneCall& call)
+void CallActions::addHold(Actions& actions, const PhoneCall& call)
 {
     if (!isHeldByMe(call))
         add(actions, "Call.hold", &Telephony::hold, call);
@@ -71,24 +111,39 @@ void CallActions::addTalk(Actions& actions, const PhoneCall& call)
         add(actions, "Call.swap", &Telephony::resume, call);
     else
         add(actions, "Call.resume", &Telephony::resume, call);
+}
+
+void CallActions::addTalk(Actions& actions, const PhoneCall& call)
+{
+    addHold(actions, call);
     if (!isInConference(call))
         addTransfer(actions, call);
     addOthers(actions, call);
 }
 
-/// Transfers to somebody who has been asked before, and conferences.
+/// Whoever waits goes on to somebody who is still rung.
+void CallActions::addHandOver(Actions& actions, const PhoneCall& rung)
+{
+    for (const PhoneCall* const call : mCalls.all())
+        if (isTalk(*call) && !isInConference(*call))
+            actions.push_back({"Call.transfer.here",
+                               [this, one = call->id(), two = rung.id()] {
+                                   tellIfRefused(mCalls.telephony().transfer(one, two));
+                               },
+                               call->party()});
+}
+
+/// Transfers to somebody who has been asked before or is still rung, and conferences.
 void CallActions::addOthers(Actions& actions, const PhoneCall& call)
 {
-    Telephony& telephony = mCalls.telephony();
     for (const PhoneCall* const other : mCalls.all()) {
         const bool isTogether = call.last.with == other->id();
-        if (other == &call || !isTalk(*other) || (!isTogether && (isInConference(call) || isInConference(*other))))
+        if (other == &call || (!isTogether && (isInConference(call) || isInConference(*other))))
             continue;
-        const CallId one = call.id(), two = other->id();
-        actions.push_back(
-            {"Call.transfer.to", [&telephony, one, two] { telephony.transfer(one, two); }, other->party()});
-        if (!isTogether)
-            actions.push_back({"Call.join", [&telephony, one, two] { telephony.join(one, two); }, other->party()});
+        if (isTalk(*other) || other->state() == CallState::RINGING_BACK)
+            add(actions, "Call.transfer.to", &Telephony::transfer, call, *other);
+        if (isTalk(*other) && !isTogether)
+            add(actions, "Call.join", &Telephony::join, call, *other);
     }
 }
 

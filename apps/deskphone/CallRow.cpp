@@ -14,6 +14,15 @@ namespace {
 constexpr bool TIMED = true;
 constexpr bool HAS_MENU = false; ///< of its own: that of the screen is for the rows of all calls
 
+/// With whom one speaks, and who else has been taken in.
+std::string partiesOf(const PhoneCall& call)
+{
+    const bool isJoined = isTalk(call.state()) && !call.last.to.number.empty();
+    return isJoined ? call.party() + ", " + nameOf(call.last.to) : call.party();
+}
+
+} // namespace
+
 CallConnectedItem::CallStateIcon iconOf(const PhoneCall& call)
 {
     switch (call.state()) {
@@ -37,18 +46,9 @@ CallConnectedItem::CallStateIcon iconOf(const PhoneCall& call)
     return CallConnectedItem::IDLE;
 }
 
-/// With whom one speaks, and who else has been taken in.
-std::string partiesOf(const PhoneCall& call)
-{
-    const bool isJoined = isTalk(call.state()) && !call.last.to.number.empty();
-    return isJoined ? call.party() + ", " + nameOf(call.last.to) : call.party();
-}
-
-} // namespace
-
 CallRow::CallRow(const PhoneCall& call, Words words)
     : mCall(call.id()), mWords(std::move(words)),
-      mItem(new CallConnectedItem(iconOf(call), partiesOf(call), nullptr, TIMED, HAS_MENU)), mParty(partiesOf(call))
+      mItem(std::make_unique<CallConnectedItem>(iconOf(call), partiesOf(call), nullptr, TIMED, HAS_MENU)), mParty(partiesOf(call))
 {
     update(call);
 }
@@ -70,7 +70,7 @@ void CallRow::setState(const PhoneCall& call)
     if (call.talkSince && !std::exchange(mIsTimed, true))
         mItem->setState(CallConnectedItem::CONNECTED);
     mItem->setState(iconOf(call));
-    mItem->setSecondLineText(mWords(call.state()));
+    mItem->setSecondLineText(mWords(call));
 }
 
 } // namespace deskphone

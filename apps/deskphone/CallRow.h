@@ -4,23 +4,27 @@
 #include "apps/deskphone/Calls.h"
 
 #include <functional>
+#include <memory>
 #include <string>
 
 class TranslationInfo;
 
 namespace deskphone {
 
-/// A call as a row of a list, which owns the row: state, party, the state's words, who has forwarded it, and how long
-/// it has lasted. On the threads that answer the user.
+/// What stands for the call's state; the call may be one of a conference.
+DisplayAPI::CallConnectedItem::CallStateIcon iconOf(const PhoneCall& call);
+
+/// A call as a row of a list or of a conference: state, party, the state's words, who has forwarded it, and how long it
+/// has lasted. It owns the item, which leaves its list before. On the threads that answer the user.
 class CallRow {
 public:
-    /// The words for a state, which live as long as the row.
-    using Words = std::function<TranslationInfo*(exchange::CallState state)>;
+    /// The words for the state of a call, which live as long as the row.
+    using Words = std::function<TranslationInfo*(const PhoneCall& call)>;
 
     CallRow(const PhoneCall& call, Words words);
 
     exchange::CallId call() const { return mCall; }
-    DisplayAPI::CallConnectedItem* item() const { return mItem; }
+    DisplayAPI::CallConnectedItem* item() const { return mItem.get(); }
 
     /// Changes what has changed.
     void update(const PhoneCall& call);
@@ -30,7 +34,7 @@ private:
 
     exchange::CallId mCall;
     Words mWords;
-    DisplayAPI::CallConnectedItem* mItem;
+    std::unique_ptr<DisplayAPI::CallConnectedItem> mItem;
     std::string mParty;
     exchange::CallState mState = exchange::CallState::ENDED; ///< none that a row shows
     bool mIsTimed = false;

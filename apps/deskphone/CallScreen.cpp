@@ -20,7 +20,8 @@ namespace kit = DisplayAPI::kit;
 CallScreen::CallScreen(Telephone& telephone, Calls& calls, TransferQuestions& transfers)
     : Screen(telephone, nullptr, isSmallPanel() ? WITHOUT_TITLE : "Call.title",
              std::make_unique<DisplayAPI::List>(kit::listType(kit::WayBack::EVERYWHERE))),
-      mCalls(calls), mActions(calls, transfers), mMenu(telephone, {})
+      mCalls(calls), mActions(telephone, calls, transfers), mMenu(telephone, {}),
+      mRows(list(), [this](const PhoneCall& call) { return wordsFor(call); }, text("Call.one.more").info())
 {
     using enum exchange::CallState;
     for (const exchange::CallState state : {DIALLING, PROCEEDING, RINGING_BACK, CONNECTED, HELD_BY_ME, HELD_BY_OTHER,
@@ -55,17 +56,19 @@ void CallScreen::stopListening()
 
 void CallScreen::chosen(int row)
 {
-    if (const PhoneCall* const call = mCalls.find(mRows.at(static_cast<std::size_t>(row)).call()); call != nullptr)
+    const auto chosen = mRows.at(row);
+    if (const PhoneCall* const call = chosen ? mCalls.find(chosen->call) : nullptr; call != nullptr)
         mActions.doObvious(*call);
 }
 
 void CallScreen::openMenu(int row)
 {
-    const PhoneCall* const call = mCalls.find(mRows.at(static_cast<std::size_t>(row)).call());
+    mMenuRow = mRows.at(row);
+    const PhoneCall* const call = mMenuRow ? mCalls.find(mMenuRow->call) : nullptr;
     if (call == nullptr)
         return;
-    mMenuCall = call->id();
-    mMenu.setActions(mActions.all(*call));
+    const PhoneCall* const partner = mCalls.find(mMenuRow->partner);
+    mMenu.setActions(partner != nullptr ? mActions.ofConference(*call, *partner) : mActions.all(*call));
     mMenu.open();
 }
 
@@ -82,40 +85,30 @@ void CallScreen::note(const PhoneCall& call)
 
 void CallScreen::refresh()
 {
-    removeOver();
-    for (const PhoneCall* const call : mCalls.all())
-        if (call->state() != exchange::CallState::INCOMING) // which has a popup
-            showCall(*call);
+    dismissMenu();
+    std::vector<const PhoneCall*> shown = mCalls.all();
+    std::erase_if(shown, [](const PhoneCall* call) {
+        return call->state() == exchange::CallState::INCOMING; // which has a popup
+    });
+    mRows.show(shown);
     comeOrGo();
 }
 
-void CallScreen::removeOver()
+/// Of a call that is over, or of a conference that is none any more.
+void CallScreen::dismissMenu()
 {
-    if (mCalls.find(mMenuCall) == nullptr && std::exchange(mMenuCall, exchange::NO_CALL) != exchange::NO_CALL)
-        mMenu.dismiss();
-    std::erase_if(mRows, [this](const CallRow& row) {
-        if (mCalls.find(row.call()) != nullptr)
-            return false;
-        list().remove(row.item());
-        delete row.item();
-        return true;
-    });
+    if (!mMenuRow)
+        return;
+    const bool isConference = mMenuRow->partner != exchange::NO_CALL;
+    if (mCalls.find(mMenuRow->call) != nullptr && (!isConference || mCalls.find(mMenuRow->partner) != nullptr))
+        return;
+    mMenuRow.reset();
+    mMenu.dismiss();
 }
 
-void CallScreen::showCall(const PhoneCall& call)
+TranslationInfo* CallScreen::wordsFor(const PhoneCall& call)
 {
-    const auto row = std::ranges::find(mRows, call.id(), &CallRow::call);
-    if (row != mRows.end())
-        return row->update(call);
-    DisplayAPI::CallConnectedItem* const item =
-        mRows.emplace_back(call, [this](exchange::CallState state) { return wordsFor(state); }).item();
-    list().append(item);
-    list().setSelected(item);
-}
-
-TranslationInfo* CallScreen::wordsFor(exchange::CallState state)
-{
-    const auto words = mWords.find(keyOf(state));
+    const auto words = mWords.find(keyOf(call.state()));
     return words != mWords.end() ? words->second.info() : nullptr;
 }
 
@@ -125,7 +118,7 @@ void CallScreen::comeOrGo()
     DisplayAPI::Displayable* const current = telephone().display().getCurrent();
     if (current == &list()) {
         mIsWanted = false;
-        if (mRows.empty() && parent() != nullptr)
+        if (mRows.isEmpty() && parent() != nullptr)
             parent()->open();
     } else if (mIsWanted && dynamic_cast<DisplayAPI::Dialog*>(current) == nullptr) {
         open();

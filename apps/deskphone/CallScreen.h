@@ -1,7 +1,7 @@
 #pragma once
 
 #include "apps/deskphone/CallActions.h"
-#include "apps/deskphone/CallRow.h"
+#include "apps/deskphone/CallRows.h"
 #include "apps/deskphone/Calls.h"
 #include "apps/deskphone/Screen.h"
 
@@ -11,7 +11,7 @@
 
 namespace deskphone {
 
-/// The calls that go on, one in each row. Choosing one does what is obvious with it, the right key offers the rest. It
+/// The calls that go on, one in each row, and a conference in one. Choosing one does what is obvious with it, the right key offers the rest. It
 /// comes when the user calls somebody or answers, unless he types a number then, and goes with the last call; left
 /// leads away from it meanwhile.
 class CallScreen : public Screen {
@@ -33,17 +33,16 @@ private:
 
     void note(const PhoneCall& call);
     void refresh();
-    void removeOver();
-    void showCall(const PhoneCall& call);
-    TranslationInfo* wordsFor(exchange::CallState state);
+    void dismissMenu();
+    TranslationInfo* wordsFor(const PhoneCall& call);
     void comeOrGo();
 
     Calls& mCalls;
     CallActions mActions;
     RowMenu mMenu;
-    exchange::CallId mMenuCall = exchange::NO_CALL; ///< whose menu it is
-    std::map<std::string, Text&> mWords;            ///< by their keys
-    std::vector<CallRow> mRows;
+    std::optional<CallRows::Chosen> mMenuRow; ///< whose menu it is
+    std::map<std::string, Text&> mWords;      ///< by their keys
+    CallRows mRows;
     bool mIsWanted = false; ///< a call has begun that the user has not seen
 };
 
