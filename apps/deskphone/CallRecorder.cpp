@@ -22,6 +22,16 @@ PastCall::Kind kindOf(const PhoneCall& call)
     return call.state() == CallState::FORWARDED ? PastCall::Kind::FORWARDED : PastCall::Kind::MISSED;
 }
 
+/// Who has got the call instead, or who has forwarded it to here.
+std::string otherOf(const PhoneCall& call)
+{
+    if (call.state() == CallState::FORWARDED)
+        return nameOf(call.last.to);
+    const bool wasForwarded = !call.last.forwardedBy.number.empty();
+    const bool isOutgoing = call.last.direction == Direction::OUTGOING;
+    return nameOf(isOutgoing && wasForwarded ? call.last.other : call.last.forwardedBy);
+}
+
 /// By the user, or because he does not want to be disturbed.
 bool wasRefused(const PhoneCall& call)
 {
@@ -52,7 +62,8 @@ void CallRecorder::keep(const PhoneCall& call)
     PastCall past{kindOf(call), call.moment, isOutgoing ? nameOf(call.dialled) : call.party(),
                   isOutgoing ? call.dialled.number : call.last.other.number};
     past.seconds = static_cast<int>(call.spokenUntil(call.last.at) / 1000);
-    past.other = nameOf(call.state() == CallState::FORWARDED ? call.last.to : call.last.forwardedBy);
+    past.other = otherOf(call);
+    past.line = call.last.line;
     past.isSeen = call.last.reason == Reason::REJECTED;
     mHistory.add(past);
 }

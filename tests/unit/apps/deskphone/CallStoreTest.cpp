@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include <fstream>
+#include <thread>
 #include <unistd.h>
 
 using deskphone::CallStore;
@@ -17,6 +18,28 @@ namespace fs = std::filesystem;
 namespace {
 
 using enum PastCall::Kind;
+
+/// Nobody can write there as long as this lives, the super-user included: then somebody else looks.
+class ReadOnly {
+public:
+    explicit ReadOnly(fs::path folder) : mFolder(std::move(folder))
+    {
+        fs::permissions(mFolder, fs::perms(0555));
+        EXPECT_EQ(seteuid(geteuid() == 0 ? NOBODY : geteuid()), 0);
+    }
+    ReadOnly(const ReadOnly&) = delete;
+    ReadOnly& operator=(const ReadOnly&) = delete;
+    ~ReadOnly()
+    {
+        EXPECT_EQ(seteuid(getuid()), 0);
+        fs::permissions(mFolder, fs::perms(0755));
+    }
+
+private:
+    static constexpr uid_t NOBODY = 65534;
+
+    fs::path mFolder;
+};
 
 class CallStoreTest : public testing::Test {
 protected:
@@ -64,6 +87,20 @@ protected:
         EXPECT_THAT(parties(), IsEmpty());
     }
 
+    /// As a telephone has left it that knew of no lines.
+    void writeVersion1()
+    {
+        fs::create_directories(folder);
+        SQLite::Database file = database();
+        file.exec("CREATE TABLE calls (id INTEGER PRIMARY KEY AUTOINCREMENT, kind INTEGER NOT NULL CHECK (kind BETWEEN "
+                  "0 AND 3), moment INTEGER NOT NULL, party TEXT NOT NULL, number TEXT NOT NULL, seconds INTEGER NOT "
+                  "NULL, other TEXT NOT NULL, seen INTEGER NOT NULL) STRICT");
+        file.exec("INSERT INTO calls (kind, moment, party, number, seconds, other, seen) VALUES (0, 1000000, 'Ada', "
+                  "'4711', 0, '', 0)");
+        file.exec("PRAGMA user_version = 1");
+        file.exec("PRAGMA journal_mode = WAL");
+    }
+
     SQLite::Database database() { return {(folder / FILE).string(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE}; }
 
     static constexpr const char* FILE = "calls.sqlite";
@@ -86,6 +123,7 @@ TEST_F(CallStoreTest, KeepsEverythingOfACall)
                   .number = "+44",
                   .seconds = 36'001,
                   .other = "Ελένη",
+                  .line = 2,
                   .isSeen = true};
     CallStore(folder).add(call);
     const std::deque<PastCall> calls = CallStore(folder).calls();
@@ -97,6 +135,7 @@ TEST_F(CallStoreTest, KeepsEverythingOfACall)
     EXPECT_EQ(kept.number, "+44");
     EXPECT_EQ(kept.seconds, 36'001);
     EXPECT_EQ(kept.other, "Ελένη");
+    EXPECT_EQ(kept.line, 2);
     EXPECT_TRUE(kept.isSeen);
     EXPECT_EQ(kept.id, call.id);
 }
@@ -153,11 +192,66 @@ TEST_F(CallStoreTest, SetsAsideADamagedFile)
     expectSetAside("cannot be read");
 }
 
+TEST_F(CallStoreTest, TakesOverTheCallsOfAFileWithoutLines)
+{
+    writeVersion1();
+    CallStore store(folder);
+    ASSERT_EQ(store.calls().size(), 1U);
+    EXPECT_EQ(store.calls().front().party, "Ada");
+    EXPECT_EQ(store.calls().front().line, 0);
+    PastCall zoe = callOf("Zoë");
+    zoe.line = 2;
+    store.add(zoe);
+    EXPECT_EQ(CallStore(folder).calls().front().line, 2);
+    EXPECT_THAT(parties(), ElementsAre("Zoë", "Ada"));
+}
+
+TEST_F(CallStoreTest, TelephonesThatBeginAtOnceShareTheFile)
+{
+    for (int round = 0; round < 20; ++round) {
+        fs::remove_all(folder);
+        testing::internal::CaptureStderr();
+        std::vector<std::thread> telephones;
+        for (int i = 0; i < 4; ++i)
+            telephones.emplace_back([&] {
+                PastCall call = callOf("Ada");
+                CallStore(folder).add(call);
+            });
+        for (std::thread& telephone : telephones)
+            telephone.join();
+        ASSERT_EQ(testing::internal::GetCapturedStderr(), "");
+        ASSERT_EQ(parties().size(), 4U);
+    }
+}
+
+TEST_F(CallStoreTest, ShowsTheCallsOfAFileThatCannotBeWritten)
+{
+    PastCall ada = callOf("Ada");
+    CallStore(folder).add(ada);
+    const ReadOnly readOnly(folder);
+    testing::internal::CaptureStderr();
+    CallStore store(folder);
+    PastCall zoe = callOf("Zoë");
+    store.add(zoe);
+    store.seeAll();
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "deskphone: calls are not kept: " + (folder / FILE).string() + " cannot be written\n");
+    EXPECT_THAT(parties(), ElementsAre("Ada"));
+}
+
+TEST_F(CallStoreTest, ShowsTheCallsOfAFileWithoutLinesThatCannotBeWritten)
+{
+    writeVersion1();
+    const ReadOnly readOnly(folder);
+    EXPECT_THAT(complaint(), HasSubstr("cannot be written"));
+    EXPECT_THAT(parties(), ElementsAre("Ada"));
+}
+
 TEST_F(CallStoreTest, SetsAsideAFileOfALaterVersion)
 {
     complaint();
-    database().exec("PRAGMA user_version = 2");
-    expectSetAside("of version 2");
+    database().exec("PRAGMA user_version = 3");
+    expectSetAside("of version 3");
 }
 
 TEST_F(CallStoreTest, SetsAsideAnotherProgramsDatabase)
