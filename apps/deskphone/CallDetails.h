@@ -21,14 +21,20 @@ private:
     void build() override {}
     void chosen(int row) override;
 
+    std::string shownMoment();
+    void showInLines(const PastCall& past);
     Text& kindOf(const PastCall& past);
+    Text& otherOf(const PastCall& past);
 
     CallScreen& mCall;
     std::atomic<const PastCall*> mShown{nullptr};
     Text& mMissed;
     Text& mReceived;
     Text& mDialled;
+    Text& mForwardedCall;
     Text& mForwarded;
+    Text& mForwardedBy;
+    Text& mLine;
     Text& mDuration;
     Text& mMoment;
 };

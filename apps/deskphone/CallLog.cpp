@@ -1,18 +1,40 @@
 #include "apps/deskphone/CallLog.h"
 
+#include "DisplayAPI/CallLogMainItem.h"
 #include "DisplayAPI/Display.h"
 #include "DisplayAPI/List.h"
 #include "DisplayAPI/ListItem.h"
 #include "DisplayAPI/TabScreen.h"
 #include "apps/deskphone/CallDetails.h"
 #include "apps/deskphone/CallScreen.h"
-#include "apps/deskphone/Moment.h"
 #include "apps/deskphone/Telephone.h"
+#include "utilities/CallPartyIdentifier.h"
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 namespace deskphone {
+
+using DisplayAPI::CallLogMainItem;
+
+namespace {
+
+constexpr std::size_t SCREENFUL = 8; ///< at least, on every panel
+constexpr bool HAS_MARK = false; ///< for the menu: names want the room
+
+CallLogMainItem::IconType iconOf(PastCall::Kind kind)
+{
+    switch (kind) {
+    case PastCall::Kind::MISSED: return CallLogMainItem::ICON_MISSED;
+    case PastCall::Kind::RECEIVED: return CallLogMainItem::ICON_RECEIVED;
+    case PastCall::Kind::FORWARDED: return CallLogMainItem::ICON_FORWARDED;
+    case PastCall::Kind::DIALLED: break;
+    }
+    return CallLogMainItem::ICON_DIALLED;
+}
+
+} // namespace
 
 CallLog::CallLog(Telephone& telephone, DisplayAPI::TabScreen& tabs, const std::string& title,
                  std::optional<PastCall::Kind> kind, CallHistory& history, CallScreen& call, CallDetails& details)
@@ -24,14 +46,32 @@ CallLog::CallLog(Telephone& telephone, DisplayAPI::TabScreen& tabs, const std::s
                 {"Row.details", [this, &details] { details.show(*this, *mMenuCall); }},
                 {"Row.copy", [this] { this->telephone().copy(mMenuCall->number); }},
                 {"Row.delete", [this] { mHistory.forget(*mMenuCall); }}});
-    for (PastCall& past : history.calls())
-        if (shows(past))
-            list().append(mRows.emplace_back(Row{&past, makeItem(past)}).item);
     history.addListener([this](PastCall& past) { added(past); }, [this](PastCall& past) { forgotten(past); });
 }
 
+void CallLog::fill()
+{
+    freshen();
+    fillUpTo(mHistory.calls().size());
+}
+
+void CallLog::goToTop()
+{
+    list().setSelectedIndex(0);
+}
+
+void CallLog::see()
+{
+    for (Row& row : mRows)
+        if (std::exchange(row.isBold, false))
+            row.item->setbold(false);
+}
+
+/// What does not fit comes when the rest is seen.
 void CallLog::bringUp()
 {
+    freshen();
+    fillUpTo(SCREENFUL);
     mTabs.setCurrentTabIndex(mTabs.getIndexForTab(&list()));
     telephone().show(mTabs);
 }
@@ -61,21 +101,45 @@ PastCall& CallLog::callAt(int row) const
     return *mRows.at(static_cast<std::size_t>(row)).call;
 }
 
-DisplayAPI::ListItem* CallLog::makeItem(const PastCall& call)
+void CallLog::freshen()
 {
-    Text& entry = text("Call.log.entry", {[&call] { return shown(call.moment); }, [&call] { return call.party; }});
-    return new DisplayAPI::ListItem(entry.info(), false);
+    MomentFormats formats = momentFormats();
+    if (mFormats == formats)
+        return;
+    mFormats = std::move(formats);
+    mTaken = 0;
+    mRows.clear();
+    list().clear();
+}
+
+void CallLog::fillUpTo(std::size_t rows)
+{
+    std::deque<PastCall>& calls = mHistory.calls();
+    for (; mTaken < calls.size() && mRows.size() < rows; ++mTaken)
+        if (shows(calls[mTaken]))
+            list().append(mRows.emplace_back(rowFor(calls[mTaken])).item);
+}
+
+CallLog::Row CallLog::rowFor(PastCall& call) const
+{
+    const bool isNew = call.isNewMissedCall();
+    CallPartyIdentifier party(call.party, call.number);
+    return {&call, new CallLogMainItem(&party, shown(call.moment, *mFormats), iconOf(call.kind), isNew, HAS_MARK),
+            isNew};
 }
 
 bool CallLog::shows(const PastCall& call) const
 {
-    return !mKind || call.kind == *mKind;
+    return !call.isForgotten && (!mKind || call.kind == *mKind);
 }
 
 void CallLog::added(PastCall& call)
 {
+    if (!mFormats)
+        return;
+    ++mTaken;
     if (shows(call))
-        list().insertAt(mRows.emplace_front(Row{&call, makeItem(call)}).item, 0);
+        list().insertAt(mRows.emplace_front(rowFor(call)).item, 0);
 }
 
 void CallLog::forgotten(const PastCall& call)

@@ -19,10 +19,11 @@ namespace {
 
 using enum PastCall::Kind;
 
-const std::array<std::pair<std::string, std::optional<PastCall::Kind>>, 4> PAGES{{{"Call.log.all", {}},
+const std::array<std::pair<std::string, std::optional<PastCall::Kind>>, 5> PAGES{{{"Call.log.all", {}},
                                                                                   {"Call.log.missed", MISSED},
                                                                                   {"Call.log.received", RECEIVED},
-                                                                                  {"Call.log.dialled", DIALLED}}};
+                                                                                  {"Call.log.dialled", DIALLED},
+                                                                                  {"Call.log.forwarded", FORWARDED}}};
 
 } // namespace
 
@@ -39,8 +40,12 @@ CallLogs::CallLogs(Telephone& telephone, Place& parent, CallHistory& history, Ca
 
 void CallLogs::open()
 {
-    mHistory.see();
+    for (CallLog& page : mPages)
+        page.goToTop();
     mPages.front().open();
+    for (CallLog& page : mPages)
+        page.fill();
+    mHistory.see();
 }
 
 void CallLogs::stopListening()
@@ -62,6 +67,8 @@ void CallLogs::goBack()
     if (mTelephone.display().getCurrent() != &mTabs)
         return;
     mHistory.see();
+    for (CallLog& page : mPages)
+        page.see();
     mParent.open();
 }
 

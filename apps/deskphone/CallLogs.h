@@ -14,12 +14,12 @@ class CallDetails;
 class CallHistory;
 class Telephone;
 
-/// The call logs, one behind the other: all calls, those missed, received and dialled.
+/// The call logs, one behind the other: all calls, those missed, received, dialled and forwarded.
 class CallLogs : public Place {
 public:
     CallLogs(Telephone& telephone, Place& parent, CallHistory& history, CallScreen& call, CallDetails& details);
 
-    /// With all calls, whichever were shown last.
+    /// With the latest of all calls, whichever were shown last.
     void open() override;
     void stopListening() override;
     void stopWorking() override;

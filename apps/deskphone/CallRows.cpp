@@ -31,10 +31,7 @@ const PhoneCall* partnerOf(const PhoneCalls& calls, const PhoneCall& call)
 
 } // namespace
 
-CallRows::CallRows(DisplayAPI::List& list, CallRow::Words words, TranslationInfo* oneMore)
-    : mList(list), mWords(std::move(words)), mOneMore(oneMore)
-{
-}
+CallRows::CallRows(DisplayAPI::List& list, CallRow::Words words) : mList(list), mWords(std::move(words)) {}
 
 CallRows::~CallRows()
 {
@@ -132,7 +129,7 @@ CallRows::Conferences::iterator CallRows::bringTogether(CallRow& title, CallRow&
     const int place = std::min(placeOf(title.item()), placeOf(other.item()));
     mList.remove(title.item());
     mList.remove(other.item());
-    ListItem* const item = mConferences.emplace_back(title, other, mWords, mOneMore).item();
+    ListItem* const item = mConferences.emplace_back(title, other, mWords).item();
     mList.insertAt(item, place);
     mList.setSelected(item);
     return std::prev(mConferences.end());

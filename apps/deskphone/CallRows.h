@@ -25,8 +25,7 @@ public:
         exchange::CallId partner; ///< of the whole conference; else NO_CALL
     };
 
-    /// `oneMore` stands behind the title of a conference. The texts live as long as this.
-    CallRows(DisplayAPI::List& list, CallRow::Words words, TranslationInfo* oneMore);
+    CallRows(DisplayAPI::List& list, CallRow::Words words);
     CallRows(const CallRows&) = delete;
     CallRows& operator=(const CallRows&) = delete;
     ~CallRows();
@@ -53,7 +52,6 @@ private:
 
     DisplayAPI::List& mList;
     CallRow::Words mWords;
-    TranslationInfo* mOneMore;
     std::list<CallRow> mRows;
     Conferences mConferences; ///< goes before the rows of its members
 };

@@ -21,7 +21,7 @@ CallScreen::CallScreen(Telephone& telephone, Calls& calls, TransferQuestions& tr
     : Screen(telephone, nullptr, isSmallPanel() ? WITHOUT_TITLE : "Call.title",
              std::make_unique<DisplayAPI::List>(kit::listType(kit::WayBack::EVERYWHERE))),
       mCalls(calls), mActions(telephone, calls, transfers), mMenu(telephone, {}),
-      mRows(list(), [this](const PhoneCall& call) { return wordsFor(call); }, text("Call.one.more").info())
+      mRows(list(), [this](const PhoneCall& call) { return wordsFor(call); })
 {
     using enum exchange::CallState;
     for (const exchange::CallState state : {DIALLING, PROCEEDING, RINGING_BACK, CONNECTED, HELD_BY_ME, HELD_BY_OTHER,

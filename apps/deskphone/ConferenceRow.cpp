@@ -10,6 +10,7 @@ namespace {
 
 constexpr bool IS_TITLE = true;
 constexpr bool IS_OPEN = false;
+const std::string ONE_MORE = "+1"; ///< in every language
 
 /// A member who has the others wait does not have them wait for each other.
 PhoneCall asWhole(PhoneCall call)
@@ -25,14 +26,14 @@ PhoneCall asWhole(PhoneCall call)
 } // namespace
 
 /// Closed, every panel has room for the state.
-ConferenceRow::ConferenceRow(CallRow& title, CallRow& other, CallRow::Words words, TranslationInfo* suffix)
+ConferenceRow::ConferenceRow(CallRow& title, CallRow& other, CallRow::Words words)
     : mTitle(title), mOther(other), mWords(std::move(words)),
       mItem(std::make_unique<DisplayAPI::ConferenceCallItem>(CallConnectedItem::CONFERENCE, std::string(),
                                                              IS_OPEN))
 {
     mItem->appendCall(title.item(), IS_TITLE);
     mItem->appendCall(other.item(), !IS_TITLE);
-    mItem->setTitleSuffix(suffix);
+    mItem->setTitleSuffix(ONE_MORE);
 }
 
 ConferenceRow::~ConferenceRow()

@@ -3,16 +3,14 @@
 #include "DisplayAPI/ConferenceCallItem.h"
 #include "apps/deskphone/CallRow.h"
 
-class TranslationInfo;
-
 namespace deskphone {
 
 /// A conference of two calls as one row of a list: its title is the first one. It owns the item, which leaves its list
 /// before. On the threads that answer the user, and gone before the rows of its members.
 class ConferenceRow {
 public:
-    /// The rows stand in no list. `suffix` stands behind the title and lives as long as this.
-    ConferenceRow(CallRow& title, CallRow& other, CallRow::Words words, TranslationInfo* suffix);
+    /// The rows stand in no list.
+    ConferenceRow(CallRow& title, CallRow& other, CallRow::Words words);
     ConferenceRow(const ConferenceRow&) = delete;
     ConferenceRow& operator=(const ConferenceRow&) = delete;
     ~ConferenceRow();

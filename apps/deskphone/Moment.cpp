@@ -1,6 +1,7 @@
 #include "apps/deskphone/Moment.h"
 
 #include "host/clock/WallClock.h"
+#include "kit/OnGuiThread.h"
 #include "utilities/ICC.h"
 #include "widgets/KestrelApplication.h"
 
@@ -20,11 +21,22 @@ std::string shownTime(std::time_t moment)
     return WallClock::time(moment, ICC::fromUNICODEtoUTF8(format));
 }
 
-std::string shown(std::time_t moment)
+MomentFormats momentFormats()
 {
-    const std::tm then = WallClock::local(moment), now = WallClock::local(WallClock::now());
-    const bool isToday = then.tm_yday == now.tm_yday && then.tm_year == now.tm_year;
-    return isToday ? shownTime(moment) : shownDate(moment);
+    MomentFormats formats;
+    DisplayAPI::kit::onGuiThread([&] {
+        const KestrelApplication& application = *KestrelApplication::getCurrentApplication();
+        formats.date = ICC::fromUNICODEtoUTF8(application.getDateFormat());
+        formats.time = ICC::fromUNICODEtoUTF8(application.getTimeFormat());
+    });
+    formats.today = WallClock::date(WallClock::now(), formats.date);
+    return formats;
+}
+
+std::string shown(std::time_t moment, const MomentFormats& formats)
+{
+    const std::string date = WallClock::date(moment, formats.date);
+    return date == formats.today ? WallClock::time(moment, formats.time) : date;
 }
 
 } // namespace deskphone
