@@ -9,6 +9,7 @@
 #include "kit/OnGuiThread.h"
 #include "kit/WayBack.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace deskphone {
@@ -33,9 +34,10 @@ Screen::Screen(Telephone& telephone, Place* parent, const std::string& title)
 }
 
 Screen::Screen(Telephone& telephone, Place* parent, const std::string& title, std::unique_ptr<List> list)
-    : mTelephone(telephone), mParent(parent), mList(std::move(list)),
-      mCommands(*mList, [this](Command* command) { answer(command); })
+    : mTelephone(telephone), mParent(parent),
+      mEar([this](Command* command, const ListItem* row) { answer(command, row); }), mList(std::move(list))
 {
+    mEar.listenTo(*mList);
     if (!title.empty())
         mList->setTitle(text(title).info());
 }
@@ -66,7 +68,7 @@ bool Screen::isShown()
 
 void Screen::stopListening()
 {
-    mCommands.end();
+    mEar.stop();
     if (mRowMenu != nullptr)
         mRowMenu->stopListening();
     if (mDialer != nullptr)
@@ -79,8 +81,9 @@ void Screen::stopWorking()
         mBuilder.join();
 }
 
-/// Commands arrive later than they are raised: what the user did to a screen that has been left meanwhile is void.
-void Screen::answer(Command* command)
+/// Commands arrive later than they are raised: what the user did to a screen that has been left meanwhile, or to a row
+/// that has gone, is void.
+void Screen::answer(Command* command, const ListItem* asked)
 {
     if (!isShown())
         return;
@@ -90,13 +93,21 @@ void Screen::answer(Command* command)
         return;
     }
     const bool isChoice = command == List::SELECT_COMMAND() || command == List::RIGHT_COMMAND();
-    const int row = isChoice ? mList->getSelectedIndex() : -1;
+    const int row = isChoice ? placeOf(asked) : -1;
     if (row < 0)
         return;
     if (command == List::RIGHT_COMMAND())
         openMenu(row);
     else
         chosen(row);
+}
+
+/// -1 where it has gone.
+int Screen::placeOf(const ListItem* row) const
+{
+    const std::vector<ListItem*> rows = mList->getItems();
+    const auto place = std::ranges::find(rows, row);
+    return place != rows.end() ? static_cast<int>(place - rows.begin()) : -1;
 }
 
 void Screen::openMenu(int row)

@@ -2,8 +2,8 @@
 
 #include "apps/deskphone/Dialer.h"
 #include "apps/deskphone/Place.h"
+#include "apps/deskphone/RowEar.h"
 #include "apps/deskphone/RowMenu.h"
-#include "kit/Subscription.h"
 #include "kit/Text.h"
 
 #include <deque>
@@ -68,6 +68,9 @@ protected:
     /// The right key offers these for the selected row; without a menu it chooses the row. In the constructor.
     void setRowMenu(const std::vector<RowMenu::Action>& actions);
 
+    /// Has that menu offer something else. On the threads that answer the user.
+    void changeRowMenu(const std::vector<RowMenu::Action>& actions) { mRowMenu->setActions(actions); }
+
     /// A digit opens a dialer, which calls with `call`. In the constructor.
     void setDialer(CallScreen& call);
 
@@ -91,15 +94,16 @@ private:
     /// The user goes back.
     virtual void left() {}
 
-    void answer(DisplayAPI::Command* command);
+    void answer(DisplayAPI::Command* command, const DisplayAPI::ListItem* row);
+    int placeOf(const DisplayAPI::ListItem* row) const;
 
     Telephone& mTelephone;
     Place* mParent;
     std::deque<Text> mTexts;         ///< before the list, whose rows show them
     std::unique_ptr<Dialer> mDialer; ///< before the list that opens it
+    RowEar mEar;                     ///< before the list that it hears
     std::unique_ptr<DisplayAPI::List> mList;
     std::unique_ptr<RowMenu> mRowMenu;
-    DisplayAPI::kit::Subscription mCommands;
     std::once_flag mIsBuilt;
     std::thread mBuilder;
 };
