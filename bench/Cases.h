@@ -38,6 +38,7 @@ std::vector<Case> idleCases();
 std::vector<Case> desktopCases();
 std::vector<Case> callCases();
 std::vector<Case> incomingCallCases();
+std::vector<Case> deskStartCases();
 std::vector<Case> destroyingCases();
 std::vector<Case> repaintCases();
 std::vector<Case> screenTextCases();
