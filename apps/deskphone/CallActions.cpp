@@ -126,11 +126,10 @@ void CallActions::addHandOver(Actions& actions, const PhoneCall& rung)
 {
     for (const PhoneCall* const call : mCalls.all())
         if (isTalk(*call) && !isInConference(*call))
-            actions.push_back({"Call.transfer.here",
-                               [this, one = call->id(), two = rung.id()] {
-                                   tellIfRefused(mCalls.telephony().transfer(one, two));
-                               },
-                               call->party()});
+            actions.push_back(
+                {"Call.transfer.here",
+                 [this, one = call->id(), two = rung.id()] { tellIfRefused(mCalls.telephony().transfer(one, two)); },
+                 call->party()});
 }
 
 /// Transfers to somebody who has been asked before or is still rung, and conferences.

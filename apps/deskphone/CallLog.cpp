@@ -5,6 +5,7 @@
 #include "DisplayAPI/List.h"
 #include "DisplayAPI/ListItem.h"
 #include "DisplayAPI/TabScreen.h"
+#include "apps/deskphone/CallBacks.h"
 #include "apps/deskphone/CallDetails.h"
 #include "apps/deskphone/CallScreen.h"
 #include "apps/deskphone/Telephone.h"
@@ -21,7 +22,7 @@ using DisplayAPI::CallLogMainItem;
 namespace {
 
 constexpr std::size_t SCREENFUL = 8; ///< at least, on every panel
-constexpr bool HAS_MARK = false; ///< for the menu: names want the room
+constexpr bool HAS_MARK = false;     ///< for the menu: names want the room
 
 CallLogMainItem::IconType iconOf(PastCall::Kind kind)
 {
@@ -37,15 +38,17 @@ CallLogMainItem::IconType iconOf(PastCall::Kind kind)
 } // namespace
 
 CallLog::CallLog(Telephone& telephone, DisplayAPI::TabScreen& tabs, const std::string& title,
-                 std::optional<PastCall::Kind> kind, CallHistory& history, CallScreen& call, CallDetails& details)
-    : Screen(telephone, nullptr, WITHOUT_TITLE), mTabs(tabs), mKind(kind), mHistory(history), mCall(call)
+                 std::optional<PastCall::Kind> kind, CallHistory& history, CallBacks& callBacks, CallScreen& call,
+                 CallDetails& details)
+    : Screen(telephone, nullptr, WITHOUT_TITLE), mTabs(tabs), mKind(kind), mHistory(history), mCallBacks(callBacks),
+      mCall(call), mActions({{"Row.call", [this] { callBack(*mMenuCall); }},
+                             {"Row.details", [this, &details] { details.show(*this, *mMenuCall); }},
+                             {"Row.copy", [this] { this->telephone().copy(mMenuCall->number); }},
+                             {"Row.delete", [this] { mHistory.forget(*mMenuCall); }}})
 {
     tabs.addTab(text(title).info(), &list(), false);
     setDialer(call);
-    setRowMenu({{"Row.call", [this] { callBack(*mMenuCall); }},
-                {"Row.details", [this, &details] { details.show(*this, *mMenuCall); }},
-                {"Row.copy", [this] { this->telephone().copy(mMenuCall->number); }},
-                {"Row.delete", [this] { mHistory.forget(*mMenuCall); }}});
+    setRowMenu(mActions);
     history.addListener([this](PastCall& past) { added(past); }, [this](PastCall& past) { forgotten(past); });
 }
 
@@ -89,6 +92,19 @@ void CallLog::chosen(int row)
 void CallLog::menuOpens(int row)
 {
     mMenuCall = &callAt(row);
+    std::vector<RowMenu::Action> actions = mActions;
+    if (mCallBacks.canRequest(*mMenuCall))
+        actions.push_back({"Row.request.callback", [this] { requestCallBack(*mMenuCall); }});
+    changeRowMenu(actions);
+}
+
+/// Another menu may have asked for it meanwhile.
+void CallLog::requestCallBack(const PastCall& past)
+{
+    if (!mCallBacks.canRequest(past))
+        return;
+    mCallBacks.request(past);
+    telephone().tell(telephone().languages().translate("Callback.requested"));
 }
 
 void CallLog::callBack(const PastCall& past)

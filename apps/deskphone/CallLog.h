@@ -14,6 +14,7 @@ class TabScreen;
 
 namespace deskphone {
 
+class CallBacks;
 class CallScreen;
 class CallDetails;
 
@@ -23,7 +24,8 @@ class CallLog : public Screen {
 public:
     /// Appends itself to `tabs`, which goes first. `title` is the tab's; without a `kind` all calls are shown.
     CallLog(Telephone& telephone, DisplayAPI::TabScreen& tabs, const std::string& title,
-            std::optional<PastCall::Kind> kind, CallHistory& history, CallScreen& call, CallDetails& details);
+            std::optional<PastCall::Kind> kind, CallHistory& history, CallBacks& callBacks, CallScreen& call,
+            CallDetails& details);
 
     /// Makes the rows where there are none yet, or others where moments are shown in another way by now. On the threads
     /// that answer the user.
@@ -50,6 +52,7 @@ private:
 
     PastCall& callAt(int row) const;
     void callBack(const PastCall& past);
+    void requestCallBack(const PastCall& past);
     void freshen();
     void fillUpTo(std::size_t rows);
     Row rowFor(PastCall& call) const;
@@ -60,7 +63,9 @@ private:
     DisplayAPI::TabScreen& mTabs;
     std::optional<PastCall::Kind> mKind;
     CallHistory& mHistory;
+    CallBacks& mCallBacks;
     CallScreen& mCall;
+    const std::vector<RowMenu::Action> mActions; ///< with every call
     std::deque<Row> mRows;
     std::optional<MomentFormats> mFormats; ///< of the rows; nothing while there are none
     std::size_t mTaken = 0;                ///< of the history, its first ones

@@ -27,7 +27,8 @@ const std::array<std::pair<std::string, std::optional<PastCall::Kind>>, 5> PAGES
 
 } // namespace
 
-CallLogs::CallLogs(Telephone& telephone, Place& parent, CallHistory& history, CallScreen& call, CallDetails& details)
+CallLogs::CallLogs(Telephone& telephone, Place& parent, CallHistory& history, CallBacks& callBacks, CallScreen& call,
+                   CallDetails& details)
     : mTelephone(telephone), mParent(parent), mHistory(history), mTabs(TabScreen::CALLS, HAS_WAY_BACK),
       mCommands(mTabs, [this](Command* command) {
           if (command == TabScreen::BACK_COMMAND())
@@ -35,7 +36,8 @@ CallLogs::CallLogs(Telephone& telephone, Place& parent, CallHistory& history, Ca
       })
 {
     for (const auto& [title, kind] : PAGES)
-        mPages.emplace_back(telephone, mTabs, title, kind, history, call, details);
+        mPages.emplace_back(telephone, mTabs, title, kind, history, callBacks, call, details);
+    mCallBacks.emplace(telephone, mTabs, callBacks, call);
 }
 
 void CallLogs::open()
@@ -53,12 +55,14 @@ void CallLogs::stopListening()
     mCommands.end();
     for (CallLog& page : mPages)
         page.stopListening();
+    mCallBacks->stopListening();
 }
 
 void CallLogs::stopWorking()
 {
     for (CallLog& page : mPages)
         page.stopWorking();
+    mCallBacks->stopWorking();
 }
 
 /// Commands arrive later than they are raised: the user may be elsewhere.

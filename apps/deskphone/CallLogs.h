@@ -1,11 +1,13 @@
 #pragma once
 
 #include "DisplayAPI/TabScreen.h"
+#include "apps/deskphone/CallBackPage.h"
 #include "apps/deskphone/CallLog.h"
 #include "apps/deskphone/Place.h"
 #include "kit/Subscription.h"
 
 #include <deque>
+#include <optional>
 
 namespace deskphone {
 
@@ -14,10 +16,12 @@ class CallDetails;
 class CallHistory;
 class Telephone;
 
-/// The call logs, one behind the other: all calls, those missed, received, dialled and forwarded.
+/// The call logs, one behind the other: all calls, those missed, received, dialled and
+/// forwarded, and the call-backs.
 class CallLogs : public Place {
 public:
-    CallLogs(Telephone& telephone, Place& parent, CallHistory& history, CallScreen& call, CallDetails& details);
+    CallLogs(Telephone& telephone, Place& parent, CallHistory& history, CallBacks& callBacks, CallScreen& call,
+             CallDetails& details);
 
     /// With the latest of all calls, whichever were shown last.
     void open() override;
@@ -31,6 +35,7 @@ private:
     Place& mParent;
     CallHistory& mHistory;
     std::deque<CallLog> mPages; ///< before the tabs, which show their titles
+    std::optional<CallBackPage> mCallBacks;
     DisplayAPI::TabScreen mTabs;
     DisplayAPI::kit::Subscription mCommands;
 };

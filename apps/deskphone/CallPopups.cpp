@@ -20,6 +20,13 @@ CallPartyIdentifier identifierOf(const exchange::Party& party)
     return {party.name, party.number};
 }
 
+/// In the language of now.
+std::string lineOf(Telephone& telephone, const PhoneCall& call)
+{
+    const auto number = [&call] { return std::to_string(call.last.line); };
+    return DisplayAPI::kit::Text(&telephone.languages(), "Details.line", {number}).get();
+}
+
 bool rings(const PhoneCall* call)
 {
     return call != nullptr && call->state() == exchange::CallState::INCOMING;
@@ -27,7 +34,7 @@ bool rings(const PhoneCall* call)
 
 } // namespace
 
-CallPopups::Ringing::Ringing(Telephone& telephone, const PhoneCall& ringing)
+CallPopups::Ringing::Ringing(Telephone& telephone, const PhoneCall& ringing, bool isOneOfSeveral)
     : call(ringing.id()), answer(new TranslationInfo("Call.answer", &telephone.languages()), 0),
       reject(new TranslationInfo("Call.reject", &telephone.languages()), 0),
       deflect(new TranslationInfo("Call.transfer", &telephone.languages()), 0)
@@ -35,7 +42,8 @@ CallPopups::Ringing::Ringing(Telephone& telephone, const PhoneCall& ringing)
     CallPartyIdentifier caller = identifierOf(ringing.last.other), meant = identifierOf(ringing.last.forwardedBy);
     const bool isForwarded = !ringing.last.forwardedBy.number.empty();
     popup.setPopupCallDetails(caller, isForwarded ? &meant : nullptr,
-                              isForwarded ? DisplayAPI::FORWARDED_BY_SERVER : DisplayAPI::NOT_FORWARDED, "", nullptr);
+                              isForwarded ? DisplayAPI::FORWARDED_BY_SERVER : DisplayAPI::NOT_FORWARDED,
+                              isOneOfSeveral ? lineOf(telephone, ringing) : std::string(), nullptr);
     popup.setState(PopupCall::INCOMING, PopupCall::NORMAL);
     popup.setCommands({&answer, &reject, &deflect});
 }
@@ -69,8 +77,9 @@ void CallPopups::bringBack()
 /// At once, so that nobody waits for one part after the other.
 void CallPopups::ring(const PhoneCall& call)
 {
+    const bool hasSeveralLines = mCalls.telephony().lines().size() > 1;
     DisplayAPI::kit::onGuiThread([&] {
-        PopupCall& popup = mRinging.emplace_back(mTelephone, call).popup;
+        PopupCall& popup = mRinging.emplace_back(mTelephone, call, hasSeveralLines).popup;
         popup.addCommandListener(&mChoice);
         mTelephone.display().setCurrent(&popup);
     });

@@ -23,7 +23,8 @@ public:
 
 private:
     struct Ringing {
-        Ringing(Telephone& telephone, const PhoneCall& call);
+        /// Says the line where `isOneOfSeveral`.
+        Ringing(Telephone& telephone, const PhoneCall& call, bool isOneOfSeveral);
 
         exchange::CallId call;
         DisplayAPI::MenuCommand answer;

@@ -64,6 +64,7 @@ void CallRecorder::keep(const PhoneCall& call)
     past.seconds = static_cast<int>(call.spokenUntil(call.last.at) / 1000);
     past.other = otherOf(call);
     past.line = call.last.line;
+    past.reason = call.last.reason;
     past.isSeen = call.last.reason == Reason::REJECTED;
     mHistory.add(past);
 }

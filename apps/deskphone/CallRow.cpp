@@ -48,7 +48,8 @@ CallConnectedItem::CallStateIcon iconOf(const PhoneCall& call)
 
 CallRow::CallRow(const PhoneCall& call, Words words)
     : mCall(call.id()), mWords(std::move(words)),
-      mItem(std::make_unique<CallConnectedItem>(iconOf(call), partiesOf(call), nullptr, TIMED, HAS_MENU)), mParty(partiesOf(call))
+      mItem(std::make_unique<CallConnectedItem>(iconOf(call), partiesOf(call), nullptr, TIMED, HAS_MENU)),
+      mParty(partiesOf(call))
 {
     update(call);
 }

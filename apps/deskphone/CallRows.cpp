@@ -24,8 +24,7 @@ const PhoneCall* find(const PhoneCalls& calls, CallId call)
 const PhoneCall* partnerOf(const PhoneCalls& calls, const PhoneCall& call)
 {
     const PhoneCall* const partner = exchange::isTalk(call.state()) ? find(calls, call.last.with) : nullptr;
-    const bool isMutual =
-        partner != nullptr && exchange::isTalk(partner->state()) && partner->last.with == call.id();
+    const bool isMutual = partner != nullptr && exchange::isTalk(partner->state()) && partner->last.with == call.id();
     return isMutual ? partner : nullptr;
 }
 

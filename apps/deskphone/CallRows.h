@@ -15,8 +15,8 @@ class ListItem;
 
 namespace deskphone {
 
-/// The calls that go on as rows of a list, in the order in which they came; the two of a conference of mine are one row.
-/// On the threads that answer the user. Make and delete it on the GUI thread, before the list goes.
+/// The calls that go on as rows of a list, in the order in which they came; the two of a conference of mine are one
+/// row. On the threads that answer the user. Make and delete it on the GUI thread, before the list goes.
 class CallRows {
 public:
     /// A call, or the conference that it is in.

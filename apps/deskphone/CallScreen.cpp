@@ -26,7 +26,8 @@ CallScreen::CallScreen(Telephone& telephone, Calls& calls, TransferQuestions& tr
     using enum exchange::CallState;
     for (const exchange::CallState state : {DIALLING, PROCEEDING, RINGING_BACK, CONNECTED, HELD_BY_ME, HELD_BY_OTHER,
                                             HELD_BY_BOTH, RESUMING, TRANSFERRING, CONFERENCE})
-        mWords.emplace(keyOf(state), text(keyOf(state)));
+        for (const exchange::Line& line : calls.telephony().lines())
+            mWords.emplace(std::pair(state, line.number), textFor(state, line.number));
     setDialer(*this);
     calls.addCallListener([this](const PhoneCall& call) { note(call); });
     calls.addListener([this] { refresh(); });
@@ -106,9 +107,18 @@ void CallScreen::dismissMenu()
     mMenu.dismiss();
 }
 
+/// The line is said where there are several.
+Text& CallScreen::textFor(exchange::CallState state, exchange::LineNumber line)
+{
+    if (mCalls.telephony().lines().size() == 1)
+        return text(keyOf(state));
+    return text("Call.on.line", {[this, state] { return telephone().languages().translate(keyOf(state)); },
+                                 [line] { return std::to_string(line); }});
+}
+
 TranslationInfo* CallScreen::wordsFor(const PhoneCall& call)
 {
-    const auto words = mWords.find(keyOf(call.state()));
+    const auto words = mWords.find({call.state(), call.last.line});
     return words != mWords.end() ? words->second.info() : nullptr;
 }
 

@@ -11,9 +11,9 @@
 
 namespace deskphone {
 
-/// The calls that go on, one in each row, and a conference in one. Choosing one does what is obvious with it, the right key offers the rest. It
-/// comes when the user calls somebody or answers, unless he types a number then, and goes with the last call; left
-/// leads away from it meanwhile.
+/// The calls that go on, one in each row, and a conference in one. Choosing one does what is obvious with it, the right
+/// key offers the rest. It comes when the user calls somebody or answers, unless he types a number then, and goes with
+/// the last call; left leads away from it meanwhile.
 class CallScreen : public Screen {
 public:
     CallScreen(Telephone& telephone, Calls& calls, TransferQuestions& transfers);
@@ -34,6 +34,7 @@ private:
     void note(const PhoneCall& call);
     void refresh();
     void dismissMenu();
+    Text& textFor(exchange::CallState state, exchange::LineNumber line);
     TranslationInfo* wordsFor(const PhoneCall& call);
     void comeOrGo();
 
@@ -41,7 +42,7 @@ private:
     CallActions mActions;
     RowMenu mMenu;
     std::optional<CallRows::Chosen> mMenuRow; ///< whose menu it is
-    std::map<std::string, Text&> mWords;      ///< by their keys
+    std::map<std::pair<exchange::CallState, exchange::LineNumber>, Text&> mWords;
     CallRows mRows;
     bool mIsWanted = false; ///< a call has begun that the user has not seen
 };

@@ -31,7 +31,8 @@ constexpr const char* TABLE = R"(CREATE TABLE calls (
     other TEXT NOT NULL,
     seen INTEGER NOT NULL,
     line INTEGER NOT NULL DEFAULT 0) STRICT)"; // 0 where nobody knows
-constexpr const char* ALL = "SELECT id, kind, moment, party, number, seconds, other, seen, line FROM calls ORDER BY id DESC";
+constexpr const char* ALL =
+    "SELECT id, kind, moment, party, number, seconds, other, seen, line FROM calls ORDER BY id DESC";
 constexpr const char* ALL_OF_VERSION_1 =
     "SELECT id, kind, moment, party, number, seconds, other, seen, 0 FROM calls ORDER BY id DESC";
 constexpr const char* FROM_VERSION_1 = "ALTER TABLE calls ADD COLUMN line INTEGER NOT NULL DEFAULT 0";

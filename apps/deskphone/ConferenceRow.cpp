@@ -28,8 +28,7 @@ PhoneCall asWhole(PhoneCall call)
 /// Closed, every panel has room for the state.
 ConferenceRow::ConferenceRow(CallRow& title, CallRow& other, CallRow::Words words)
     : mTitle(title), mOther(other), mWords(std::move(words)),
-      mItem(std::make_unique<DisplayAPI::ConferenceCallItem>(CallConnectedItem::CONFERENCE, std::string(),
-                                                             IS_OPEN))
+      mItem(std::make_unique<DisplayAPI::ConferenceCallItem>(CallConnectedItem::CONFERENCE, std::string(), IS_OPEN))
 {
     mItem->appendCall(title.item(), IS_TITLE);
     mItem->appendCall(other.item(), !IS_TITLE);

@@ -40,11 +40,11 @@ Desk::Desk(DisplayAPI::Display& display, exchange::Telephony& telephony, const s
            const std::filesystem::path& state)
     : mTelephone(display), mComplaint(mTelephone.useLanguage(language)),
       mNewsText(&mTelephone.languages(), "News.ticker"), mNews(mNewsText.get()), mHistory(historyIn(state)),
-      mCalls(telephony), mRecorder(mTelephone, mCalls, mHistory),
+      mCalls(telephony), mRecorder(mTelephone, mCalls, mHistory), mCallBacks(mCalls),
       mStatus(mTelephone, mCalls, [this] { return mCall.showsCallsOrPopup(); }), mTransfers(mTelephone, mCalls),
       mPopups(mTelephone, mCalls, mTransfers), mCall(mTelephone, mCalls, mTransfers), mHandset(mCalls),
       mDetails(mTelephone, mCall), mHome(mTelephone, mCall, mHistory), mLineStatus(mTelephone, mCalls, mHome),
-      mCallLogs(mTelephone, mHome, mHistory, mCall, mDetails), mContacts(mTelephone, &mHome, mCall),
+      mCallLogs(mTelephone, mHome, mHistory, mCallBacks, mCall, mDetails), mContacts(mTelephone, &mHome, mCall),
       mLines(mTelephone, &mHome, mCalls, mCall), mSettings(mTelephone, mHome, mCalls),
       mServices(mTelephone, &mHome, mCall), mAbout(mTelephone, &mHome)
 {

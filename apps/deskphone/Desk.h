@@ -2,6 +2,7 @@
 
 #include "DisplayAPI/Ticker.h"
 #include "apps/deskphone/About.h"
+#include "apps/deskphone/CallBacks.h"
 #include "apps/deskphone/CallDetails.h"
 #include "apps/deskphone/CallHistory.h"
 #include "apps/deskphone/CallLogs.h"
@@ -51,6 +52,7 @@ private:
     CallHistory mHistory;
     Calls mCalls;
     CallRecorder mRecorder;
+    CallBacks mCallBacks;
     CallStatus mStatus; ///< before the screen: lines that go have to go before it does
     TransferQuestions mTransfers;
     CallPopups mPopups;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "apps/exchange/Call.h"
+
 #include <cstdint>
 #include <ctime>
 #include <string>
@@ -19,7 +21,8 @@ struct PastCall {
     int line = 0;           ///< of the telephone's; 0 where nobody knows
     bool isForgotten = false;
     bool isSeen = false;
-    std::int64_t id = 0; ///< in the file that keeps it
+    std::int64_t id = 0;                              ///< in the file that keeps it
+    exchange::Reason reason = exchange::Reason::NONE; ///< why it is over; no file keeps it
 
     bool isNewMissedCall() const { return kind == Kind::MISSED && !isForgotten && !isSeen; }
 };

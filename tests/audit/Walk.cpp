@@ -24,7 +24,7 @@ const std::string MENU = "key ok\n";
 /// The first setting of the third row of the menu.
 const std::string LANGUAGES = MENU + "key down\nkey down\nkey ok\n" + FIRST_ROW + "key ok\n" + FIRST_ROW;
 
-constexpr int OTHER_TABS = 4;
+constexpr int OTHER_TABS = 5;
 
 const std::string CONTACTS = MENU + "key down\nkey ok\n" + FIRST_ROW;
 

@@ -73,13 +73,26 @@ bool isSeen(const std::string& text, const std::set<std::string>& seen)
     return std::ranges::any_of(seen, [&](const std::string& shown) { return isThatText(text, shown); });
 }
 
+/// As what another text has in it.
+bool isSeenWithin(const std::string& text, const std::set<std::string>& keys, host::Languages& languages,
+                  const std::set<std::string>& seen)
+{
+    return std::ranges::any_of(keys, [&](const std::string& key) {
+        std::string whole = languages.translate(key);
+        const std::size_t mark = whole.find("%1");
+        return mark != std::string::npos && isSeen(whole.replace(mark, 2, text), seen);
+    });
+}
+
 void lookForUnseen(const std::string& language, const std::string& panel, Findings& findings)
 {
     host::Languages languages;
     if (const std::string error = languages.use(language); !error.empty())
         throw std::runtime_error(error);
-    for (const std::string& key : keysOf((fs::path(CATALOGUES) / (language + ".po")).string()))
-        if (!isSeen(languages.translate(key), findings.seen))
+    const std::set<std::string> keys = keysOf((fs::path(CATALOGUES) / (language + ".po")).string());
+    for (const std::string& key : keys)
+        if (const std::string text = languages.translate(key);
+            !isSeen(text, findings.seen) && !isSeenWithin(text, keys, languages, findings.seen))
             findings.faults.push_back({"unseen", language, panel, key, languages.translate(key)});
 }
 
