@@ -1,15 +1,17 @@
 #include "ExpandingTreeListItemPrivate.h"
 
-#include <utility>
-
 namespace DisplayAPI {
 
-ExpandingTreeListItemPrivate::ExpandingTreeListItemPrivate(TranslatedText text) : mText(std::move(text)) {}
+ExpandingTreeListItemPrivate::ExpandingTreeListItemPrivate(const TranslatedText& text) : mItem(text.shown())
+{
+    if (text.isTranslated())
+        mTranslation = text;
+}
 
 void ExpandingTreeListItemPrivate::localeChanged(std::string)
 {
-    if (mText.isTranslated())
-        mItem.DataSet(mText.shown());
+    if (mTranslation.isTranslated())
+        mItem.DataSet(mTranslation.shown());
 }
 
 /// The row is a part of this side.

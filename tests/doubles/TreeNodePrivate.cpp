@@ -20,7 +20,7 @@ struct TreeNodeSide::Impl {
     std::string name;
 };
 
-TreeNodeSide::TreeNodeSide(TreeNode* owner, TranslatedText text, Panel panel)
+TreeNodeSide::TreeNodeSide(TreeNode* owner, const TranslatedText& text, Panel panel)
     : mImpl(new Impl{this, panel == Panel::FULL ? "TreeNodePrivate" : "TreeNodePrivateWP1"})
 {
     Recorder::instance().note(this, mImpl->name, owner, text.text());

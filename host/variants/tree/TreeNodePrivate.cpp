@@ -5,19 +5,21 @@
 namespace DisplayAPI {
 
 struct TreeNodeSide::Impl {
-    Impl(TranslatedText shownText, TreeNode* owner, bool wayBack)
-        : text(std::move(shownText)), row(text.shown(), owner), hasWayBack(wayBack)
+    Impl(const TranslatedText& shownText, TreeNode* owner, bool wayBack)
+        : row(shownText.shown(), owner), hasWayBack(wayBack)
     {
+        if (shownText.isTranslated())
+            translation = shownText;
         row.setWayBack(hasWayBack);
     }
 
-    TranslatedText text;
+    TranslatedText translation; ///< empty for a plain text, which the row has
     TreeNodeRow row;
     const bool hasWayBack; ///< of the panel
 };
 
-TreeNodeSide::TreeNodeSide(TreeNode* owner, TranslatedText text, Panel panel)
-    : mImpl(std::make_unique<Impl>(std::move(text), owner, panel == Panel::SMALL))
+TreeNodeSide::TreeNodeSide(TreeNode* owner, const TranslatedText& text, Panel panel)
+    : mImpl(std::make_unique<Impl>(text, owner, panel == Panel::SMALL))
 {
 }
 
@@ -71,8 +73,8 @@ void TreeNodeSide::removeBack(bool on)
 
 void TreeNodeSide::localeChanged(std::string)
 {
-    if (mImpl->text.isTranslated())
-        mImpl->row.DataSet(mImpl->text.shown());
+    if (mImpl->translation.isTranslated())
+        mImpl->row.DataSet(mImpl->translation.shown());
 }
 
 Peg_TreeListItem* TreeNodeSide::getTreeListItem()

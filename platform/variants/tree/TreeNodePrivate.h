@@ -24,7 +24,7 @@ public:
     Peg_TreeListItem* getTreeListItem() override;
 
 protected:
-    TreeNodeSide(TreeNode* owner, TranslatedText text, Panel panel);
+    TreeNodeSide(TreeNode* owner, const TranslatedText& text, Panel panel);
 
 private:
     struct Impl;
