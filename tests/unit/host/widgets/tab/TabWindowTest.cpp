@@ -55,6 +55,17 @@ TEST_F(TabWindowTest, KeysThatThePageHasNoUseForAreTheBars)
     EXPECT_EQ(gpPresent->Focus(), page);
 }
 
+TEST_F(TabWindowTest, KeysThatNobodyHasAUseForAreItsHolders)
+{
+    test::Listener holder;
+    gpPresent->Remove(window);
+    holder.Add(window);
+    window->Message({.wType = PM_KEY, .iData = '5'});
+    EXPECT_THAT(holder.heard, ElementsAre(Pair(PM_KEY, '5')));
+    holder.Remove(window);
+    gpPresent->Add(window);
+}
+
 TEST_F(TabWindowTest, UpGoesToTheBarAndTheTargetSaysWhenThePageIsEntered)
 {
     press(PK_UP);
