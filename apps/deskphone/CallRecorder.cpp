@@ -72,10 +72,7 @@ void CallRecorder::keep(const PhoneCall& call)
 /// Why what the user wanted of a call has come to nothing, such as a transfer.
 std::string CallRecorder::failure(const PhoneCall& call)
 {
-    if (!call.last.text.empty())
-        return call.last.text;
-    const std::string key = keyOf(call.last.reason);
-    return key.empty() ? std::string() : said(key);
+    return reasonOf(call.last, mTelephone.languages());
 }
 
 std::string CallRecorder::epilogue(const PhoneCall& call)
@@ -85,11 +82,9 @@ std::string CallRecorder::epilogue(const PhoneCall& call)
     const bool isIncoming = call.last.direction == Direction::INCOMING;
     if (isIncoming && !call.talkSince)
         return wasRefused(call) ? std::string() : said("Details.missed");
-    if (!call.last.text.empty())
-        return call.last.text;
-    const std::string key = keyOf(call.last.reason);
-    return key.empty() ? said("Call.ended", DisplayAPI::durationText(call.spokenUntil(call.last.at) / 1000))
-                       : said(key);
+    const std::string reason = reasonOf(call.last, mTelephone.languages());
+    return reason.empty() ? said("Call.ended", DisplayAPI::durationText(call.spokenUntil(call.last.at) / 1000))
+                          : reason;
 }
 
 std::string CallRecorder::said(const std::string& key, const std::string& argument)

@@ -2,10 +2,27 @@
 
 #include "kit/Text.h"
 
+#include <algorithm>
+#include <array>
+#include <string_view>
+
 namespace deskphone {
 
 using exchange::CallState;
 using exchange::Reason;
+
+namespace {
+
+struct KnownReason {
+    std::string_view text; ///< as the exchange and its file of numbers say it
+    std::string key;
+};
+
+const std::array<KnownReason, 3> KNOWN_REASONS{{{"The line has too many calls", "Call.too.many"},
+                                                {"Forwarded too often", "Call.forwarded.too.often"},
+                                                {"No line is free", "Call.no.line.free"}}};
+
+} // namespace
 
 std::string words(TranslatorIfc& translator, const std::string& key, const std::string& argument)
 {
@@ -43,6 +60,15 @@ std::string keyOf(Reason reason)
     case Reason::NOT_REGISTERED: return "Call.not.registered";
     default: return {};
     }
+}
+
+std::string reasonOf(const exchange::CallEvent& event, TranslatorIfc& translator)
+{
+    const auto known = std::ranges::find(KNOWN_REASONS, event.text, &KnownReason::text);
+    if (known == KNOWN_REASONS.end() && !event.text.empty())
+        return event.text;
+    const std::string key = event.text.empty() ? keyOf(event.reason) : known->key;
+    return key.empty() ? key : words(translator, key);
 }
 
 std::string nameOf(const exchange::Party& party)

@@ -96,6 +96,9 @@ public:
     /// Called after changes, once for all that have come meanwhile, and when somebody has asked for it.
     void addListener(Listener listener) { mListeners.push_back(std::move(listener)); }
 
+    /// Shows beside the panel that the handset is lifted, call or not. From any thread.
+    void setLifted(bool on) { mSigns.setLifted(on); }
+
     /// Has the listeners called again, soon. From any thread; does not wait.
     void callListeners();
 
@@ -115,7 +118,7 @@ private:
 
     exchange::Telephony& mTelephony;
     OwnLines mLines;
-    exchange::SignedCalls mSigns; ///< the network's thread's
+    exchange::SignedCalls mSigns;
     std::map<exchange::CallId, PhoneCall> mCalls;
     std::map<exchange::CallId, exchange::Party> mDialled; ///< calls of which nothing has been told yet
     std::vector<CallListener> mCallListeners;

@@ -42,10 +42,11 @@ Desk::Desk(DisplayAPI::Display& display, exchange::Telephony& telephony, const s
       mNewsText(&mTelephone.languages(), "News.ticker"), mNews(mNewsText.get()), mHistory(historyIn(state)),
       mCalls(telephony), mRecorder(mTelephone, mCalls, mHistory), mCallBacks(mCalls),
       mStatus(mTelephone, mCalls, [this] { return mCall.showsCallsOrPopup(); }), mTransfers(mTelephone, mCalls),
-      mPopups(mTelephone, mCalls, mTransfers), mCall(mTelephone, mCalls, mTransfers), mHandset(mCalls),
-      mDetails(mTelephone, mCall), mHome(mTelephone, mCall, mHistory), mLineStatus(mTelephone, mCalls, mHome),
-      mCallLogs(mTelephone, mHome, mHistory, mCallBacks, mCall, mDetails), mContacts(mTelephone, &mHome, mCall),
-      mLines(mTelephone, &mHome, mCalls, mCall), mSettings(mTelephone, mHome, mCalls),
+      mPopups(mTelephone, mCalls, mTransfers), mCall(mTelephone, mCalls, mTransfers),
+      mHandset(mTelephone, mCalls, mCall), mDetails(mTelephone, mCall), mHome(mTelephone, mCall, mHistory),
+      mLineStatus(mTelephone, mCalls, mHome), mCallLogs(mTelephone, mHome, mHistory, mCallBacks, mCall, mDetails),
+      mContacts(mTelephone, &mHome, mCall), mLines(mTelephone, &mHome, mCalls, mCall),
+      mShortDials(mTelephone, &mHome, mCall), mSettings(mTelephone, mHome, mCalls),
       mServices(mTelephone, &mHome, mCall), mAbout(mTelephone, &mHome)
 {
     mHome.setMenu({{"Menu.call.log", "Key.call.log", &mCallLogs},
@@ -53,6 +54,7 @@ Desk::Desk(DisplayAPI::Display& display, exchange::Telephony& telephony, const s
                    {"Menu.settings", "Key.settings", &mSettings},
                    {"Menu.services", "Key.services", &mServices},
                    {"Menu.lines", "Key.lines", &mLines},
+                   {"Menu.short.dials", "Key.short.dials", &mShortDials},
                    {"Menu.about", "Key.about", &mAbout}});
     if (!isSmallPanel()) // which has no line to spare
         mServices.setTicker(mNews);
@@ -91,10 +93,12 @@ void Desk::close()
 
 std::vector<Place*> Desk::places()
 {
-    std::vector<Place*> all = {&mHome,  &mCallLogs, &mContacts, &mLines,   &mSettings, &mContacts.card(),
+    std::vector<Place*> all = {&mHome,  &mCallLogs, &mContacts, &mLines,   &mShortDials, &mSettings, &mContacts.card(),
                                &mAbout, &mCall,     &mDetails,  &mServices};
     for (Choice* choice : mSettings.choices())
         all.push_back(choice);
+    for (Place* place : mSettings.places())
+        all.push_back(place);
     return all;
 }
 

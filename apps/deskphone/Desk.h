@@ -18,6 +18,7 @@
 #include "apps/deskphone/LineStatus.h"
 #include "apps/deskphone/Services.h"
 #include "apps/deskphone/Settings.h"
+#include "apps/deskphone/ShortDials.h"
 #include "apps/deskphone/Telephone.h"
 #include "apps/deskphone/TransferQuestions.h"
 
@@ -64,6 +65,7 @@ private:
     CallLogs mCallLogs;
     Contacts mContacts;
     LineOverview mLines;
+    ShortDials mShortDials;
     Settings mSettings;
     Services mServices;
     About mAbout;

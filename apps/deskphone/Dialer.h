@@ -28,6 +28,9 @@ public:
     void open(char digit);
     void open() { show({}); }
 
+    /// Comes up with that already typed.
+    void openWith(const std::string& text) { show(text); }
+
     /// Takes it off the screen, if it is there.
     void close() { mPopup.dismiss(); }
 

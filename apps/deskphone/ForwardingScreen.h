@@ -1,18 +1,20 @@
 #pragma once
 
+#include "apps/deskphone/Calls.h"
 #include "apps/deskphone/NumberQuestion.h"
 #include "apps/deskphone/Screen.h"
 
-#include <array>
-#include <mutex>
 #include <string>
+#include <vector>
+
+namespace DisplayAPI {
+class CallForwardItem;
+}
 
 namespace deskphone {
 
-class Calls;
-
-/// To whom calls go on: always, when the telephone is busy or wants no calls, and when nobody answers. Choosing a row
-/// asks for a number, or ends what it says. It holds for all lines.
+/// To whom each line's calls go on: always, when it is busy or wants no calls, and when nobody answers. Choosing a row
+/// asks for a number, or ends what it says; its menu has another number asked for.
 class ForwardingScreen : public Screen {
 public:
     ForwardingScreen(Telephone& telephone, Place* parent, Calls& calls);
@@ -20,22 +22,32 @@ public:
     void stopListening() override;
 
 private:
-    static constexpr std::size_t KINDS = 3;
+    using Target = std::string exchange::Forwarding::*;
 
-    void build() override;
+    struct Row {
+        exchange::LineNumber line;
+        Target target;
+        DisplayAPI::CallForwardItem* item; ///< the list's
+        std::string number = {};           ///< as it is shown; empty: none
+        bool isRegistered = true;          ///< as it is shown
+    };
+
+    void build() override {}
     void chosen(int row) override;
+    void menuOpens(int row) override { mMenuRow = row; }
 
-    std::string shown(std::size_t kind);
-    std::string number(std::size_t kind) const;
-    void set(std::size_t kind, const std::string& number);
+    void ask(Row& row);
+    void set(Row& row, const std::string& number);
+    void refresh();
+    void show(Row& row, const exchange::Line& line);
+    void tell(const std::string& key);
 
     Calls& mCalls;
     NumberQuestion mTarget;
-    Text& mOff;
-    std::array<Text*, KINDS> mTexts{};
-    std::array<DisplayAPI::ListItem*, KINDS> mRows{};
-    mutable std::mutex mMutex; ///< guards what follows; nothing is called under it
-    std::array<std::string, KINDS> mNumbers;
+    Text& mTo;
+    Text& mAfter;
+    std::vector<Row> mRows;
+    int mMenuRow = 0;
 };
 
 } // namespace deskphone

@@ -1,7 +1,11 @@
 #include "apps/deskphone/Handset.h"
 
+#include "DisplayAPI/Dialog.h"
+#include "DisplayAPI/Display.h"
 #include "apps/deskphone/CallActions.h"
 #include "apps/deskphone/Calls.h"
+#include "apps/deskphone/ShortDials.h"
+#include "apps/deskphone/Telephone.h"
 #include "host/input/Keyboard.h"
 
 namespace deskphone {
@@ -22,8 +26,13 @@ const PhoneCall* ringing(const Calls& calls)
 
 } // namespace
 
-Handset::Handset(Calls& calls) : mCalls(calls), mMoved([this](DisplayAPI::Command*) { moved(); })
+Handset::Handset(Telephone& telephone, Calls& calls, CallScreen& call)
+    : mTelephone(telephone), mCalls(calls),
+      mDialer(telephone, [&telephone, &call](const std::string& typed) { dial(call, *telephone.place(), typed); }),
+      mMoved([this](DisplayAPI::Command*) { moved(); })
 {
+    telephone.addScreenListener(
+        [this](const DisplayAPI::Displayable* current) { mCalls.setLifted(current == &mDialer.popup()); });
     Keyboard::instance().setHookListener([this] { mMoved.postCommandAction(nullptr, nullptr); });
 }
 
@@ -36,6 +45,7 @@ void Handset::stopListening()
 {
     Keyboard::instance().setHookListener({});
     mMoved.stop();
+    mDialer.stopListening();
 }
 
 void Handset::moved()
@@ -45,9 +55,26 @@ void Handset::moved()
     if (current != nullptr && !isHeldByMe(*current))
         putDown(*current);
     else if (const PhoneCall* const call = ringing(mCalls); call != nullptr)
-        telephony.answer(call->id());
+        answer(*call);
     else if (current != nullptr)
         telephony.resume(current->id());
+    else
+        offerDialer();
+}
+
+void Handset::answer(const PhoneCall& call)
+{
+    mDialer.close();
+    mCalls.telephony().answer(call.id());
+}
+
+/// What the user is asked already is not covered.
+void Handset::offerDialer()
+{
+    if (mDialer.isUp())
+        mDialer.close();
+    else if (dynamic_cast<DisplayAPI::Dialog*>(mTelephone.display().getCurrent()) == nullptr)
+        mDialer.open();
 }
 
 /// Those who are brought together speak on with each other.

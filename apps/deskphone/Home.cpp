@@ -3,13 +3,13 @@
 #include "DisplayAPI/Display.h"
 #include "apps/deskphone/CallHistory.h"
 #include "apps/deskphone/CallScreen.h"
+#include "apps/deskphone/ShortDials.h"
 #include "apps/deskphone/Telephone.h"
 
 namespace deskphone {
 
 Home::Home(Telephone& telephone, CallScreen& call, CallHistory& history)
-    : mTelephone(telephone),
-      mDialer(telephone, [this, &call](const std::string& number) { call.begin(*this, number, number); }),
+    : mTelephone(telephone), mDialer(telephone, [this, &call](const std::string& typed) { dial(call, *this, typed); }),
       mIdle(telephone, mDialer), mDesktop(telephone, mDialer, [this] { open(); }), mScreensaver([this] { begin(); })
 {
     telephone.addScreenListener([this](const DisplayAPI::Displayable* current) { shown(current); });

@@ -51,18 +51,18 @@ std::string keyOf(LineState state)
     case HELD: return "Call.held.by.me";
     case HELD_BY_OTHER: return "Call.held.by.other";
     case CONFERENCE: return "Call.conference";
-    case FORWARDED: return "Call.forwarded";
+    case FORWARDED: return "Line.forwarded";
     case MESSAGE_WAITING: return "Line.messages";
-    case DO_NOT_DISTURB: return "Settings.disturb.title";
+    case DO_NOT_DISTURB: return "Settings.disturb";
     case NOT_REGISTERED: return "Line.not.registered";
     default: return {};
     }
 }
 
-/// The small panel has no room for a word more.
-std::string shortNameOf(const Line& line, TranslatorIfc& translator)
+/// A short line has no room for a word more.
+std::string told(const std::string& name, const Line& line, bool isShort, const std::string& state)
 {
-    return isSmallPanel() ? std::to_string(line.number) + ":" : nameOf(line, translator);
+    return (isShort ? std::to_string(line.number) + ": " : name + "  ") + state;
 }
 
 bool forwardsAny(const Line& line)
@@ -100,13 +100,15 @@ LineSigns signsOf(const std::vector<Line>& lines, const Line& outgoing, Translat
     LineSigns signs{.name = nameOf(outgoing, translator),
                     .state = wordsFor(stateWithoutCalls(outgoing), outgoing, translator),
                     .forwardedTo = outgoing.forwarding.always};
+    signs.status = signs.state.empty() ? signs.name : told(signs.name, outgoing, isNarrowPanel(), signs.state);
     for (const Line& line : lines) {
         signs.messages += line.messages;
         signs.forwards = signs.forwards || forwardsAny(line);
         signs.isQuiet = signs.isQuiet || line.doNotDisturb;
         const LineState state = stateWithoutCalls(line);
         if (state == NOT_REGISTERED || state == DO_NOT_DISTURB)
-            signs.notices.push_back(shortNameOf(line, translator) + "  " + wordsFor(state, line, translator));
+            signs.notices.push_back(
+                told(nameOf(line, translator), line, isSmallPanel(), wordsFor(state, line, translator)));
     }
     return signs;
 }

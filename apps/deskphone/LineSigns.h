@@ -24,6 +24,7 @@ std::string nameOf(const exchange::Line& line, TranslatorIfc& translator);
 struct LineSigns {
     std::string name = {};                 ///< of the line that calls go out on
     std::string state = {};                ///< what is the matter with it; mostly empty
+    std::string status = {};               ///< both, as short as a status line wants it
     std::vector<std::string> notices = {}; ///< what keeps calls from coming, with the line's name
     std::string forwardedTo = {};          ///< where the line sends all its calls; empty: nowhere
     bool forwards = false;                 ///< one of the lines does, if only when it is busy

@@ -38,7 +38,7 @@ void LineStatus::refresh()
     const LineSigns signs = signsOf(mLines.all(), mLines.outgoing(), mTelephone.languages());
     if (std::exchange(mShown, signs) == signs)
         return;
-    mTelephone.status().setOwnName(signs.name, signs.state);
+    mTelephone.status().setOwnName(signs.name, signs.status);
     mHome.show(signs);
 }
 

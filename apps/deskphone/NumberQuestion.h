@@ -20,11 +20,12 @@ public:
     {
     }
 
-    /// Calls `answer` when there is one, in the place of the one before. On the threads that answer the user.
-    void ask(Answer answer)
+    /// Calls `answer` when there is one, in the place of the one before; begins with `number`. On the threads that
+    /// answer the user.
+    void ask(Answer answer, const std::string& number = {})
     {
         mAnswer = std::move(answer);
-        mDialer.open();
+        mDialer.openWith(number);
     }
 
     /// Takes the question off the screen, whatever lies on it.

@@ -30,4 +30,17 @@ Line OwnLines::outgoing() const
     return chosen.isRegistered || registered == lines.end() ? chosen : *registered;
 }
 
+/// They may also turn in a circle of others.
+bool comesBack(const std::vector<Line>& lines, exchange::LineNumber line, const std::string& number)
+{
+    std::string next = number;
+    for (std::size_t hops = 0; hops < lines.size(); ++hops) {
+        const auto own = std::ranges::find_if(lines, [&](const Line& one) { return one.party.number == next; });
+        if (own == lines.end() || own->number == line)
+            return own != lines.end();
+        next = own->forwarding.always;
+    }
+    return true;
+}
+
 } // namespace deskphone

@@ -3,6 +3,7 @@
 #include "apps/exchange/Telephony.h"
 
 #include <atomic>
+#include <string>
 #include <vector>
 
 namespace deskphone {
@@ -29,5 +30,8 @@ private:
     const exchange::Telephony& mTelephony;
     std::atomic<exchange::LineNumber> mChosen{1};
 };
+
+/// Whether calls that the line sends on to that number come back to it, and so ring nowhere.
+bool comesBack(const std::vector<exchange::Line>& lines, exchange::LineNumber line, const std::string& number);
 
 } // namespace deskphone

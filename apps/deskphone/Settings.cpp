@@ -2,7 +2,6 @@
 
 #include "DisplayAPI/List.h"
 #include "DisplayAPI/ListItem.h"
-#include "apps/deskphone/Calls.h"
 #include "apps/deskphone/Home.h"
 #include "apps/deskphone/Telephone.h"
 
@@ -34,8 +33,7 @@ std::vector<std::string> namesOf(const std::vector<host::Language>& languages)
 } // namespace
 
 Settings::Settings(Telephone& telephone, Home& home, Calls& calls)
-    : Screen(telephone, &home, "Settings.title"), mHome(home), mCalls(calls),
-      mLanguages(telephone.languages().available()),
+    : Screen(telephone, &home, "Settings.title"), mHome(home), mLanguages(telephone.languages().available()),
       mLanguage(telephone, this, "Settings.language", namesOf(mLanguages), AS_THEY_ARE,
                 [this](std::size_t value) { return useLanguage(value); }),
       mRingTone(telephone, this, "Settings.ring.tone",
@@ -53,9 +51,8 @@ Settings::Settings(Telephone& telephone, Home& home, Calls& calls)
       mScreensaver(telephone, this, "Settings.saver",
                    {"Screensaver.never", "Screensaver.1.minute", "Screensaver.5.minutes", "Screensaver.15.minutes"},
                    TRANSLATED, [this](std::size_t value) { return useScreensaver(value); }),
-      mDisturb(telephone, this, "Settings.disturb", {"Switch.off", "Switch.on"}, TRANSLATED,
-               [this](std::size_t value) { return useDisturb(value); }),
-      mForwarding(telephone, this, calls), mForwardingText(text("Settings.forwarding"))
+      mDisturb(telephone, this, calls), mForwarding(telephone, this, calls), mDisturbText(text("Settings.disturb")),
+      mForwardingText(text("Settings.forwarding"))
 {
     const auto current = std::ranges::find(mLanguages, telephone.languages().current().code, &host::Language::code);
     if (current != mLanguages.end())
@@ -71,6 +68,7 @@ void Settings::build()
         mRows[i] = new DisplayAPI::ListItem(choices()[i]->summary().info(), false);
         list().append(mRows[i]);
     }
+    append(mDisturbText);
     append(mForwardingText);
 }
 
@@ -79,26 +77,7 @@ void Settings::chosen(int row)
     if (const auto place = static_cast<std::size_t>(row); place < choices().size())
         choices().at(place)->open();
     else
-        mForwarding.open();
-}
-
-void Settings::stopListening()
-{
-    Screen::stopListening();
-    mForwarding.stopListening();
-}
-
-void Settings::stopWorking()
-{
-    Screen::stopWorking();
-    mForwarding.stopWorking();
-}
-
-std::string Settings::useDisturb(std::size_t value)
-{
-    for (const exchange::Line& line : mCalls.telephony().lines())
-        mCalls.telephony().setDoNotDisturb(line.number, value > 0);
-    return {};
+        places().at(place - choices().size())->open();
 }
 
 std::string Settings::useLanguage(std::size_t value)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "apps/deskphone/Choice.h"
+#include "apps/deskphone/DisturbScreen.h"
 #include "apps/deskphone/ForwardingScreen.h"
 #include "apps/deskphone/Screen.h"
 #include "host/languages/Languages.h"
@@ -18,14 +19,11 @@ class Settings : public Screen {
 public:
     Settings(Telephone& telephone, Home& home, Calls& calls);
 
-    void stopListening() override;
-    void stopWorking() override;
-
-    std::array<Choice*, 8> choices()
+    std::array<Choice*, 7> choices()
     {
-        return {&mLanguage,   &mRingTone,   &mBrightness,  &mDateFormat,
-                &mTimeFormat, &mHomeScreen, &mScreensaver, &mDisturb};
+        return {&mLanguage, &mRingTone, &mBrightness, &mDateFormat, &mTimeFormat, &mHomeScreen, &mScreensaver};
     }
+    std::array<Place*, 2> places() { return {&mDisturb, &mForwarding}; }
 
 private:
     void build() override;
@@ -36,10 +34,8 @@ private:
     std::string useTimeFormat(std::size_t value);
     std::string useHomeScreen(std::size_t value);
     std::string useScreensaver(std::size_t value);
-    std::string useDisturb(std::size_t value);
 
     Home& mHome;
-    Calls& mCalls;
     std::vector<host::Language> mLanguages;
     Choice mLanguage;
     Choice mRingTone;
@@ -48,10 +44,11 @@ private:
     Choice mTimeFormat;
     Choice mHomeScreen;
     Choice mScreensaver;
-    Choice mDisturb;
+    DisturbScreen mDisturb;
     ForwardingScreen mForwarding;
+    Text& mDisturbText;
     Text& mForwardingText;
-    std::array<DisplayAPI::ListItem*, 8> mRows{};
+    std::array<DisplayAPI::ListItem*, 7> mRows{};
 };
 
 } // namespace deskphone

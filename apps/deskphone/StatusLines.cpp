@@ -76,27 +76,26 @@ void StatusLines::callEnds()
         setCount(1);
 }
 
-void StatusLines::setOwnName(const std::string& name, const std::string& state)
+void StatusLines::setOwnName(const std::string& name, const std::string& status)
 {
     mOwnName = name;
-    mOwnState = state;
-    showOwnName();
-}
-
-/// The timer of a call takes the room of the state.
-void StatusLines::showOwnName()
-{
-    if (isSmallPanel())
-        return;
-    const bool hasState = !mOwnState.empty() && mCount < 2;
-    mLines.setText(OWN_NAME, hasState ? mOwnName + "  " + mOwnState : mOwnName);
+    mOwnStatus = status;
+    if (!isSmallPanel())
+        send();
 }
 
 void StatusLines::setCount(int count)
 {
     mCount = count;
-    kit::onGuiThread([this] { showOwnName(); });
-    mLines.setSize(mIsVisible || isSmallPanel() ? count : 0);
+    kit::onGuiThread([this] { send(); });
+}
+
+/// The timer of a call takes the room of the state. A screen shows a text with the number of lines that is sent behind.
+void StatusLines::send()
+{
+    if (!isSmallPanel())
+        mLines.setText(OWN_NAME, mCount < 2 ? mOwnStatus : mOwnName);
+    mLines.setSize(mIsVisible || isSmallPanel() ? mCount.load() : 0);
 }
 
 } // namespace deskphone

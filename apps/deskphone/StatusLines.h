@@ -19,9 +19,9 @@ public:
     /// REQUIRES: the display is shown.
     void open();
 
-    /// What the first line says: which of the telephone's lines it is about, and what is the matter with that, where it
-    /// is not a call's. On the GUI thread.
-    void setOwnName(const std::string& name, const std::string& state);
+    /// What the first line says: which of the telephone's lines it is about; where it is not a call's, with what is the
+    /// matter with that. On the GUI thread.
+    void setOwnName(const std::string& name, const std::string& status);
 
     /// Takes them off the large panels, and puts them back.
     void setVisible(bool visible);
@@ -36,13 +36,13 @@ public:
 
 private:
     void showParty(const std::string& party);
-    void showOwnName();
     void setCount(int count);
+    void send();
 
     Telephone& mTelephone;
     DisplayAPI::kit::StatusLines& mLines;
-    std::string mOwnName; ///< the GUI thread's, as the state is
-    std::string mOwnState;
+    std::string mOwnName; ///< the GUI thread's, as the next one is
+    std::string mOwnStatus;
     std::atomic<int> mCount{0};
     std::atomic<bool> mIsVisible{true};
 };

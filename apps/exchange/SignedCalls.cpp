@@ -22,10 +22,23 @@ SignedCalls::~SignedCalls()
 
 void SignedCalls::callChanged(const CallEvent& event)
 {
+    const std::lock_guard lock(mMutex);
     if (isFinal(event.state))
         mCalls.erase(event.call);
     else
         mCalls[event.call] = event.state;
+    show();
+}
+
+void SignedCalls::setLifted(bool on)
+{
+    const std::lock_guard lock(mMutex);
+    mIsLifted = on;
+    show();
+}
+
+void SignedCalls::show() const
+{
     const auto any = [this](auto is) {
         return std::ranges::any_of(mCalls, [&](const auto& call) { return is(call.second); });
     };
@@ -34,7 +47,7 @@ void SignedCalls::callChanged(const CallEvent& event)
         signs.lamp = host::CallSigns::Lamp::BLINKS;
     else if (any(isHeld))
         signs.lamp = host::CallSigns::Lamp::LIT;
-    signs.isLifted = any([](CallState state) { return state != CallState::INCOMING && !isHeld(state); });
+    signs.isLifted = mIsLifted || any([](CallState state) { return state != CallState::INCOMING && !isHeld(state); });
     host::CallSigns::show(signs);
 }
 

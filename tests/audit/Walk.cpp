@@ -88,8 +88,8 @@ std::string visit(const Screen& screen, bool fromTheRight)
     const bool hasCalls = std::ranges::any_of(screen.path, [](const Step& step) { return !step.line.empty(); });
     script += "key hook\n" + (hasCalls ? dump("hung-up-" + screen.name) + repeated(3, "wait 300\nkey hook\n") : "");
     // More than there are steps: in a dialer the first one takes back what has been typed, and from a tab left may lead
-    // through all the others.
-    return script + repeated(static_cast<int>(screen.path.size()) + OTHER_TABS, "key left\n");
+    // through all the others; the handset that is lifted without a call has one of its own.
+    return script + repeated(static_cast<int>(screen.path.size()) + OTHER_TABS + 1, "key left\n");
 }
 
 } // namespace

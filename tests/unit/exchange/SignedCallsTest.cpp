@@ -33,6 +33,17 @@ TEST(SignedCallsTest, LampAndHandsetFollowTheCalls)
     EXPECT_EQ(CallSigns::current(), (CallSigns{DARK, false}));
 }
 
+TEST(SignedCallsTest, HandsetIsLiftedWithoutACallAsWell)
+{
+    exchange::SignedCalls calls;
+    calls.setLifted(true);
+    EXPECT_EQ(CallSigns::current(), (CallSigns{DARK, true}));
+    calls.callChanged({.call = 1, .state = CallState::INCOMING, .other = {}});
+    EXPECT_EQ(CallSigns::current(), (CallSigns{BLINKS, true}));
+    calls.setLifted(false);
+    EXPECT_EQ(CallSigns::current(), (CallSigns{BLINKS, false}));
+}
+
 } // namespace
 
 } // namespace test

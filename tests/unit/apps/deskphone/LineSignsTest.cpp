@@ -88,21 +88,22 @@ TEST_F(LineSignsTest, WordsHaveWhatBelongsToThem)
     line.messages = 3;
     line.forwarding.always = "4711";
     EXPECT_EQ(wordsFor(MESSAGE_WAITING, line, keys), "Line.messages 3");
-    EXPECT_EQ(wordsFor(FORWARDED, line, keys), "Call.forwarded 4711");
+    EXPECT_EQ(wordsFor(FORWARDED, line, keys), "Line.forwarded 4711");
     EXPECT_EQ(wordsFor(IDLE, line, keys), "");
 }
 
 TEST_F(LineSignsTest, NothingIsToldOfLinesOnWhichNothingIsTheMatter)
 {
-    EXPECT_EQ(signs({{.number = 1}, {.number = 2}}), LineSigns{.name = "Line.number 1"});
+    EXPECT_EQ(signs({{.number = 1}, {.number = 2}}), (LineSigns{.name = "Line.number 1", .status = "Line.number 1"}));
 }
 
 TEST_F(LineSignsTest, NoticesNameEachLineToWhichNobodyComesThrough)
 {
     const LineSigns told = signs({{.number = 1, .doNotDisturb = true}, {.number = 2, .isRegistered = false}});
-    EXPECT_THAT(told.notices, ElementsAre("Line.number 1  Settings.disturb.title 0", "Line.number 2  "
-                                                                                     "Line.not.registered 0"));
-    EXPECT_EQ(told.state, "Settings.disturb.title 0");
+    EXPECT_THAT(told.notices, ElementsAre("Line.number 1  Settings.disturb 0", "Line.number 2  "
+                                                                               "Line.not.registered 0"));
+    EXPECT_EQ(told.state, "Settings.disturb 0");
+    EXPECT_EQ(told.status, "Line.number 1  Settings.disturb 0");
     EXPECT_TRUE(told.isQuiet);
 }
 

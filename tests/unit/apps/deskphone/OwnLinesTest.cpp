@@ -6,6 +6,7 @@
 
 #include <string>
 
+using deskphone::comesBack;
 using deskphone::OwnLines;
 
 namespace {
@@ -55,6 +56,25 @@ TEST_F(OwnLinesTest, LinesMayBeginWithAnotherNumberThanOne)
     EXPECT_EQ(four.outgoing().number, 4);
     four.choose(7);
     EXPECT_EQ(four.outgoing().number, 7);
+}
+
+TEST_F(OwnLinesTest, CallsComeBackFromTheLineItselfAndFromOthersThatSendThemHere)
+{
+    EXPECT_FALSE(comesBack(lines.all(), 1, "4711"));
+    EXPECT_FALSE(comesBack(lines.all(), 1, ""));
+    EXPECT_TRUE(comesBack(lines.all(), 1, "3301"));
+    EXPECT_FALSE(comesBack(lines.all(), 1, "3302"));
+    ASSERT_TRUE(exchange.setForwarding(2, {.always = "3303"}));
+    EXPECT_FALSE(comesBack(lines.all(), 1, "3302"));
+    ASSERT_TRUE(exchange.setForwarding(3, {.always = "3301"}));
+    EXPECT_TRUE(comesBack(lines.all(), 1, "3302"));
+}
+
+TEST_F(OwnLinesTest, CallsThatTurnInACircleOfOtherLinesRingNowhere)
+{
+    ASSERT_TRUE(exchange.setForwarding(2, {.always = "3303"}));
+    ASSERT_TRUE(exchange.setForwarding(3, {.always = "3302"}));
+    EXPECT_TRUE(comesBack(lines.all(), 1, "3302"));
 }
 
 TEST_F(OwnLinesTest, LineIsFoundAsItIsNow)
