@@ -56,6 +56,14 @@ double step()
     return cpuToFrame(STEPS, [](int) { return PK_DOWN; });
 }
 
+/// The labels have been painted on the way down.
+double stepBack()
+{
+    ShownForm shown;
+    cpuToFrame(STEPS, [](int) { return PK_DOWN; });
+    return cpuToFrame(STEPS, [](int) { return PK_UP; });
+}
+
 double change()
 {
     ShownForm shown;
@@ -67,7 +75,8 @@ double change()
 std::vector<Case> formCases()
 {
     return {{SCREEN, "Form of 200 sliders, built from a worker until shown", "ms", build},
-            {SCREEN, "Form of 200 sliders, one step down to finished frame", "us CPU", step},
+            {SCREEN, "Form of 200 sliders, one step down to a label never shown before", "us CPU", step},
+            {SCREEN, "Form of 200 sliders, one step back to finished frame", "us CPU", stepBack},
             {SCREEN, "Form of 200 sliders, key to finished frame", "us CPU", change}};
 }
 
