@@ -23,11 +23,12 @@ constexpr std::chrono::milliseconds FRAME_INTERVAL{16};
 
 std::atomic<Lcd*> gCurrent{nullptr};
 
+/// Most of a long form is out of sight: what is not in the clip costs a look.
 void drawTree(PegThing& thing, const PegPainter& painter)
 {
-    PegPainter own = painter.paintingFor(thing);
-    if (isEmpty(own.clip()))
+    if (!overlap(thing.Area(), painter.clip()))
         return;
+    PegPainter own = painter.paintingFor(thing);
     thing.Draw(own);
     for (PegThing* child = thing.First(); child != nullptr; child = child->NextSibling())
         drawTree(*child, own);
