@@ -151,6 +151,7 @@ TEST_F(CallsTest, LineIsToldWhenItIsChosenAndCallsGoOutOnIt)
         call = phone.calls.place({"4710", ""});
     });
     user.postCommandAction(nullptr, nullptr);
+    DisplayAPI::kit::Fence().wait();
     phone.settle();
     EXPECT_THAT(told, ElementsAre(2));
     ASSERT_NE(phone.calls.find(call), nullptr);
