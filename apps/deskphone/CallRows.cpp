@@ -119,7 +119,7 @@ void CallRows::showConference(const PhoneCall& call, const PhoneCall& partner)
     auto conference = std::ranges::find_if(mConferences, has);
     if (conference == mConferences.end())
         conference = bringTogether(rowOf(call.id()), rowOf(partner.id()));
-    conference->update(call);
+    conference->update(call, partner);
 }
 
 /// Where the first one stood.

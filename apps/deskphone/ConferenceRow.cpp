@@ -12,10 +12,12 @@ constexpr bool IS_TITLE = true;
 constexpr bool IS_OPEN = false;
 const std::string ONE_MORE = "+1"; ///< in every language
 
-/// A member who has the others wait does not have them wait for each other.
-PhoneCall asWhole(PhoneCall call)
+/// One who has me wait does not have the other one wait as well.
+PhoneCall asWhole(PhoneCall call, const PhoneCall& other)
 {
     using enum exchange::CallState;
+    if (call.state() == other.state())
+        return call;
     if (call.state() == HELD_BY_BOTH)
         call.last.state = HELD_BY_ME;
     else if (call.state() == HELD_BY_OTHER || call.state() == CONNECTED)
@@ -50,9 +52,9 @@ exchange::CallId ConferenceRow::selected() const
     return exchange::NO_CALL;
 }
 
-void ConferenceRow::update(const PhoneCall& title)
+void ConferenceRow::update(const PhoneCall& title, const PhoneCall& other)
 {
-    const PhoneCall call = asWhole(title);
+    const PhoneCall call = asWhole(title, other);
     if (std::exchange(mState, call.state()) == call.state())
         return;
     mItem->setState(iconOf(call));

@@ -24,7 +24,7 @@ public:
     exchange::CallId selected() const;
 
     /// Changes what has changed.
-    void update(const PhoneCall& title);
+    void update(const PhoneCall& title, const PhoneCall& other);
 
 private:
     CallRow& mTitle;
