@@ -5,6 +5,8 @@
 #include "kit/Fence.h"
 #include "unit/apps/deskphone/Parties.h"
 
+#include <functional>
+
 namespace test {
 
 /// The telephone's calls without a screen.
@@ -19,13 +21,18 @@ public:
         DisplayAPI::kit::Fence().wait();
     }
 
-    /// On a thread that answers the user, on which the calls become true.
+    /// Does it on a thread that answers the user, on which the calls become true, and waits for it.
+    static void asUser(const std::function<void()>& work)
+    {
+        deskphone::Ear user([&](DisplayAPI::Command*) { work(); });
+        user.postCommandAction(nullptr, nullptr);
+        DisplayAPI::kit::Fence().wait();
+    }
+
     exchange::CallId place(exchange::LineNumber line, const exchange::Party& party) override
     {
         exchange::CallId call = exchange::NO_CALL;
-        deskphone::Ear user([&](DisplayAPI::Command*) { call = calls.place(line, party); });
-        user.postCommandAction(nullptr, nullptr);
-        DisplayAPI::kit::Fence().wait();
+        asUser([&] { call = calls.place(line, party); });
         return call;
     }
 

@@ -131,6 +131,18 @@ TEST_F(CallsTest, EndOfAllTellsWhatHasHappenedAndEndsWhatLives)
     EXPECT_EQ(ended.size(), 4U);
 }
 
+TEST_F(CallsTest, OneThatIsResumedIsTheUsersBeforeOneThatHeHasDialled)
+{
+    const exchange::CallId held = place("4710", "");
+    phone.say("4710 answers");
+    phone.pass(1000);
+    place("4711", "");
+    ASSERT_TRUE(phone.exchange.resume(held));
+    phone.settle();
+    ASSERT_EQ(phone.calls.find(held)->state(), CallState::RESUMING);
+    EXPECT_EQ(phone.calls.current()->id(), held);
+}
+
 TEST_F(CallsTest, LinesAreToldAsTheyChange)
 {
     std::vector<int> messages;
@@ -146,12 +158,10 @@ TEST_F(CallsTest, LineIsToldWhenItIsChosenAndCallsGoOutOnIt)
     std::vector<int> told;
     phone.calls.addLineListener([&](const exchange::Line& line) { told.push_back(line.number); });
     exchange::CallId call = exchange::NO_CALL;
-    deskphone::Ear user([&](DisplayAPI::Command*) {
+    phone.asUser([&] {
         phone.calls.chooseLine(2);
         call = phone.calls.place({"4710", ""});
     });
-    user.postCommandAction(nullptr, nullptr);
-    DisplayAPI::kit::Fence().wait();
     phone.settle();
     EXPECT_THAT(told, ElementsAre(2));
     ASSERT_NE(phone.calls.find(call), nullptr);
