@@ -4,6 +4,7 @@
 #include "unit/src/Posted.h"
 #include "unit/src/RowFacadeTest.h"
 #include "utilities/TranslationInfo.h"
+#include "widgets/KestrelListBoxWithTitle.h"
 #include "widgets/LineOverviewListItem.h"
 
 using namespace DisplayAPI;
@@ -69,6 +70,16 @@ TEST_P(LineOverviewItemTest, CodeTenPutsANewRowInThePlaceOfTheFormerOne)
     });
     EXPECT_THAT(texts(), ElementsAre("Lab", "4712"));
     EXPECT_EQ(item().sign(), LineOverviewListItem::HAS_FAILED);
+}
+
+TEST_P(LineOverviewItemTest, CodeTenDeletesTheFormerRow)
+{
+    make(LineOverviewItem::IDLE, "Office");
+    KestrelListBoxWithTitle box;
+    box.append(&item());
+    carryOut(from(), *row, 10, [&](GuiRequestEvent& r) { r.stringParam1 = "Lab"; });
+    EXPECT_EQ(box.numItems(), 0);
+    box.clear();
 }
 
 TEST_P(LineOverviewItemTest, CodeTwoDeletesTheRow)
