@@ -131,6 +131,19 @@ TEST_F(CallsTest, EndOfAllTellsWhatHasHappenedAndEndsWhatLives)
     EXPECT_EQ(ended.size(), 4U);
 }
 
+TEST_F(CallsTest, EndOfAllHasNoReasonOfWhatHasFailedBefore)
+{
+    const exchange::CallId call = place("4710", "");
+    phone.say("4710 answers");
+    ASSERT_TRUE(phone.exchange.transferTo(call, "999"));
+    phone.pass(1000);
+    ASSERT_EQ(phone.calls.find(call)->last.reason, exchange::Reason::UNKNOWN_NUMBER);
+    exchange::Reason reason = exchange::Reason::UNKNOWN_NUMBER;
+    phone.calls.addCallListener([&](const PhoneCall& ended) { reason = ended.last.reason; });
+    phone.calls.endAll(phone.clock.now());
+    EXPECT_EQ(reason, exchange::Reason::NONE);
+}
+
 TEST_F(CallsTest, OneThatIsResumedIsTheUsersBeforeOneThatHeHasDialled)
 {
     const exchange::CallId held = place("4710", "");
