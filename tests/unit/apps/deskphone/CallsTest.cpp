@@ -146,10 +146,14 @@ TEST_F(CallsTest, EndOfAllHasNoReasonOfWhatHasFailedBefore)
 
 TEST_F(CallsTest, OneThatIsResumedIsTheUsersBeforeOneThatHeHasDialled)
 {
-    const exchange::CallId held = place("4710", "");
-    phone.say("4710 answers");
-    phone.pass(1000);
-    place("4711", "");
+    const exchange::CallId dialled = place("4711", "");
+    phone.say("4710 calls");
+    phone.settle();
+    const exchange::CallId held = dialled + 1;
+    ASSERT_TRUE(phone.exchange.answer(held));
+    ASSERT_TRUE(phone.exchange.hold(held));
+    phone.settle();
+    EXPECT_EQ(phone.calls.current()->id(), dialled);
     ASSERT_TRUE(phone.exchange.resume(held));
     phone.settle();
     ASSERT_EQ(phone.calls.find(held)->state(), CallState::RESUMING);
