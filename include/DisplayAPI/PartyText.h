@@ -26,6 +26,9 @@ public:
     }
 };
 
+/// The key of what stands for a party of whom nothing is known.
+inline constexpr const char* UNKNOWN_PARTY = "Caller.Unknown.XXX";
+
 /// For facades and private sides. Calls `show` with who the party is or, where nothing is known, with a translation
 /// that says so and that whoever is called owns.
 template <typename Show>
@@ -35,7 +38,7 @@ void showParty(const CallPartyIdentifier& party, Show show)
     if (party.getInterimNameNumber(text, false))
         show(text);
     else
-        show(new TranslationInfo("Caller.Unknown.XXX", LatestTranslator::instance()));
+        show(new TranslationInfo(UNKNOWN_PARTY, LatestTranslator::instance()));
 }
 
 } // namespace DisplayAPI

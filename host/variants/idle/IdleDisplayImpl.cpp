@@ -1,6 +1,7 @@
 #include "host/variants/idle/IdleDisplayImpl.h"
 
 #include "DisplayAPI/IdleDisplay.h"
+#include "DisplayAPI/PartyText.h"
 #include "host/variants/popup/InitialKey.h"
 #include "utilities/ICC.h"
 #include "utilities/TranslationInfo.h"
@@ -12,8 +13,6 @@
 namespace DisplayAPI {
 
 namespace {
-
-constexpr const char* UNKNOWN_KEY = "Caller.Unknown.XXX";
 
 bool isDialled(int key)
 {
@@ -35,7 +34,7 @@ PegString ForwardingText::shown() const
     std::string all = text.text();
     if (hasParty)
         all += (all.empty() ? "" : " ") +
-               party.value_or(TranslationInfo(UNKNOWN_KEY, DisplayablePrivate::commonTranslator).getString());
+               party.value_or(TranslationInfo(UNKNOWN_PARTY, DisplayablePrivate::commonTranslator).getString());
     return ICC::fromUTF8toUNICODE(all);
 }
 
