@@ -21,7 +21,8 @@ LineOverview::LineOverview(Telephone& telephone, Place* parent, Calls& calls, Ca
     setDialer(call);
     for (const Line& line : calls.lines().all()) {
         const std::vector<Text::Argument> number{[number = line.number] { return std::to_string(number); }};
-        const Prefix& prefix = mPrefixes.emplace_back(text("Line.number", number), text("Line.marked", number));
+        const Prefix prefix{text("Line.number", number), text("Line.marked", number)};
+        mPrefixes.push_back(prefix);
         const std::string& name = isSmallPanel() ? WITHOUT_NUMBER : line.party.number;
         list().append(mRows.emplace_back(line.number, name, lookOf(line, prefix)).item());
     }

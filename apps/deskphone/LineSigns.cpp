@@ -12,49 +12,49 @@ namespace deskphone {
 using exchange::CallState;
 using exchange::Line;
 using LineState = DisplayAPI::LineOverviewItem::LineState;
-using enum DisplayAPI::LineOverviewItem::LineState;
+using DisplayAPI::LineOverviewItem;
 
 namespace {
 
 /// What a line's calls make of it, the first one that there is.
 constexpr std::array<std::pair<CallState, LineState>, 11> STATES_BY_CALL{{
-    {CallState::INCOMING, RINGING},
-    {CallState::CONFERENCE, CONFERENCE},
-    {CallState::CONNECTED, IN_USE},
-    {CallState::RESUMING, IN_USE},
-    {CallState::HELD_BY_OTHER, HELD_BY_OTHER},
-    {CallState::DIALLING, DIALLING},
-    {CallState::PROCEEDING, DIALLING},
-    {CallState::RINGING_BACK, DIALLING},
-    {CallState::HELD_BY_ME, HELD},
-    {CallState::HELD_BY_BOTH, HELD},
-    {CallState::TRANSFERRING, HELD},
+    {CallState::INCOMING, LineOverviewItem::RINGING},
+    {CallState::CONFERENCE, LineOverviewItem::CONFERENCE},
+    {CallState::CONNECTED, LineOverviewItem::IN_USE},
+    {CallState::RESUMING, LineOverviewItem::IN_USE},
+    {CallState::HELD_BY_OTHER, LineOverviewItem::HELD_BY_OTHER},
+    {CallState::DIALLING, LineOverviewItem::DIALLING},
+    {CallState::PROCEEDING, LineOverviewItem::DIALLING},
+    {CallState::RINGING_BACK, LineOverviewItem::DIALLING},
+    {CallState::HELD_BY_ME, LineOverviewItem::HELD},
+    {CallState::HELD_BY_BOTH, LineOverviewItem::HELD},
+    {CallState::TRANSFERRING, LineOverviewItem::HELD},
 }};
 
 LineState stateWithoutCalls(const Line& line)
 {
     if (!line.isRegistered)
-        return NOT_REGISTERED;
+        return LineOverviewItem::NOT_REGISTERED;
     if (line.doNotDisturb)
-        return DO_NOT_DISTURB;
+        return LineOverviewItem::DO_NOT_DISTURB;
     if (!line.forwarding.always.empty())
-        return FORWARDED;
-    return line.messages > 0 ? MESSAGE_WAITING : IDLE;
+        return LineOverviewItem::FORWARDED;
+    return line.messages > 0 ? LineOverviewItem::MESSAGE_WAITING : LineOverviewItem::IDLE;
 }
 
 std::string keyOf(LineState state)
 {
     switch (state) {
-    case DIALLING: return "Call.dialling";
-    case RINGING: return "Call.ringing.back";
-    case IN_USE: return "Line.in.use";
-    case HELD: return "Call.held.by.me";
-    case HELD_BY_OTHER: return "Call.held.by.other";
-    case CONFERENCE: return "Call.conference";
-    case FORWARDED: return "Line.forwarded";
-    case MESSAGE_WAITING: return "Line.messages";
-    case DO_NOT_DISTURB: return "Settings.disturb";
-    case NOT_REGISTERED: return "Line.not.registered";
+    case LineOverviewItem::DIALLING: return "Call.dialling";
+    case LineOverviewItem::RINGING: return "Call.ringing.back";
+    case LineOverviewItem::IN_USE: return "Line.in.use";
+    case LineOverviewItem::HELD: return "Call.held.by.me";
+    case LineOverviewItem::HELD_BY_OTHER: return "Call.held.by.other";
+    case LineOverviewItem::CONFERENCE: return "Call.conference";
+    case LineOverviewItem::FORWARDED: return "Line.forwarded";
+    case LineOverviewItem::MESSAGE_WAITING: return "Line.messages";
+    case LineOverviewItem::DO_NOT_DISTURB: return "Settings.disturb";
+    case LineOverviewItem::NOT_REGISTERED: return "Line.not.registered";
     default: return {};
     }
 }
@@ -87,7 +87,8 @@ std::string wordsFor(LineState state, const Line& line, TranslatorIfc& translato
     const std::string key = keyOf(state);
     if (key.empty())
         return {};
-    return words(translator, key, state == FORWARDED ? line.forwarding.always : std::to_string(line.messages));
+    return words(translator, key,
+                 state == LineOverviewItem::FORWARDED ? line.forwarding.always : std::to_string(line.messages));
 }
 
 std::string nameOf(const Line& line, TranslatorIfc& translator)
@@ -106,7 +107,7 @@ LineSigns signsOf(const std::vector<Line>& lines, const Line& outgoing, Translat
         signs.forwards = signs.forwards || forwardsAny(line);
         signs.isQuiet = signs.isQuiet || line.doNotDisturb;
         const LineState state = stateWithoutCalls(line);
-        if (state == NOT_REGISTERED || state == DO_NOT_DISTURB)
+        if (state == LineOverviewItem::NOT_REGISTERED || state == LineOverviewItem::DO_NOT_DISTURB)
             signs.notices.push_back(
                 told(nameOf(line, translator), line, isSmallPanel(), wordsFor(state, line, translator)));
     }

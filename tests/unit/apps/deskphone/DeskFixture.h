@@ -52,6 +52,8 @@ public:
         return exchange.place(line, party.number);
     }
 
+    DisplayAPI::Display& display() { return mPhone.display(); }
+
     /// The displayables as text, from the lowest one to the one on top, when it settled last.
     const std::string& shows() const { return mShown; }
 
