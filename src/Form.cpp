@@ -1,6 +1,7 @@
 #include "DisplayAPI/Form.h"
 
 #include "DisplayAPI/Command.h"
+#include "DisplayAPI/DisplayablePrivate.h"
 #include "DisplayAPI/FormPrivateIfc.h"
 #include "DisplayAPI/Item.h"
 #include "DisplayAPI/ItemPrivateIfc.h"
@@ -53,10 +54,7 @@ Form::Form(FormProportionType proportion)
     Ops::call<CREATE>(*this, mImplementation, proportion);
 }
 
-Form::Form(FormPrivateIfc* implementation) : mImplementation(implementation)
-{
-    name = "Form";
-}
+Form::Form(FormPrivateIfc* implementation) : mImplementation(implementation) {}
 
 Form::~Form()
 {
@@ -145,6 +143,7 @@ void Form::appendItem(Item* item)
 {
     if (item == nullptr)
         return;
+    takeFromFormer(item);
     item->setParent(this);
     if (mImplementation != nullptr) {
         ItemPrivateIfc* const side = item->getPrivateImpl();
@@ -155,6 +154,14 @@ void Form::appendItem(Item* item)
         items.push_back(item);
 }
 
+/// One form deletes it.
+void Form::takeFromFormer(Item* item)
+{
+    auto* const former = dynamic_cast<Form*>(item->getParent());
+    if (former != nullptr && former != this)
+        std::erase(former->items, item);
+}
+
 void Form::insertItem(Item*, int) {}
 
 int Form::removeItem(unsigned int)
@@ -162,16 +169,21 @@ int Form::removeItem(unsigned int)
     return 0;
 }
 
-/// An item is none of the form's any more while it goes: whoever hears of that may ask for the others.
+/// An item is none of the form's any more while it goes: whoever hears of that may ask for the others. Whoever observes
+/// the screen is told once, and may delete the form.
 void Form::clear()
 {
     onlyOnGuiThread("Form::clear()");
+    const bool wasEmpty = items.empty();
     while (!items.empty()) {
         Item* const last = items.back();
         items.pop_back();
         delete last;
     }
     commands.clear();
+    auto* const side = dynamic_cast<DisplayablePrivate*>(mImplementation);
+    if (side != nullptr && !wasEmpty)
+        side->generateDisplayChangedEvent();
 }
 
 Item* Form::getSelected()
@@ -192,11 +204,12 @@ void Form::setTitle(const std::string& title)
 /// On the recorded GUI thread nobody else could run the queue.
 void Form::setTitle(TranslationInfo* title)
 {
-    if (isRecordedGuiThread())
-        return Ops::call<SET_TITLE_TRANSLATED>(*this, mImplementation, title);
-    auto* const record = new GuiRequestEvent(this, SET_TITLE_TRANSLATED);
+    auto record = std::make_unique<GuiRequestEvent>(this, SET_TITLE_TRANSLATED);
     record->ptrParam1 = title;
-    postEvent(record);
+    if (isRecordedGuiThread())
+        processGuiRequest(*record);
+    else
+        postEvent(record.release());
 }
 
 std::string Form::title()

@@ -114,6 +114,7 @@ private:
     void create(FormProportionType proportion);
     void destroy();
     void appendItem(Item* item);
+    void takeFromFormer(Item* item);
     void appendCommand(Command* command);
     void forgetCommands();
 

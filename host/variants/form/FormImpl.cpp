@@ -3,10 +3,13 @@
 #include "DisplayAPI/Command.h"
 #include "DisplayAPI/Item.h"
 #include "DisplayAPI/ItemPrivateIfc.h"
+#include "DisplayAPI/MenuCommand.h"
 #include "DisplayAPI/Rectangles.h"
 #include "DisplayAPI/ScreenText.h"
 #include "host/widgets/form/ChoicePopup.h"
 #include "utilities/ICC.h"
+#include "variants/form/SelectionFieldPrivate.h"
+#include "widgets/KestrelApplication.h"
 
 #include <algorithm>
 #include <utility>
@@ -51,7 +54,8 @@ int FormSide::Impl::Message(const PegMessage& message)
 {
     if (message.wType != PM_APPLICATION_CHANGED)
         return PegThing::Message(message);
-    languageChanged(ICC::fromUNICODEtoASCII(*static_cast<const PegString*>(message.pData)));
+    if (message.iData == KestrelApplication::LOCALE)
+        languageChanged(ICC::fromUNICODEtoASCII(*static_cast<const PegString*>(message.pData)));
     return 0;
 }
 
@@ -65,13 +69,21 @@ void FormSide::Impl::languageChanged(const std::string& locale)
         for (Item* item : owner->getItems())
             if (ItemPrivateIfc* const side = item->getPrivateImpl())
                 side->localeChanged(locale);
+    window->turn();
     changed();
+}
+
+bool FormSide::Impl::raise(Command* command)
+{
+    const std::weak_ptr<void> life = mLife;
+    self.postCommand(command, owner);
+    return !life.expired();
 }
 
 void FormSide::Impl::currentChanged()
 {
-    changed();
-    self.postCommand(Form::CURRENT_ITEM_CHANGED_COMMAND(), owner);
+    if (raise(Form::CURRENT_ITEM_CHANGED_COMMAND()))
+        changed();
 }
 
 void FormSide::Impl::valueChanged(host::FormField& field)
@@ -79,14 +91,33 @@ void FormSide::Impl::valueChanged(host::FormField& field)
     if (owner != nullptr)
         if (Item* const item = itemOf(&field))
             owner->callListeners(item);
-    self.postCommand(Form::SELECTION_CHANGED_COMMAND(), owner);
-    changed();
+    if (raise(Form::SELECTION_CHANGED_COMMAND()))
+        changed();
 }
 
 void FormSide::Impl::choicesShown(host::FormField&)
 {
-    self.postCommand(Form::SELECTION_DISPLAY_COMMAND(), owner);
-    changed();
+    if (raise(Form::SELECTION_DISPLAY_COMMAND()))
+        changed();
+}
+
+/// What is raised first may be the end of the field, which is none of the form's then.
+void FormSide::Impl::chosen(host::FormField& field, bool isOther)
+{
+    if (!informOfChoice(field))
+        return;
+    if (isOther)
+        valueChanged(field);
+    else
+        changed();
+}
+
+bool FormSide::Impl::informOfChoice(const host::FormField& field)
+{
+    Item* const item = itemOf(&field);
+    auto* const side = item != nullptr ? dynamic_cast<SelectionFieldSide*>(item->getPrivateImpl()) : nullptr;
+    Command* const command = side != nullptr ? side->commandForOk() : nullptr;
+    return command == nullptr || raise(command);
 }
 
 /// One that has been deleted meanwhile is none any more.
@@ -115,7 +146,7 @@ void FormSide::Impl::append(PegThing* item)
 
 void FormSide::Impl::select(Item* item)
 {
-    if (window == nullptr)
+    if (window == nullptr || owner == nullptr || std::ranges::count(owner->getItems(), item) == 0)
         return;
     window->setCurrent(dynamic_cast<const host::FormField*>(widgetOf(item)));
     changed();

@@ -8,6 +8,8 @@
 #include "variants/form/FormPrivate.h"
 #include "widgets/ApplicationWatch.h"
 
+#include <memory>
+
 namespace DisplayAPI {
 
 /// A form's data, and what hears its window and the language.
@@ -19,6 +21,7 @@ struct FormSide::Impl final : public PegThing, public host::FormListener {
     void currentChanged() override;
     void valueChanged(host::FormField& field) override;
     void choicesShown(host::FormField& field) override;
+    void chosen(host::FormField& field, bool isOther) override;
     void lookChanged() override { changed(); }
     void commandChosen(int command) override;
     void formKey(int key) override;
@@ -46,12 +49,16 @@ struct FormSide::Impl final : public PegThing, public host::FormListener {
     bool isReadOnly = false;
 
 private:
+    /// False where the form is gone afterwards.
+    bool raise(Command* command);
+    bool informOfChoice(const host::FormField& field);
     void languageChanged(const std::string& locale);
     std::string statusAsText(const std::vector<DisplayAPIUtils::Rect>& visible) const;
     std::string fieldsAsText(const std::vector<DisplayAPIUtils::Rect>& visible) const;
     std::string choicesAsText(const std::vector<DisplayAPIUtils::Rect>& visible) const;
 
     const ApplicationWatch mApplication{*this};
+    const std::shared_ptr<void> mLife = std::make_shared<int>();
 };
 
 } // namespace DisplayAPI

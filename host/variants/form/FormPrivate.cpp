@@ -136,6 +136,7 @@ void FormSide::setReadonly(bool on)
     mImpl->isReadOnly = on;
     if (mImpl->window != nullptr)
         mImpl->window->setReadOnly(on);
+    mImpl->changed();
 }
 
 bool FormSide::isReadonly()

@@ -22,6 +22,14 @@ struct ItemField {
     {
         label = std::move(text);
         showLabel();
+        changed();
+    }
+
+    /// The last thing that an operation does: whoever is told may delete the item.
+    void changed()
+    {
+        if (field != nullptr)
+            field->tellLookChanged();
     }
 
     void showLabel()

@@ -1,7 +1,5 @@
 #include "variants/form/SelectionFieldPrivate.h"
 
-#include "DisplayAPI/DisplayablePrivate.h"
-#include "DisplayAPI/Form.h"
 #include "DisplayAPI/MenuCommand.h"
 #include "host/variants/form/ItemField.h"
 #include "host/variants/menu/CommandTexts.h"
@@ -14,10 +12,8 @@
 namespace DisplayAPI {
 
 struct SelectionFieldSide::Impl : ItemField<host::ChoiceField> {
-    Impl(TranslatedText itemLabel, MenuCommand* shown, Form* itsForm)
-        : ItemField(std::move(itemLabel)), contents(shown), form(itsForm)
+    Impl(TranslatedText itemLabel, MenuCommand* shown) : ItemField(std::move(itemLabel)), contents(shown)
     {
-        field->setChosen([this](int choice) { inform(choice); });
         showContents();
     }
 
@@ -30,12 +26,11 @@ struct SelectionFieldSide::Impl : ItemField<host::ChoiceField> {
     }
 
     void showContents();
+    void setContents(MenuCommand* command);
     void translate();
-    void inform(int choice);
 
     CommandTexts texts;
     MenuCommand* contents;
-    Form* const form;
     std::vector<MenuCommand*> choices;
     bool informs = false;
 };
@@ -45,10 +40,16 @@ void SelectionFieldSide::Impl::showContents()
 {
     if (field == nullptr)
         return;
-    if (contents == nullptr)
-        field->setContents({});
-    else if (auto text = texts.textOf(contents))
+    if (auto text = texts.textOf(contents))
         field->setContents(std::move(*text));
+}
+
+void SelectionFieldSide::Impl::setContents(MenuCommand* command)
+{
+    contents = command;
+    if (field != nullptr)
+        field->setContents({});
+    showContents();
 }
 
 void SelectionFieldSide::Impl::translate()
@@ -60,20 +61,11 @@ void SelectionFieldSide::Impl::translate()
             field->setText(static_cast<int>(i), std::move(*text));
 }
 
-/// The form that it is made for raises it, where the field stands in one.
-void SelectionFieldSide::Impl::inform(int choice)
-{
-    MenuCommand* const chosen = at(choice);
-    if (!informs || chosen == nullptr || form == nullptr || field->Parent() == nullptr)
-        return;
-    if (auto* const side = dynamic_cast<DisplayablePrivate*>(form->getPrivateImpl()))
-        side->postCommand(chosen, form);
-}
-
-/// Selection fields look alike on both panels; what differs is the form's.
-SelectionFieldSide::SelectionFieldSide(TranslatedText label, PhonebookItem::IconType icon, MenuCommand* contents,
-                                       Form* form, Panel)
-    : mImpl(std::make_unique<Impl>(std::move(label), contents, form))
+/// Selection fields look alike on both panels; what differs is the form's. The one that a field stands in raises its
+/// choices, also where it is not the one that it has been made for.
+SelectionFieldSide::SelectionFieldSide(TranslatedText label, PhonebookItem::IconType icon, MenuCommand* contents, Form*,
+                                       Panel)
+    : mImpl(std::make_unique<Impl>(std::move(label), contents))
 {
     mImpl->field->setIcon(host::phonebookIcon(icon));
 }
@@ -126,14 +118,15 @@ void SelectionFieldSide::localeChanged(std::string)
 
 void SelectionFieldSide::setFieldContents(MenuCommand* command)
 {
-    mImpl->contents = command;
-    mImpl->showContents();
+    mImpl->setContents(command);
+    mImpl->changed();
 }
 
 void SelectionFieldSide::setSelectionIndex(int index)
 {
     if (mImpl->field != nullptr)
         mImpl->field->select(index);
+    mImpl->changed();
 }
 
 int SelectionFieldSide::getSelectionIndex()
@@ -159,6 +152,7 @@ void SelectionFieldSide::appendSelection(MenuCommand* command)
     mImpl->choices.push_back(command);
     if (mImpl->field != nullptr)
         mImpl->field->append(mImpl->texts.entryOf(command, nullptr, false).value_or(host::CommandColumn::Entry()));
+    mImpl->changed();
 }
 
 void SelectionFieldSide::clearSelections(MenuCommand* contents)
@@ -167,7 +161,8 @@ void SelectionFieldSide::clearSelections(MenuCommand* contents)
     if (mImpl->field != nullptr)
         mImpl->field->clear();
     if (contents != nullptr)
-        setFieldContents(contents);
+        mImpl->setContents(contents);
+    mImpl->changed();
 }
 
 void SelectionFieldSide::setInformAppOnOk(bool on)
@@ -179,6 +174,7 @@ void SelectionFieldSide::setReadOnlyMode(bool on)
 {
     if (mImpl->field != nullptr)
         mImpl->field->setReadOnly(on);
+    mImpl->changed();
 }
 
 bool SelectionFieldSide::getReadOnlyMode()
@@ -195,11 +191,17 @@ void SelectionFieldSide::displayCurrentSelection(bool on)
 {
     if (mImpl->field != nullptr)
         mImpl->field->setShowsSelection(on);
+    mImpl->changed();
 }
 
 void SelectionFieldSide::setLabel(const std::string& label)
 {
     mImpl->setLabel(TranslatedText(label));
+}
+
+MenuCommand* SelectionFieldSide::commandForOk()
+{
+    return mImpl->informs ? getSelectionCommand() : nullptr;
 }
 
 } // namespace DisplayAPI

@@ -84,6 +84,7 @@ void SliderItemSide::setMaxValue(const std::string& value)
     const auto number = numberOf("setMaxValue", value, &any);
     if (number && mImpl->field != nullptr)
         mImpl->field->setMost(*number);
+    mImpl->changed();
 }
 
 void SliderItemSide::setMinValue(const std::string& value)
@@ -91,6 +92,7 @@ void SliderItemSide::setMinValue(const std::string& value)
     const auto number = numberOf("setMinValue", value, &any);
     if (number && mImpl->field != nullptr)
         mImpl->field->setLeast(*number);
+    mImpl->changed();
 }
 
 std::string SliderItemSide::getValue()
@@ -103,6 +105,7 @@ void SliderItemSide::setValue(const std::string& value)
     const auto number = numberOf("setValue", value, &any);
     if (number && mImpl->field != nullptr)
         mImpl->field->setNumber(*number);
+    mImpl->changed();
 }
 
 void SliderItemSide::setLabel(const std::string& label)
@@ -126,6 +129,7 @@ void SliderItemSide::setReadOnly(bool on)
 {
     if (mImpl->field != nullptr)
         mImpl->field->setReadOnly(on);
+    mImpl->changed();
 }
 
 bool SliderItemSide::isReadOnly()

@@ -23,6 +23,7 @@ void ChoiceField::append(CommandColumn::Entry choice)
 {
     close();
     mChoices.push_back(std::move(choice));
+    Invalidate();
 }
 
 void ChoiceField::setText(int choice, PegString text)
@@ -115,6 +116,13 @@ void ChoiceField::lockChanged()
         close();
 }
 
+/// The keys are another field's now, or the bar's.
+void ChoiceField::focusChanged()
+{
+    if (!hasFocus())
+        close();
+}
+
 /// What the choices tell.
 int ChoiceField::Message(const PegMessage& message)
 {
@@ -135,12 +143,7 @@ void ChoiceField::choose(int choice)
     close();
     const bool isOther = choice != mSelected;
     select(choice);
-    if (mChosen)
-        mChosen(choice);
-    if (isOther)
-        tellValueChanged();
-    else
-        holder()->lookChanged();
+    holder()->chosen(*this, isOther);
 }
 
 void ChoiceField::drawValue(PegPainter& painter, const PegRect& cell) const

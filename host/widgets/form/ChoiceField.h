@@ -3,7 +3,6 @@
 #include "host/widgets/form/FormField.h"
 #include "host/widgets/menu/CommandColumn.h"
 
-#include <functional>
 #include <vector>
 
 namespace host {
@@ -33,9 +32,6 @@ public:
     /// -1 where the choices are not shown.
     int highlighted() const;
 
-    /// Called when the user has chosen with OK, before the change is told. It does not delete the field.
-    void setChosen(std::function<void(int choice)> chosen) { mChosen = std::move(chosen); }
-
     PegString value() const override;
     bool key(int key) override;
     int Message(const PegMessage& message) override;
@@ -43,6 +39,8 @@ public:
 protected:
     void drawValue(PegPainter& painter, const PegRect& cell) const override;
     void lockChanged() override;
+    void focusChanged() override;
+    void leaving() override { close(); }
 
 private:
     bool step(bool forward);
@@ -52,7 +50,6 @@ private:
 
     std::vector<CommandColumn::Entry> mChoices;
     PegString mContents;
-    std::function<void(int choice)> mChosen;
     ChoicePopup* mPopup = nullptr; ///< the form's; null while the choices are not shown
     int mSelected = -1;
     bool mShowsSelection = true;

@@ -25,8 +25,11 @@ void FormField::setLabelShare(int percent)
 
 void FormField::setLabel(PegString label)
 {
+    const bool wasAbove = isLabelAbove();
     mLabel = std::move(label);
     Invalidate();
+    if (mHolder != nullptr && isLabelAbove() != wasAbove)
+        mHolder->heightsChanged();
 }
 
 void FormField::setIcon(const Icon* icon)
@@ -47,6 +50,13 @@ void FormField::setFormReadOnly(bool on)
     mFormReadOnly = on;
     lockChanged();
     Invalidate();
+}
+
+void FormField::setHolder(FormFieldHolder* holder)
+{
+    if (mHolder != nullptr && mHolder != holder)
+        leaving();
+    mHolder = holder;
 }
 
 bool FormField::isLabelAbove() const
@@ -106,6 +116,12 @@ void FormField::tellValueChanged()
 {
     if (mHolder != nullptr)
         mHolder->valueChanged(*this);
+}
+
+void FormField::tellLookChanged()
+{
+    if (mHolder != nullptr)
+        mHolder->lookChanged();
 }
 
 } // namespace host

@@ -17,6 +17,9 @@ struct FormFieldListener {
     /// He sees what can be chosen.
     virtual void choicesShown(FormField& field) = 0;
 
+    /// He has chosen with OK, another value than before or the same.
+    virtual void chosen(FormField& field, bool isOther) = 0;
+
     /// Something else that the fields show has changed.
     virtual void lookChanged() = 0;
 
@@ -28,6 +31,9 @@ protected:
 struct FormFieldHolder : FormFieldListener {
     /// Lies over the form and gets all keys. The form's property; null takes off and deletes what is there.
     virtual void open(Field* choices) = 0;
+
+    /// A field needs more room than before, or less.
+    virtual void heightsChanged() = 0;
 
 protected:
     ~FormFieldHolder() = default;
@@ -53,7 +59,10 @@ public:
     bool isLocked() const { return mReadOnly || mFormReadOnly; }
 
     /// Not owned, and lives as long as the field stands in it; null is none.
-    void setHolder(FormFieldHolder* holder) { mHolder = holder; }
+    void setHolder(FormFieldHolder* holder);
+
+    /// Somebody else than the user has changed what it shows. The last thing that he does: the field may be gone.
+    void tellLookChanged();
 
     /// What is shown of the value.
     virtual PegString value() const = 0;
@@ -75,6 +84,9 @@ protected:
 
     /// Called when somebody has said whether the user can only read.
     virtual void lockChanged() {}
+
+    /// Called when it goes to another holder, while it has its former one.
+    virtual void leaving() {}
 
 private:
     struct Parts {

@@ -32,8 +32,8 @@ int barHeight()
 } // namespace
 
 FormWindow::FormWindow(int labelShare)
-    : PegWindow(FF_NONE), mStatus(new StatusStrip([this] { layOut(); })), mColumn(new ScrollingColumn),
-      mBar(new CommandBar), mLabelShare(labelShare)
+    : PegWindow(FF_NONE), mStatus(new StatusStrip([this] { layOut(); })),
+      mColumn(new ScrollingColumn([this] { setPlace(mPlace); })), mBar(new CommandBar), mLabelShare(labelShare)
 {
     for (PegThing* part :
          {static_cast<PegThing*>(mStatus), static_cast<PegThing*>(mColumn), static_cast<PegThing*>(mBar)})
@@ -93,6 +93,18 @@ void FormWindow::fitBar()
     setPlace(mPlace);
 }
 
+void FormWindow::turn()
+{
+    heightsChanged();
+    Invalidate();
+}
+
+void FormWindow::heightsChanged()
+{
+    mColumn->heightsChanged();
+    layOut();
+}
+
 FormWindow::Place FormWindow::place() const
 {
     if (mBar->count() == 0)
@@ -106,6 +118,13 @@ void FormWindow::setPlace(Place place)
     mColumn->setFocus(this->place() == FIELDS);
     mBar->setFocus(this->place() == COMMANDS);
     layOut();
+}
+
+/// The user's own step.
+void FormWindow::go(Place place)
+{
+    setPlace(place);
+    lookChanged();
 }
 
 bool FormWindow::hasRoomForTitle(int height) const
@@ -150,9 +169,19 @@ void FormWindow::layOut()
         mColumn->Resize(where.fields);
     if (mOpened != nullptr && mOpened->Area() != where.opened)
         mOpened->Resize(where.opened);
-    const PegRect bar = isEmpty(where.bar) ? where.bar
-                                           : rectAt(where.bar.left, where.bar.bottom + 1 - Field::lineHeight(),
-                                                    widthOf(where.bar), Field::lineHeight());
+    const PegRect formerTitle = std::exchange(mTitleArea, where.title);
+    if (formerTitle != where.title) {
+        Invalidate(formerTitle);
+        Invalidate(where.title);
+    }
+    layOutBar(where.bar);
+}
+
+void FormWindow::layOutBar(const PegRect& place)
+{
+    const PegRect bar = isEmpty(place) ? place
+                                       : rectAt(place.left, place.bottom + 1 - Field::lineHeight(), widthOf(place),
+                                                Field::lineHeight());
     if (mBar->Area() == bar)
         return;
     mBar->Resize(bar);
@@ -169,7 +198,9 @@ int FormWindow::Message(const PegMessage& message)
     case PM_KEYRELEASE: mColumn->released(message.iData); break;
     case PM_CURRENT_CHANGED:
         layOut();
-        if (mListener != nullptr && message.pSource == mColumn)
+        if (message.pSource != mColumn)
+            lookChanged();
+        else if (mListener != nullptr)
             mListener->currentChanged();
         break;
     case PM_CLICKED:
@@ -187,11 +218,12 @@ bool FormWindow::key(int key)
         return mOpened->key(key);
     if (place() == COMMANDS)
         return keyInBar(key);
+    mPlace = FIELDS;
     if (mColumn->key(key))
         return true;
     if ((key != PK_UP && key != PK_DOWN) || mBar->count() == 0)
         return false;
-    setPlace(COMMANDS);
+    go(COMMANDS);
     return true;
 }
 
@@ -201,7 +233,7 @@ bool FormWindow::keyInBar(int key)
         return true;
     if ((key != PK_UP && key != PK_DOWN) || !mColumn->takesFocus())
         return false;
-    setPlace(FIELDS);
+    go(FIELDS);
     return true;
 }
 
@@ -215,6 +247,12 @@ void FormWindow::choicesShown(FormField& field)
 {
     if (mListener != nullptr)
         mListener->choicesShown(field);
+}
+
+void FormWindow::chosen(FormField& field, bool isOther)
+{
+    if (mListener != nullptr)
+        mListener->chosen(field, isOther);
 }
 
 void FormWindow::lookChanged()

@@ -60,6 +60,9 @@ public:
     /// The bar's commands have changed.
     void fitBar();
 
+    /// Texts may be read from the other side than before.
+    void turn();
+
     /// Not owned; null is nobody.
     void setListener(FormListener* listener) { mListener = listener; }
 
@@ -83,25 +86,30 @@ private:
     PegRect openedArea() const;
     bool hasRoomForTitle(int height) const;
     void layOut();
+    void layOutBar(const PegRect& place);
     FormField* fieldAt(int index) const { return static_cast<FormField*>(mColumn->at(index)); }
 
     /// Where there is nothing to go to elsewhere the user stays where there is.
     Place place() const;
     void setPlace(Place place);
+    void go(Place place);
 
     void drawTitle(PegPainter& painter, const PegRect& bar) const;
     bool key(int key);
     bool keyInBar(int key);
     void valueChanged(FormField& field) override;
     void choicesShown(FormField& field) override;
+    void chosen(FormField& field, bool isOther) override;
     void lookChanged() override;
     void open(Field* choices) override;
+    void heightsChanged() override;
 
     StatusStrip* mStatus;
     ScrollingColumn* mColumn;
     CommandBar* mBar;
     Field* mOpened = nullptr;
     PegString mTitle;
+    PegRect mTitleArea; ///< where it has been painted
     FormListener* mListener = nullptr;
     const int mLabelShare;
     Place mPlace = FIELDS;

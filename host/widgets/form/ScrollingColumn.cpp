@@ -59,6 +59,7 @@ void ScrollingColumn::ChildRemoved(PegThing* child)
         return;
     takeOut(index);
     place();
+    mRemoved();
 }
 
 void ScrollingColumn::takeOut(int index)
@@ -85,6 +86,7 @@ void ScrollingColumn::clear()
     for (Field* field : std::exchange(mFields, {}))
         delete field;
     place();
+    mRemoved();
 }
 
 int ScrollingColumn::nextTakingFocus(int from, int by) const

@@ -2,6 +2,8 @@
 
 #include "host/widgets/form/Field.h"
 
+#include <functional>
+#include <utility>
 #include <vector>
 
 namespace host {
@@ -11,6 +13,9 @@ namespace host {
 /// Cost: a step, an append and the removal of the last field depend on what is in sight, and not on how many there are.
 class ScrollingColumn : public Field {
 public:
+    /// `removed` is called when a field has gone, by whomever.
+    explicit ScrollingColumn(std::function<void()> removed = [] {}) : mRemoved(std::move(removed)) {}
+
     /// The field becomes the column's property. The first one that takes the focus gets it. One that is in the column
     /// goes to its end, with the focus if it has it.
     void append(Field* field);
@@ -57,6 +62,7 @@ private:
     PegRect arrowArea(bool upper) const;
     void takeOut(int index);
 
+    const std::function<void()> mRemoved;
     std::vector<Field*> mFields;
     std::vector<Field*> mInSight;
     int mFocused = -1;

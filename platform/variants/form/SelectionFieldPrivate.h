@@ -35,6 +35,9 @@ public:
     void displayCurrentSelection(bool on) override;
     void setLabel(const std::string& label) override;
 
+    /// What its form raises when the user has chosen; null where the application does not want to be informed.
+    MenuCommand* commandForOk();
+
 protected:
     SelectionFieldSide(TranslatedText label, PhonebookItem::IconType icon, MenuCommand* contents, Form* form,
                        Panel panel);

@@ -12,6 +12,8 @@
 #include "utilities/TranslationInfo.h"
 #include "variants/form/FormPrivate.h"
 
+#include <atomic>
+
 using namespace DisplayAPI;
 using doubles::callText;
 using doubles::TestItem;
@@ -227,6 +229,55 @@ TEST_P(FormTest, SideIsDestroyedOnce)
     EXPECT_EQ(form->getPrivateImpl(), nullptr);
     carryOut(GetParam(), *form, 1);
     EXPECT_THAT(reached(), ElementsAre("FormPrivate::destroy()", "~FormPrivate()", "~first()"));
+}
+
+TEST_P(FormTest, SideThatIsAdoptedGivesNoName)
+{
+    std::string name;
+    run([&] {
+        form = std::make_unique<Form>(static_cast<FormPrivateIfc*>(nullptr));
+        name = form->getName();
+    });
+    EXPECT_EQ(name, "Displayable with no name");
+}
+
+TEST_P(FormTest, ItemThatIsAppendedToAnotherFormIsDeletedOnce)
+{
+    madeWith({"first", "second"});
+    Item* const first = form->getItems().front();
+    std::unique_ptr<Form> other;
+    run([&] {
+        other = std::make_unique<Form>(Form::HALF_AND_HALF);
+        other->append(first);
+        other->append(first);
+    });
+    EXPECT_EQ(form->getItems().size(), 1u);
+    EXPECT_THAT(other->getItems(), ElementsAre(first));
+    run([&] { form.reset(); });
+    EXPECT_EQ(recorder.count("~first()"), 0);
+    run([&] { other.reset(); });
+    EXPECT_EQ(recorder.count("~first()"), 1);
+}
+
+/// On every thread: where it is the GUI thread itself, in the call.
+TEST_P(FormTest, TranslatedTitleIsARecord)
+{
+    struct Noting : Form {
+        Noting() : Form(HALF_AND_HALF) {}
+        void processGuiRequest(GuiRequestEvent& request) override
+        {
+            if (request.getType() == 6)
+                ++titles;
+            Form::processGuiRequest(request);
+        }
+        std::atomic<int> titles{0};
+    };
+    TranslationInfo title("Key", nullptr);
+    std::unique_ptr<Noting> noting;
+    run([&] { noting = std::make_unique<Noting>(); });
+    run([&] { noting->setTitle(&title); });
+    EXPECT_EQ(noting->titles, 1);
+    run([&] { noting.reset(); });
 }
 
 INSTANTIATE_FROM_BOTH_THREADS(FormTest);

@@ -228,6 +228,87 @@ TEST_P(FormPrivateTest, StatusLinesStandAboveTheTitleWhereThereIsRoom)
     EXPECT_EQ(shown(), asText("caption:Entry\n" + (isSmall() ? "" : lines) + item("One", "0")));
 }
 
+TEST_P(FormPrivateTest, FieldsTurnWithTheDirectionOfReading)
+{
+    const Digit* const digit = append("One");
+    open();
+    const int left = digit->field->Area().left;
+    changeLanguage("ar");
+    EXPECT_GT(digit->field->Area().left, left);
+}
+
+TEST_P(FormPrivateTest, ClearedFormTellsOnce)
+{
+    append("One");
+    append("Two");
+    open();
+    EXPECT_EQ(changesBy([&] { form->clear(); }), 1);
+    EXPECT_EQ(changesBy([&] { form->clear(); }), 0);
+}
+
+TEST_P(FormPrivateTest, WaysIntoTheBarAndInItAreTold)
+{
+    Command save("Save", Command::SAVE), quit("Quit", Command::BACK);
+    append("One");
+    form->addCommand(&save);
+    form->addCommand(&quit);
+    open();
+    for (const int key : {PK_DOWN, PK_RIGHT, PK_UP})
+        EXPECT_EQ(changesBy([&] { press(key); }), 1) << key;
+}
+
+TEST_P(FormPrivateTest, ItemThatIsGoneIsNotSelected)
+{
+    Item* const first = append("One");
+    auto stranger = std::make_unique<Digit>("Two");
+    Item* const gone = stranger.get();
+    form->setSelected(gone);
+    stranger.reset();
+    form->setSelected(gone);
+    EXPECT_EQ(form->getSelected(), first);
+}
+
+TEST_P(FormPrivateTest, ItemGoesFromFormToForm)
+{
+    Item* const digit = append("One");
+    Item* const stays = append("Two");
+    Form other(Form::HALF_AND_HALF);
+    other.append(digit);
+    EXPECT_THAT(form->getItems(), ElementsAre(stays));
+    EXPECT_THAT(other.getItems(), ElementsAre(digit));
+    EXPECT_EQ(form->getSelected(), stays);
+    EXPECT_EQ(other.getSelected(), digit);
+    EXPECT_EQ(digit->getParent(), &other);
+}
+
+TEST_P(FormPrivateTest, ParentThatIsSaidBeforehandIsNoForm)
+{
+    auto* const digit = new Digit("One");
+    digit->setParent(form.get());
+    EXPECT_EQ(form->getSelected(), nullptr);
+    form->append(digit);
+    EXPECT_EQ(form->getSelected(), digit);
+}
+
+TEST_P(FormPrivateTest, WhoHearsOfAnotherFieldMayDeleteTheForm)
+{
+    append("One");
+    append("Two");
+    open();
+    deleteFormAt("current");
+    press(PK_DOWN);
+    EXPECT_THAT(raised, ElementsAre("current"));
+}
+
+TEST_P(FormPrivateTest, WhoHearsOfAnotherValueMayDeleteTheForm)
+{
+    append("One");
+    open();
+    deleteFormAt("changed");
+    press('7');
+    EXPECT_THAT(raised, ElementsAre("changed"));
+}
+
 INSTANTIATE_ON_PANELS(FormPrivateTest);
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "DisplayAPI/Command.h"
 #include "DisplayAPI/Display.h"
+#include "DisplayAPI/DisplayEventIfc.h"
 #include "DisplayAPI/DisplayablePrivateIfc.h"
 #include "DisplayAPI/Form.h"
 #include "DisplayAPI/PopupNotification.h"
@@ -15,6 +16,7 @@
 
 #include <gmock/gmock.h>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -83,6 +85,29 @@ protected:
     {
         dictionary.language = std::string(language) + ":";
         display.localeChanged(language);
+    }
+
+    /// How often somebody who observes the screen is told of what is done.
+    int changesBy(const std::function<void()>& work)
+    {
+        struct Counter : DisplayAPI::DisplayEventIfc {
+            void displayChanged(std::string) override { ++count; }
+            int count = 0;
+        } counter;
+        display.subscribe(&counter);
+        work();
+        display.unSubscribe();
+        return counter.count;
+    }
+
+    /// The form's end comes when it raises the command.
+    void deleteFormAt(const std::string& name)
+    {
+        ON_CALL(listener, postCommandAction).WillByDefault([this, name](DisplayAPI::Command* command, auto*) {
+            raised.push_back(nameOf(command));
+            if (raised.back() == name)
+                form.reset();
+        });
     }
 
     /// A field as the screen's text has it.

@@ -4,6 +4,7 @@
 
 #include "DisplayAPI/ItemPrivateIfc.h"
 #include "DisplayAPI/MenuCommand.h"
+#include "host/lcd/Lcd.h"
 #include "unit/host/variants/form/FormVariantTest.h"
 #include "utilities/TranslationInfo.h"
 
@@ -210,6 +211,110 @@ TEST_P(SelectionFieldPrivateTest, AnswersWithNothingWhenItsFormHasGone)
     EXPECT_EQ(field->getHighlightedIndex(), -1);
     EXPECT_EQ(field->getSelectionCommand(), nullptr);
     EXPECT_FALSE(field->getReadOnlyMode());
+}
+
+TEST_P(SelectionFieldPrivateTest, FormThatItStandsInRaisesItsChoices)
+{
+    auto former = std::make_unique<Form>(Form::HALF_AND_HALF);
+    for (Form* const madeFor : {former.get(), static_cast<Form*>(nullptr)}) {
+        auto* const other = new SelectionField("Sort", none.get(), madeFor, true);
+        form->append(other);
+        other->appendSelection(home.get());
+        other->setInformAppOnOk(true);
+        form->setSelected(other);
+        former.reset();
+        open();
+        raised.clear();
+        press({PK_OK, PK_OK});
+        EXPECT_THAT(raised, ElementsAre("choices", "Home", "changed"));
+    }
+}
+
+TEST_P(SelectionFieldPrivateTest, NewFormatsLeaveTheChoices)
+{
+    open();
+    press(PK_OK);
+    display.dateFormatChanged("mm/dd/yyyy");
+    EXPECT_EQ(field->getHighlightedIndex(), 0);
+    press(PK_OK);
+    EXPECT_EQ(field->getSelectionIndex(), 0);
+}
+
+TEST_P(SelectionFieldPrivateTest, AnotherFieldThatIsSelectedTakesTheChoicesOff)
+{
+    auto* const other = new SelectionField("Sort", none.get(), form.get(), true);
+    form->append(other);
+    open();
+    press(PK_OK);
+    form->setSelected(other);
+    EXPECT_EQ(field->getHighlightedIndex(), -1);
+    EXPECT_EQ(form->getSelected(), other);
+}
+
+TEST_P(SelectionFieldPrivateTest, FieldThatGoesToAnotherFormTakesItsChoicesOff)
+{
+    open();
+    press(PK_OK);
+    Form other(Form::HALF_AND_HALF);
+    other.append(field);
+    EXPECT_EQ(field->getHighlightedIndex(), -1);
+    EXPECT_EQ(shown(), asText(""));
+    press(PK_LEFT);
+    EXPECT_THAT(raised, ElementsAre("choices", "back"));
+}
+
+TEST_P(SelectionFieldPrivateTest, FirstChoiceShowsThatThereIsOne)
+{
+    field->clearSelections(none.get());
+    open();
+    host::Lcd::current()->paint();
+    const auto before = host::Lcd::current()->picture().pixels;
+    field->appendSelection(home.get());
+    host::Lcd::current()->paint();
+    EXPECT_NE(host::Lcd::current()->picture().pixels, before);
+}
+
+TEST_P(SelectionFieldPrivateTest, WhatTheApplicationChangesIsToldOnce)
+{
+    open();
+    const std::vector<std::function<void()>> changes{[&] { field->setSelectionIndex(1); },
+                                                     [&] { field->setSelectionCommand(home.get()); },
+                                                     [&] { field->setFieldContents(work.get()); },
+                                                     [&] { field->displayCurrentSelection(false); },
+                                                     [&] { field->setLabel("Sort"); },
+                                                     [&] { field->appendSelection(none.get()); },
+                                                     [&] { field->clearSelections(work.get()); },
+                                                     [&] { field->setReadOnlyMode(true); },
+                                                     [&] { form->setReadonly(true); }};
+    for (std::size_t i = 0; i < changes.size(); ++i)
+        EXPECT_EQ(changesBy(changes[i]), 1) << i;
+}
+
+TEST_P(SelectionFieldPrivateTest, ContentsOfADeletedCommandAreEmpty)
+{
+    open();
+    MenuCommand* const gone = work.get();
+    field->clearSelections(nullptr);
+    work.reset();
+    field->setFieldContents(gone);
+    EXPECT_EQ(shown(), asText(item("Kind", "")));
+}
+
+TEST_P(SelectionFieldPrivateTest, WhoHearsOfItsChoicesMayDeleteTheForm)
+{
+    open();
+    deleteFormAt("choices");
+    press(PK_OK);
+    EXPECT_THAT(raised, ElementsAre("choices"));
+}
+
+TEST_P(SelectionFieldPrivateTest, WhoIsInformedOfAChoiceMayDeleteTheForm)
+{
+    field->setInformAppOnOk(true);
+    open();
+    deleteFormAt("Home");
+    press({PK_OK, PK_OK});
+    EXPECT_THAT(raised, ElementsAre("choices", "Home"));
 }
 
 INSTANTIATE_ON_PANELS(SelectionFieldPrivateTest);

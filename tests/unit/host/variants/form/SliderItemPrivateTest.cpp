@@ -129,6 +129,17 @@ TEST_P(SliderItemPrivateTest, AnswersWithNothingWhenItsFormHasGone)
     EXPECT_THAT(raised, IsEmpty());
 }
 
+TEST_P(SliderItemPrivateTest, WhatTheApplicationChangesIsToldOnce)
+{
+    open();
+    const std::vector<std::function<void()>> changes{
+        [&] { slider->setMaxValue("20"); }, [&] { slider->setMinValue("1"); },  [&] { slider->setValue("7"); },
+        [&] { slider->setLabel("Tone"); },  [&] { slider->setReadOnly(true); },
+    };
+    for (std::size_t i = 0; i < changes.size(); ++i)
+        EXPECT_EQ(changesBy(changes[i]), 1) << i;
+}
+
 INSTANTIATE_ON_PANELS(SliderItemPrivateTest);
 
 } // namespace

@@ -4,6 +4,7 @@
 
 #include "host/Phone.h"
 #include "host/lcd/Geometry.h"
+#include "host/lcd/Lcd.h"
 #include "presentation/PRESCPresentationManager.h"
 #include "support/RunningToolkit.h"
 #include "unit/host/widgets/form/TestFormField.h"
@@ -24,6 +25,7 @@ namespace {
 struct Heard : host::FormListener {
     void valueChanged(FormField& field) override { notes.push_back("value " + ICC::fromUNICODEtoUTF8(field.value())); }
     void choicesShown(FormField&) override { notes.emplace_back("choices"); }
+    void chosen(FormField&, bool) override { notes.emplace_back("chosen"); }
     void lookChanged() override { notes.emplace_back("look"); }
     void currentChanged() override { notes.emplace_back("current"); }
     void commandChosen(int command) override { notes.push_back("command " + std::to_string(command)); }
@@ -134,7 +136,7 @@ TEST_P(FormWindowTest, CommandsAreBelowTheLastFieldAndAboveTheFirst)
     press("!");
     press("^");
     EXPECT_TRUE(last->hasFocus());
-    EXPECT_THAT(heard.notes, ElementsAre("command 1", "current", "command 1"));
+    EXPECT_THAT(heard.notes, ElementsAre("look", "look", "command 1", "look", "current", "look", "command 1", "look"));
 }
 
 TEST_P(FormWindowTest, WithoutFieldsTheCommandsHaveTheKeys)
@@ -165,6 +167,70 @@ TEST_P(FormWindowTest, BarStandsAtTheFootOrInThePlaceOfTheField)
     EXPECT_FALSE(host::isEmpty(window->titleArea()));
     press("^");
     EXPECT_FALSE(host::isEmpty(field->Area()));
+}
+
+TEST_P(FormWindowTest, CommandsHaveTheKeysWhenTheLastFieldHasGone)
+{
+    FormField* const field = append("Name");
+    setCommands({"Save"});
+    delete field;
+    EXPECT_TRUE(window->bar().hasFocus());
+    EXPECT_FALSE(host::isEmpty(window->bar().Area()));
+}
+
+TEST_P(FormWindowTest, UserStaysInTheFieldsWhenCommandsComeBack)
+{
+    const FormField* const first = append("Name");
+    append("Number");
+    setCommands({"Save"});
+    press("vv");
+    setCommands({});
+    press("^");
+    setCommands({"Save"});
+    EXPECT_TRUE(first->hasFocus());
+    EXPECT_FALSE(window->bar().hasFocus());
+}
+
+TEST_P(FormWindowTest, UserStaysInTheBarWhileCommandsAreReplaced)
+{
+    append("Name");
+    setCommands({"Save"});
+    press("v");
+    setCommands({});
+    setCommands({"Keep"});
+    EXPECT_TRUE(window->bar().hasFocus());
+}
+
+TEST_P(FormWindowTest, LabelThatComesLaterGetsItsLine)
+{
+    auto* const above = new FormWindow(100);
+    gpPresent->Add(above);
+    auto* const first = new TestFormField("");
+    auto* const second = new TestFormField("");
+    above->append(first);
+    above->append(second);
+    first->setLabel(test::peg("Kind"));
+    EXPECT_EQ(host::heightOf(first->Area()), first->heightFor(100));
+    first->setLabel({});
+    EXPECT_EQ(host::heightOf(first->Area()), host::Field::lineHeight());
+    const FormField* const last = isSmall() ? first : second;
+    EXPECT_EQ(last->Area().bottom + 1, (isSmall() ? 1 : 2) * host::Field::lineHeight());
+}
+
+TEST_P(FormWindowTest, TitleThatMovesLeavesNothingBehind)
+{
+    append("Name");
+    window->setTitle(test::peg("Entry"));
+    for (const int lines : {1, 2, 0}) {
+        for (int line = 0; line < 2; ++line)
+            window->status().setText(line, line < lines ? "Busy" : "");
+        window->status().setLines(lines);
+        host::Lcd::current()->paint();
+        const auto shown = host::Lcd::current()->picture().pixels;
+        window->Invalidate();
+        host::Lcd::current()->paint();
+        EXPECT_EQ(shown, host::Lcd::current()->picture().pixels) << lines;
+    }
 }
 
 TEST_P(FormWindowTest, CurrentFieldStaysInSight)
