@@ -39,6 +39,7 @@ std::vector<Case> desktopCases();
 std::vector<Case> callCases();
 std::vector<Case> incomingCallCases();
 std::vector<Case> deskStartCases();
+std::vector<Case> deskCallsCases();
 std::vector<Case> destroyingCases();
 std::vector<Case> repaintCases();
 std::vector<Case> screenTextCases();
