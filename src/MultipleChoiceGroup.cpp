@@ -22,14 +22,14 @@ void MultipleChoiceGroup::append(std::string text, Image* image)
     mFields.push_back(new CheckBoxField(label, std::move(text), image));
 }
 
+/// A form owns what it has been given: no other one gets it as well.
 void MultipleChoiceGroup::addToForm(Form* form)
 {
     if (form == nullptr)
         return;
     mForm = form;
-    for (CheckBoxField* field : mFields)
-        mForm->append(field);
-    mGiven = mFields.size();
+    for (; mGiven < mFields.size(); ++mGiven)
+        mForm->append(mFields[mGiven]);
 }
 
 CheckBoxField* MultipleChoiceGroup::fieldAt(int index) const

@@ -28,7 +28,7 @@ public:
     /// A further field with that text, behind the others.
     void append(std::string text, Image* image);
 
-    /// Appends every field to the form. Null is ignored.
+    /// Appends every field that no form has been given yet. Null is ignored.
     void addToForm(Form* form);
 
     /// Not of the first field, which has index 0, nor of one that there is not.

@@ -37,6 +37,27 @@ TEST_P(MultipleChoiceGroupTest, GivesItsFieldsToTheFormOnceTheyAreInIt)
     run([&] { form.reset(); });
 }
 
+TEST_P(MultipleChoiceGroupTest, FieldIsGivenToOneFormOnce)
+{
+    std::unique_ptr<Form> form, other;
+    run([&] {
+        form = std::make_unique<Form>(Form::HALF_AND_HALF);
+        other = std::make_unique<Form>(Form::HALF_AND_HALF);
+        MultipleChoiceGroup group("Days");
+        group.append("Monday", nullptr);
+        group.addToForm(form.get());
+        group.append("Tuesday", nullptr);
+        group.addToForm(other.get());
+        group.addToForm(other.get());
+    });
+    EXPECT_THAT(form->getItems(), SizeIs(1));
+    EXPECT_THAT(other->getItems(), SizeIs(1));
+    run([&] {
+        form.reset();
+        other.reset();
+    });
+}
+
 /// Fields without a look or a state: what the group says of them is that there are so many.
 TEST_P(MultipleChoiceGroupTest, AsksTheFieldsThatThereAre)
 {
