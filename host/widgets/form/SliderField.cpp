@@ -54,11 +54,12 @@ bool SliderField::key(int key)
     return step((key == PK_RIGHT) != isReadFromTheRight());
 }
 
+/// An end may have other decimals than the number that was there.
 bool SliderField::step(bool up)
 {
-    const Decimal before = mNumber;
+    const std::string before = mNumber.text();
     setNumber(up ? mNumber.plus(mInterval) : mNumber.minus(mInterval));
-    if (before < mNumber || mNumber < before)
+    if (mNumber.text() != before)
         tellValueChanged();
     return true;
 }

@@ -47,6 +47,17 @@ TEST_P(SliderItemPrivateTest, KeysMoveItByTheIntervalWithinItsRange)
     EXPECT_THAT(raised, ElementsAre("changed", "changed", "changed", "changed", "changed"));
 }
 
+TEST_P(SliderItemPrivateTest, EndThatIsTheSameNumberWithOtherDecimalsIsAChange)
+{
+    slider->setValue("100.0");
+    open();
+    press(PK_RIGHT);
+    EXPECT_EQ(slider->getValue(), "100");
+    EXPECT_THAT(raised, ElementsAre("changed"));
+    press(PK_RIGHT);
+    EXPECT_THAT(raised, SizeIs(1));
+}
+
 TEST_P(SliderItemPrivateTest, ReadFromTheRightItGrowsToTheLeft)
 {
     open();
