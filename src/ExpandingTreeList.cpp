@@ -4,11 +4,12 @@
 #include "DisplayAPI/ExpandingTreeListPrivateIfc.h"
 #include "DisplayAPI/ListItemPrivateIfc.h"
 #include "GuiThread.h"
-#include "OnGuiThread.h"
 #include "Operations.h"
 #include "Variant.h"
 #include "variants/tree/ExpandingTreeListPrivate.h"
 
+#include <algorithm>
+#include <memory>
 #include <utility>
 
 namespace DisplayAPI {
@@ -27,7 +28,10 @@ enum Request {
     ALIGN = 8,
     UNALIGN = 9,
     SET_READONLY = 10,
-    SET_RIGHT_ARROW_EQUALS_OK = 11
+    SET_RIGHT_ARROW_EQUALS_OK = 11,
+    GET_ITEMS = 12,
+    ADD_COMMAND_LISTENER = 13,
+    REMOVE_COMMAND_LISTENER = 14
 };
 
 using Ifc = ExpandingTreeListPrivateIfc;
@@ -42,7 +46,9 @@ struct ExpandingTreeList::Ops
                  Posts<SET_TRANSLATED_TITLE, taking<TranslationInfo*>(&Ifc::setTitle)>,
                  Posts<CLEAR, &ExpandingTreeList::privateClear>, Waits<GET_SELECTED_INDEX, &Ifc::getSelectedIndex, -1>,
                  Posts<ALIGN, &Ifc::align>, Posts<UNALIGN, &Ifc::unalign>, Posts<SET_READONLY, &Ifc::setReadonly>,
-                 Posts<SET_RIGHT_ARROW_EQUALS_OK, &Ifc::setRightArrowEqualsOK>> {};
+                 Posts<SET_RIGHT_ARROW_EQUALS_OK, &Ifc::setRightArrowEqualsOK>,
+                 Waits<GET_ITEMS, &ExpandingTreeList::items>, Waits<ADD_COMMAND_LISTENER, &Ifc::addCommandListener>,
+                 Waits<REMOVE_COMMAND_LISTENER, &Ifc::removeCommandListener>> {};
 
 ExpandingTreeList::ExpandingTreeList(bool backItem)
 {
@@ -52,10 +58,14 @@ ExpandingTreeList::ExpandingTreeList(bool backItem)
 ExpandingTreeList::~ExpandingTreeList()
 {
     Ops::call<CLEANUP>(*this, mImplementation);
+    deleteQueuedItems();
 }
 
+/// Once: a second side would have none of the rows.
 void ExpandingTreeList::create(bool backItem)
 {
+    if (mImplementation != nullptr)
+        return;
     name = "ExpandingTreeList";
     if (isFullPanel())
         mImplementation = new ExpandingTreeListPrivate(this);
@@ -65,16 +75,24 @@ void ExpandingTreeList::create(bool backItem)
 
 void ExpandingTreeList::destroy()
 {
+    const std::vector<ExpandingTreeListItem*> items = std::exchange(mItems, {});
     deletePrivateSide(mImplementation);
-    deleteItems();
+    deleteAll(items);
 }
 
 /// Last ones first: each is taken out of the row above it from the end.
-void ExpandingTreeList::deleteItems()
+void ExpandingTreeList::deleteAll(const std::vector<ExpandingTreeListItem*>& items)
 {
-    std::vector<ExpandingTreeListItem*> items = std::exchange(mItems, {});
-    for (; !items.empty(); items.pop_back())
-        delete items.back();
+    std::for_each(items.rbegin(), items.rend(), [](ExpandingTreeListItem* item) { delete item; });
+}
+
+/// The list's as well, but nobody will put them into it any more.
+void ExpandingTreeList::deleteQueuedItems()
+{
+    while (const std::unique_ptr<GuiRequestEvent> dropped{dequeueOwnMessage(APPEND)}) {
+        delete static_cast<ExpandingTreeListItem*>(dropped->ptrParam1);
+        signalComplete(*dropped);
+    }
 }
 
 void ExpandingTreeList::processGuiRequest(GuiRequestEvent& request)
@@ -93,21 +111,23 @@ void ExpandingTreeList::cleanup()
     Ops::call<CLEANUP>(*this, mImplementation);
 }
 
+/// Whoever hears of the row finds it among the items.
 void ExpandingTreeList::privateAppend(ExpandingTreeListItem* item)
 {
-    ListItemPrivateIfc* const row = item != nullptr ? item->getPrivateImplemetation() : nullptr;
-    if (row == nullptr)
+    if (item == nullptr)
         return;
-    if (mImplementation != nullptr)
-        mImplementation->append(row, item->getLevel());
     mItems.push_back(item);
+    if (mImplementation != nullptr)
+        mImplementation->append(item->getPrivateImplemetation(), item->getLevel());
 }
 
+/// Whoever hears that the rows have gone may delete the list.
 void ExpandingTreeList::privateClear()
 {
+    const std::vector<ExpandingTreeListItem*> items = std::exchange(mItems, {});
     if (mImplementation != nullptr)
         mImplementation->clear();
-    deleteItems();
+    deleteAll(items);
 }
 
 ExpandingTreeListItem* ExpandingTreeList::findSelected()
@@ -127,29 +147,24 @@ void ExpandingTreeList::clear()
     Ops::call<CLEAR>(*this, mImplementation);
 }
 
-// No codes mean the next three.
+std::vector<ExpandingTreeListItem*> ExpandingTreeList::items() const
+{
+    return mItems;
+}
 
 std::vector<ExpandingTreeListItem*> ExpandingTreeList::getExpandingItemsList()
 {
-    std::vector<ExpandingTreeListItem*> items;
-    onGuiThread([&] { items = mItems; });
-    return items;
+    return Ops::call<GET_ITEMS>(*this, mImplementation);
 }
 
 void ExpandingTreeList::addCommandListener(CommandListener* listener)
 {
-    onGuiThread([&] {
-        if (mImplementation != nullptr)
-            mImplementation->addCommandListener(listener);
-    });
+    Ops::call<ADD_COMMAND_LISTENER>(*this, mImplementation, listener);
 }
 
 void ExpandingTreeList::removeCommandListener(CommandListener* listener)
 {
-    onGuiThread([&] {
-        if (mImplementation != nullptr)
-            mImplementation->removeCommandListener(listener);
-    });
+    Ops::call<REMOVE_COMMAND_LISTENER>(*this, mImplementation, listener);
 }
 
 ExpandingTreeListItem* ExpandingTreeList::getSelected()

@@ -37,14 +37,17 @@ ExpandingTreeListItem::~ExpandingTreeListItem()
     Ops::call<DESTROY>(*this, implementation());
 }
 
+/// Once: the list that the row stands in knows its side.
 void ExpandingTreeListItem::create(std::string text)
 {
-    setImplementation(new ExpandingTreeListItemPrivate(TranslatedText(std::move(text))));
+    if (implementation() == nullptr)
+        setImplementation(new ExpandingTreeListItemPrivate(TranslatedText(std::move(text))));
 }
 
 void ExpandingTreeListItem::createTranslated(TranslationInfo* text)
 {
-    setImplementation(new ExpandingTreeListItemPrivate(TranslatedText(text)));
+    if (implementation() == nullptr)
+        setImplementation(new ExpandingTreeListItemPrivate(TranslatedText(text)));
 }
 
 void ExpandingTreeListItem::processGuiRequest(GuiRequestEvent& request)

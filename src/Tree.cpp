@@ -3,7 +3,6 @@
 #include "DisplayAPI/Command.h"
 #include "DisplayAPI/TreePrivateIfc.h"
 #include "GuiThread.h"
-#include "OnGuiThread.h"
 #include "Operations.h"
 #include "TreeNodes.h"
 #include "Variant.h"
@@ -26,7 +25,11 @@ enum Request {
     COLLAPSE_TO_LEVEL = 8,
     SET_NAME = 9,
     SET_TRANSLATED_NAME = 10,
-    SET_ICON = 11
+    SET_ICON = 11,
+    GET_TREE_NODES = 12,
+    FIND_ITEM = 13,
+    ADD_COMMAND_LISTENER = 14,
+    REMOVE_COMMAND_LISTENER = 15
 };
 
 using Ifc = TreePrivateIfc;
@@ -50,14 +53,15 @@ void collapse(Ifc& tree, TreeNode* node)
 
 } // namespace
 
-struct Tree::Ops
-    : Operations<
-          Posts<CREATE, &Tree::create>, Waits<CLEANUP, &Tree::destroy>, Waits<ADD_NODE, &Tree::makeNode>,
-          Waits<ADD_TRANSLATED_NODE, &Tree::makeTranslatedNode>, Waits<GET_SELECTED, &Ifc::getSelected>,
-          Posts<EXPAND_NODE, &expand>, Posts<COLLAPSE_NODE, &collapse>,
-          Posts<COLLAPSE_TO_LEVEL, &Ifc::collapseTreeToLevel>, Posts<SET_NAME, taking<std::string>(&Ifc::setTreeName)>,
-          Posts<SET_TRANSLATED_NAME, taking<TranslationInfo*>(&Ifc::setTreeName)>, Posts<SET_ICON, &Ifc::setTreeIcon>> {
-};
+struct Tree::Ops : Operations<Posts<CREATE, &Tree::create>, Waits<CLEANUP, &Tree::destroy>,
+                              Waits<ADD_NODE, &Tree::makeNode>, Waits<ADD_TRANSLATED_NODE, &Tree::makeTranslatedNode>,
+                              Waits<GET_SELECTED, &Ifc::getSelected>, Posts<EXPAND_NODE, &expand>,
+                              Posts<COLLAPSE_NODE, &collapse>, Posts<COLLAPSE_TO_LEVEL, &Ifc::collapseTreeToLevel>,
+                              Posts<SET_NAME, taking<std::string>(&Ifc::setTreeName)>,
+                              Posts<SET_TRANSLATED_NAME, taking<TranslationInfo*>(&Ifc::setTreeName)>,
+                              Posts<SET_ICON, &Ifc::setTreeIcon>, Waits<GET_TREE_NODES, &Tree::treeNodes>,
+                              Waits<FIND_ITEM, &Tree::find>, Waits<ADD_COMMAND_LISTENER, &Ifc::addCommandListener>,
+                              Waits<REMOVE_COMMAND_LISTENER, &Ifc::removeCommandListener>> {};
 
 Tree::Tree()
 {
@@ -69,8 +73,11 @@ Tree::~Tree()
     Ops::call<CLEANUP>(*this, mImplementation);
 }
 
+/// Once: a second side would have none of the nodes.
 void Tree::create()
 {
+    if (mImplementation != nullptr)
+        return;
     name = "Tree";
     if (isFullPanelHardware())
         mImplementation = new TreePrivate(this);
@@ -80,8 +87,9 @@ void Tree::create()
 
 void Tree::destroy()
 {
+    std::vector<TreeNode*> nodes = std::exchange(mTreeNodes, {});
     deletePrivateSide(mImplementation);
-    TreeNode::deleteAll(mTreeNodes);
+    TreeNode::deleteAll(nodes);
 }
 
 void Tree::processGuiRequest(GuiRequestEvent& request)
@@ -139,42 +147,40 @@ void Tree::forEachNode(Visit visit) const
     }
 }
 
-// No codes mean the next four.
-
-std::vector<TreeNode*> Tree::getTreeNodes()
+std::vector<TreeNode*> Tree::treeNodes() const
 {
-    std::vector<TreeNode*> nodes;
-    onGuiThread([&] { nodes = mTreeNodes; });
-    return nodes;
+    return mTreeNodes;
 }
 
-TreeNode* Tree::findItemAt(int index)
+TreeNode* Tree::find(int index) const
 {
     TreeNode* found = nullptr;
-    onGuiThread([&] {
-        forEachNode([&, left = index](TreeNode& node) mutable {
-            if (left-- == 0)
-                found = &node;
-            return found == nullptr;
-        });
+    forEachNode([&, left = index](TreeNode& node) mutable {
+        if (left-- == 0)
+            found = &node;
+        return found == nullptr;
     });
     return found;
 }
 
+std::vector<TreeNode*> Tree::getTreeNodes()
+{
+    return Ops::call<GET_TREE_NODES>(*this, mImplementation);
+}
+
+TreeNode* Tree::findItemAt(int index)
+{
+    return Ops::call<FIND_ITEM>(*this, mImplementation, index);
+}
+
 void Tree::addCommandListener(CommandListener* listener)
 {
-    onGuiThread([&] {
-        if (mImplementation != nullptr)
-            mImplementation->addCommandListener(listener);
-    });
+    Ops::call<ADD_COMMAND_LISTENER>(*this, mImplementation, listener);
 }
 
 void Tree::removeCommandListener(CommandListener* listener)
 {
-    onGuiThread([&] {
-        if (mImplementation != nullptr)
-            mImplementation->removeCommandListener(listener);
-    });
+    Ops::call<REMOVE_COMMAND_LISTENER>(*this, mImplementation, listener);
 }
 
 TreeNode* Tree::getSelected()

@@ -1,6 +1,5 @@
 #include "DisplayAPI/TreeNode.h"
 
-#include "OnGuiThread.h"
 #include "Operations.h"
 #include "TreeNodes.h"
 #include "Variant.h"
@@ -22,7 +21,9 @@ enum Request {
     CLEANUP = 5,
     SET_PROTECTED = 6,
     GET_PROTECTED = 7,
-    REMOVE_BACK = 8
+    REMOVE_BACK = 8,
+    GET_CHILD_NODES = 9,
+    GET_TEXT = 10
 };
 
 using Ifc = TreeNodePrivateIfc;
@@ -34,7 +35,8 @@ struct TreeNode::Ops
                  Waits<ADD_NODE, &TreeNode::makeNode>, Waits<ADD_TRANSLATED_NODE, &TreeNode::makeTranslatedNode>,
                  Posts<SET_INACTIVE, &Ifc::setInactive>, Waits<CLEANUP, &TreeNode::destroy>,
                  Posts<SET_PROTECTED, &Ifc::setProtected>, Waits<GET_PROTECTED, &Ifc::getProtected>,
-                 Posts<REMOVE_BACK, &Ifc::removeBack>> {};
+                 Posts<REMOVE_BACK, &Ifc::removeBack>, Waits<GET_CHILD_NODES, &TreeNode::childNodes>,
+                 Waits<GET_TEXT, &TreeNode::shownText>> {};
 
 TreeNode::TreeNode(const std::string& text, int id) : mText(text), mId(id)
 {
@@ -51,8 +53,11 @@ TreeNode::~TreeNode()
     Ops::call<CLEANUP>(*this, mImplementation);
 }
 
+/// Once: a second side would stand in no tree.
 void TreeNode::create(const std::string& text)
 {
+    if (mImplementation != nullptr)
+        return;
     name = "TreeNode";
     if (isFullPanelHardware())
         mImplementation = new TreeNodePrivate(this, text);
@@ -62,6 +67,8 @@ void TreeNode::create(const std::string& text)
 
 void TreeNode::createTranslated(TranslationInfo* text)
 {
+    if (mImplementation != nullptr)
+        return;
     name = "TreeNode";
     if (isFullPanelHardware())
         mImplementation = new TreeNodePrivate(this, text);
@@ -69,10 +76,12 @@ void TreeNode::createTranslated(TranslationInfo* text)
         mImplementation = new TreeNodePrivateWP1(this, text);
 }
 
+/// Whoever hears that the row has gone may delete the tree, and this node with it.
 void TreeNode::destroy()
 {
-    deleteAll(mChildNodes);
+    std::vector<TreeNode*> below = std::exchange(mChildNodes, {});
     delete std::exchange(mImplementation, nullptr);
+    deleteAll(below);
 }
 
 /// Last ones first, and what stands below a node before it: however deep a tree is, no node deletes another one.
@@ -122,12 +131,25 @@ TreeNode* TreeNode::addNode(TranslationInfo* text, int id)
     return Ops::call<ADD_TRANSLATED_NODE>(*this, mImplementation, text, id);
 }
 
-/// No code means this.
+std::vector<TreeNode*> TreeNode::childNodes() const
+{
+    return mChildNodes;
+}
+
 std::vector<TreeNode*> TreeNode::getChildNodes() const
 {
-    std::vector<TreeNode*> nodes;
-    onGuiThread([&] { nodes = mChildNodes; });
-    return nodes;
+    return Ops::call<GET_CHILD_NODES>(*this, mImplementation);
+}
+
+std::string TreeNode::shownText() const
+{
+    return mText.text();
+}
+
+/// Translators are asked on the GUI thread alone.
+std::string TreeNode::getText() const
+{
+    return mText.isTranslated() ? Ops::call<GET_TEXT>(*this, mImplementation) : mText.text();
 }
 
 void TreeNode::setInactive(bool on)

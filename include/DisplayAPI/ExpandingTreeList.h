@@ -37,8 +37,8 @@ public:
     /// Takes it off its display, and deletes its GUI-thread side and its rows; the destructor sees to it.
     void cleanup();
 
-    /// Behind the rows that are there. A row without a GUI-thread side is not appended and stays the caller's, as does
-    /// null. Put a row into one list, once.
+    /// Behind the rows that are there. A row without a GUI-thread side is one of them that is not shown. Null is
+    /// ignored. Put a row into one list, once.
     void append(ExpandingTreeListItem* item);
 
     /// Deletes all rows.
@@ -86,7 +86,9 @@ private:
     void privateAppend(ExpandingTreeListItem* item);
     void privateClear();
     ExpandingTreeListItem* findSelected();
-    void deleteItems();
+    std::vector<ExpandingTreeListItem*> items() const;
+    void deleteQueuedItems();
+    static void deleteAll(const std::vector<ExpandingTreeListItem*>& items);
 
     ExpandingTreeListPrivateIfc* mImplementation = nullptr;
     std::vector<ExpandingTreeListItem*> mItems;

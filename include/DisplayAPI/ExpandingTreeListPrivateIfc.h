@@ -22,7 +22,7 @@ public:
     virtual void addCommandListener(CommandListener* listener) = 0;
     virtual void removeCommandListener(CommandListener* listener) = 0;
 
-    /// Below the last row that stands less deep.
+    /// Below the last row that stands less deep. Null counts as a row, which is not shown.
     virtual void append(ListItemPrivateIfc* row, int level) = 0;
     virtual void clear() = 0;
     virtual int getSelectedIndex() = 0;

@@ -96,6 +96,8 @@ private:
     void destroy();
     TreeNode* makeNode(const std::string& text, int id);
     TreeNode* makeTranslatedNode(TranslationInfo* text, int id);
+    std::vector<TreeNode*> treeNodes() const;
+    TreeNode* find(int index) const;
     template <typename Visit>
     void forEachNode(Visit visit) const;
 

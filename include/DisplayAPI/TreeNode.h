@@ -14,8 +14,9 @@ class TreeNodePrivateIfc;
 
 /// A node of a Tree: a text, a number of the application's, and nodes below it.
 ///
-/// Threads: safe from any thread. Off the GUI thread addNode(), getProtected(), getChildNodes(), cleanup() and the
-/// destructor wait; getId() and getText() run here; everything else posts and returns at once.
+/// Threads: safe from any thread. Off the GUI thread addNode(), getProtected(), getChildNodes(), getText() of a
+/// translation, cleanup() and the destructor wait; getId() and getText() of a plain text run here; everything else
+/// posts and returns at once.
 /// Ownership: a node owns the nodes that it makes, and they go with it; one that addNode() of a tree or of a node has
 /// returned is never deleted by the application. A translation is not owned and has to outlive the node; null is an
 /// empty text.
@@ -48,7 +49,7 @@ public:
     int getId() const { return mId; }
 
     /// In the language of the moment.
-    std::string getText() const { return mText.text(); }
+    std::string getText() const;
 
     /// An inactive node is grey: the user neither opens nor chooses it.
     void setInactive(bool on);
@@ -77,6 +78,8 @@ private:
     void destroy();
     TreeNode* makeNode(const std::string& text, int id);
     TreeNode* makeTranslatedNode(TranslationInfo* text, int id);
+    std::vector<TreeNode*> childNodes() const;
+    std::string shownText() const;
 
     /// With all that stands below them. GUI thread only.
     static void deleteAll(std::vector<TreeNode*>& nodes);

@@ -16,7 +16,7 @@ enum PegMessageType : std::uint16_t {
     PM_CLICKED = 0x400A,             ///< a row was chosen; `iData` is the row
     PM_LEFT = 0x400B,                ///< left was pressed on a list
     PM_RIGHT = 0x400C,               ///< right was pressed on a list; `iData` is the row
-    PM_ROW_CHANGED = 0x400D,         ///< a row in view of a list looks different; `iData` is the row
+    PM_ROW_CHANGED = 0x400D,         ///< a list shows other rows; `iData` is the one that looks different, or -1
     PM_APPLICATION_CHANGED = 0x401A, ///< locale or formats changed; `pData` is the locale, a `const PegString*`
     PM_FOCUS_CHANGED = 0x401E        ///< the focus moved to or from the target
 };

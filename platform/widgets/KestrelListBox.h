@@ -13,7 +13,7 @@ class KestrelListBoxItem;
 /// A column of rows of which one is current, with the keys to move through it. GUI thread only.
 ///
 /// The message target is told what the user does: PM_CURRENT_CHANGED, PM_CLICKED (OK), PM_LEFT, PM_RIGHT; and
-/// PM_ROW_CHANGED of a row that says so.
+/// PM_ROW_CHANGED of rows that say so.
 /// Up and down stop at the ends, where the key goes on to the parent, as OK and right do where there are no rows.
 /// Ownership: rows belong to whoever appended them. Rows may differ in height; the list shows as many whole ones as it
 /// has room for, at least one. Cost: append, row access, scrolling and painting do not depend on the number of rows.
@@ -66,7 +66,10 @@ public:
     /// Tells the message target of the row if it is visible. The row, and the list, may be gone then.
     void tellItemChanged(const KestrelListBoxItem* item);
 
-    /// As well, and what stands below it. The current row stays in view.
+    /// Tells the message target that rows have come or gone, if the list is visible. The list may be gone then.
+    void tellRowsChanged();
+
+    /// As itemChanged(), and what stands below it. The current row stays in view.
     void itemHeightChanged(const KestrelListBoxItem* item);
 
     /// The current row; -1 where the list is empty. A change of rows keeps the current item where it can.

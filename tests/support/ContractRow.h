@@ -38,6 +38,9 @@ struct ContractRow {
     bool readsAfterwards = false;
 };
 
+template <typename T>
+std::string asText(const std::vector<T>& answers);
+
 /// An answer as the rows of a contract compare it.
 template <typename T>
 std::string asText(const T& answer)
@@ -48,6 +51,15 @@ std::string asText(const T& answer)
         return std::to_string(answer);
     else
         return doubles::printed(answer);
+}
+
+template <typename T>
+std::string asText(const std::vector<T>& answers)
+{
+    std::string text;
+    for (const T& answer : answers)
+        text += asText(answer) + " ";
+    return text;
 }
 
 } // namespace test

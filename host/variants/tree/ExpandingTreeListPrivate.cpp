@@ -20,7 +20,9 @@ struct ExpandingTreeListSide::Impl {
     }
 
     Peg_TreeListItem* parentOf(int level);
-    void append(KestrelListBoxItem& row, int level);
+    void append(KestrelListBoxItem* row, int level);
+    void show(KestrelListBoxItem& row, int level);
+    void setReadonly(Peg_TreeListItem& item, bool on);
     void setAligned(bool on);
 
     /// The last row, and those above it: where the next one may belong.
@@ -31,7 +33,7 @@ struct ExpandingTreeListSide::Impl {
 
     TreeCore tree;
     Screen screen{tree};
-    std::vector<KestrelListBoxItem*> rows; ///< all, in the order of append()
+    std::vector<KestrelListBoxItem*> rows; ///< all, in the order of append(); null for what is not shown
     std::vector<Above> path;
     bool aligned = false;
 };
@@ -44,11 +46,19 @@ Peg_TreeListItem* ExpandingTreeListSide::Impl::parentOf(int level)
     return path.empty() ? nullptr : path.back().item;
 }
 
-/// A row that is not a tree's stands on top, and nothing below it.
-void ExpandingTreeListSide::Impl::append(KestrelListBoxItem& row, int level)
+void ExpandingTreeListSide::Impl::append(KestrelListBoxItem* row, int level)
 {
-    rows.push_back(&row);
+    rows.push_back(row);
+    if (row != nullptr)
+        show(*row, level);
+}
+
+/// A row that is not a tree's stands on top, and nothing below it: what comes later stands behind it.
+void ExpandingTreeListSide::Impl::show(KestrelListBoxItem& row, int level)
+{
     auto* const item = dynamic_cast<Peg_TreeListItem*>(&row);
+    if (item == nullptr)
+        path.clear();
     Peg_TreeListItem* const parent = item != nullptr ? parentOf(std::max(level, 0)) : nullptr;
     if (item != nullptr) {
         item->setAligned(aligned);
@@ -67,6 +77,15 @@ void ExpandingTreeListSide::Impl::setAligned(bool on)
         if (auto* const item = dynamic_cast<Peg_TreeListItem*>(row))
             item->setAligned(on);
     tree.changed();
+}
+
+void ExpandingTreeListSide::Impl::setReadonly(Peg_TreeListItem& item, bool on)
+{
+    if (item.isInactive() == on)
+        return;
+    item.setInactive(on);
+    if (item.row() >= 0)
+        tree.changed();
 }
 
 ExpandingTreeListSide::ExpandingTreeListSide(ExpandingTreeList* owner, bool backItem, Panel panel)
@@ -104,8 +123,7 @@ void ExpandingTreeListSide::removeCommandListener(CommandListener* listener)
 
 void ExpandingTreeListSide::append(ListItemPrivateIfc* row, int level)
 {
-    if (row != nullptr)
-        mImpl->append(*row->getKestrelListItem(), level);
+    mImpl->append(row != nullptr ? row->getKestrelListItem() : nullptr, level);
 }
 
 void ExpandingTreeListSide::clear()
@@ -119,6 +137,8 @@ int ExpandingTreeListSide::getSelectedIndex()
 {
     const KestrelListBox* const box = mImpl->tree.box();
     const KestrelListBoxItem* const current = box != nullptr ? box->itemAt(box->currentRow()) : nullptr;
+    if (current == nullptr)
+        return -1;
     const auto found = std::find(mImpl->rows.begin(), mImpl->rows.end(), current);
     return found != mImpl->rows.end() ? static_cast<int>(found - mImpl->rows.begin()) : -1;
 }
@@ -148,7 +168,7 @@ void ExpandingTreeListSide::setReadonly(int index, bool on)
     const auto place = static_cast<std::size_t>(index);
     auto* const item = place < mImpl->rows.size() ? dynamic_cast<Peg_TreeListItem*>(mImpl->rows[place]) : nullptr;
     if (item != nullptr)
-        item->setInactive(on);
+        mImpl->setReadonly(*item, on);
 }
 
 void ExpandingTreeListSide::setRightArrowEqualsOK(bool on)

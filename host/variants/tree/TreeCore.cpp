@@ -97,8 +97,8 @@ bool TreeCore::choose()
 /// The user, who is below the row, comes back to it.
 void TreeCore::leave(Peg_TreeListItem& item)
 {
+    item.setOpen(false);
     goTo(item);
-    close(item);
 }
 
 bool TreeCore::goDeeper()
@@ -129,10 +129,12 @@ bool TreeCore::goBack()
     return true;
 }
 
+/// The display is told last, when everything is where it belongs.
 void TreeCore::goTo(const Peg_TreeListItem& item)
 {
-    change([&](KestrelListBox& list) { list.setCurrentRow(item.row()); });
+    box()->setCurrentRow(item.row());
     raise(mHighlightChanged);
+    changed();
 }
 
 void TreeCore::open(Peg_TreeListItem& item, bool all)

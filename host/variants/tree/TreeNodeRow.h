@@ -12,6 +12,9 @@ class TreeNode;
 struct TreeNodeRow : Peg_TreeListItem {
     TreeNodeRow(PegString text, TreeNode* facade) : Peg_TreeListItem(std::move(text)), node(facade) {}
 
+    using KestrelListBoxItem::list;
+    using KestrelListBoxItem::tellChanged;
+
     TreeNode* const node; ///< not owned
 };
 

@@ -115,6 +115,12 @@ void KestrelListBox::tellItemChanged(const KestrelListBoxItem* item)
         mImpl->tell(PM_ROW_CHANGED, rowOf(item));
 }
 
+void KestrelListBox::tellRowsChanged()
+{
+    if (StatusIs(PSF_VISIBLE))
+        mImpl->tell(PM_ROW_CHANGED, -1);
+}
+
 void KestrelListBox::itemHeightChanged(const KestrelListBoxItem* item)
 {
     if (item == nullptr || item->mList != this)

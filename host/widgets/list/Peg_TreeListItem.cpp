@@ -125,9 +125,8 @@ void Peg_TreeListItem::setOpen(bool on)
 
 void Peg_TreeListItem::setAllOpen(bool on)
 {
-    setOpen(false);
-    forEachBelow([on](Peg_TreeListItem& item) { item.setOpen(on); });
     setOpen(on);
+    forEachBelow([on](Peg_TreeListItem& item) { item.setOpen(on); });
 }
 
 void Peg_TreeListItem::showChildren()

@@ -4,6 +4,8 @@
 #include "DisplayAPI/ExpandingTreeListPrivateIfc.h"
 #include "DisplayAPI/ListItemPrivateIfc.h"
 #include "doubles/Mocks.h"
+#include "support/SteppedLoop.h"
+#include "support/Worker.h"
 #include "unit/src/FacadeTest.h"
 #include "utilities/TranslationInfo.h"
 #include "widgets/KestrelListBoxItem.h"
@@ -89,16 +91,31 @@ TEST_P(ExpandingTreeListTest, RowsKeepTheirOrderAndTheirLevels)
         callText("ExpandingTreeListPrivate::append", static_cast<const void*>(address->getPrivateImplemetation()), 1));
 }
 
-TEST_P(ExpandingTreeListTest, RowWithoutASideAndNullAreNotAppended)
+TEST_P(ExpandingTreeListTest, RowWithoutASideIsOneOfThemAndNullIsNone)
 {
     made();
-    ExpandingTreeListItem bare(static_cast<ListItemPrivateIfc*>(nullptr));
+    auto* const bare = new ExpandingTreeListItem(static_cast<ListItemPrivateIfc*>(nullptr), 3);
     run([&] {
         list->append(nullptr);
-        list->append(&bare);
+        list->append(bare);
     });
+    EXPECT_THAT(reached(),
+                ElementsAre(callText("ExpandingTreeListPrivate::append", static_cast<const void*>(nullptr), 3)));
+    EXPECT_THAT(items(), ElementsAre(bare));
+}
+
+TEST_P(ExpandingTreeListTest, SecondRequestToMakeItLeavesTheFirstSide)
+{
+    made();
+    append("a", 0);
+    reached();
+    carryOut(GetParam(), *list, 0);
     EXPECT_THAT(reached(), IsEmpty());
-    EXPECT_THAT(items(), IsEmpty());
+    for (const int code : {10, 11}) {
+        ListItemPrivateIfc* const side = items().front()->getPrivateImplemetation();
+        carryOut(GetParam(), *items().front(), code);
+        EXPECT_EQ(items().front()->getPrivateImplemetation(), side);
+    }
 }
 
 TEST_P(ExpandingTreeListTest, ClearDeletesTheRowsBehindTheSides)
@@ -190,5 +207,25 @@ TEST_P(ExpandingTreeListTest, ItemCompletesWhatNobodyKnowsAndKeepsItsText)
 }
 
 INSTANTIATE_FROM_BOTH_THREADS(ExpandingTreeListTest);
+
+using QueuedExpandingTreeListTest = test::SteppedTest;
+
+TEST_F(QueuedExpandingTreeListTest, RowThatIsStillQueuedGoesWithTheList)
+{
+    struct Row : ExpandingTreeListItem {
+        explicit Row(int& deleted) : ExpandingTreeListItem("a"), mDeleted(deleted) {}
+        ~Row() override { ++mDeleted; }
+        int& mDeleted;
+    };
+    int deleted = 0;
+    auto list = std::make_unique<ExpandingTreeList>(true);
+    auto* const row = new Row(deleted);
+    test::Worker worker([&] { list->append(row); });
+    worker.join();
+    ASSERT_EQ(gui.queued(), 1);
+    list.reset();
+    EXPECT_EQ(deleted, 1);
+    EXPECT_EQ(gui.queued(), 0);
+}
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "DisplayAPI/TreeNode.h"
 #include "DisplayAPI/TreeNodePrivateIfc.h"
 #include "doubles/Answers.h"
+#include "doubles/Mocks.h"
 #include "support/FacadeContract.h"
 #include "utilities/TranslationInfo.h"
 
@@ -16,21 +17,25 @@ namespace {
 
 constexpr int CLEANUP = 1;
 
-/// A tree of one node.
+/// A tree of one node; of none without a side.
 struct Trees : test::WidgetSubject<Tree> {
     explicit Trees(bool hasSide)
     {
         doubles::Answers::instance().reset();
         facade = std::make_unique<Tree>();
-        if (!hasSide)
+        if (hasSide)
+            node = facade->addNode("Network", 1);
+        else
             endSide(CLEANUP);
-        node = facade->addNode("Network", 1);
         doubles::Answers::instance().node = node;
     }
 
     static std::string arrival(const std::string& call) { return test::sideName("TreePrivate") + "::" + call; }
 
+    CommandListener* heard() { return &listener; }
+
     TreeNode* node = nullptr;
+    testing::NiceMock<doubles::MockCommandListener> listener;
     TranslationInfo text{"Settings.Network", nullptr};
 };
 
@@ -74,7 +79,19 @@ const bool CHECKED =
         .waits(
             "getSelected", 5, [](Trees& t) { return t.node; }, nullptr, [](Trees& t) { return t->getSelected(); })
         .arrives("getSelected()")
-        .completes({-1, 2, 12, 99})
+        .waits(
+            "getTreeNodes", 12, [](Trees& t) { return std::vector{t.node}; }, {},
+            [](Trees& t) { return t->getTreeNodes(); })
+        .waits(
+            "findItemAt", 13, [](Trees& t) { return t.node; }, nullptr, [](Trees& t) { return t->findItemAt(0); })
+        .record({.int1 = 0})
+        .waits("addCommandListener", 14, [](Trees& t) { t->addCommandListener(&t.listener); })
+        .record([](Trees& t) { return Filling{.ptr1 = t.heard()}; })
+        .arrives([](Trees& t) { return callText("addCommandListener", t.heard()); })
+        .waits("removeCommandListener", 15, [](Trees& t) { t->removeCommandListener(&t.listener); })
+        .record([](Trees& t) { return Filling{.ptr1 = t.heard()}; })
+        .arrives([](Trees& t) { return callText("removeCommandListener", t.heard()); })
+        .completes({-1, 2, 16, 99})
         .check();
 
 } // namespace

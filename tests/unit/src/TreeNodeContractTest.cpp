@@ -21,12 +21,15 @@ struct Nodes : test::WidgetSubject<TreeNode> {
         doubles::Answers::instance().reset();
         doubles::Answers::instance().isSelected = true;
         facade = std::make_unique<TreeNode>("Network", 1);
-        if (!hasSide)
+        if (hasSide)
+            child = facade->addNode("Address", 2);
+        else
             endSide(CLEANUP);
     }
 
     static std::string arrival(const std::string& call) { return test::sideName("TreeNodePrivate") + "::" + call; }
 
+    TreeNode* child = nullptr; ///< none without a side
     TranslationInfo text{"Settings.Network", nullptr};
 };
 
@@ -54,7 +57,10 @@ const bool CHECKED = test::Contract<Nodes>("TreeNodeContractTest")
                          .posts("removeBack", 8, [](Nodes& n) { n->removeBack(true); })
                          .record({.bool1 = true})
                          .arrives("removeBack(true)")
-                         .completes({-1, 9, 99})
+                         .waits(
+                             "getChildNodes", 9, [](Nodes& n) { return std::vector{n.child}; }, {},
+                             [](Nodes& n) { return n->getChildNodes(); })
+                         .completes({-1, 11, 99})
                          .check();
 
 } // namespace

@@ -2,7 +2,9 @@
 
 #include "DisplayAPI/TreeNodePrivateIfc.h"
 #include "unit/src/FacadeTest.h"
+#include "utilities/Threadable.h"
 #include "utilities/TranslationInfo.h"
+#include "utilities/TranslatorIfc.h"
 
 using namespace DisplayAPI;
 using doubles::callText;
@@ -101,6 +103,36 @@ TEST_P(TreeNodeTest, InsertingAndRemovingDoNothing)
     });
     EXPECT_THAT(reached(), IsEmpty());
     EXPECT_THAT(node->getChildNodes(), ElementsAre(child));
+}
+
+TEST_P(TreeNodeTest, SecondRequestToMakeItLeavesTheFirstSide)
+{
+    made(std::string("a"));
+    for (const int code : {0, 1})
+        carryOut(GetParam(), *node, code);
+    EXPECT_THAT(reached(), IsEmpty());
+}
+
+TEST_P(TreeNodeTest, TranslatorIsAskedOnTheGuiThread)
+{
+    struct Noting : TranslatorIfc {
+        std::string translate(const std::string& key) override
+        {
+            thread = Threadable::currentThreadId();
+            return "de:" + key;
+        }
+        unsigned int thread = 0;
+    } translator;
+    TranslationInfo text{"Network", &translator};
+    made(&text);
+    translator.thread = 0;
+    std::string shown;
+    run([&] { shown = node->getText(); });
+    EXPECT_EQ(shown, "de:Network");
+    EXPECT_EQ(translator.thread, gui.threadId());
+    run([&] { node->cleanup(); });
+    run([&] { shown = node->getText(); });
+    EXPECT_EQ(shown, "de:Network");
 }
 
 INSTANTIATE_FROM_BOTH_THREADS(TreeNodeTest);

@@ -221,6 +221,15 @@ TEST_P(TreeTest, LocaleReachesEveryNode)
                 ElementsAre("TreeNodePrivate::localeChanged(\"de_DE\")", "TreeNodePrivate::localeChanged(\"de_DE\")"));
 }
 
+TEST_P(TreeTest, SecondRequestToMakeItLeavesTheFirstSide)
+{
+    made();
+    add("a");
+    reached();
+    carryOut(GetParam(), *tree, 0);
+    EXPECT_THAT(reached(), IsEmpty());
+}
+
 TEST_P(TreeTest, WhatDoesNothingReachesNobody)
 {
     made();

@@ -6,6 +6,7 @@
 #include "doubles/Mocks.h"
 #include "support/RowsOwner.h"
 #include "unit/host/variants/OnPanel.h"
+#include "unit/host/variants/tree/Told.h"
 #include "variants/list/ListItemPrivate.h"
 #include "widgets/Peg_TreeListItem.h"
 
@@ -142,21 +143,52 @@ TEST_P(ExpandingTreeListPrivateTest, ClearedListIsEmptyAndTakesNewRows)
     EXPECT_EQ(shown(), "[x]y" + back());
 }
 
-TEST_P(ExpandingTreeListPrivateTest, RowOfAnotherKindStandsOnTopAndNothingBelowIt)
+TEST_P(ExpandingTreeListPrivateTest, RowOfAnotherKindStandsOnTopAndWhatFollowsBehindIt)
 {
     list.append(new ExpandingTreeListItem(new ListItemPrivate(std::string("p"), true), 1));
     append("q", 1);
     list.setReadonly(5, true);
-    EXPECT_EQ(shown(), "[a]ep" + back());
+    EXPECT_EQ(shown(), "[a]epq" + back());
+    EXPECT_CALL(listener, postCommandAction(List::SELECT_COMMAND(), &list));
     press(PK_DOWN);
     press(PK_OK);
-    EXPECT_EQ(shown(), "a[e]qp" + back());
-    press(PK_DOWN);
+    EXPECT_EQ(shown(), "a[e]pq" + back());
     press(PK_DOWN);
     EXPECT_EQ(list.getSelectedIndex(), 5);
+    testing::Mock::VerifyAndClearExpectations(&listener);
     EXPECT_CALL(listener, postCommandAction(List::SELECT_COMMAND(), &list));
     press(PK_OK);
     press(PK_RIGHT);
+}
+
+TEST_P(ExpandingTreeListPrivateTest, RowWithoutASideCountsButIsNotShown)
+{
+    auto* const bare = new ExpandingTreeListItem(static_cast<ListItemPrivateIfc*>(nullptr), 0);
+    list.append(bare);
+    append("q", 0);
+    EXPECT_EQ(shown(), "[a]eq" + back());
+    list.setReadonly(5, true);
+    list.align();
+    box().setCurrentRow(2);
+    EXPECT_EQ(list.getSelectedIndex(), 6);
+    list.clear();
+    append("x", 0);
+    EXPECT_EQ(list.getSelectedIndex(), 0);
+}
+
+TEST_P(ExpandingTreeListPrivateTest, ObserverIsToldLastOfWhatItSees)
+{
+    list.clear();
+    std::vector<bool> found;
+    test::Told told(display, [&] { found.push_back(list.getSelected() != nullptr); });
+    append("a", 0);
+    EXPECT_EQ(found, std::vector{true});
+    list.setReadonly(0, true);
+    EXPECT_EQ(found.size(), 2u);
+    list.setReadonly(0, true);
+    EXPECT_EQ(found.size(), 2u);
+    list.clear();
+    EXPECT_EQ(found, (std::vector{true, true, false}));
 }
 
 TEST_P(ExpandingTreeListPrivateTest, TitleStandsAbove)

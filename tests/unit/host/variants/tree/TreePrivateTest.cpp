@@ -6,6 +6,7 @@
 #include "doubles/Mocks.h"
 #include "support/RowsOwner.h"
 #include "unit/host/variants/OnPanel.h"
+#include "unit/host/variants/tree/Told.h"
 #include "utilities/TranslationInfo.h"
 #include "utilities/TranslatorIfc.h"
 #include "widgets/KestrelApplication.h"
@@ -187,8 +188,10 @@ TEST_P(TreeWayBackTest, RowThatLeadsBackIsNoNodeAndClosesItsOwn)
     press("vvv");
     EXPECT_EQ(shown(), "abd[←]e");
     EXPECT_EQ(tree.getSelected(), nullptr);
+    test::Told told(display);
     press("!");
     EXPECT_EQ(shown(), "[a]e");
+    EXPECT_EQ(told.take(), 1);
 }
 
 TEST_P(TreePrivateTest, NewNodesAreShownWhereTheirParentIsOpen)
@@ -243,6 +246,99 @@ TEST_P(TreePrivateTest, DeletedNodesSideTakesItsRowsAlong)
     tree.expandNode(a, true);
     b->cleanup();
     EXPECT_EQ(shown(), isSmall() ? "[a]d←e" : "[a]de");
+}
+
+TEST_P(TreePrivateTest, ObserverIsToldOnceOfEachChangeThatIsSeen)
+{
+    tree.expandNode(a, false);
+    test::Told told(display);
+    a->addNode("f", 6);
+    EXPECT_EQ(told.take(), 1) << "a new row";
+    b->addNode("g", 7)->addNode("h", 8);
+    EXPECT_EQ(told.take(), 0) << "rows that are not shown";
+    d->addNode("i", 9);
+    EXPECT_EQ(told.take(), isSmall() ? 0 : 1) << "the mark of the first one below";
+    a->setInactive(true);
+    a->setProtected(true);
+    EXPECT_EQ(told.take(), 2);
+    a->setInactive(true);
+    a->setProtected(true);
+    EXPECT_EQ(told.take(), 0) << "as it was";
+    a->removeBack(true);
+    EXPECT_EQ(told.take(), isSmall() ? 1 : 0);
+    b->cleanup();
+    EXPECT_EQ(told.take(), 1) << "a row with what stands below it";
+}
+
+TEST_P(TreePrivateTest, ObserverIsToldOfAMarkThatGoes)
+{
+    test::Told told(display);
+    TreeNode* const f = tree.addNode("f", 6);
+    TreeNode* const g = f->addNode("g", 7);
+    box().setCurrentRow(2);
+    told.take();
+    g->cleanup();
+    EXPECT_EQ(told.take(), 1);
+}
+
+/// Whoever is told may delete the tree: each of these is the last thing that happens.
+TEST_P(TreePrivateTest, ObserverMayDeleteTheTree)
+{
+    using Change = std::function<void(Tree&, TreeNode&)>;
+    for (const Change& change : {Change([](Tree&, TreeNode&node) { node.addNode("x", 0); }),
+                                 Change([](Tree&, TreeNode&node) { node.setInactive(true); }),
+                                 Change([](Tree&, TreeNode&node) { node.setProtected(true); }),
+                                 Change([](Tree&, TreeNode&node) { node.cleanup(); }),
+                                 Change([](Tree&changed, TreeNode&) { changed.addNode("x", 0); }),
+                                 Change([](Tree&changed, TreeNode&node) { changed.expandNode(&node, true); })}) {
+        auto passing = std::make_unique<Tree>();
+        TreeNode* const node = passing->addNode("p", 0);
+        node->addNode("q", 0);
+        passing->expandNode(node, false);
+        display.setCurrent(passing.get());
+        const test::Told told(display, [&] { std::exchange(passing, nullptr).reset(); });
+        change(*passing, *node);
+        EXPECT_EQ(passing, nullptr);
+    }
+}
+
+TEST_P(TreePrivateTest, ObserverIsToldWhenTheListenerHasHeardAndTheRowsAreInPlace)
+{
+    tree.expandNode(a, true);
+    box().setCurrentRow(2);
+    ASSERT_EQ(tree.getSelected(), c);
+    std::vector<TreeNode*> seen;
+    const test::Told told(display, [&] { seen.push_back(tree.getSelected()); });
+    EXPECT_CALL(listener, postCommandAction(Tree::HIGHLIGHT_CHANGED_COMMAND(), &tree)).WillOnce([&](auto&&...) {
+        EXPECT_TRUE(seen.empty());
+        return true;
+    });
+    press("<");
+    EXPECT_EQ(seen, std::vector{b});
+}
+
+TEST_P(TreePrivateTest, OpeningEverythingLeavesTheCurrentRow)
+{
+    tree.expandNode(a, false);
+    box().setCurrentRow(2);
+    ASSERT_EQ(tree.getSelected(), d);
+    tree.expandNode(a, true);
+    EXPECT_EQ(tree.getSelected(), d);
+    EXPECT_EQ(shown(), isSmall() ? "abc←[d]←e" : "abc[d]e");
+}
+
+TEST_P(TreePrivateTest, NewNodeIsInTheTreeWhenTheObserverIsTold)
+{
+    std::size_t onTop = 0, below = 0;
+    tree.expandNode(a, false);
+    const test::Told told(display, [&] {
+        onTop = tree.getTreeNodes().size();
+        below = a->getChildNodes().size();
+    });
+    tree.addNode("f", 6);
+    EXPECT_EQ(onTop, 3u);
+    a->addNode("g", 7);
+    EXPECT_EQ(below, 3u);
 }
 
 TEST_P(TreePrivateTest, TreeThatIsDeletedOnTheScreenLeavesIt)
