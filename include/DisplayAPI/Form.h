@@ -53,7 +53,7 @@ public:
     static Command* BACK_COMMAND(); ///< the left key on an item that has no use for it
 
     /// Puts the item at the form's end; one that is in it already goes there. The first that the user can work with
-    /// becomes the current one. Null is ignored.
+    /// becomes the current one. One that is in another form leaves that. Null is ignored.
     void append(Item* item);
 
     /// The same.
@@ -78,7 +78,8 @@ public:
 
     void setTitle(const std::string& title);
 
-    /// Goes through the queue where no GUI thread is recorded, too.
+    /// Goes through the queue where no GUI thread is recorded, too; on a recorded one its record is carried out in the
+    /// call.
     void setTitle(TranslationInfo* title);
 
     /// In the language of the moment.

@@ -26,7 +26,7 @@ class SelectionFieldPrivateIfc;
 class DISPLAYAPI_EXPORT SelectionField : public Item {
 public:
     /// For a form, into which it is put by Form::append() or Form::setFormOptions(). `contents` is what the field shows
-    /// first, and may be null; the flag has no effect.
+    /// first, and may be null; form and flag have no effect.
     SelectionField(TranslationInfo* label, MenuCommand* contents, Form* form, bool flag);
     SelectionField(TranslationInfo* label, PhonebookItem::IconType icon, MenuCommand* contents, Form* form, bool flag);
     SelectionField(std::string label, MenuCommand* contents, Form* form, bool flag);
@@ -77,7 +77,7 @@ public:
     /// The choices in order. GUI thread only.
     const std::vector<MenuCommand*>& getCommands() const { return mCommands; }
 
-    /// Whether what is chosen with OK is raised as a command of the form, too. It is not at first.
+    /// Whether what is chosen with OK is raised as a command of the form that it stands in, too. It is not at first.
     void setInformAppOnOk(bool on);
 
     /// Whether the user can only read it.

@@ -100,6 +100,21 @@ protected:
         return counter.count;
     }
 
+    /// The form's end comes when whoever observes the screen is told of what is done.
+    void deleteFormWhenTold(const std::function<void()>& work)
+    {
+        struct Deleting : DisplayAPI::DisplayEventIfc {
+            explicit Deleting(std::unique_ptr<DisplayAPI::Form>& doomed) : mForm(doomed) {}
+            void displayChanged(std::string) override { mForm.reset(); }
+
+        private:
+            std::unique_ptr<DisplayAPI::Form>& mForm;
+        } observer(form);
+        display.subscribe(&observer);
+        work();
+        display.unSubscribe();
+    }
+
     /// The form's end comes when it raises the command.
     void deleteFormAt(const std::string& name)
     {

@@ -16,13 +16,24 @@ namespace {
 
 class SelectionFieldPrivateTest : public test::FormVariantTest {
 protected:
-    SelectionFieldPrivateTest()
+    SelectionFieldPrivateTest() { fill(); }
+    ~SelectionFieldPrivateTest() override { form.reset(); }
+
+    void fill()
     {
         form->append(field);
         for (MenuCommand* choice : {home.get(), work.get(), mobile.get()})
             field->appendSelection(choice);
     }
-    ~SelectionFieldPrivateTest() override { form.reset(); }
+
+    /// Another form on the screen, with another field.
+    void renew()
+    {
+        form = std::make_unique<Form>(Form::HALF_AND_HALF);
+        field = new SelectionField("Kind", PhonebookItem::ICON_HOME, none.get(), form.get(), true);
+        fill();
+        open();
+    }
 
     static std::unique_ptr<MenuCommand> choice(const char* text) { return std::make_unique<MenuCommand>(text, 0); }
 
@@ -315,6 +326,18 @@ TEST_P(SelectionFieldPrivateTest, WhoIsInformedOfAChoiceMayDeleteTheForm)
     deleteFormAt("Home");
     press({PK_OK, PK_OK});
     EXPECT_THAT(raised, ElementsAre("choices", "Home"));
+}
+
+TEST_P(SelectionFieldPrivateTest, WhoIsToldOfAChangeMayDeleteTheForm)
+{
+    const std::vector<std::function<void()>> changes{[&] { field->setLabel("Sort"); }, [&] { press(PK_RIGHT); },
+                                                     [&] { press(PK_OK); }, [&] { form->clear(); },
+                                                     [&] { form->setReadonly(true); }};
+    for (std::size_t i = 0; i < changes.size(); ++i) {
+        renew();
+        deleteFormWhenTold(changes[i]);
+        EXPECT_EQ(form, nullptr) << i;
+    }
 }
 
 INSTANTIATE_ON_PANELS(SelectionFieldPrivateTest);
