@@ -120,8 +120,8 @@ private:
     void forgetCommands();
 
     FormPrivateIfc* mImplementation = nullptr;
-    std::vector<Item*> items;
-    std::vector<Command*> commands;
+    std::vector<Item*> items;       // NOLINT(readability-identifier-naming)
+    std::vector<Command*> commands; // NOLINT(readability-identifier-naming)
 };
 
 } // namespace DisplayAPI
