@@ -2,6 +2,7 @@
 
 #include "DisplayAPI/DurationText.h"
 #include "DisplayAPI/List.h"
+#include "DisplayAPI/PartyText.h"
 #include "apps/deskphone/CallScreen.h"
 #include "apps/deskphone/Moment.h"
 #include "apps/deskphone/Panel.h"
@@ -16,8 +17,6 @@ namespace deskphone {
 namespace kit = DisplayAPI::kit;
 
 namespace {
-
-constexpr const char* UNKNOWN_CALLER = "Caller.Unknown.XXX"; ///< the library's own key
 
 /// The title has the name.
 CallPartyIdentifier numberOf(const PastCall& past)
@@ -74,7 +73,7 @@ void CallDetails::show(Place& from, const PastCall& past)
     setParent(&from);
     list().clear();
     mShown = &past;
-    list().setTitle(past.party.empty() ? telephone().languages().translate(UNKNOWN_CALLER) : past.party);
+    list().setTitle(past.party.empty() ? telephone().languages().translate(DisplayAPI::UNKNOWN_PARTY) : past.party);
     if (isSmallPanel())
         showInLines(past);
     else
