@@ -10,7 +10,12 @@
 #include "utilities/Semaphore.h"
 
 #include <algorithm>
+#include <atomic>
+#include <chrono>
 #include <list>
+#include <mutex>
+#include <optional>
+#include <thread>
 #include <utility>
 
 namespace DisplayAPI {
@@ -51,13 +56,33 @@ struct ItemPayload : Pooled<ItemPayload> {
 using Entry = std::pair<ItemType, void*>;
 using Queue = std::list<Entry>;
 
-/// Never destroyed: static commands and listeners recall their notifications as late as at process exit.
-struct Shared {
-    Semaphore itemQueueSemaphore{Semaphore::AVAILABLE, 1, false};
-    Queue itemQueue;
-    Queue spareNodes; ///< empty list nodes, so that posting does not allocate
+constexpr std::size_t MAX_SPARE_NODES = 4096;
+
+/// Entries in posting order, and where among them those of each item are.
+struct alignas(64) Part {
+    Queue entries;
     QueuedChanges<Queue::iterator> changes;
+};
+
+/// An executor takes over all that waits at once: what it has not begun of that is `taken`, which is delivered, and
+/// searched, before what waits. Only who is about to deliver fills it, while it is empty.
+///
+/// Never destroyed: static commands and listeners recall their notifications as late as at process exit.
+class Shared {
+public:
+    Semaphore itemQueueSemaphore{Semaphore::AVAILABLE, 1, false}; ///< guards all but what is taken
+    Part* waiting = &mParts[0];
+    Queue spareNodes; ///< empty list nodes, so that posting does not allocate
     bool running = false;
+    int watching = 0; ///< executors that have found nothing more and watch `wanted`
+
+    alignas(64) std::atomic<bool> wanted{false}; ///< on a line that nobody else writes
+
+    alignas(64) std::mutex takenLock; ///< guards `taken`, inside the semaphore where both are needed
+    Part* taken = &mParts[1];
+
+private:
+    Part mParts[2];
 };
 
 Shared& shared()
@@ -77,6 +102,16 @@ private:
     Shared& mState;
 };
 
+/// Holds both parts of the queue.
+class WholeQueueLock {
+public:
+    explicit WholeQueueLock(Shared& state) : mWaiting(state), mTaken(state.takenLock) {}
+
+private:
+    QueueLock mWaiting;
+    std::lock_guard<std::mutex> mTaken;
+};
+
 Item* itemOf(const Entry& entry)
 {
     return static_cast<const ItemPayload*>(entry.second)->item;
@@ -84,26 +119,43 @@ Item* itemOf(const Entry& entry)
 
 void append(Shared& state, Entry entry)
 {
+    Part& part = *state.waiting;
     if (state.spareNodes.empty())
-        state.itemQueue.emplace_back();
+        part.entries.emplace_back();
     else
-        state.itemQueue.splice(state.itemQueue.end(), state.spareNodes, state.spareNodes.begin());
-    state.itemQueue.back() = entry;
+        part.entries.splice(part.entries.end(), state.spareNodes, state.spareNodes.begin());
+    part.entries.back() = entry;
     if (entry.first == ITEM_NOTIFICATION)
-        state.changes.add(itemOf(entry), std::prev(state.itemQueue.end()));
+        part.changes.add(itemOf(entry), std::prev(part.entries.end()));
 }
 
-Entry takeFirst(Shared& state)
+/// Takes over all that waits; false where nothing does. Under the queue's lock, once all that was taken has begun.
+bool takeOver(Shared& state)
 {
-    constexpr std::size_t MAX_SPARE_NODES = 4096;
-    const Entry entry = state.itemQueue.front();
+    std::lock_guard lock(state.takenLock);
+    std::swap(state.waiting, state.taken);
+    return !state.taken->entries.empty();
+}
+
+/// The next entry of what has been taken over, whose node goes to `used`; nothing where all of it has begun.
+std::optional<Entry> takeFirst(Shared& state, Queue& used)
+{
+    std::lock_guard lock(state.takenLock);
+    Part& part = *state.taken;
+    if (part.entries.empty())
+        return std::nullopt;
+    const Entry entry = part.entries.front();
     if (entry.first == ITEM_NOTIFICATION)
-        state.changes.remove(itemOf(entry), state.itemQueue.begin());
-    if (state.spareNodes.size() < MAX_SPARE_NODES)
-        state.spareNodes.splice(state.spareNodes.begin(), state.itemQueue, state.itemQueue.begin());
-    else
-        state.itemQueue.pop_front();
+        part.changes.remove(itemOf(entry), part.entries.begin());
+    used.splice(used.begin(), part.entries, part.entries.begin());
     return entry;
+}
+
+/// Under the queue's lock.
+void giveBackNodes(Shared& state, Queue& used)
+{
+    if (state.spareNodes.size() + used.size() <= MAX_SPARE_NODES)
+        state.spareNodes.splice(state.spareNodes.begin(), used);
 }
 
 void startExecutor()
@@ -120,16 +172,27 @@ void startExecutor()
 void post(Shared& state, Entry entry, bool start)
 {
     append(state, entry);
-    if (!state.running && start)
+    if (state.running || !start)
+        return;
+    if (state.watching > 0)
+        state.wanted.store(true, std::memory_order_relaxed);
+    else
         startExecutor();
 }
 
-bool isQueued(const Shared& state, ItemStateListener* listener, Item* item)
+bool isQueued(const Part& part, ItemStateListener* listener, Item* item)
 {
-    const auto& places = state.changes.of(item);
+    const auto& places = part.changes.of(item);
     return std::any_of(places.begin(), places.end(), [=](Queue::iterator place) {
         return static_cast<const ItemPayload*>(place->second)->listener == listener;
     });
+}
+
+/// Under the queue's lock.
+bool isQueued(Shared& state, ItemStateListener* listener, Item* item)
+{
+    std::lock_guard lock(state.takenLock);
+    return isQueued(*state.taken, listener, item) || isQueued(*state.waiting, listener, item);
 }
 
 void deliver(const CommandPayload& payload)
@@ -181,11 +244,9 @@ bool matches(Field* wanted, Field* actual)
 }
 
 /// Erases the queued commands that match.
-void recall(CommandListener* listener, Command* command, Displayable* displayable)
+void recall(Part& part, CommandListener* listener, Command* command, Displayable* displayable)
 {
-    Shared& state = shared();
-    QueueLock lock(state);
-    std::erase_if(state.itemQueue, [=](const Entry& entry) {
+    std::erase_if(part.entries, [=](const Entry& entry) {
         auto* const queued = static_cast<CommandPayload*>(entry.second);
         if (entry.first != COMMAND_NOTIFICATION || queued == nullptr || !matches(listener, queued->listener) ||
             !matches(command, queued->command) || !matches(displayable, queued->displayable))
@@ -197,31 +258,96 @@ void recall(CommandListener* listener, Command* command, Displayable* displayabl
 }
 
 /// Erases a queued item's change if it is for `listener`, which null always is.
-void recall(Shared& state, Queue::iterator place, ItemStateListener* listener)
+void recall(Part& part, Queue::iterator place, ItemStateListener* listener)
 {
     auto* const queued = static_cast<ItemPayload*>(place->second);
     if (!matches(listener, queued->listener))
         return;
     logRecall(*queued);
-    state.changes.remove(queued->item, place);
-    state.itemQueue.erase(place);
+    part.changes.remove(queued->item, place);
+    part.entries.erase(place);
     delete queued;
 }
 
 /// Those of one item are found without walking the queue: rows come by the thousand.
-void recall(ItemStateListener* listener, Item* item)
+void recall(Part& part, ItemStateListener* listener, Item* item)
 {
-    Shared& state = shared();
-    QueueLock lock(state);
     if (item != nullptr) {
-        const auto places = state.changes.of(item);
+        const auto places = part.changes.of(item);
         for (const Queue::iterator place : places)
-            recall(state, place, listener);
+            recall(part, place, listener);
         return;
     }
-    for (auto place = state.itemQueue.begin(); place != state.itemQueue.end();)
+    for (auto place = part.entries.begin(); place != part.entries.end();)
         if (const auto current = place++; current->first == ITEM_NOTIFICATION)
-            recall(state, current, listener);
+            recall(part, current, listener);
+}
+
+/// Recalls from both parts, in the order of delivery.
+template <typename... What>
+void recallAll(What... what)
+{
+    Shared& state = shared();
+    const WholeQueueLock lock(state);
+    recall(*state.taken, what...);
+    recall(*state.waiting, what...);
+}
+
+/// Does nothing for some microseconds but give way, or until it is `enough()`.
+template <typename Enough>
+void rest(Enough enough)
+{
+    constexpr auto LONG_ENOUGH = std::chrono::microseconds(20);
+    for (const auto end = std::chrono::steady_clock::now() + LONG_ENOUGH;
+         !enough() && std::chrono::steady_clock::now() < end;)
+        std::this_thread::yield();
+}
+
+/// Delivers what has been taken over; returns how many these were.
+int deliverTaken(Shared& state, Queue& used)
+{
+    int delivered = 0;
+    while (const auto entry = takeFirst(state, used)) {
+        deliver(*entry);
+        ++delivered;
+        if (used.size() > MAX_SPARE_NODES)
+            used.pop_front();
+    }
+    return delivered;
+}
+
+/// Delivers until the queue is empty, and then is one of those who watch it. Returns false where somebody else
+/// delivers.
+bool deliverAll(Shared& state)
+{
+    constexpr int BURST = 8;
+    Queue used;
+    QueueLock lock(state);
+    if (state.running)
+        return false;
+    state.running = true;
+    while (takeOver(state)) {
+        state.itemQueueSemaphore.give();
+        const int delivered = deliverTaken(state, used);
+        // Many at a time cost little more than one: in a burst posters may bring more meanwhile.
+        if (delivered > BURST)
+            rest([] { return false; });
+        state.itemQueueSemaphore.take(-1);
+        giveBackNodes(state, used);
+    }
+    state.running = false;
+    ++state.watching;
+    return true;
+}
+
+/// Whether something has come for one who watches. To be handed to a thread again for each notification costs more than
+/// a moment of patience.
+bool isWantedAgain(Shared& state)
+{
+    rest([&state] { return state.wanted.load(std::memory_order_relaxed); });
+    const QueueLock lock(state);
+    --state.watching;
+    return state.wanted.exchange(false, std::memory_order_relaxed);
 }
 
 } // namespace
@@ -248,31 +374,19 @@ void CommandExecutor::postCommand(ItemStateListener* listener, Item* item, bool 
 
 void CommandExecutor::retrieveCommand(CommandListener* listener, Command* command, Displayable* displayable)
 {
-    recall(listener, command, displayable);
+    recallAll(listener, command, displayable);
 }
 
 void CommandExecutor::retrieveCommand(ItemStateListener* listener, Item* item)
 {
-    recall(listener, item);
+    recallAll(listener, item);
 }
 
 void CommandExecutor::run()
 {
     Shared& state = shared();
-    state.itemQueueSemaphore.take(-1);
-    if (state.running) {
-        state.itemQueueSemaphore.give();
-        return;
+    while (deliverAll(state) && isWantedAgain(state)) {
     }
-    state.running = !state.itemQueue.empty();
-    while (state.running && !state.itemQueue.empty()) {
-        const Entry entry = takeFirst(state);
-        state.itemQueueSemaphore.give();
-        deliver(entry);
-        state.itemQueueSemaphore.take(-1);
-    }
-    state.running = false;
-    state.itemQueueSemaphore.give();
 }
 
 } // namespace DisplayAPI

@@ -45,12 +45,13 @@ std::vector<DisplayEventFilter*>& installedFilters()
     return *filters;
 }
 
-/// Lets `heir` carry out the widgets' requests that wait for `filter`. Under the queue's mutex.
+/// Lets `heir` carry out the widgets' requests that wait for `filter`. Under the queue's mutexes.
 void readdress(const DisplayEventFilter* filter, DisplayEventFilter* heir)
 {
-    for (PegMessage* message = gtPegMainQueue->head; message != nullptr; message = message->Next)
-        if (message->wType == PM_WIDGET_REQUEST && message->pTarget == filter)
-            message->pTarget = message->pSource = heir;
+    for (PegMessage* message : {gtPegMainQueue->taken, gtPegMainQueue->head})
+        for (; message != nullptr; message = message->Next)
+            if (message->wType == PM_WIDGET_REQUEST && message->pTarget == filter)
+                message->pTarget = message->pSource = heir;
 }
 
 } // namespace
@@ -81,7 +82,7 @@ void DisplayEventFilter::uninstall()
         return;
     }
     // Under the queue's mutex, so that no post for this filter comes later.
-    MainQueueLock lock(*gtPegMainQueue);
+    const WholeQueueLock lock(*gtPegMainQueue);
     mpFilter.store(heir, std::memory_order_release);
     if (heir != nullptr)
         readdress(this, heir);

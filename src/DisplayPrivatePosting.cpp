@@ -36,7 +36,7 @@ void postEventHelper(DisplayRequestEvent* request, DisplayEventFilter* filter, b
 
     // Once the mutex is released the GUI thread may have deleted the request: read what to wait for before.
     Semaphore* semaphore = nullptr;
-    enqueue(message, Place::TAIL, [&] {
+    enqueue(message, Place::TAIL, wait ? Answer::AWAITED : Answer::NOT_AWAITED, [&] {
         semaphore = request != nullptr ? request->getSemaphore() : nullptr;
         return true;
     });

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "utilities/Prefetch.h"
+
 #include <cstddef>
 #include <mutex>
 #include <new>
@@ -64,7 +66,7 @@ private:
         if (block == nullptr)
             return;
         for (std::size_t line = 0; line < BLOCK_SIZE; line += LINE)
-            __builtin_prefetch(reinterpret_cast<char*>(block) + line, 1);
+            prefetchForWriting(reinterpret_cast<char*>(block) + line);
     }
 
     /// Trivial, so that it can still be looked at when the thread's other variables are gone.

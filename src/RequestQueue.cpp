@@ -1,5 +1,7 @@
 #include "RequestQueue.h"
 
+#include "utilities/Prefetch.h"
+
 namespace DisplayAPI {
 
 namespace {
@@ -12,7 +14,7 @@ PegMessage* takePooledMessage()
         gpFreePool->head = message->Next;
         if (message->Next == nullptr)
             gpFreePool->tail = nullptr;
-        __builtin_prefetch(message->Next, 1);
+        prefetchForWriting(message->Next);
     }
     UnlockMessageQueue();
     return message;
@@ -35,14 +37,24 @@ void giveBackMessage(PegMessage* message)
     UnlockMessageQueue();
 }
 
-PegMessage* unlinkAfter(PegMainQueue& queue, PegMessage* previous)
+void insertAtTail(PegMainQueue& queue, PegMessage* message)
 {
-    PegMessage* const message = previous != nullptr ? previous->Next : queue.head;
-    (previous != nullptr ? previous->Next : queue.head) = message->Next;
-    if (queue.tail == message)
-        queue.tail = previous;
-    queue.count.store(queue.count.load(std::memory_order_relaxed) - 1, std::memory_order_release);
-    return message;
+    message->Next = nullptr;
+    (queue.tail != nullptr ? queue.tail->Next : queue.head) = message;
+    queue.tail = message;
+    addTo(queue.waiting, 1);
+}
+
+void insertAtHead(PegMainQueue& queue, PegMessage* message)
+{
+    MainQueueLock lock(queue.takenMutex);
+    const bool runsFirst = queue.taken != nullptr;
+    PegMessage*& first = runsFirst ? queue.taken : queue.head;
+    message->Next = first;
+    first = message;
+    if (!runsFirst && queue.tail == nullptr)
+        queue.tail = message;
+    addTo(runsFirst ? queue.takenCount : queue.waiting, 1);
 }
 
 } // namespace DisplayAPI

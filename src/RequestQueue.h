@@ -7,16 +7,26 @@
 /// The library's ways into the toolkit's main queue and free pool.
 namespace DisplayAPI {
 
-/// Holds the main queue's mutex.
+/// Holds one of the main queue's mutexes.
 class MainQueueLock {
 public:
-    explicit MainQueueLock(PegMainQueue& queue) : mQueue(queue) { pthread_mutex_lock(&mQueue.mutex); }
-    ~MainQueueLock() { pthread_mutex_unlock(&mQueue.mutex); }
+    explicit MainQueueLock(pthread_mutex_t& mutex) : mMutex(mutex) { pthread_mutex_lock(&mMutex); }
+    ~MainQueueLock() { pthread_mutex_unlock(&mMutex); }
     MainQueueLock(const MainQueueLock&) = delete;
     MainQueueLock& operator=(const MainQueueLock&) = delete;
 
 private:
-    PegMainQueue& mQueue;
+    pthread_mutex_t& mMutex;
+};
+
+/// Holds the whole queue: what waits and what the loop has taken over.
+class WholeQueueLock {
+public:
+    explicit WholeQueueLock(PegMainQueue& queue) : mWaiting(queue.mutex), mTaken(queue.takenMutex) {}
+
+private:
+    MainQueueLock mWaiting;
+    MainQueueLock mTaken;
 };
 
 /// A message record from the head of the free pool, or a new one; null when memory is out.
@@ -27,66 +37,93 @@ void giveBackMessage(PegMessage* message);
 
 enum class Place { HEAD, TAIL };
 
+/// Whether the poster waits for the request.
+enum class Answer { AWAITED, NOT_AWAITED };
+
+inline void addTo(std::atomic<int>& count, int change)
+{
+    count.store(count.load(std::memory_order_relaxed) + change, std::memory_order_release);
+}
+
+/// Under the queue's mutex.
+void insertAtTail(PegMainQueue& queue, PegMessage* message);
+
+/// Ahead of everything that has not begun. Under the queue's mutex.
+void insertAtHead(PegMainQueue& queue, PegMessage* message);
+
 /// Links `message` in and wakes the loop: from then on it and its record belong to the GUI thread. `admit` has the last
 /// word before that, under the mutex; where it says no, the message stays the caller's. Returns what it has said.
 template <typename Admit>
-bool enqueue(PegMessage* message, Place place, Admit admit)
+bool enqueue(PegMessage* message, Place place, Answer answer, Admit admit)
 {
     PegMainQueue& queue = *gtPegMainQueue;
-    MainQueueLock lock(queue);
+    MainQueueLock lock(queue.mutex);
     if (!admit())
         return false;
-    if (place == Place::TAIL) {
-        message->Next = nullptr;
-        (queue.tail != nullptr ? queue.tail->Next : queue.head) = message;
-        queue.tail = message;
-    } else {
-        message->Next = queue.head;
-        if (queue.tail == nullptr)
-            queue.tail = message;
-        queue.head = message;
-    }
-    queue.count.store(queue.count.load(std::memory_order_relaxed) + 1, std::memory_order_release);
+    (place == Place::TAIL ? insertAtTail : insertAtHead)(queue, message);
+    if (answer == Answer::AWAITED)
+        queue.awaited.store(true, std::memory_order_relaxed);
     pthread_cond_broadcast(&queue.condition);
     return true;
 }
 
-/// Unlinks the message behind `previous` (the head where it is null) and returns it. The queue's mutex must be held.
-PegMessage* unlinkAfter(PegMainQueue& queue, PegMessage* previous);
-
-/// Unlinks every message that `matches` and hands it to `take`, which owns it. Under the queue's mutex.
+/// Unlinks what `matches` from the messages that begin with `first`, and hands it to `take`, which owns it, until
+/// `take` says that it is enough. `last` is the last of them, before and after. Returns whether it was enough. Under
+/// the part's mutex.
 template <typename Matches, typename Take>
-void removeMessages(Matches matches, Take take)
+bool sift(PegMessage*& first, PegMessage*& last, std::atomic<int>& count, Matches matches, Take take)
+{
+    PegMessage* previous = nullptr;
+    for (PegMessage** link = &first; *link != nullptr;) {
+        PegMessage* const message = *link;
+        if (!matches(*message)) {
+            previous = message;
+            link = &message->Next;
+            continue;
+        }
+        *link = message->Next;
+        if (last == message)
+            last = previous;
+        addTo(count, -1);
+        if (take(message))
+            return true;
+    }
+    return false;
+}
+
+/// The same for the whole queue, in the order in which it runs. Does nothing where there is none.
+template <typename Matches, typename Take>
+void siftQueue(Matches matches, Take take)
 {
     if (gtPegMainQueue == nullptr)
         return;
-    MainQueueLock lock(*gtPegMainQueue);
-    PegMessage* previous = nullptr;
-    PegMessage* message = gtPegMainQueue->head;
-    while (message != nullptr) {
-        PegMessage* const next = message->Next;
-        if (matches(*message))
-            take(unlinkAfter(*gtPegMainQueue, previous));
-        else
-            previous = message;
-        message = next;
-    }
+    PegMainQueue& queue = *gtPegMainQueue;
+    const WholeQueueLock lock(queue);
+    PegMessage* noTail = nullptr;
+    if (!sift(queue.taken, noTail, queue.takenCount, matches, take))
+        sift(queue.head, queue.tail, queue.waiting, matches, take);
+}
+
+/// Unlinks every message that `matches` and hands it to `take`, which owns it. Under the queue's mutexes.
+template <typename Matches, typename Take>
+void removeMessages(Matches matches, Take take)
+{
+    siftQueue(matches, [&take](PegMessage* message) {
+        take(message);
+        return false;
+    });
 }
 
 /// Unlinks the first message that `matches` and returns it; null where none does.
 template <typename Matches>
 PegMessage* removeFirstMessage(Matches matches)
 {
-    if (gtPegMainQueue == nullptr)
-        return nullptr;
-    MainQueueLock lock(*gtPegMainQueue);
-    PegMessage* previous = nullptr;
-    for (PegMessage* message = gtPegMainQueue->head; message != nullptr; message = message->Next) {
-        if (matches(*message))
-            return unlinkAfter(*gtPegMainQueue, previous);
-        previous = message;
-    }
-    return nullptr;
+    PegMessage* found = nullptr;
+    siftQueue(matches, [&found](PegMessage* message) {
+        found = message;
+        return true;
+    });
+    return found;
 }
 
 } // namespace DisplayAPI

@@ -27,16 +27,18 @@ std::atomic<unsigned int> WidgetImpl::m_GuiThreadId{0};
 /// Where the post operations differ.
 struct Operation {
     Place place;
+    Answer answer;
     int logLine;
     PlainText lost;
 };
 
-constexpr Operation POST{Place::TAIL, 247,
+constexpr Operation POST{Place::TAIL, Answer::AWAITED, 247,
                          "Widget::postEvent() no more PegMessage objects in the pool, this one will be lost!"};
-constexpr Operation POST_TOP{Place::HEAD, 342,
+constexpr Operation POST_TOP{Place::HEAD, Answer::AWAITED, 342,
                              "Widget::postTopEvent() no more PegMessage objects in the pool, this one will be lost!"};
 constexpr Operation POST_ASYNC{
-    Place::TAIL, 427, "Widget::postEventAsync() no more PegMessage objects in the pool, this one will be lost!"};
+    Place::TAIL, Answer::NOT_AWAITED, 427,
+    "Widget::postEventAsync() no more PegMessage objects in the pool, this one will be lost!"};
 
 GuiRequestEvent* orEmptyRequest(Widget& widget, GuiRequestEvent* request)
 {
@@ -103,7 +105,7 @@ bool handOver(const Post& post, Widget& widget, GuiRequestEvent* request, const 
             Widget::Sync::entered(*request);
         return admitted;
     };
-    if (enqueue(message, operation.place, admit))
+    if (enqueue(message, operation.place, operation.answer, admit))
         return true;
     message->pData = nullptr;
     giveBackMessage(message);
@@ -163,23 +165,23 @@ void completeUnserved(GuiRequestEvent* request)
     delete request;
 }
 
-Widget::Widget() : name("Widget"), mSync(new Sync(new Semaphore(Semaphore::AVAILABLE, 1, false), new Wait)) {}
+Widget::Widget() : name("Widget"), mSync(new Sync) {}
 
-Widget::Widget(const Widget& other) : name("Widget"), mSync(new Sync(other.mSync->requestLock, other.mSync->wait)) {}
+Widget::Widget(const Widget& other) : name("Widget"), mSync(new Sync(*other.mSync)) {}
 
 Widget& Widget::operator=(const Widget& other)
 {
     if (this == &other)
         return *this;
     mSync->letGo();
-    mSync = new Sync(other.mSync->requestLock, other.mSync->wait);
+    mSync = new Sync(*other.mSync);
     return *this;
 }
 
 Widget::~Widget()
 {
-    // Looks into the queue only where a request of this widget is there, or may still get there.
-    if (mSync->hasQueued() || mSync->isHeldByOthers()) {
+    // Looks into the queue only where a request of this widget may still get there, or is there.
+    if (mSync->isHeldByOthers() || mSync->hasQueued()) {
         mSync->end();
         purge({this, nullptr});
     }

@@ -6,7 +6,8 @@
 #include "utilities/Wait.h"
 
 #include <atomic>
-#include <limits>
+#include <cstddef>
+#include <new>
 
 struct PegMessage;
 
@@ -15,23 +16,37 @@ namespace DisplayAPI {
 /// What a widget shares with the posts on it. A post that has begun holds it as well, so the widget may be deleted
 /// while callers wait, for the request lock or for completion, or are on their way out.
 struct Widget::Sync {
-    Sync(Semaphore* lock, Wait* condition) : requestLock(lock), wait(condition) {}
-    Sync(const Sync&) = delete;
+    Sync() : requestLock(new (mLock) Semaphore(Semaphore::AVAILABLE, 1, false)), wait(new (mWait) Wait) {}
+
+    /// A copy's: shares lock and Wait object, which lie in the source's, and destroys them as well.
+    explicit Sync(const Sync& source) : requestLock(source.requestLock), wait(source.wait) {}
     Sync& operator=(const Sync&) = delete;
 
     static Sync& of(Widget& widget) { return *widget.mSync; }
 
-    /// Counts the requests that wait in the queue for their widget, so that only who has some is looked for there.
-    static void entered(GuiRequestEvent& request) { change(request, 1); }
-    static void left(GuiRequestEvent& request) { change(request, -1); }
+    /// Counts the requests that go into the queue for their widget, under the queue's mutex, and those that come out of
+    /// it, so that only who has some is looked for there.
+    static void entered(GuiRequestEvent& request)
+    {
+        if (Widget* const widget = request.requesterWidget())
+            ++of(*widget).mEntered;
+    }
 
-    bool hasQueued() const { return mQueued.load(std::memory_order_relaxed) != 0; }
+    static void left(GuiRequestEvent& request)
+    {
+        if (Widget* const widget = request.requesterWidget())
+            of(*widget).mLeft.fetch_add(1, std::memory_order_relaxed);
+    }
+
+    /// To be asked when nobody else holds this: what the last holder has queued is seen then.
+    bool hasQueued() const { return mEntered.load(std::memory_order_relaxed) != mLeft.load(std::memory_order_relaxed); }
 
     /// From then on no post of this widget reaches the queue.
-    void end() { mQueued.store(ENDED, std::memory_order_relaxed); }
-    bool hasEnded() const { return mQueued.load(std::memory_order_relaxed) < ENDED / 2; }
+    void end() { mHasEnded.store(true, std::memory_order_relaxed); }
+    bool hasEnded() const { return mHasEnded.load(std::memory_order_relaxed); }
 
-    void hold() { mHolders.fetch_add(1, std::memory_order_relaxed); }
+    /// Whoever destroys the widget then sees that the post is through with it, but for what it holds here.
+    void hold() { mHolders.fetch_add(1, std::memory_order_release); }
     bool isHeldByOthers() const { return mHolders.load(std::memory_order_acquire) > 1; }
 
     /// Whoever is the last to let go deletes it, with all that belongs to it.
@@ -45,23 +60,28 @@ struct Widget::Sync {
     Wait* const wait;
 
 private:
-    static constexpr int ENDED =
-        std::numeric_limits<int>::min() / 2; ///< what is counted later does not reach zero from there
+    static constexpr std::size_t LINE = 64;
+    static_assert(sizeof(Wait) < LINE, "what keeps the counts apart fills a line up");
+
+    /// Written by one thread at a time.
+    struct Count : std::atomic<unsigned> {
+        Count() : std::atomic<unsigned>(0) {}
+        void operator++() { store(load(std::memory_order_relaxed) + 1, std::memory_order_relaxed); }
+    };
 
     ~Sync()
     {
-        delete wait;
-        delete requestLock;
+        wait->~Wait();
+        requestLock->~Semaphore();
     }
 
-    static void change(GuiRequestEvent& request, int by)
-    {
-        if (Widget* const widget = request.requesterWidget())
-            of(*widget).mQueued.fetch_add(by, std::memory_order_relaxed);
-    }
-
-    std::atomic<int> mHolders{1}; ///< the widget, and each thread that is in a post
-    std::atomic<int> mQueued{0};
+    alignas(Semaphore) std::byte mLock[sizeof(Semaphore)]; ///< here and below: rows come by the thousand
+    std::atomic<int> mHolders{1};                          ///< the widget, and each thread that is in a post
+    Count mEntered;
+    std::atomic<bool> mHasEnded{false};
+    alignas(Wait) std::byte mWait[sizeof(Wait)];
+    [[maybe_unused]] std::byte mApart[LINE - sizeof(Wait)]; ///< posters write above, the GUI thread below
+    std::atomic<unsigned> mLeft{0};
 };
 
 /// One post on a widget: holds the request lock, and what the widget shares, until its end.

@@ -18,7 +18,7 @@ struct LoopStatus {
 
     pthread_cond_t becameIdle;
     std::atomic<unsigned int> threadId{0}; ///< 0 while no loop runs
-    std::atomic<int> watchers{0};          ///< threads that wait for becameIdle
+    std::atomic<int> watchers{0};          ///< who wants to hear of becameIdle, or looks when it comes
     bool restsWithoutWork = false;
 
     /// The GUI thread begins with something new, or waits for it. GUI thread only.

@@ -51,6 +51,7 @@ MainLoop::MainLoop()
 MainLoop::~MainLoop()
 {
     gRun = nullptr;
+    MainQueue::giveBackTaken();
     publish(0);
 }
 

@@ -3,6 +3,9 @@
 #include "host/toolkit/MessagePool.h"
 #include "host/utilities/Spin.h"
 #include "utilities/Logging.h"
+#include "utilities/Prefetch.h"
+
+#include <utility>
 
 PegMainQueue* gtPegMainQueue = nullptr;
 
@@ -19,9 +22,8 @@ void initialise(pthread_cond_t& condition)
     pthread_condattr_destroy(&attributes);
 }
 
-void addToCount(int change)
+void add(std::atomic<int>& count, int change)
 {
-    std::atomic<int>& count = gtPegMainQueue->count;
     count.store(count.load(std::memory_order_relaxed) + change, std::memory_order_relaxed);
 }
 
@@ -38,17 +40,15 @@ void append(PegMessage* message)
     PegMainQueue& queue = *gtPegMainQueue;
     (queue.tail != nullptr ? queue.tail->Next : queue.head) = message;
     queue.tail = message;
-    addToCount(1);
+    add(queue.waiting, 1);
     pthread_cond_broadcast(&queue.condition);
 }
 
-/// Sleeping and waking for every collision with a poster would cost more than the messages.
-bool lockLater(std::unique_lock<QueueMutex>& lock)
+/// A run of many costs little more than one of one, and while it is worked through nobody competes for the queue.
+void letMessagesGather()
 {
-    if (lock.try_lock())
-        return true;
-    Spin::stayAway();
-    return lock.try_lock();
+    constexpr std::int64_t LONG_ENOUGH_NS = 25'000;
+    Spin::rest(LONG_ENOUGH_NS, [] { return gtPegMainQueue->awaited.load(std::memory_order_relaxed); });
 }
 
 /// The messages that come next were written by other CPUs: ask for their lines while this one is being handled.
@@ -56,9 +56,9 @@ void fetchAhead(const PegMessage& next)
 {
     constexpr int RECORD = 256;
     constexpr int LINE = 64;
-    __builtin_prefetch(next.Next);
+    prefetchForWriting(next.Next);
     for (int line = 0; next.pData != nullptr && line < RECORD; line += LINE)
-        __builtin_prefetch(static_cast<const char*>(next.pData) + line, 1);
+        prefetchForWriting(static_cast<const char*>(next.pData) + line);
 }
 
 bool isRequest(const PegMessage& message)
@@ -66,27 +66,53 @@ bool isRequest(const PegMessage& message)
     return message.wType == PM_DISPLAY_REQUEST || message.wType == PM_WIDGET_REQUEST;
 }
 
-/// Takes out the messages that `unwanted` names.
+/// Moves the messages that `unwanted` names out of one part of the queue; returns the last one that stays.
+template <typename Unwanted>
+PegMessage* removeIf(PegMessage*& first, std::atomic<int>& count, Unwanted unwanted, DoneMessages& removed)
+{
+    PegMessage* last = nullptr;
+    for (PegMessage** link = &first; *link != nullptr;) {
+        PegMessage* const message = *link;
+        if (!unwanted(*message)) {
+            last = message;
+            link = &message->Next;
+            continue;
+        }
+        *link = message->Next;
+        add(count, -1);
+        removed.add(message);
+    }
+    return last;
+}
+
+/// Takes the messages that `unwanted` names out of both parts.
 template <typename Unwanted>
 void removeIf(Unwanted unwanted)
 {
     DoneMessages removed;
     QueueMutex mutex;
     std::lock_guard lock(mutex);
+    TakenMutex takenMutex;
+    std::lock_guard takenLock(takenMutex);
     PegMainQueue& queue = *gtPegMainQueue;
-    PegMessage* previous = nullptr;
-    for (PegMessage* message = queue.head; message;) {
-        PegMessage* const next = message->Next;
-        if (unwanted(*message)) {
-            (previous ? previous->Next : queue.head) = next;
-            addToCount(-1);
-            removed.add(message);
-        } else {
-            previous = message;
-        }
-        message = next;
-    }
-    queue.tail = previous;
+    removeIf(queue.taken, queue.takenCount, unwanted, removed);
+    queue.tail = removeIf(queue.head, queue.waiting, unwanted, removed);
+}
+
+/// The first message of those that have been taken over, or null.
+PegMessage* takeTaken()
+{
+    TakenMutex mutex;
+    std::lock_guard lock(mutex);
+    PegMainQueue& queue = *gtPegMainQueue;
+    PegMessage* const message = queue.taken;
+    if (message == nullptr)
+        return nullptr;
+    queue.taken = message->Next;
+    add(queue.takenCount, -1);
+    if (queue.taken != nullptr)
+        fetchAhead(*queue.taken);
+    return message;
 }
 
 } // namespace
@@ -97,6 +123,7 @@ void MainQueue::create()
         return;
     auto* const queue = new PegMainQueue;
     pthread_mutex_init(&queue->mutex, nullptr);
+    pthread_mutex_init(&queue->takenMutex, nullptr);
     initialise(queue->condition);
     gtPegMainQueue = queue;
 }
@@ -120,23 +147,51 @@ bool MainQueue::push(const PegMessage& message)
 
 PegMessage* MainQueue::take(Pace pace)
 {
-    if (isEmpty())
+    const PegMainQueue& queue = *gtPegMainQueue;
+    if (queue.takenCount.load(std::memory_order_relaxed) != 0)
+        if (PegMessage* const message = takeTaken())
+            return message;
+    if (queue.waiting.load(std::memory_order_relaxed) == 0)
         return nullptr;
+    if (pace == Pace::BURST)
+        letMessagesGather();
+    takeOver();
+    return takeTaken();
+}
+
+void MainQueue::takeOver()
+{
     QueueMutex mutex;
-    std::unique_lock lock(mutex, std::defer_lock);
-    if (pace == Pace::PROMPT || !lockLater(lock))
-        lock.lock();
+    std::lock_guard lock(mutex);
+    TakenMutex takenMutex;
+    std::lock_guard takenLock(takenMutex);
     PegMainQueue& queue = *gtPegMainQueue;
-    PegMessage* const message = queue.head;
-    if (message == nullptr)
-        return nullptr;
-    queue.head = message->Next;
-    if (queue.head == nullptr)
-        queue.tail = nullptr;
-    else
-        fetchAhead(*queue.head);
-    addToCount(-1);
-    return message;
+    if (queue.taken != nullptr)
+        return;
+    queue.taken = std::exchange(queue.head, nullptr);
+    queue.tail = nullptr;
+    queue.takenCount.store(queue.waiting.load(std::memory_order_relaxed), std::memory_order_relaxed);
+    queue.waiting.store(0, std::memory_order_release);
+    queue.awaited.store(false, std::memory_order_relaxed);
+}
+
+void MainQueue::giveBackTaken()
+{
+    QueueMutex mutex;
+    std::lock_guard lock(mutex);
+    TakenMutex takenMutex;
+    std::lock_guard takenLock(takenMutex);
+    PegMainQueue& queue = *gtPegMainQueue;
+    if (queue.taken == nullptr)
+        return;
+    PegMessage* last = queue.taken;
+    while (last->Next != nullptr)
+        last = last->Next;
+    last->Next = queue.head;
+    if (queue.tail == nullptr)
+        queue.tail = last;
+    queue.head = std::exchange(queue.taken, nullptr);
+    add(queue.waiting, queue.takenCount.exchange(0, std::memory_order_relaxed));
 }
 
 void MainQueue::dropMessagesTo(const PegThing* thing)

@@ -6,15 +6,21 @@
 
 namespace host {
 
-/// The main queue's mutex for std::lock_guard.
+/// The mutex of what waits in the main queue, for std::lock_guard.
 class QueueMutex {
 public:
     void lock() { pthread_mutex_lock(&gtPegMainQueue->mutex); }
-    bool try_lock() { return pthread_mutex_trylock(&gtPegMainQueue->mutex) == 0; }
     void unlock() { pthread_mutex_unlock(&gtPegMainQueue->mutex); }
 };
 
-/// What the toolkit itself does with the main queue. Each takes the queue's mutex; none holds it on return.
+/// The mutex of what the loop has taken over, inside the other one where both are needed.
+class TakenMutex {
+public:
+    void lock() { pthread_mutex_lock(&gtPegMainQueue->takenMutex); }
+    void unlock() { pthread_mutex_unlock(&gtPegMainQueue->takenMutex); }
+};
+
+/// What the toolkit itself does with the main queue. Each takes the queue's mutexes; none holds one on return.
 class MainQueue {
 public:
     /// Makes the queue on the first call; later ones do nothing.
@@ -23,11 +29,17 @@ public:
     /// Appends a copy. Returns false where there is no record for it, or no queue.
     static bool push(const PegMessage& message);
 
-    /// In a burst of messages the loop lets posters go on rather than compete with them for each.
+    /// In a burst the loop lets messages gather before it takes them over, unless somebody waits for one of them.
     enum class Pace { PROMPT, BURST };
 
-    /// The first message, which is the caller's from now on; null where there is none.
+    /// The first message, which is the caller's from now on; null where there is none. The loop's thread only.
     static PegMessage* take(Pace pace);
+
+    /// Takes over all that waits, where nothing taken over is left. The loop's thread only.
+    static void takeOver();
+
+    /// When the loop ends: what it has taken over and not begun waits again, ahead of everything.
+    static void giveBackTaken();
 
     /// Takes out what waits for `thing`, which is about to be gone. Requests stay, without a target: their records are
     /// the library's to complete and delete.
@@ -36,7 +48,7 @@ public:
     /// Takes out everything but requests.
     static void dropMessages();
 
-    static bool isEmpty() { return gtPegMainQueue->count.load(std::memory_order_relaxed) == 0; }
+    static bool isEmpty() { return gtPegMainQueue->count() == 0; }
 };
 
 } // namespace host

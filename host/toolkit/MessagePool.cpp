@@ -14,7 +14,14 @@ namespace host {
 
 namespace {
 
-constinit FutexLock gPoolLock;
+/// On a cache line of its own: posters write it all the time, and the loop reads what lies beside it.
+struct alignas(64) Pool {
+    FutexLock lock;
+    PegFreePool list;
+};
+
+constinit Pool gPool;
+constinit FutexLock& gPoolLock = gPool.lock;
 constinit std::atomic<int> gFailures{0};
 constinit std::atomic<std::size_t> gRecords{0};
 constinit std::atomic<std::size_t> gAllocations{0};
@@ -47,7 +54,7 @@ void MessagePool::create()
 {
     if (gpFreePool != nullptr)
         return;
-    gpFreePool = new PegFreePool;
+    gpFreePool = &gPool.list;
     if (PegMessage* const chain = newChain(PREALLOCATED))
         giveBack(chain, chain + PREALLOCATED - 1);
 }

@@ -13,4 +13,15 @@ std::string besideTheHost(const std::string& file)
     return std::filesystem::absolute(info.dli_fname).replace_filename(file).string();
 }
 
+LoadedFunction loadBesideTheHost(const std::string& file, const char* function)
+{
+    void* const object = dlopen(besideTheHost(file).c_str(), RTLD_NOW | RTLD_LOCAL);
+    if (object == nullptr)
+        return {.error = dlerror()};
+    void* const found = dlsym(object, function);
+    if (found == nullptr)
+        return {.error = besideTheHost(file) + " has no " + function};
+    return {.function = found};
+}
+
 } // namespace host

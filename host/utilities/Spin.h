@@ -48,10 +48,20 @@ public:
     /// After a lost race for a lock that is held for a few instructions at a time: leaves its cache line alone for some
     /// microseconds, in which whoever has it may use it many times over. Returns at once where that one ran on this
     /// CPU.
-    static void stayAway(int holdersCpu = UNKNOWN)
+    static void stayAway(int holdersCpu)
     {
         for (int rounds = runsElsewhere(holdersCpu) ? ROUNDS_AWAY : 0; rounds > 0; --rounds)
             relaxProcessor();
+    }
+
+    /// Does nothing for so long, or until it is `enough()`. Returns at once where the thread may use one CPU only.
+    template <typename Enough>
+    static void rest(std::int64_t duration, Enough enough)
+    {
+        if (!runsElsewhere(UNKNOWN))
+            return;
+        for (const std::int64_t end = nanoseconds() + duration; !enough() && nanoseconds() < end;)
+            someRounds([] { return false; }, relaxProcessor);
     }
 
     /// Whether a thread that ran on `cpu` can run while the calling one spins. Of UNKNOWN it is assumed where the

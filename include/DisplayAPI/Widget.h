@@ -61,8 +61,8 @@ public:
     void postEventHelper(bool async, GuiRequestEvent* request);
 
     /// Wakes the caller that waits for the request, if one does. Ends processGuiRequest(), on whatever thread that
-    /// runs.
-    void signalComplete(GuiRequestEvent& request);
+    /// runs; the widget may have gone by then.
+    static void signalComplete(GuiRequestEvent& request);
 
     /// Takes the first queued request of this widget with the given code (any of `codes`; null means every code) out of
     /// the queue. The caller owns it; whoever waits for it goes on waiting. Null when there is none.

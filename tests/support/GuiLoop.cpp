@@ -49,7 +49,7 @@ GuiLoop::~GuiLoop()
 {
     host::Loop::quit();
     mThread.join();
-    EXPECT_EQ(gtPegMainQueue->count.load(), 0) << "messages left behind";
+    EXPECT_EQ(gtPegMainQueue->count(), 0) << "messages left behind";
 }
 
 void GuiLoop::run()

@@ -32,11 +32,12 @@ void describeQueue(std::ostream& report)
         report << "  main queue: none, the toolkit has never been started\n";
         return;
     }
-    report << "  main queue: " << gtPegMainQueue->count.load() << " messages";
+    report << "  main queue: " << gtPegMainQueue->count() << " messages";
     if (pthread_mutex_trylock(&gtPegMainQueue->mutex) != 0) {
         report << ", its mutex is held\n";
         return;
     }
+    report << ", of which taken over " << gtPegMainQueue->takenCount << ", waiting:";
     for (const PegMessage* message = gtPegMainQueue->head; message != nullptr; message = message->Next)
         report << " 0x" << std::hex << message->wType << std::dec;
     pthread_mutex_unlock(&gtPegMainQueue->mutex);

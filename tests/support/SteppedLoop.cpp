@@ -3,6 +3,7 @@
 #include "DisplayAPI/GuiRequestEvent.h"
 #include "DisplayAPI/Widget.h"
 #include "DisplayEventFilter.h"
+#include "RequestQueue.h"
 #include "host/toolkit/MainQueue.h"
 #include "host/toolkit/MessagePool.h"
 #include "toolkit/PegFunctions.h"
@@ -18,19 +19,10 @@ using DisplayAPI::Widget;
 
 namespace {
 
-/// The first message, or null.
+/// The first message, or null. Does not take over what waits: that is the test's to do.
 PegMessage* takeHead()
 {
-    host::QueueMutex mutex;
-    std::lock_guard lock(mutex);
-    PegMessage* const message = gtPegMainQueue->head;
-    if (message == nullptr)
-        return nullptr;
-    gtPegMainQueue->head = message->Next;
-    if (message->Next == nullptr)
-        gtPegMainQueue->tail = nullptr;
-    --gtPegMainQueue->count;
-    return message;
+    return DisplayAPI::removeFirstMessage([](const PegMessage&) { return true; });
 }
 
 } // namespace
@@ -72,18 +64,23 @@ void SteppedLoop::runAll()
     }
 }
 
+void SteppedLoop::takeOver()
+{
+    host::MainQueue::takeOver();
+}
+
 int SteppedLoop::queued() const
 {
     host::QueueMutex mutex;
     const std::lock_guard lock(mutex);
-    return gtPegMainQueue->count;
+    return gtPegMainQueue->count();
 }
 
 void SteppedLoop::waitForQueued(int count)
 {
     host::QueueMutex mutex;
     std::lock_guard lock(mutex);
-    while (gtPegMainQueue->count != count)
+    while (gtPegMainQueue->count() != count)
         pthread_cond_wait(&gtPegMainQueue->condition, &gtPegMainQueue->mutex);
 }
 
@@ -92,8 +89,9 @@ std::vector<PegMessage> SteppedLoop::messages() const
     host::QueueMutex mutex;
     std::lock_guard lock(mutex);
     std::vector<PegMessage> all;
-    for (const PegMessage* message = gtPegMainQueue->head; message != nullptr; message = message->Next)
-        all.push_back(*message);
+    for (const PegMessage* message : {gtPegMainQueue->taken, gtPegMainQueue->head})
+        for (; message != nullptr; message = message->Next)
+            all.push_back(*message);
     return all;
 }
 

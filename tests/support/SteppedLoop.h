@@ -33,6 +33,9 @@ public:
     /// Handles messages until none is left.
     void runAll();
 
+    /// Stops between taking and running: takes over what waits, as the loop does, and begins none of it.
+    void takeOver();
+
     int queued() const;
 
     /// Waits until so many messages are queued.

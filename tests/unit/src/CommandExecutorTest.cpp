@@ -9,8 +9,11 @@
 #include "support/Worker.h"
 #include "utilities/Threadable.h"
 
+#include <atomic>
+#include <chrono>
 #include <functional>
 #include <latch>
+#include <optional>
 #include <string>
 #include <type_traits>
 
@@ -90,6 +93,90 @@ protected:
     Command call{"call", Command::OK};
     Command back{"back", Command::BACK};
 };
+
+/// How much of what is queued the executor has taken over and not begun.
+enum class Taken { NOTHING, THE_FIRST, ALL };
+
+/// An executor that delivers elsewhere and is stopped: by one notification before anything is posted, and, once it goes
+/// on, by another one that it takes over together with all that has been posted by then.
+class CommandExecutorPartsTest : public CommandExecutorTest, public testing::WithParamInterface<Taken> {
+protected:
+    CommandExecutorPartsTest()
+    {
+        CommandExecutorTest::post(mBefore, item(STOP));
+        mExecutor.emplace([] { CommandExecutorTest::deliver(); });
+        mBefore.entered.wait();
+        CommandExecutorTest::post(mAmong, item(STOP));
+    }
+    ~CommandExecutorPartsTest() override { deliver(); }
+
+    template <typename What>
+    void post(Listener& listener, What&& what)
+    {
+        CommandExecutorTest::post(listener, what);
+        if (GetParam() == Taken::THE_FIRST)
+            takeOver();
+    }
+
+    template <typename... What>
+    void recall(What... what)
+    {
+        if (GetParam() == Taken::ALL)
+            takeOver();
+        CommandExecutor::retrieveCommand(what...);
+    }
+
+    /// Lets the executor take over what has been posted by now, and stops it again, unless it has done so before.
+    void takeOver()
+    {
+        if (mBefore.isLeft())
+            return;
+        mBefore.leave();
+        mAmong.entered.wait();
+    }
+
+    void deliver()
+    {
+        if (!mExecutor)
+            return CommandExecutorTest::deliver();
+        takeOver();
+        mAmong.leave();
+        mExecutor.reset();
+    }
+
+private:
+    static constexpr std::size_t STOP = 1'000; ///< what no test recalls
+
+    class Stop : public ItemStateListener {
+    public:
+        void itemStateChanged(Item*) override
+        {
+            entered.count_down();
+            mLeft.wait();
+        }
+
+        bool isLeft() const { return mLeft.try_wait(); }
+        void leave() { mLeft.count_down(); }
+
+        std::latch entered{1};
+
+    private:
+        std::latch mLeft{1};
+    };
+
+    Stop mBefore;
+    Stop mAmong;
+    std::optional<test::Worker> mExecutor;
+};
+
+std::string nameOfParts(const testing::TestParamInfo<Taken>& info)
+{
+    constexpr const char* NAMES[] = {"NothingTaken", "TheFirstTaken", "AllTaken"};
+    return NAMES[static_cast<int>(info.param)];
+}
+
+INSTANTIATE_TEST_SUITE_P(, CommandExecutorPartsTest, testing::Values(Taken::NOTHING, Taken::THE_FIRST, Taken::ALL),
+                         nameOfParts);
 
 } // namespace
 
@@ -287,6 +374,22 @@ TEST_F(CommandExecutorTest, WhatIsPostedWhileAHandlerRunsIsDeliveredByTheRunning
     EXPECT_THAT(trace, ElementsAre("a call", "b call"));
 }
 
+TEST_F(CommandExecutorTest, WhatComesWhileAnExecutorLooksForTheLastTimeIsDelivered)
+{
+    constexpr int ROUNDS = 400;
+    constexpr int LONGEST_PAUSE = 40; // an executor watches the queue for half as many microseconds
+    std::atomic<int> delivered{0};
+    a.onCall = [&] { ++delivered; };
+    for (int round = 1; round <= ROUNDS; ++round) {
+        post(a, call, START);
+        test::waitUntil([&] { return delivered == round; });
+        const auto end = std::chrono::steady_clock::now() + std::chrono::microseconds(round % LONGEST_PAUSE);
+        while (std::chrono::steady_clock::now() < end)
+            std::this_thread::yield();
+    }
+    EXPECT_EQ(delivered, ROUNDS);
+}
+
 TEST_F(CommandExecutorTest, PostingAndRecallingDoNotWaitForARunningHandler)
 {
     std::latch entered(1);
@@ -349,7 +452,30 @@ TEST_F(CommandExecutorTest, ManyThreadsMayPostAndRecallAtTheSameTime)
               ROUNDS);
 }
 
-TEST_F(CommandExecutorTest, RecallingForAListenerLeavesOtherEntriesInOrder)
+TEST_P(CommandExecutorPartsTest, DeliversInTheOrderOfPosting)
+{
+    post(a, call);
+    post(b, item(1));
+    takeOver();
+    post(a, item(1));
+    post(b, call);
+    deliver();
+    EXPECT_THAT(trace, ElementsAre("a call", "b item 1", "a item 1", "b call"));
+}
+
+TEST_P(CommandExecutorPartsTest, TheSameItemTwiceIsDeliveredOnce)
+{
+    post(a, item(1));
+    post(a, item(2));
+    if (GetParam() == Taken::ALL)
+        takeOver();
+    post(a, item(2));
+    post(a, item(1));
+    deliver();
+    EXPECT_THAT(trace, ElementsAre("a item 1", "a item 2"));
+}
+
+TEST_P(CommandExecutorPartsTest, RecallingForAListenerLeavesOtherEntriesInOrder)
 {
     post(a, call);
     post(b, call);
@@ -357,109 +483,109 @@ TEST_F(CommandExecutorTest, RecallingForAListenerLeavesOtherEntriesInOrder)
     post(a, item(1));
     post(b, back);
 
-    CommandExecutor::retrieveCommand(&a, nullptr, nullptr);
+    recall(&a, nullptr, nullptr);
     deliver();
 
     EXPECT_THAT(trace, ElementsAre("b call", "a item 1", "b back"));
 }
 
-TEST_F(CommandExecutorTest, RecallingACommandTakesItFromEveryListener)
+TEST_P(CommandExecutorPartsTest, RecallingACommandTakesItFromEveryListener)
 {
     post(a, call);
     post(b, back);
     post(b, call);
 
-    CommandExecutor::retrieveCommand(nullptr, &call, nullptr);
+    recall(static_cast<CommandListener*>(nullptr), &call, nullptr);
     deliver();
 
     EXPECT_THAT(trace, ElementsAre("b back"));
 }
 
-TEST_F(CommandExecutorTest, RecallingForADisplayableTakesItsEntries)
+TEST_P(CommandExecutorPartsTest, RecallingForADisplayableTakesItsEntries)
 {
     auto* const screen = reinterpret_cast<Displayable*>(0x10);
     CommandExecutor::postCommand(&a, &call, screen, DO_NOT_START);
     CommandExecutor::postCommand(&b, &back, nullptr, DO_NOT_START);
 
-    CommandExecutor::retrieveCommand(nullptr, nullptr, screen);
+    recall(static_cast<CommandListener*>(nullptr), nullptr, screen);
     deliver();
 
     EXPECT_THAT(trace, ElementsAre("b back"));
 }
 
-TEST_F(CommandExecutorTest, EveryArgumentThatIsGivenHasToMatch)
+TEST_P(CommandExecutorPartsTest, EveryArgumentThatIsGivenHasToMatch)
 {
     post(a, call);
     post(a, back);
     post(b, call);
 
-    CommandExecutor::retrieveCommand(&a, &call, nullptr);
+    recall(&a, &call, nullptr);
     deliver();
 
     EXPECT_THAT(trace, ElementsAre("a back", "b call"));
 }
 
-TEST_F(CommandExecutorTest, RecallingWithoutArgumentsTakesAllOfTheKind)
+TEST_P(CommandExecutorPartsTest, RecallingWithoutArgumentsTakesAllOfTheKind)
 {
     post(a, call);
     post(b, item(1));
     post(b, back);
 
-    CommandExecutor::retrieveCommand(static_cast<CommandListener*>(nullptr), nullptr, nullptr);
+    recall(static_cast<CommandListener*>(nullptr), nullptr, nullptr);
     deliver();
     EXPECT_THAT(trace, ElementsAre("b item 1"));
 
     post(a, call);
     post(b, item(1));
-    CommandExecutor::retrieveCommand(static_cast<ItemStateListener*>(nullptr), nullptr);
+    recall(static_cast<ItemStateListener*>(nullptr), nullptr);
     deliver();
     EXPECT_THAT(trace, ElementsAre("b item 1", "a call"));
 }
 
-TEST_F(CommandExecutorTest, RecallingAnItemTakesItFromEveryListener)
+TEST_P(CommandExecutorPartsTest, RecallingAnItemTakesItFromEveryListener)
 {
     post(a, item(1));
     post(b, item(2));
     post(b, item(1));
 
-    CommandExecutor::retrieveCommand(nullptr, item(1));
+    recall(static_cast<ItemStateListener*>(nullptr), item(1));
     deliver();
 
     EXPECT_THAT(trace, ElementsAre("b item 2"));
 }
 
-TEST_F(CommandExecutorTest, RecallingWhatIsNotQueuedDoesNothing)
+TEST_P(CommandExecutorPartsTest, RecallingWhatIsNotQueuedDoesNothing)
 {
     post(a, call);
-    CommandExecutor::retrieveCommand(&b, nullptr, nullptr);
-    CommandExecutor::retrieveCommand(&a, &back, nullptr);
-    CommandExecutor::retrieveCommand(&a, item(1));
+    recall(&b, nullptr, nullptr);
+    recall(&a, &back, nullptr);
+    recall(&a, item(1));
     deliver();
     EXPECT_THAT(trace, ElementsAre("a call"));
 }
 
-TEST_F(CommandExecutorTest, RecallingAnItemLeavesOtherEntriesInOrder)
+TEST_P(CommandExecutorPartsTest, RecallingAnItemLeavesOtherEntriesInOrder)
 {
     post(a, item(1));
     post(a, call);
     post(b, item(1));
     post(a, item(2));
 
-    CommandExecutor::retrieveCommand(&b, item(1));
+    recall(&b, item(1));
     post(b, item(1));
     deliver();
 
     EXPECT_THAT(trace, ElementsAre("a item 1", "a call", "a item 2", "b item 1"));
 }
 
-TEST_F(CommandExecutorTest, ARecalledItemIsQueuedAgain)
+TEST_P(CommandExecutorPartsTest, ARecalledItemIsQueuedAgain)
 {
     post(a, item(1));
     post(b, item(1));
-    CommandExecutor::retrieveCommand(nullptr, item(1));
+    recall(static_cast<ItemStateListener*>(nullptr), item(1));
     post(b, item(1));
     post(a, item(1));
-    CommandExecutor::retrieveCommand(&a, nullptr);
+    recall(&a, nullptr);
     post(a, item(1));
     deliver();
     EXPECT_THAT(trace, ElementsAre("b item 1", "a item 1"));
@@ -487,7 +613,7 @@ TEST_F(CommandExecutorTest, WhatAnItemCostsDoesNotGrowWithTheQueue)
     EXPECT_LT(withALongQueue, 20 * withAnEmptyQueue) << "walking 50,000 entries would cost thousands of times as much";
 }
 
-TEST_F(CommandExecutorTest, EachRecalledCommandIsLogged)
+TEST_P(CommandExecutorPartsTest, EachRecalledCommandIsLogged)
 {
     auto* const screen = reinterpret_cast<Displayable*>(0x10);
     CommandExecutor::postCommand(&a, &call, screen, DO_NOT_START);
@@ -495,7 +621,7 @@ TEST_F(CommandExecutorTest, EachRecalledCommandIsLogged)
     CommandExecutor::postCommand(&a, &call, nullptr, DO_NOT_START);
     host::LogCapture log;
 
-    CommandExecutor::retrieveCommand(&a, nullptr, nullptr);
+    recall(&a, nullptr, nullptr);
 
     const auto line = [&](const void* displayable) {
         const std::string text =
@@ -507,12 +633,12 @@ TEST_F(CommandExecutorTest, EachRecalledCommandIsLogged)
     deliver();
 }
 
-TEST_F(CommandExecutorTest, EachRecalledItemIsLogged)
+TEST_P(CommandExecutorPartsTest, EachRecalledItemIsLogged)
 {
     post(a, item(16));
     host::LogCapture log;
 
-    CommandExecutor::retrieveCommand(&a, item(16));
+    recall(&a, item(16));
 
     const std::string text =
         "CommandExecutor::retrieveCommand(ItemStateListener=" + shown(static_cast<ItemStateListener*>(&a)) +

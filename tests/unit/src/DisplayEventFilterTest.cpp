@@ -163,6 +163,7 @@ TEST_F(DisplayEventFilterTest, WhatIsQueuedForOneThatIsDestroyedIsCarriedOutByTh
 {
     std::optional<DisplayEventFilter> second(std::in_place, true);
     widget.postEventAsync(1);
+    gui.takeOver();
     test::Worker caller([this] { widget.postEvent(2); });
     gui.waitForQueued(2);
 

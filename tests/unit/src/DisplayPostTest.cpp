@@ -121,6 +121,20 @@ TEST_F(DisplayPostTest, WaitsForTheSemaphoreOfTheRequest)
     EXPECT_FALSE(done.take(0)) << "the permit is used up";
 }
 
+TEST_F(DisplayPostTest, TheLoopHearsOfItWhereTheCallerWaits)
+{
+    for (const bool waits : {WAIT, DO_NOT_WAIT}) {
+        Semaphore done(Semaphore::NOT_AVAILABLE, 1, false);
+        Worker worker([&] { postEventHelper(newRequest(DisplayRequestEvent::COPY, &done), gui.filter(), waits); });
+        gui.waitForQueued(1);
+
+        EXPECT_EQ(gtPegMainQueue->awaited, waits);
+
+        gui.takeOver();
+        completeFirst();
+    }
+}
+
 TEST_F(DisplayPostTest, DoesNotWaitWithoutASemaphore)
 {
     postEventHelper(newRequest(DisplayRequestEvent::COPY, nullptr), gui.filter(), WAIT);

@@ -7,6 +7,7 @@
 
 #include <gmock/gmock.h>
 
+using DisplayAPI::Answer;
 using DisplayAPI::enqueue;
 using DisplayAPI::giveBackMessage;
 using DisplayAPI::Place;
@@ -20,7 +21,7 @@ protected:
     {
         PegMessage* const message = DisplayAPI::takeMessage();
         *message = {PM_KEY, data};
-        EXPECT_TRUE(enqueue(message, place, [] { return true; }));
+        EXPECT_TRUE(enqueue(message, place, Answer::NOT_AWAITED, [] { return true; }));
     }
 
     std::vector<int> queuedData() const
@@ -155,7 +156,7 @@ TEST_F(RequestQueueTest, APooledLinkDoesNotLeakIntoTheQueue)
 {
     PegMessage* const message = DisplayAPI::takeMessage();
     ASSERT_NE(message->Next, nullptr) << "it still names its neighbour in the pool";
-    enqueue(message, Place::TAIL, [] { return true; });
+    enqueue(message, Place::TAIL, Answer::NOT_AWAITED, [] { return true; });
 
     EXPECT_EQ(message->Next, nullptr);
     gui.takeMessage();
@@ -169,7 +170,7 @@ TEST_F(RequestQueueTest, TheLastWordIsSaidUnderTheMutex)
         return true;
     };
 
-    EXPECT_TRUE(enqueue(DisplayAPI::takeMessage(), Place::TAIL, admit));
+    EXPECT_TRUE(enqueue(DisplayAPI::takeMessage(), Place::TAIL, Answer::NOT_AWAITED, admit));
 
     EXPECT_TRUE(mutexWasHeld);
     gui.takeMessage();
@@ -180,8 +181,8 @@ TEST_F(RequestQueueTest, AMessageThatIsRefusedStaysTheCallers)
     add(1);
     PegMessage* const message = DisplayAPI::takeMessage();
 
-    EXPECT_FALSE(enqueue(message, Place::TAIL, [] { return false; }));
-    EXPECT_FALSE(enqueue(message, Place::HEAD, [] { return false; }));
+    EXPECT_FALSE(enqueue(message, Place::TAIL, Answer::NOT_AWAITED, [] { return false; }));
+    EXPECT_FALSE(enqueue(message, Place::HEAD, Answer::NOT_AWAITED, [] { return false; }));
 
     EXPECT_THAT(queuedData(), ElementsAre(1));
     EXPECT_EQ(gui.queued(), 1);
@@ -191,12 +192,12 @@ TEST_F(RequestQueueTest, AMessageThatIsRefusedStaysTheCallers)
 
 // Taking out
 
-TEST_F(RequestQueueTest, UnlinkingTheHeadMovesTheHead)
+TEST_F(RequestQueueTest, RemovingTheHeadMovesTheHead)
 {
     add(1);
     add(2);
 
-    PegMessage* const message = DisplayAPI::unlinkAfter(*gtPegMainQueue, nullptr);
+    PegMessage* const message = DisplayAPI::removeFirstMessage(hasData(1));
 
     EXPECT_EQ(message->iData, 1);
     EXPECT_THAT(queuedData(), ElementsAre(2));
@@ -205,13 +206,13 @@ TEST_F(RequestQueueTest, UnlinkingTheHeadMovesTheHead)
     gui.runAll();
 }
 
-TEST_F(RequestQueueTest, UnlinkingTheTailMovesTheTail)
+TEST_F(RequestQueueTest, RemovingTheTailMovesTheTail)
 {
     add(1);
     add(2);
     PegMessage* const head = gtPegMainQueue->head;
 
-    PegMessage* const message = DisplayAPI::unlinkAfter(*gtPegMainQueue, head);
+    PegMessage* const message = DisplayAPI::removeFirstMessage(hasData(2));
 
     EXPECT_EQ(message->iData, 2);
     EXPECT_EQ(gtPegMainQueue->tail, head);
@@ -248,6 +249,108 @@ TEST_F(RequestQueueTest, RemovingTheFirstMatchLeavesTheOthers)
     EXPECT_THAT(queuedData(), ElementsAre(1, 7));
     EXPECT_EQ(DisplayAPI::removeFirstMessage(hasData(8)), nullptr);
     gui.runAll();
+}
+
+// What the loop has taken over
+
+TEST_F(RequestQueueTest, WhatIsTakenOverRunsBeforeWhatIsPutInLater)
+{
+    add(1);
+    add(2);
+    gui.takeOver();
+    add(3);
+
+    EXPECT_EQ(gtPegMainQueue->head, gtPegMainQueue->tail);
+    EXPECT_EQ(gui.queued(), 3) << "the count covers both parts";
+    EXPECT_THAT(queuedData(), ElementsAre(1, 2, 3));
+    gui.runAll();
+}
+
+TEST_F(RequestQueueTest, TheHeadIsBeforeWhatIsTakenOver)
+{
+    add(1);
+    gui.takeOver();
+    add(2);
+    add(3, Place::HEAD);
+    add(4, Place::HEAD);
+
+    EXPECT_THAT(queuedData(), ElementsAre(4, 3, 1, 2));
+    EXPECT_EQ(gtPegMainQueue->taken->iData, 4);
+    EXPECT_EQ(gui.queued(), 4);
+    gui.runAll();
+}
+
+TEST_F(RequestQueueTest, TheHeadOfAQueueOfWhichAllHasBegunWaits)
+{
+    add(1);
+    gui.takeOver();
+    gui.takeMessage();
+    add(2, Place::HEAD);
+
+    EXPECT_EQ(gtPegMainQueue->taken, nullptr);
+    EXPECT_EQ(gtPegMainQueue->head, gtPegMainQueue->tail);
+    EXPECT_EQ(gui.queued(), 1);
+    gui.runAll();
+}
+
+TEST_F(RequestQueueTest, RemovingTakesEveryMatchOutOfBothParts)
+{
+    for (const int data : {7, 1, 7})
+        add(data);
+    gui.takeOver();
+    for (const int data : {2, 7, 7})
+        add(data);
+
+    DisplayAPI::removeMessages(hasData(7), giveBackMessage);
+
+    EXPECT_THAT(queuedData(), ElementsAre(1, 2));
+    EXPECT_EQ(gui.queued(), 2);
+    EXPECT_EQ(gtPegMainQueue->takenCount, 1);
+    add(3);
+    EXPECT_THAT(queuedData(), ElementsAre(1, 2, 3));
+    gui.runAll();
+}
+
+TEST_F(RequestQueueTest, TheFirstMatchIsTheOneThatWouldRunFirst)
+{
+    add(7);
+    gui.takeOver();
+    add(7);
+    const PegMessage* const first = gtPegMainQueue->taken;
+
+    PegMessage* const removed = DisplayAPI::removeFirstMessage(hasData(7));
+
+    EXPECT_EQ(removed, first);
+    EXPECT_EQ(gui.queued(), 1);
+    giveBackMessage(removed);
+    gui.runAll();
+}
+
+TEST_F(RequestQueueTest, TheFirstMatchIsFoundBehindWhatIsTakenOver)
+{
+    add(1);
+    gui.takeOver();
+    add(7);
+
+    giveBackMessage(DisplayAPI::removeFirstMessage(hasData(7)));
+
+    EXPECT_THAT(queuedData(), ElementsAre(1));
+    EXPECT_EQ(gtPegMainQueue->tail, nullptr);
+    gui.runAll();
+}
+
+TEST_F(RequestQueueTest, AnAwaitedMessageIsToldToTheLoopUntilItIsTakenOver)
+{
+    add(1);
+    EXPECT_FALSE(gtPegMainQueue->awaited);
+    enqueue(DisplayAPI::takeMessage(), Place::TAIL, Answer::AWAITED, [] { return true; });
+    EXPECT_TRUE(gtPegMainQueue->awaited);
+
+    gui.takeOver();
+
+    EXPECT_FALSE(gtPegMainQueue->awaited);
+    gui.takeMessage();
+    gui.takeMessage();
 }
 
 TEST_F(RequestQueueTest, AMissingQueueHasNothingToRemove)

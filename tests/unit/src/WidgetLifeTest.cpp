@@ -71,6 +71,23 @@ TEST_F(WidgetLifeTest, RemovesWhatIsStillQueuedForTheWidget)
     gui.runAll();
 }
 
+TEST_F(WidgetLifeTest, RemovesWhatTheLoopHasTakenOverAndNotBegun)
+{
+    other.postEventAsync(newRequest(1, other));
+    doomed->postEventAsync(newRequest(2, *doomed));
+    Worker caller([&] { doomed->postEvent(newRequest(3, *doomed)); });
+    gui.waitForQueued(3);
+    gui.takeOver();
+    other.postEventAsync(newRequest(4, other));
+
+    doomed.reset();
+
+    caller.join();
+    EXPECT_THAT(gui.queuedCodes(), ElementsAre(1, 4));
+    EXPECT_EQ(liveRequests, 2);
+    gui.runAll();
+}
+
 TEST_F(WidgetLifeTest, WakesACallerThatWaitsOnItsOwnCondition)
 {
     Wait condition;

@@ -24,12 +24,37 @@ using testing::IsEmpty;
 
 namespace {
 
-class WidgetPurgeTest : public test::SteppedTest {
+/// How much of what is queued the loop has taken over and not begun.
+enum class Taken { NOTHING, THE_FIRST, ALL };
+
+class WidgetPurgeTest : public testing::TestWithParam<Taken> {
 protected:
     void post(std::initializer_list<int> codes, Widget& target)
     {
-        for (const int code : codes)
+        for (const int code : codes) {
             target.postEventAsync(new CountedRequest(&target, code, liveRequests));
+            if (GetParam() == Taken::THE_FIRST && gui.queued() == 1)
+                gui.takeOver();
+        }
+    }
+
+    template <typename Codes>
+    void purge(Codes codes)
+    {
+        takeOverIfAll();
+        widget.purgeOwnMessage(codes);
+    }
+
+    template <typename Codes>
+    GuiRequestEvent* dequeue(Codes codes)
+    {
+        takeOverIfAll();
+        return widget.dequeueOwnMessage(codes);
+    }
+
+    static PegMessage* first()
+    {
+        return gtPegMainQueue->taken != nullptr ? gtPegMainQueue->taken : gtPegMainQueue->head;
     }
 
     /// A caller that waits on a condition of its own, so that several can wait on one widget.
@@ -47,22 +72,39 @@ protected:
         Worker worker;
     };
 
+    test::SteppedLoop gui;
     TestWidget widget;
     TestWidget other;
     std::atomic<int> liveRequests{0};
+
+private:
+    void takeOverIfAll()
+    {
+        if (GetParam() == Taken::ALL && gtPegMainQueue != nullptr)
+            gui.takeOver();
+    }
 };
 
-using WidgetDequeueTest = WidgetPurgeTest;
+class WidgetDequeueTest : public WidgetPurgeTest {};
+
+std::string nameOf(const testing::TestParamInfo<Taken>& info)
+{
+    constexpr const char* NAMES[] = {"NothingTaken", "TheFirstTaken", "AllTaken"};
+    return NAMES[static_cast<int>(info.param)];
+}
+
+INSTANTIATE_TEST_SUITE_P(, WidgetPurgeTest, testing::Values(Taken::NOTHING, Taken::THE_FIRST, Taken::ALL), nameOf);
+INSTANTIATE_TEST_SUITE_P(, WidgetDequeueTest, testing::Values(Taken::NOTHING, Taken::THE_FIRST, Taken::ALL), nameOf);
 
 } // namespace
 
 // Purging
 
-TEST_F(WidgetPurgeTest, RemovesEveryQueuedRequestWithTheCode)
+TEST_P(WidgetPurgeTest, RemovesEveryQueuedRequestWithTheCode)
 {
     post({1, 2, 1, 3, 1}, widget);
 
-    widget.purgeOwnMessage(1);
+    purge(1);
 
     EXPECT_THAT(gui.queuedCodes(), ElementsAre(2, 3));
     EXPECT_EQ(gui.queued(), 2);
@@ -71,22 +113,22 @@ TEST_F(WidgetPurgeTest, RemovesEveryQueuedRequestWithTheCode)
     gui.runAll();
 }
 
-TEST_F(WidgetPurgeTest, RemovesEveryQueuedRequestWithACodeOfTheSet)
+TEST_P(WidgetPurgeTest, RemovesEveryQueuedRequestWithACodeOfTheSet)
 {
     post({1, 2, 3, 4, 2}, widget);
     std::set<int> codes{2, 4, 9};
 
-    widget.purgeOwnMessage(&codes);
+    purge(&codes);
 
     EXPECT_THAT(gui.queuedCodes(), ElementsAre(1, 3));
     gui.runAll();
 }
 
-TEST_F(WidgetPurgeTest, ANullSetMatchesEveryCode)
+TEST_P(WidgetPurgeTest, ANullSetMatchesEveryCode)
 {
     post({0, -1, 7}, widget);
 
-    widget.purgeOwnMessage(nullptr);
+    purge(nullptr);
 
     EXPECT_EQ(gui.queued(), 0);
     EXPECT_EQ(gtPegMainQueue->head, nullptr);
@@ -94,18 +136,18 @@ TEST_F(WidgetPurgeTest, ANullSetMatchesEveryCode)
     EXPECT_EQ(liveRequests, 0);
 }
 
-TEST_F(WidgetPurgeTest, AnEmptySetMatchesNothing)
+TEST_P(WidgetPurgeTest, AnEmptySetMatchesNothing)
 {
     post({1}, widget);
     std::set<int> codes;
 
-    widget.purgeOwnMessage(&codes);
+    purge(&codes);
 
     EXPECT_EQ(gui.queued(), 1);
     gui.runAll();
 }
 
-TEST_F(WidgetPurgeTest, RequestsOfOtherWidgetsStayInOrder)
+TEST_P(WidgetPurgeTest, RequestsOfOtherWidgetsStayInOrder)
 {
     post({1}, other);
     post({1}, widget);
@@ -113,14 +155,14 @@ TEST_F(WidgetPurgeTest, RequestsOfOtherWidgetsStayInOrder)
     post({2}, widget);
     post({3}, other);
 
-    widget.purgeOwnMessage(nullptr);
+    purge(nullptr);
 
     gui.runAll();
     EXPECT_THAT(other.codes(), ElementsAre(1, 2, 3));
     EXPECT_THAT(widget.codes(), IsEmpty());
 }
 
-TEST_F(WidgetPurgeTest, MessagesOfOtherTypesStayInOrder)
+TEST_P(WidgetPurgeTest, MessagesOfOtherTypesStayInOrder)
 {
     PegThing thing;
     auto* const displayRequest = new DisplayRequestEvent(nullptr, DisplayRequestEvent::HIDE, nullptr, false);
@@ -130,7 +172,7 @@ TEST_F(WidgetPurgeTest, MessagesOfOtherTypesStayInOrder)
     post({2}, widget);
     PegMessageQueue().Push({PM_KEY, 2, &thing});
 
-    widget.purgeOwnMessage(nullptr);
+    purge(nullptr);
 
     EXPECT_EQ(gui.takeMessage().iData, 1);
     EXPECT_EQ(gui.takeMessage().pData, displayRequest);
@@ -138,7 +180,7 @@ TEST_F(WidgetPurgeTest, MessagesOfOtherTypesStayInOrder)
     delete displayRequest;
 }
 
-TEST_F(WidgetPurgeTest, WakesEachWaitingCaller)
+TEST_P(WidgetPurgeTest, WakesEachWaitingCaller)
 {
     Caller first(widget, 1);
     gui.waitForQueued(1);
@@ -147,7 +189,7 @@ TEST_F(WidgetPurgeTest, WakesEachWaitingCaller)
     Worker third([&] { widget.postEvent(3); });
     gui.waitForQueued(3);
 
-    widget.purgeOwnMessage(nullptr);
+    purge(nullptr);
 
     first.worker.join();
     second.worker.join();
@@ -155,25 +197,25 @@ TEST_F(WidgetPurgeTest, WakesEachWaitingCaller)
     EXPECT_THAT(widget.codes(), IsEmpty());
 }
 
-TEST_F(WidgetPurgeTest, LeavesCallersOfOtherCodesWaiting)
+TEST_P(WidgetPurgeTest, LeavesCallersOfOtherCodesWaiting)
 {
     Caller first(widget, 1);
     gui.waitForQueued(1);
     Caller second(widget, 2);
     gui.waitForQueued(2);
 
-    widget.purgeOwnMessage(1);
+    purge(1);
 
     first.worker.join();
     EXPECT_TRUE(second.worker.isBlocked());
     gui.runAll();
 }
 
-TEST_F(WidgetPurgeTest, WhatIsPostedAfterThePurgedTailIsLinkedIn)
+TEST_P(WidgetPurgeTest, WhatIsPostedAfterThePurgedTailIsLinkedIn)
 {
     post({1, 2}, widget);
 
-    widget.purgeOwnMessage(2);
+    purge(2);
     post({3}, widget);
 
     EXPECT_THAT(gui.queuedCodes(), ElementsAre(1, 3));
@@ -181,113 +223,113 @@ TEST_F(WidgetPurgeTest, WhatIsPostedAfterThePurgedTailIsLinkedIn)
     EXPECT_THAT(widget.codes(), ElementsAre(1, 3));
 }
 
-TEST_F(WidgetPurgeTest, GivesTheMessageRecordsBackToTheTailOfTheFreePool)
+TEST_P(WidgetPurgeTest, GivesTheMessageRecordsBackToTheTailOfTheFreePool)
 {
     post({1, 2}, widget);
     const PegMessage* const last = gtPegMainQueue->tail;
 
-    widget.purgeOwnMessage(nullptr);
+    purge(nullptr);
 
     EXPECT_EQ(gpFreePool->tail, last);
     EXPECT_EQ(last->Next, nullptr);
     EXPECT_EQ(last->pData, nullptr);
 }
 
-TEST_F(WidgetPurgeTest, MayBeCalledFromAnyThread)
+TEST_P(WidgetPurgeTest, MayBeCalledFromAnyThread)
 {
     post({1, 2}, widget);
 
-    test::onOtherThread([&] { widget.purgeOwnMessage(1); });
+    test::onOtherThread([&] { purge(1); });
 
     EXPECT_THAT(gui.queuedCodes(), ElementsAre(2));
     gui.runAll();
 }
 
-TEST_F(WidgetPurgeTest, DoesNothingWhereNothingIsQueued)
+TEST_P(WidgetPurgeTest, DoesNothingWhereNothingIsQueued)
 {
-    widget.purgeOwnMessage(1);
-    widget.purgeOwnMessage(nullptr);
+    purge(1);
+    purge(nullptr);
     EXPECT_EQ(gui.queued(), 0);
 }
 
-TEST_F(WidgetPurgeTest, DoesNothingBeforeTheToolkitHasBeenStarted)
+TEST_P(WidgetPurgeTest, DoesNothingBeforeTheToolkitHasBeenStarted)
 {
     const test::Replaced<PegMainQueue*> noQueue(gtPegMainQueue, nullptr);
-    widget.purgeOwnMessage(1);
-    widget.purgeOwnMessage(nullptr);
+    purge(1);
+    purge(nullptr);
 }
 
-TEST_F(WidgetPurgeTest, DoesNotNeedTheRequestLock)
+TEST_P(WidgetPurgeTest, DoesNotNeedTheRequestLock)
 {
     Worker caller([&] { widget.postEvent(1); });
     gui.waitForQueued(1);
 
-    widget.purgeOwnMessage(1);
+    purge(1);
 
     caller.join();
 }
 
 // Dequeuing
 
-TEST_F(WidgetDequeueTest, TakesOnlyTheFirstRequestWithTheCode)
+TEST_P(WidgetDequeueTest, TakesOnlyTheFirstRequestWithTheCode)
 {
     post({1, 2, 1}, widget);
-    auto* const first = static_cast<GuiRequestEvent*>(gtPegMainQueue->head->pData);
+    auto* const expected = static_cast<GuiRequestEvent*>(first()->pData);
 
-    std::unique_ptr<GuiRequestEvent> taken(widget.dequeueOwnMessage(1));
+    std::unique_ptr<GuiRequestEvent> taken(dequeue(1));
 
-    EXPECT_EQ(taken.get(), first);
+    EXPECT_EQ(taken.get(), expected);
     EXPECT_THAT(gui.queuedCodes(), ElementsAre(2, 1));
     EXPECT_EQ(gui.queued(), 2);
     gui.runAll();
 }
 
-TEST_F(WidgetDequeueTest, TakesTheFirstRequestWithAnyCodeOfTheSet)
+TEST_P(WidgetDequeueTest, TakesTheFirstRequestWithAnyCodeOfTheSet)
 {
     post({1, 3, 2}, widget);
     std::set<int> codes{2, 3};
 
-    std::unique_ptr<GuiRequestEvent> taken(widget.dequeueOwnMessage(&codes));
+    std::unique_ptr<GuiRequestEvent> taken(dequeue(&codes));
 
     EXPECT_EQ(taken->getType(), 3);
     EXPECT_THAT(gui.queuedCodes(), ElementsAre(1, 2));
     gui.runAll();
 }
 
-TEST_F(WidgetDequeueTest, ANullSetMatchesEveryCode)
+TEST_P(WidgetDequeueTest, ANullSetMatchesEveryCode)
 {
     post({8, 9}, widget);
 
-    std::unique_ptr<GuiRequestEvent> taken(widget.dequeueOwnMessage(nullptr));
+    std::unique_ptr<GuiRequestEvent> taken(dequeue(nullptr));
 
     EXPECT_EQ(taken->getType(), 8);
     gui.runAll();
 }
 
-TEST_F(WidgetDequeueTest, ReturnsNullWhereNothingMatches)
+TEST_P(WidgetDequeueTest, ReturnsNullWhereNothingMatches)
 {
     post({1}, other);
     post({2}, widget);
 
-    EXPECT_EQ(widget.dequeueOwnMessage(1), nullptr);
+    EXPECT_EQ(dequeue(1), nullptr);
     EXPECT_EQ(gui.queued(), 2);
     gui.runAll();
-    EXPECT_EQ(widget.dequeueOwnMessage(nullptr), nullptr);
+    EXPECT_EQ(dequeue(nullptr), nullptr);
 }
 
-TEST_F(WidgetDequeueTest, ReturnsNullBeforeTheToolkitHasBeenStarted)
+TEST_P(WidgetDequeueTest, ReturnsNullBeforeTheToolkitHasBeenStarted)
 {
     const test::Replaced<PegMainQueue*> noQueue(gtPegMainQueue, nullptr);
-    EXPECT_EQ(widget.dequeueOwnMessage(1), nullptr);
-    EXPECT_EQ(widget.dequeueOwnMessage(nullptr), nullptr);
+    EXPECT_EQ(dequeue(1), nullptr);
+    EXPECT_EQ(dequeue(nullptr), nullptr);
 }
 
-TEST_F(WidgetDequeueTest, NeitherRunsTheRequestNorWakesItsCaller)
+TEST_P(WidgetDequeueTest, NeitherRunsTheRequestNorWakesItsCaller)
 {
     Caller caller(widget, 1);
     gui.waitForQueued(1);
 
-    std::unique_ptr<GuiRequestEvent> taken(widget.dequeueOwnMessage(1));
+    std::unique_ptr<GuiRequestEvent> taken(dequeue(1));
 
     EXPECT_TRUE(caller.worker.isBlocked());
     EXPECT_THAT(widget.codes(), IsEmpty());
@@ -295,45 +337,45 @@ TEST_F(WidgetDequeueTest, NeitherRunsTheRequestNorWakesItsCaller)
     caller.worker.join();
 }
 
-TEST_F(WidgetDequeueTest, WhatIsPostedAfterTheDequeuedTailIsLinkedIn)
+TEST_P(WidgetDequeueTest, WhatIsPostedAfterTheDequeuedTailIsLinkedIn)
 {
     post({1, 2}, widget);
 
-    delete widget.dequeueOwnMessage(2);
+    delete dequeue(2);
     post({3}, widget);
 
     EXPECT_THAT(gui.queuedCodes(), ElementsAre(1, 3));
     gui.runAll();
 }
 
-TEST_F(WidgetDequeueTest, TheOnlyRequestLeavesAnEmptyQueue)
+TEST_P(WidgetDequeueTest, TheOnlyRequestLeavesAnEmptyQueue)
 {
     post({1}, widget);
 
-    delete widget.dequeueOwnMessage(1);
+    delete dequeue(1);
 
     EXPECT_EQ(gtPegMainQueue->head, nullptr);
     EXPECT_EQ(gtPegMainQueue->tail, nullptr);
 }
 
-TEST_F(WidgetDequeueTest, GivesTheMessageRecordBackToTheTailOfTheFreePool)
+TEST_P(WidgetDequeueTest, GivesTheMessageRecordBackToTheTailOfTheFreePool)
 {
     post({1, 2}, widget);
-    const PegMessage* const first = gtPegMainQueue->head;
+    const PegMessage* const given = first();
 
-    delete widget.dequeueOwnMessage(1);
+    delete dequeue(1);
 
-    EXPECT_EQ(gpFreePool->tail, first);
-    EXPECT_EQ(first->Next, nullptr);
-    EXPECT_EQ(first->pData, nullptr);
+    EXPECT_EQ(gpFreePool->tail, given);
+    EXPECT_EQ(given->Next, nullptr);
+    EXPECT_EQ(given->pData, nullptr);
     gui.runAll();
 }
 
-TEST_F(WidgetDequeueTest, ADequeuedRequestCanBePostedAgain)
+TEST_P(WidgetDequeueTest, ADequeuedRequestCanBePostedAgain)
 {
     post({1, 2}, widget);
 
-    widget.postEventAsync(widget.dequeueOwnMessage(1));
+    widget.postEventAsync(dequeue(1));
 
     gui.runAll();
     EXPECT_THAT(widget.codes(), ElementsAre(2, 1));

@@ -181,7 +181,7 @@ TEST_P(WidgetPostTest, WakesEveryThreadThatWaitsForMessages)
     PegMainQueue& queue = *gtPegMainQueue;
     const auto waitForMessage = [&] {
         pthread_mutex_lock(&queue.mutex);
-        while (queue.count == 0)
+        while (queue.count() == 0)
             pthread_cond_wait(&queue.condition, &queue.mutex);
         pthread_mutex_unlock(&queue.mutex);
     };
@@ -302,6 +302,17 @@ TEST_P(WidgetPostTest, ALostRequestLeavesTheRequestLockFree)
     EXPECT_THAT(widget.codes(), ElementsAre(2));
 }
 
+TEST_P(WidgetPostTest, TheLoopHearsOfItWhereTheCallerWaits)
+{
+    Worker worker([&] { (widget.*GetParam().postCode)(1); });
+    gui.waitForQueued(1);
+
+    EXPECT_EQ(gtPegMainQueue->awaited, GetParam().waits);
+
+    gui.takeOver();
+    gui.step();
+}
+
 // Order
 
 TEST_F(WidgetTest, PostEventAppendsAtTheTail)
@@ -329,6 +340,18 @@ TEST_F(WidgetTest, PostTopEventOvertakesQueuedRequests)
 
     gui.step();
     EXPECT_THAT(widget.codes(), ElementsAre(3));
+    gui.runAll();
+}
+
+TEST_F(WidgetTest, PostTopEventOvertakesWhatTheLoopHasTakenOver)
+{
+    other.postEventAsync(1);
+    gui.takeOver();
+    other.postEventAsync(2);
+    Worker worker([&] { widget.postTopEvent(3); });
+    gui.waitForQueued(3);
+
+    EXPECT_THAT(gui.queuedCodes(), ElementsAre(3, 1, 2));
     gui.runAll();
 }
 

@@ -92,7 +92,7 @@ TEST(PegCleanUp, GivesQueuedMessagesBackAndKeepsTheQueue)
     PegMainQueue* const queue = gtPegMainQueue;
     pegCleanUp();
     EXPECT_EQ(gtPegMainQueue, queue);
-    EXPECT_EQ(queue->count, 0);
+    EXPECT_EQ(queue->count(), 0);
     EXPECT_EQ(host::MessagePool::counters().free, free);
 }
 
@@ -103,12 +103,12 @@ TEST(PegCleanUp, LeavesRequestsToTheLibrary)
     PegThing::mpMessageQueue->Push({PM_WIDGET_REQUEST, 0, nullptr, nullptr, nullptr, &record});
     PegThing::mpMessageQueue->Push({PM_CLICKED, 1});
     pegCleanUp();
-    ASSERT_EQ(gtPegMainQueue->count, 1);
+    ASSERT_EQ(gtPegMainQueue->count(), 1);
     EXPECT_EQ(gtPegMainQueue->head->pData, &record);
     gtPegMainQueue->head->wType = PM_CLICKED; // no longer anybody's
     pegInit();
     pegCleanUp();
-    EXPECT_EQ(gtPegMainQueue->count, 0);
+    EXPECT_EQ(gtPegMainQueue->count(), 0);
 }
 
 TEST(PegAtoI, ReadsTheNumberAtTheStart)

@@ -18,8 +18,9 @@ using test::StartedToolkit;
 std::vector<int> queuedNumbers()
 {
     std::vector<int> numbers;
-    for (const PegMessage* message = gtPegMainQueue->head; message; message = message->Next)
-        numbers.push_back(message->iData);
+    for (const PegMessage* message : {gtPegMainQueue->taken, gtPegMainQueue->head})
+        for (; message; message = message->Next)
+            numbers.push_back(message->iData);
     return numbers;
 }
 
@@ -34,7 +35,7 @@ TEST(PegMessageQueue, PushCopiesTheMessageToTheTail)
     PegMessageQueue().Push(message);
 
     EXPECT_EQ(queuedNumbers(), (std::vector{7, 8}));
-    EXPECT_EQ(gtPegMainQueue->count, 2);
+    EXPECT_EQ(gtPegMainQueue->count(), 2);
     const PegMessage& first = *gtPegMainQueue->head;
     EXPECT_NE(&first, &message);
     EXPECT_EQ(first.wType, PM_CLICKED);
@@ -59,7 +60,60 @@ TEST(PegMessageQueue, TakeGivesTheHeadUntilItIsEmpty)
     EXPECT_EQ(host::MainQueue::take(host::MainQueue::Pace::PROMPT), nullptr);
     EXPECT_EQ(gtPegMainQueue->head, nullptr);
     EXPECT_EQ(gtPegMainQueue->tail, nullptr);
-    EXPECT_EQ(gtPegMainQueue->count, 0);
+    EXPECT_EQ(gtPegMainQueue->count(), 0);
+}
+
+TEST(PegMessageQueue, TheFirstTakeTakesOverAllThatWaits)
+{
+    const StartedToolkit toolkit;
+    for (int number = 1; number <= 3; ++number)
+        PegMessageQueue().Push({PM_CLICKED, number});
+    PegMessage* const message = host::MainQueue::take(host::MainQueue::Pace::BURST);
+    host::MessagePool::giveBack(message, message);
+    PegMessageQueue().Push({PM_CLICKED, 4});
+
+    EXPECT_EQ(gtPegMainQueue->taken->iData, 2);
+    EXPECT_EQ(gtPegMainQueue->takenCount, 2);
+    EXPECT_EQ(gtPegMainQueue->head->iData, 4);
+    EXPECT_EQ(gtPegMainQueue->count(), 3);
+    EXPECT_EQ(queuedNumbers(), (std::vector{2, 3, 4}));
+}
+
+TEST(PegMessageQueue, WhatAnEndedLoopHasNotBegunWaitsAheadOfTheRest)
+{
+    const StartedToolkit toolkit;
+    for (const bool hasMore : {true, false}) {
+        PegMessageQueue().Push({PM_CLICKED, 1});
+        PegMessageQueue().Push({PM_CLICKED, 2});
+        host::MainQueue::takeOver();
+        if (hasMore)
+            PegMessageQueue().Push({PM_CLICKED, 3});
+
+        host::MainQueue::giveBackTaken();
+        PegMessageQueue().Push({PM_CLICKED, 4});
+
+        EXPECT_EQ(gtPegMainQueue->taken, nullptr);
+        EXPECT_EQ(queuedNumbers(), hasMore ? (std::vector{1, 2, 3, 4}) : (std::vector{1, 2, 4}));
+        EXPECT_EQ(gtPegMainQueue->count(), hasMore ? 4 : 3);
+        host::MainQueue::dropMessages();
+    }
+}
+
+TEST(PegMessageQueue, MessagesToADyingThingAreDroppedFromBothParts)
+{
+    const StartedToolkit toolkit;
+    RecordingThing other;
+    {
+        RecordingThing dying;
+        for (int number = 0; number < 8; ++number) {
+            PegMessageQueue().Push({PM_CLICKED, number, number % 2 == 0 ? &dying : &other});
+            if (number == 3)
+                host::MainQueue::takeOver();
+        }
+    }
+    EXPECT_EQ(queuedNumbers(), (std::vector{1, 3, 5, 7}));
+    EXPECT_EQ(gtPegMainQueue->takenCount, 2);
+    EXPECT_EQ(gtPegMainQueue->count(), 4);
 }
 
 TEST(PegMessageQueue, WithoutARecordTheMessageIsLost)
@@ -67,7 +121,7 @@ TEST(PegMessageQueue, WithoutARecordTheMessageIsLost)
     const StartedToolkit toolkit;
     const host::MessagePool::Drained drained;
     PegMessageQueue().Push({PM_CLICKED, 1});
-    EXPECT_EQ(gtPegMainQueue->count, 0);
+    EXPECT_EQ(gtPegMainQueue->count(), 0);
 }
 
 TEST(PegMessageQueue, ALostMessageLeavesALineInTheLog)
@@ -95,7 +149,7 @@ TEST(PegMessageQueue, MessagesToADyingThingAreDropped)
             PegMessageQueue().Push({PM_CLICKED, number, number % 2 == 0 ? &dying : &other});
     }
     EXPECT_EQ(queuedNumbers(), (std::vector{1, 3, 5}));
-    EXPECT_EQ(gtPegMainQueue->count, 3);
+    EXPECT_EQ(gtPegMainQueue->count(), 3);
     EXPECT_EQ(gtPegMainQueue->tail->iData, 5);
     EXPECT_EQ(host::MessagePool::counters().free, free - 3);
 }

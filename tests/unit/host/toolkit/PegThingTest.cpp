@@ -272,7 +272,7 @@ TEST_F(PegThingTest, DeletingAWholeScreenLeavesNothingBehind)
     EXPECT_EQ(gpPresent->First(), nullptr);
     EXPECT_EQ(gpPresent->Focus(), nullptr);
     EXPECT_FALSE(gpPresent->StatusIs(PSF_CURRENT));
-    EXPECT_EQ(gtPegMainQueue->count, 0);
+    EXPECT_EQ(gtPegMainQueue->count(), 0);
 }
 
 } // namespace
