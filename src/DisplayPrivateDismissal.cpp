@@ -3,6 +3,7 @@
 #include "DisplayPrivateLog.h"
 #include "StackEntry.h"
 #include "StackWalk.h"
+#include "Survival.h"
 
 #include <algorithm>
 
@@ -94,12 +95,16 @@ void DisplayPrivate::restoreWidget(DisplayablePrivateIfc* side)
     }
 }
 
+/// Whoever is told by one display may delete it, which takes it off the others.
 void DisplayPrivate::dismissEverywhere(Displayable* displayable)
 {
+    const Survival survival(displayable);
     for (DisplayPrivate* display : living()) {
         const bool wasHeld = display->holdOnce(displayable);
         if (wasHeld || display->mCurrent == displayable)
             display->widgetDismissed(displayable->getPrivateImpl());
+        if (!survival)
+            return;
         display->forget(displayable);
     }
 }

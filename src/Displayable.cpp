@@ -5,6 +5,7 @@
 #include "DisplayAPI/TabScreen.h"
 #include "DisplayPrivate.h"
 #include "GuiThread.h"
+#include "Survival.h"
 
 namespace DisplayAPI {
 
@@ -13,8 +14,11 @@ Displayable::Displayable()
     name = "Displayable with no name";
 }
 
+/// Off the GUI thread nothing of it is under way there: the request that its class has waited for was the last.
 Displayable::~Displayable()
 {
+    if (isGuiThread())
+        Survival::end(this);
     CommandExecutor::retrieveCommand(nullptr, nullptr, this);
     DisplayPrivate::forgetEverywhere(this);
 }
@@ -34,11 +38,15 @@ void Displayable::callListeners(Item* item)
         mItemStateListeners[i]->postItemStateChange(item);
 }
 
-void Displayable::leaveDisplay()
+/// False where whoever observes a display has deleted it at that.
+bool Displayable::leaveDisplay()
 {
     onlyOnGuiThread("Displayable::leaveDisplay()");
+    const Survival survival(this);
     DisplayPrivate::dismissEverywhere(this);
-    TabScreen::forgetEverywhere(this);
+    if (survival)
+        TabScreen::forgetEverywhere(this);
+    return static_cast<bool>(survival);
 }
 
 void Displayable::useSoftKeys() {}

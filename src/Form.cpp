@@ -8,10 +8,12 @@
 #include "DisplayAPI/SelectionField.h"
 #include "GuiThread.h"
 #include "Operations.h"
+#include "Survival.h"
 #include "Variant.h"
 #include "variants/form/FormPrivate.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace DisplayAPI {
 
@@ -37,6 +39,13 @@ enum Request {
 
 using Ifc = FormPrivateIfc;
 
+/// The forms that items have been put into. Never destroyed: a static one leaves it as late as at process exit.
+std::unordered_set<const Displayable*>& formsWithItems()
+{
+    static auto* const forms = new std::unordered_set<const Displayable*>;
+    return *forms;
+}
+
 } // namespace
 
 struct Form::Ops
@@ -59,6 +68,8 @@ Form::Form(FormPrivateIfc* implementation) : mImplementation(implementation) {}
 Form::~Form()
 {
     Ops::call<DESTROY>(*this, mImplementation);
+    if (mImplementation != nullptr)
+        formsWithItems().erase(this); // the request was lost, and nobody runs the queue any more
 }
 
 void Form::create(FormProportionType proportion)
@@ -72,6 +83,7 @@ void Form::create(FormProportionType proportion)
 
 void Form::destroy()
 {
+    formsWithItems().erase(this);
     deletePrivateSide(mImplementation);
     clear();
 }
@@ -145,21 +157,36 @@ void Form::appendItem(Item* item)
         return;
     takeFromFormer(item);
     item->setParent(this);
-    if (mImplementation != nullptr) {
-        ItemPrivateIfc* const side = item->getPrivateImpl();
-        mImplementation->append(item, side != nullptr ? side->getWidget() : nullptr);
-        mImplementation->own(item->getPrivateImpl());
+    const bool isNew = std::ranges::find(items, item) == items.end();
+    if (!showItem(item)) {
+        if (isNew)
+            delete item;
+        return;
     }
-    if (std::ranges::find(items, item) == items.end())
+    if (isNew)
         items.push_back(item);
 }
 
-/// One form deletes it.
+/// False where whoever observes the screen has deleted the form at that.
+bool Form::showItem(Item* item)
+{
+    if (mImplementation == nullptr)
+        return true;
+    const Survival survival(this);
+    ItemPrivateIfc* const side = item->getPrivateImpl();
+    mImplementation->append(item, side != nullptr ? side->getWidget() : nullptr);
+    if (survival)
+        mImplementation->own(item->getPrivateImpl());
+    return static_cast<bool>(survival);
+}
+
+/// One form deletes it. The parent that an item has been told may be gone, or be no form.
 void Form::takeFromFormer(Item* item)
 {
-    auto* const former = dynamic_cast<Form*>(item->getParent());
-    if (former != nullptr && former != this)
-        std::erase(former->items, item);
+    formsWithItems().insert(this);
+    Displayable* const parent = item->getParent();
+    if (parent != this && formsWithItems().contains(parent))
+        std::erase(static_cast<Form*>(parent)->items, item);
 }
 
 void Form::insertItem(Item*, int) {}
@@ -251,9 +278,11 @@ void Form::addCommand(Command* command)
 
 void Form::appendCommand(Command* command)
 {
+    const Survival survival(this);
     if (mImplementation != nullptr)
         mImplementation->addCommand(command);
-    commands.push_back(command);
+    if (survival)
+        commands.push_back(command);
 }
 
 void Form::clearCommands()
@@ -263,9 +292,11 @@ void Form::clearCommands()
 
 void Form::forgetCommands()
 {
+    const Survival survival(this);
     if (mImplementation != nullptr)
         mImplementation->clearCommands();
-    commands.clear();
+    if (survival)
+        commands.clear();
 }
 
 void Form::addCommandListener(CommandListener* listener)

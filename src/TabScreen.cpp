@@ -5,6 +5,7 @@
 #include "GuiThread.h"
 #include "Log.h"
 #include "Operations.h"
+#include "Survival.h"
 #include "Variant.h"
 #include "variants/tab/TabScreenPrivate.h"
 
@@ -98,21 +99,28 @@ void TabScreen::create(IconType icon, bool wayBack, TabScreenPrivateIfc* impleme
 void TabScreen::destroy()
 {
     std::erase(living(), this);
-    deletePrivateSide(mImplementation);
-    mDisplayableItems.clear();
+    if (deletePrivateSide(mImplementation))
+        mDisplayableItems.clear();
 }
 
-void TabScreen::forgetEverywhere(const Displayable* page)
+/// Whoever hears of an empty tab may delete tab screens.
+void TabScreen::forgetEverywhere(Displayable* page)
 {
-    for (TabScreen* screen : living())
+    const auto holder = [page]() -> TabScreen* {
+        const auto found = std::ranges::find_if(living(), [=](TabScreen* each) { return each->indexOf(page) >= 0; });
+        return found != living().end() ? *found : nullptr;
+    };
+    while (TabScreen* const screen = holder())
         screen->forget(page);
 }
 
-void TabScreen::forget(const Displayable* page)
+/// Its tab is empty before anybody hears of it: each page is forgotten once.
+void TabScreen::forget(Displayable* page)
 {
-    for (int index = 0; hasTab(index); ++index)
-        if (pageAt(index) == page)
-            setPageAt(index, nullptr);
+    const int index = indexOf(page);
+    replace(index, nullptr);
+    if (mImplementation != nullptr)
+        mImplementation->setCurrentDisplayableForTabAtIndex(index, nullptr);
 }
 
 void TabScreen::processGuiRequest(GuiRequestEvent& request)
@@ -284,16 +292,23 @@ void TabScreen::setPage(Displayable* page)
 {
     if (mImplementation == nullptr)
         return;
+    const Survival survival(this);
     mImplementation->setCurrentDisplayable(sideOf(page));
-    const int index = currentIndex();
-    if (hasTab(index))
-        mDisplayableItems[static_cast<std::size_t>(index)] = page;
+    if (survival)
+        replace(currentIndex(), page);
 }
 
 void TabScreen::setPageAt(int index, Displayable* page)
 {
+    const Survival survival(this);
     if (mImplementation != nullptr)
         mImplementation->setCurrentDisplayableForTabAtIndex(index, sideOf(page));
+    if (survival)
+        replace(index, page);
+}
+
+void TabScreen::replace(int index, Displayable* page)
+{
     if (hasTab(index))
         mDisplayableItems[static_cast<std::size_t>(index)] = page;
 }
@@ -307,8 +322,9 @@ void TabScreen::remove(Displayable* page)
         mDisplayableItems.erase(mDisplayableItems.begin() + index);
     if (mImplementation == nullptr)
         return;
-    mImplementation->removeTab(sideOf(page));
-    if (index >= 0 && sideOf(page) == nullptr)
+    DisplayablePrivateIfc* const side = sideOf(page);
+    mImplementation->removeTab(side);
+    if (index >= 0 && side == nullptr)
         mImplementation->removeTabAtIndex(index);
 }
 

@@ -2,6 +2,7 @@
 
 #include "DisplayAPI/Widget.h"
 
+#include <utility>
 #include <vector>
 
 namespace DisplayAPI {
@@ -49,22 +50,27 @@ public:
 protected:
     /// Deletes the private side, if there is one; `side` is null afterwards. GUI thread only. Every display that still
     /// shows this lets go of it first, as if it had been dismissed. An interface with a protected destructor that names
-    /// this class as its friend is deleted in no other way; one that has destroy() deletes itself.
+    /// this class as its friend is deleted in no other way; one that has destroy() deletes itself. False where whoever
+    /// is told of that by a display has deleted this, with its side: touch neither.
     template <typename Side>
-    void deletePrivateSide(Side*& side)
+    bool deletePrivateSide(Side*& side)
     {
         if (side == nullptr)
-            return;
-        leaveDisplay();
-        if constexpr (requires { side->destroy(); })
-            side->destroy();
-        else
-            delete side;
-        side = nullptr;
+            return true;
+        if (!leaveDisplay())
+            return false;
+        Side* const left = std::exchange(side, nullptr);
+        if constexpr (requires { left->destroy(); }) {
+            if (left != nullptr)
+                left->destroy();
+        } else {
+            delete left;
+        }
+        return true;
     }
 
 private:
-    void leaveDisplay();
+    bool leaveDisplay();
 
     std::vector<ItemStateListener*> mItemStateListeners;
 };

@@ -48,7 +48,8 @@ public:
     static Command* CLIPBOARD_CHANGED_COMMAND();    ///< another text is on the clipboard
     static Command* SELECTION_CHANGED_COMMAND();    ///< the user has changed the value of the current item
     static Command* SELECTION_DISPLAY_COMMAND();    ///< the user sees the choices of the current item
-    static Command* SAVE_COMMAND(); ///< OK on an item that has no use for it, see setAlternativeCommandHandling()
+    static Command* SAVE_COMMAND(); ///< OK on an item that has no use for it, see setAlternativeCommandHandling();
+                                    ///< where there are soft keys when it goes up, as OK leads to them while it is held
     static Command* OK_COMMAND();   ///< the same, otherwise
     static Command* BACK_COMMAND(); ///< the left key on an item that has no use for it
 
@@ -93,7 +94,8 @@ public:
     void setClipboard(const std::string& text);
     std::string getClipboard();
 
-    /// The language in which the user types in its text fields; null is the display's.
+    /// The language in which the user types while he works on the form; null is the display's. Not owned, and has to
+    /// live as long as the form, or until it has another.
     void setSpellerLanguage(TranslatorIfc* translator);
 
     /// The language stays: does nothing.
@@ -115,6 +117,7 @@ private:
     void create(FormProportionType proportion);
     void destroy();
     void appendItem(Item* item);
+    bool showItem(Item* item);
     void takeFromFormer(Item* item);
     void appendCommand(Command* command);
     void forgetCommands();

@@ -112,7 +112,7 @@ private:
     struct Ops;
 
     /// For a page whose GUI-thread side is about to go. GUI thread only.
-    static void forgetEverywhere(const Displayable* page);
+    static void forgetEverywhere(Displayable* page);
     static std::vector<TabScreen*>& living();
 
     void create(IconType icon, bool wayBack, TabScreenPrivateIfc* implementation);
@@ -130,7 +130,8 @@ private:
     Displayable* pageAt(int index);
     int indexOf(Displayable* page);
     bool hasTab(int index) const;
-    void forget(const Displayable* page);
+    void replace(int index, Displayable* page);
+    void forget(Displayable* page);
 
     TabScreenPrivateIfc* mImplementation = nullptr;
     std::vector<Displayable*> mDisplayableItems;

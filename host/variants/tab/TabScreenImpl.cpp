@@ -3,6 +3,7 @@
 #include "DisplayAPI/Rectangles.h"
 #include "DisplayAPI/ScreenText.h"
 #include "host/lcd/Geometry.h"
+#include "host/variants/StatusText.h"
 
 #include <algorithm>
 #include <array>
@@ -247,11 +248,7 @@ std::string TabScreenSide::Impl::barAsText(const std::vector<DisplayAPIUtils::Re
     std::string contents;
     if (isTab(current))
         contents += screen::caption(titleOf(current));
-    std::string lines;
-    for (int line = 0; line < window->status().lines(); ++line)
-        lines += screen::textLine(line, window->status().text(line));
-    if (!lines.empty() && isVisible(window->status().Area(), visible))
-        contents += screen::subItem("SystemWindow", lines);
+    contents += statusAsText(window->status(), visible);
     for (int tab = 0; tab < size(); ++tab) {
         const PegRect area = window->bar().tabArea(tab);
         if (!host::isEmpty(area) && isVisible(area, visible))

@@ -10,7 +10,6 @@ namespace host {
 
 namespace {
 
-constexpr int STATUS_LINE_HEIGHT = 16;
 constexpr int LEAST_PAGE = 40; ///< a title and a row
 
 } // namespace
@@ -34,7 +33,7 @@ void TabWindow::Resize(const PegRect& area)
 void TabWindow::layOut()
 {
     const PegRect& all = Area();
-    mStatus->setMostLines((heightOf(all) - TabBar::height() - LEAST_PAGE) / STATUS_LINE_HEIGHT);
+    mStatus->setRoom(heightOf(all) - TabBar::height() - LEAST_PAGE);
     mStatus->Resize(rectAt(all.left, all.top, widthOf(all), mStatus->height()));
     mBar->Resize(rectAt(all.left, all.top + mStatus->height(), widthOf(all), TabBar::height()));
     if (mPage != nullptr)

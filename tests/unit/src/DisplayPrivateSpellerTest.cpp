@@ -3,6 +3,7 @@
 #include "unit/src/DisplayPrivateTest.h"
 
 #include "DisplayAPI/DisplayablePrivate.h"
+#include "DisplayAPI/SpellerLanguage.h"
 #include "doubles/Mocks.h"
 #include "utilities/ICC.h"
 #include "widgets/KestrelTextEdit.h"
@@ -186,4 +187,50 @@ TEST_F(DisplayPrivateSpellerTest, TheCommonTranslatorIsInForceBeforeTheTablesAre
     });
     EXPECT_CALL(translator, translate).Times(36);
     display->setTranslator(&translator);
+}
+
+TEST_F(DisplayPrivateSpellerTest, SpellerLanguageHoldsAsLongAsItLives)
+{
+    Language german("de "), french("fr "), english("en ");
+    DisplayPrivate::setSpellerLang(&german);
+    {
+        const DisplayAPI::SpellerLanguage typing(french);
+        expectTablesWithMark("fr ");
+        DisplayPrivate::setSpellerLang(&english);
+        DisplayAPI::SpellerLanguage::apply();
+        expectTablesWithMark("fr ");
+    }
+    expectTablesWithMark("de ");
+}
+
+TEST_F(DisplayPrivateSpellerTest, OfSeveralSpellerLanguagesTheLastOneThatLivesCounts)
+{
+    Language german("de "), french("fr "), russian("ru "), english("en ");
+    DisplayPrivate::setSpellerLang(&german);
+    auto outer = std::make_unique<DisplayAPI::SpellerLanguage>(french);
+    auto middle = std::make_unique<DisplayAPI::SpellerLanguage>(russian);
+    auto inner = std::make_unique<DisplayAPI::SpellerLanguage>(english);
+    middle.reset();
+    expectTablesWithMark("en ");
+    inner.reset();
+    expectTablesWithMark("fr ");
+    middle = std::make_unique<DisplayAPI::SpellerLanguage>(russian);
+    outer.reset();
+    DisplayAPI::SpellerLanguage::apply();
+    expectTablesWithMark("ru ");
+    middle.reset();
+    expectTablesWithMark("de ");
+    DisplayAPI::SpellerLanguage::apply();
+    expectTablesWithMark("de ");
+}
+
+TEST_F(DisplayPrivateSpellerTest, AfterwardsTheDisplaysLanguageOfTheMomentCounts)
+{
+    Language german("de "), french("fr "), english("en ");
+    DisplayPrivate::setSpellerLang(&german);
+    {
+        const DisplayAPI::SpellerLanguage typing(french);
+        DisplayAPI::DisplayablePrivate::commonTranslator = &english;
+    }
+    expectTablesWithMark("en ");
 }

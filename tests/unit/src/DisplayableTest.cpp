@@ -135,6 +135,19 @@ TEST(DisplayableTest, DestructionDeletesNoListener)
     EXPECT_THAT(notes.wait(1), ElementsAre("alive"));
 }
 
+TEST(DisplayableTest, QueuedChangeWithoutAnItemIsStillToldAfterDestruction)
+{
+    Notes notes;
+    NotingItemListener listener("told", notes);
+    {
+        test::PoolGate gate;
+        Nameless screen;
+        screen.addItemStateListener(&listener);
+        screen.callListeners(nullptr);
+    }
+    EXPECT_THAT(notes.wait(1), ElementsAre("told"));
+}
+
 TEST(DisplayableTest, NoCommandOfADeletedDisplayableIsDelivered)
 {
     Notes notes;

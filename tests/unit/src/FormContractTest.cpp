@@ -70,7 +70,7 @@ std::vector<std::string> appended(Forms& f)
     return {callText("append", f.anItem(), side->getWidget()), callText("own", side)};
 }
 
-const bool CHECKED =
+const bool FORM_CHECKED =
     test::Contract<Forms>("FormContractTest")
         .waits("append", 2, [](Forms& f) { f->append(f.item); })
         .record([](Forms& f) { return Filling{.ptr1 = f.anItem()}; })

@@ -7,7 +7,7 @@
 #include "support/HardwareVariant.h"
 #include "support/SteppedLoop.h"
 #include "support/Worker.h"
-#include "unit/src/FacadeTest.h"
+#include "unit/src/MadeFacadeTest.h"
 #include "utilities/Threadable.h"
 #include "utilities/TranslationInfo.h"
 #include "variants/form/FormPrivate.h"
@@ -24,24 +24,12 @@ using testing::Pair;
 
 namespace {
 
-class FormTest : public test::FacadeTest, public testing::WithParamInterface<From> {
+class FormTest : public test::MadeFacadeTest<Form, test::HardwareVariant> {
 protected:
-    ~FormTest() override
-    {
-        run([&] { form.reset(); });
-    }
-
-    void run(const std::function<void()>& work) { FacadeTest::run(GetParam(), work); }
-
     /// Makes a form on hardware that is called so, and tells how its private side has been made.
     std::vector<std::string> made(int variant = 2)
     {
-        run([&] { form.reset(); });
-        reached();
-        const test::HardwareVariant production(variant);
-        run([&] { form = std::make_unique<Form>(static_cast<Form::FormProportionType>(77)); });
-        expectAllOnGuiThread();
-        return reached();
+        return MadeFacadeTest::made(variant, static_cast<Form::FormProportionType>(77));
     }
 
     /// A form with items that are called so.
@@ -53,7 +41,7 @@ protected:
         reached();
     }
 
-    std::unique_ptr<Form> form;
+    std::unique_ptr<Form>& form = facade;
 };
 
 TEST_P(FormTest, ProductionDataSaysWhichSideItHas)
@@ -109,6 +97,16 @@ TEST_P(FormTest, ItemThatIsAppendedTwiceIsInItOnce)
     EXPECT_THAT(form->getItems(), ElementsAre(first));
     run([&] { form.reset(); });
     EXPECT_EQ(recorder.count("~first()"), 1);
+}
+
+TEST_P(FormTest, ItemWhoseParentHasGoneIsTakenAllTheSame)
+{
+    made();
+    auto* const item = new TestItem("item");
+    run([&] { item->setParent(std::make_unique<Form>(Form::HALF_AND_HALF).get()); });
+    run([&] { form->append(item); });
+    EXPECT_EQ(item->getParent(), form.get());
+    EXPECT_THAT(form->getItems(), ElementsAre(item));
 }
 
 TEST_P(FormTest, NullIsNoItem)

@@ -46,7 +46,7 @@ const DisplayablePrivateIfc* side(doubles::Screen& screen)
 
 const std::string TITLE = "Dialled";
 
-const bool CHECKED =
+const bool TAB_SCREEN_CHECKED =
     test::Contract<Tabs>("TabScreenContractTest")
         .waits("cleanup", CLEANUP, [](Tabs& t) { t->cleanup(); })
         .posts("addTab", 2, [](Tabs& t) { t->addTab(TITLE, t.page, true); })

@@ -4,6 +4,7 @@
 #include "DisplayAPI/DisplayEventIfc.h"
 #include "support/LogLines.h"
 #include "unit/host/variants/tab/TabScreenVariantTest.h"
+#include "unit/host/variants/tree/Told.h"
 
 #include <functional>
 #include <utility>
@@ -175,6 +176,34 @@ TEST_P(TabPagesTest, PageThatIsDeletedLeavesItsTabEmpty)
     press(PK_RIGHT);
     press(PK_DOWN);
     expectInPage(*missed);
+}
+
+TEST_P(TabPagesTest, WhoIsToldOfAPagesEndMayDeleteThePageAndTheTabs)
+{
+    TabScreen other(TabScreen::CALLS, true);
+    other.addTab("All", all.get(), false);
+    open();
+    const test::Told told(display, [&] {
+        tabs.reset();
+        all.reset();
+    });
+    all->cleanup();
+    EXPECT_EQ(all, nullptr);
+    EXPECT_EQ(other.currentTab(), nullptr);
+}
+
+TEST_P(TabPagesTest, WhoIsToldOfAnotherPageMayDeleteTheTabs)
+{
+    using Change = std::function<void()>;
+    for (const Change& change : {Change([&] { tabs->setCurrentDisplayable(nullptr); }),
+                                 Change([&] { tabs->setCurrentDisplayableForTabAtIndex(0, nullptr); })}) {
+        tabs = std::make_unique<TabScreen>(TabScreen::CALLS, true);
+        tabs->addTab("All", all.get(), false);
+        open();
+        const test::Told told(display, [&] { tabs.reset(); });
+        change();
+        EXPECT_EQ(tabs, nullptr);
+    }
 }
 
 TEST_P(TabPagesTest, PageThatIsNotShownMayBeDeleted)

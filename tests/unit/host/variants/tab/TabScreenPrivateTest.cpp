@@ -3,11 +3,11 @@
 #include "variants/tab/TabScreenPrivate.h"
 #include "host/lcd/Geometry.h"
 #include "host/widgets/tab/TabWindow.h"
+#include "support/Dictionary.h"
 #include "unit/host/variants/tab/TabScreenVariantTest.h"
 #include "utilities/ICC.h"
 #include "utilities/Rect.h"
 #include "utilities/TranslationInfo.h"
-#include "utilities/TranslatorIfc.h"
 
 using namespace DisplayAPI;
 using testing::ElementsAre;
@@ -202,26 +202,20 @@ TEST_P(TabScreenPrivateTest, TitleIsSetAndAsked)
     EXPECT_THAT(shown(), HasSubstr("string0:Missed (2)\n"));
 }
 
-struct Translator : TranslatorIfc {
-    std::string translate(const std::string& key) override { return (isGerman ? "de:" : "en:") + key; }
-
-    bool isGerman = false;
-};
-
 TEST_P(TabScreenPrivateTest, TitlesFollowTheLanguage)
 {
-    Translator translator;
+    test::Dictionary translator;
     TranslationInfo title("All", &translator), other("New", &translator);
     tabs->setTitleForTabAtIndex(0, &title);
     tabs->addTab(&other, nullptr, false);
     open();
     EXPECT_THAT(shown(), HasSubstr("caption:en:All\n"));
-    translator.isGerman = true;
+    translator.language = "de:";
     KestrelApplication::getCurrentApplication()->setLocale(ICC::fromUTF8toUNICODE("de"));
     auto* const bar = &dynamic_cast<host::TabWindow*>(window())->bar();
     EXPECT_EQ(ICC::fromUNICODEtoUTF8(bar->title(0)), "de:All");
     EXPECT_EQ(ICC::fromUNICODEtoUTF8(bar->title(2)), "de:New");
-    translator.isGerman = false;
+    translator.language = "en:";
     tabs->localeChanged("en_GB");
     EXPECT_EQ(ICC::fromUNICODEtoUTF8(bar->title(0)), "en:All");
     EXPECT_EQ(tabs->getTitleForTabAtIndex(0), "en:All");
