@@ -1,6 +1,7 @@
 #include "DisplayAPI/CheckBoxField.h"
 
 #include "CheckBoxFieldPrivate.h"
+#include "OnGuiThread.h"
 #include "Operations.h"
 
 #include <utility>
@@ -41,9 +42,10 @@ CheckBoxField::CheckBoxField(std::string label, std::string text, Image* image)
     Ops::call<CREATE>(*this, mImplementation, label, text, image);
 }
 
-/// Nothing of the toolkit is in it: it goes on any thread.
+/// No code means this. Where nobody runs the queue any more nobody uses it either.
 CheckBoxField::~CheckBoxField()
 {
+    onGuiThread([this] { delete std::exchange(mImplementation, nullptr); });
     delete mImplementation;
 }
 

@@ -7,6 +7,8 @@
 #include "Variant.h"
 #include "variants/telephony/DialledItemPrivate.h"
 
+#include <utility>
+
 namespace DisplayAPI {
 
 namespace {
@@ -41,8 +43,7 @@ void DialledItem::create(CallPartyIdentifier* dialled, CallPartyIdentifier* reac
 void DialledItem::cleanup()
 {
     onlyOnGuiThread("DialledItem::cleanup()");
-    delete mImplementation;
-    mImplementation = nullptr;
+    delete std::exchange(mImplementation, nullptr);
 }
 
 void DialledItem::processGuiRequest(GuiRequestEvent& request)

@@ -7,6 +7,8 @@
 #include "Variant.h"
 #include "variants/telephony/ForwardedItemPrivate.h"
 
+#include <utility>
+
 namespace DisplayAPI {
 
 namespace {
@@ -40,8 +42,7 @@ void ForwardedItem::create(CallPartyIdentifier* caller, CallPartyIdentifier* tar
 void ForwardedItem::cleanup()
 {
     onlyOnGuiThread("ForwardedItem::cleanup()");
-    delete mImplementation;
-    mImplementation = nullptr;
+    delete std::exchange(mImplementation, nullptr);
 }
 
 void ForwardedItem::processGuiRequest(GuiRequestEvent& request)

@@ -2,6 +2,7 @@
 
 #include "DisplayAPI/SelectionFieldPrivateIfc.h"
 #include "Operations.h"
+#include "Survival.h"
 #include "Variant.h"
 #include "variants/form/SelectionFieldPrivate.h"
 
@@ -88,6 +89,8 @@ SelectionField::SelectionField(SelectionFieldPrivateIfc* implementation)
 
 SelectionField::~SelectionField()
 {
+    if (isGuiThread())
+        Survival::end(this);
     Ops::call<DESTROY>(*this, mImplementation);
 }
 
@@ -167,9 +170,11 @@ void SelectionField::appendChoice(MenuCommand* command)
 {
     if (command == nullptr)
         return;
+    const Survival survival(this);
     if (mImplementation != nullptr)
         mImplementation->appendSelection(command);
-    mCommands.push_back(command);
+    if (survival)
+        mCommands.push_back(command);
 }
 
 void SelectionField::clearSelections(MenuCommand* contents)
@@ -179,9 +184,11 @@ void SelectionField::clearSelections(MenuCommand* contents)
 
 void SelectionField::clearChoices(MenuCommand* contents)
 {
+    const Survival survival(this);
     if (mImplementation != nullptr)
         mImplementation->clearSelections(contents);
-    mCommands.clear();
+    if (survival)
+        mCommands.clear();
 }
 
 void SelectionField::setInformAppOnOk(bool on)

@@ -1,7 +1,12 @@
+#include "DisplayAPI/DisplayablePrivate.h"
+#include "DisplayAPI/SpellerLanguage.h"
 #include "DisplayPrivate.h"
 #include "utilities/ICC.h"
 #include "utilities/TranslatorIfc.h"
 #include "widgets/KestrelTextEdit.h"
+
+#include <utility>
+#include <vector>
 
 namespace DisplayAPI {
 
@@ -53,6 +58,22 @@ constexpr Table TABLES[] = {
     {Edit::msTextInputModeNumeric, "Text.input.mode.numeric"},
 };
 
+/// The display's own, while a form or the like has another language: for who has no translator.
+std::vector<PegString>& tablesBefore()
+{
+    static std::vector<PegString> tables;
+    return tables;
+}
+
+void restoreTables()
+{
+    auto before = tablesBefore().begin();
+    for (const Table& table : TABLES)
+        table.characters = std::move(*before++);
+    tablesBefore().clear();
+    DisplayPrivate::setSpellerLang(DisplayablePrivate::commonTranslator);
+}
+
 } // namespace
 
 /// What the translator answers for a key it does not know becomes the table: no text of the former language stays.
@@ -62,6 +83,39 @@ void DisplayPrivate::setSpellerLang(TranslatorIfc* translator)
         return;
     for (const Table& table : TABLES)
         table.characters = ICC::fromUTF8toUNICODE(translator->translate(table.key));
+}
+
+SpellerLanguage*& SpellerLanguage::innermost()
+{
+    static SpellerLanguage* last = nullptr;
+    return last;
+}
+
+SpellerLanguage::SpellerLanguage(TranslatorIfc& translator) : mTranslator(translator), mOuter(innermost())
+{
+    if (mOuter == nullptr)
+        for (const Table& table : TABLES)
+            tablesBefore().push_back(table.characters);
+    innermost() = this;
+    apply();
+}
+
+SpellerLanguage::~SpellerLanguage()
+{
+    SpellerLanguage** place = &innermost();
+    while (*place != this)
+        place = &(*place)->mOuter;
+    *place = mOuter;
+    if (innermost() == nullptr)
+        restoreTables();
+    else if (place == &innermost())
+        apply();
+}
+
+void SpellerLanguage::apply()
+{
+    if (innermost() != nullptr)
+        DisplayPrivate::setSpellerLang(&innermost()->mTranslator);
 }
 
 } // namespace DisplayAPI

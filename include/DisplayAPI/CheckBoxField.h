@@ -14,8 +14,8 @@ class Image;
 /// An item of a form that would show a box with a text. This telephone shows none: it takes no room, is never checked,
 /// and has neither text nor image.
 ///
-/// Threads: safe from any thread. Off the GUI thread everything waits but the destructor, setReadOnly() and
-/// isReadOnly(), which run where they are called. A request that nobody knows is completed without effect.
+/// Threads: safe from any thread. Off the GUI thread everything waits but setReadOnly() and isReadOnly(), which
+/// run where they are called. A request that nobody knows is completed without effect.
 /// Ownership: as for Form; nothing that it is given is kept.
 class DISPLAYAPI_EXPORT CheckBoxField : public Item {
 public:

@@ -20,7 +20,7 @@ public:
 
     void processGuiRequest(GuiRequestEvent& request) override = 0;
 
-    /// Not owned.
+    /// Not owned, and may go before the item.
     virtual void setParent(Displayable* parent);
 
     /// "baseItem" unless the class has a name of its own.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "DisplayAPI/TranslatedText.h"
 #include "doubles/Recorder.h"
 #include "variants/Panel.h"
 
@@ -18,6 +19,12 @@ public:
     ItemSide(const ItemSide&) = delete;
     ItemSide& operator=(const ItemSide&) = delete;
     ~ItemSide() { Recorder::instance().note(this, "~" + mName); }
+
+    /// A text as the constructors note it.
+    static std::string noted(const DisplayAPI::TranslatedText& text)
+    {
+        return text.isTranslated() ? "translated " + text.text() : text.text();
+    }
 
     template <typename... Args>
     void made(const Args&... args) const

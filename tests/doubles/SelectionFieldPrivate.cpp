@@ -16,8 +16,7 @@ SelectionFieldSide::SelectionFieldSide(TranslatedText label, PhonebookItem::Icon
                                        Form* form, Panel panel)
     : mImpl(std::make_unique<Impl>("SelectionFieldPrivate", panel))
 {
-    mImpl->made(label.isTranslated() ? "translated " + label.text() : label.text(), static_cast<int>(icon), contents,
-                form);
+    mImpl->made(Impl::noted(label), static_cast<int>(icon), contents, form);
 }
 
 SelectionFieldSide::~SelectionFieldSide() = default;

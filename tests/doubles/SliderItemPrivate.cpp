@@ -12,7 +12,7 @@ struct SliderItemSide::Impl : doubles::ItemSide {
 SliderItemSide::SliderItemSide(TranslatedText label, Panel panel)
     : mImpl(std::make_unique<Impl>("SliderItemPrivate", panel))
 {
-    mImpl->made(label.isTranslated() ? "translated " + label.text() : label.text());
+    mImpl->made(Impl::noted(label));
 }
 
 SliderItemSide::~SliderItemSide() = default;

@@ -6,12 +6,15 @@
 #include "DisplayAPI/MenuCommand.h"
 #include "DisplayAPI/Rectangles.h"
 #include "DisplayAPI/ScreenText.h"
+#include "host/variants/StatusText.h"
 #include "host/widgets/form/ChoicePopup.h"
 #include "utilities/ICC.h"
 #include "variants/form/SelectionFieldPrivate.h"
+#include "variants/form/TextFieldPrivate.h"
 #include "widgets/KestrelApplication.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace DisplayAPI {
@@ -61,16 +64,26 @@ int FormSide::Impl::Message(const PegMessage& message)
 
 void FormSide::Impl::languageChanged(const std::string& locale)
 {
+    if (mTyping)
+        SpellerLanguage::apply();
     if (window == nullptr)
         return;
+    mIsTranslating = true;
     window->setTitle(title.shown());
     commands.translate();
-    if (owner != nullptr)
-        for (Item* item : owner->getItems())
-            if (ItemPrivateIfc* const side = item->getPrivateImpl())
-                side->localeChanged(locale);
+    translateItems(locale);
     window->turn();
+    mIsTranslating = false;
     changed();
+}
+
+void FormSide::Impl::translateItems(const std::string& locale)
+{
+    if (owner == nullptr)
+        return;
+    for (Item* item : owner->getItems())
+        if (ItemPrivateIfc* const side = item->getPrivateImpl())
+            side->localeChanged(locale);
 }
 
 bool FormSide::Impl::raise(Command* command)
@@ -101,6 +114,14 @@ void FormSide::Impl::choicesShown(host::FormField&)
         changed();
 }
 
+/// Null where the field's item is of another kind.
+template <typename Side>
+Side* FormSide::Impl::sideOf(const host::FormField* field) const
+{
+    Item* const item = itemOf(field);
+    return item != nullptr ? dynamic_cast<Side*>(item->getPrivateImpl()) : nullptr;
+}
+
 /// What is raised first may be the end of the field, which is none of the form's then.
 void FormSide::Impl::chosen(host::FormField& field, bool isOther)
 {
@@ -114,8 +135,7 @@ void FormSide::Impl::chosen(host::FormField& field, bool isOther)
 
 bool FormSide::Impl::informOfChoice(const host::FormField& field)
 {
-    Item* const item = itemOf(&field);
-    auto* const side = item != nullptr ? dynamic_cast<SelectionFieldSide*>(item->getPrivateImpl()) : nullptr;
+    auto* const side = sideOf<SelectionFieldSide>(&field);
     Command* const command = side != nullptr ? side->commandForOk() : nullptr;
     return command == nullptr || raise(command);
 }
@@ -123,8 +143,9 @@ bool FormSide::Impl::informOfChoice(const host::FormField& field)
 /// One that has been deleted meanwhile is none any more.
 void FormSide::Impl::commandChosen(int command)
 {
-    if (Command* const chosen = commands.at(command))
-        self.postCommand(chosen, owner);
+    Command* const chosen = commands.at(command);
+    if (chosen == nullptr || raise(chosen))
+        changed();
 }
 
 void FormSide::Impl::formKey(int key)
@@ -132,7 +153,17 @@ void FormSide::Impl::formKey(int key)
     if (key == PK_LEFT)
         self.postCommand(Form::BACK_COMMAND(), owner);
     else if (key == PK_OK)
-        self.postCommand(okSaves ? Form::SAVE_COMMAND() : Form::OK_COMMAND(), owner);
+        self.postCommand(commandForOk(), owner);
+}
+
+/// A text field may have its own.
+Command* FormSide::Impl::commandForOk() const
+{
+    auto* const side = sideOf<TextFieldSide>(window->current());
+    Command* const own = side != nullptr ? side->commandForOk() : nullptr;
+    if (own != nullptr)
+        return own;
+    return okSaves ? Form::SAVE_COMMAND() : Form::OK_COMMAND();
 }
 
 void FormSide::Impl::append(PegThing* item)
@@ -177,9 +208,30 @@ void FormSide::Impl::setClipboard(std::string text)
     self.postCommand(Form::CLIPBOARD_CHANGED_COMMAND(), owner);
 }
 
+void FormSide::Impl::setSpeller(TranslatorIfc* translator)
+{
+    mSpeller = translator;
+    mTyping.reset();
+    gotUser(mHasUser);
+}
+
+/// All editors of the process type alike: the form's language ends where something else has the user, and comes before
+/// those of other displays' forms where he is back.
+void FormSide::Impl::gotUser(bool on)
+{
+    mHasUser = on;
+    if (!on && window != nullptr)
+        window->letGo();
+    if (on && mTyping && mTyping->counts())
+        return;
+    mTyping.reset();
+    if (on && mSpeller != nullptr)
+        mTyping.emplace(*mSpeller);
+}
+
 void FormSide::Impl::changed()
 {
-    if (window != nullptr && window->StatusIs(PSF_VISIBLE))
+    if (!mIsTranslating && window != nullptr && window->StatusIs(PSF_VISIBLE))
         self.generateDisplayChangedEvent();
 }
 
@@ -187,20 +239,26 @@ std::string FormSide::Impl::asText(const std::vector<DisplayAPIUtils::Rect>& vis
 {
     if (window == nullptr || !isVisible(window->Area(), visible))
         return {};
+    const std::vector<DisplayAPIUtils::Rect> beside = besideChoices(visible);
     std::string contents;
-    if (isVisible(window->titleArea(), visible))
+    if (isVisible(window->titleArea(), beside))
         contents += screen::caption(title.text());
-    contents += statusAsText(visible) + fieldsAsText(visible) + commands.asText(visible) + choicesAsText(visible);
+    contents += statusAsText(window->status(), beside) + fieldsAsText(beside) + commands.asText(beside) +
+                choicesAsText(visible);
     return screen::object("Form", contents);
 }
 
-std::string FormSide::Impl::statusAsText(const std::vector<DisplayAPIUtils::Rect>& visible) const
+/// What the open choices leave of it.
+std::vector<DisplayAPIUtils::Rect>
+FormSide::Impl::besideChoices(const std::vector<DisplayAPIUtils::Rect>& visible) const
 {
-    const host::StatusStrip& status = window->status();
-    std::string lines;
-    for (int line = 0; line < status.lines(); ++line)
-        lines += screen::textLine(line, status.text(line));
-    return !lines.empty() && isVisible(status.Area(), visible) ? screen::subItem("SystemWindow", lines) : "";
+    if (window->opened() == nullptr)
+        return visible;
+    const std::vector<DisplayAPIUtils::Rect> choices{toRect(window->opened()->Area())};
+    std::vector<DisplayAPIUtils::Rect> beside;
+    for (const DisplayAPIUtils::Rect& part : visible)
+        std::ranges::copy(part.subtract(choices), std::back_inserter(beside));
+    return beside;
 }
 
 std::string FormSide::Impl::fieldsAsText(const std::vector<DisplayAPIUtils::Rect>& visible) const

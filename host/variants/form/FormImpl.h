@@ -1,6 +1,7 @@
 #pragma once
 
 #include "DisplayAPI/OwnershipDelegate.h"
+#include "DisplayAPI/SpellerLanguage.h"
 #include "DisplayAPI/TranslatedText.h"
 #include "DisplayAPI/WatchedWidget.h"
 #include "host/variants/popup/BarCommands.h"
@@ -9,6 +10,7 @@
 #include "widgets/ApplicationWatch.h"
 
 #include <memory>
+#include <optional>
 
 namespace DisplayAPI {
 
@@ -32,6 +34,10 @@ struct FormSide::Impl final : public PegThing, public host::FormListener {
     void setTitle(TranslatedText text);
     void setClipboard(std::string text);
 
+    /// What the user types in, from now on, and while he works on the form. Null is the display's language.
+    void setSpeller(TranslatorIfc* translator);
+    void gotUser(bool on);
+
     /// Tells the display when a form on screen looks different.
     void changed();
     std::string asText(const std::vector<DisplayAPIUtils::Rect>& visible) const;
@@ -44,19 +50,26 @@ struct FormSide::Impl final : public PegThing, public host::FormListener {
     BarCommands commands{[this] { return window != nullptr ? &window->bar() : nullptr; }, [this] { window->fitBar(); }};
     TranslatedText title;
     std::string clipboard;
-    TranslatorIfc* speller = nullptr; ///< for fields that type; there are none yet
     bool okSaves = false;
     bool isReadOnly = false;
 
 private:
     /// False where the form is gone afterwards.
     bool raise(Command* command);
+    template <typename Side>
+    Side* sideOf(const host::FormField* field) const;
+    Command* commandForOk() const;
     bool informOfChoice(const host::FormField& field);
     void languageChanged(const std::string& locale);
-    std::string statusAsText(const std::vector<DisplayAPIUtils::Rect>& visible) const;
+    void translateItems(const std::string& locale);
+    std::vector<DisplayAPIUtils::Rect> besideChoices(const std::vector<DisplayAPIUtils::Rect>& visible) const;
     std::string fieldsAsText(const std::vector<DisplayAPIUtils::Rect>& visible) const;
     std::string choicesAsText(const std::vector<DisplayAPIUtils::Rect>& visible) const;
 
+    TranslatorIfc* mSpeller = nullptr;
+    std::optional<SpellerLanguage> mTyping;
+    bool mHasUser = false;
+    bool mIsTranslating = false; ///< and tells once, in the end
     const ApplicationWatch mApplication{*this};
     const std::shared_ptr<void> mLife = std::make_shared<int>();
 };

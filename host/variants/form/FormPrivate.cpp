@@ -30,19 +30,25 @@ void FormSide::releaseOwnership()
     mImpl->ownership.releaseOwnership();
 }
 
+/// Its window leaves the screen: who has been dismissed hears nothing else.
 void FormSide::gainOwnership()
 {
     mImpl->ownership.gainOwnership();
+    mImpl->gotUser(false);
 }
 
 /// Also when what lay above has gone: an observer learns of it here.
 void FormSide::show()
 {
+    mImpl->gotUser(true);
     generateDisplayChangedEvent();
 }
 
 /// The current item stays the current one, and has the keys again when what lies above has gone.
-void FormSide::lostFocus() {}
+void FormSide::lostFocus()
+{
+    mImpl->gotUser(false);
+}
 
 std::string FormSide::serialise()
 {
@@ -166,7 +172,7 @@ void FormSide::setAlternativeCommandHandling(bool on)
 
 void FormSide::setSpellerLanguage(TranslatorIfc* translator)
 {
-    mImpl->speller = translator;
+    mImpl->setSpeller(translator);
 }
 
 } // namespace DisplayAPI

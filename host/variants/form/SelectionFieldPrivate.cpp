@@ -114,6 +114,7 @@ void SelectionFieldSide::gainOwnership()
 void SelectionFieldSide::localeChanged(std::string)
 {
     mImpl->translate();
+    mImpl->changed();
 }
 
 void SelectionFieldSide::setFieldContents(MenuCommand* command)

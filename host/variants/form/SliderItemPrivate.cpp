@@ -72,6 +72,7 @@ void SliderItemSide::gainOwnership()
 void SliderItemSide::localeChanged(std::string)
 {
     mImpl->showLabel();
+    mImpl->changed();
 }
 
 std::string SliderItemSide::getMaxValue()

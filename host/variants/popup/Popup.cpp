@@ -17,13 +17,16 @@ PopupSide::Popup::Popup(PopupSide& side, Displayable* facade, Command* hidden)
     : mSide(side), mFacade(facade), mHidden(hidden)
 {
     box->setMessageTarget(this);
+    box->setKeyHeard([this] { restartTimeout(); });
 }
 
 /// A box that lives on does not tell somebody who is gone.
 PopupSide::Popup::~Popup()
 {
-    if (box != nullptr)
-        box->setMessageTarget(nullptr);
+    if (box == nullptr)
+        return;
+    box->setMessageTarget(nullptr);
+    box->setKeyHeard([] {});
 }
 
 int PopupSide::Popup::Message(const PegMessage& message)
@@ -34,10 +37,7 @@ int PopupSide::Popup::Message(const PegMessage& message)
     case PM_CURRENT_CHANGED:
     case PM_CLICKED:
     case PM_LEFT:
-    case PM_KEY:
-        restartTimeout();
-        hear(message);
-        break;
+    case PM_KEY: hear(message); break;
     default: return PegThing::Message(message);
     }
     return 0;

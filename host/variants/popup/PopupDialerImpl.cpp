@@ -1,9 +1,8 @@
 #include "host/variants/popup/PopupDialerImpl.h"
 
-#include "DisplayAPI/ItemStateListener.h"
-#include "DisplayAPI/MenuCommand.h"
 #include "DisplayAPI/Rectangles.h"
 #include "DisplayAPI/ScreenText.h"
+#include "host/widgets/edit/EditKind.h"
 #include "utilities/ICC.h"
 
 namespace DisplayAPI {
@@ -14,10 +13,7 @@ using Modes = std::vector<host::InputMode>;
 
 Modes inputModes(PopupDialer::eMode mode)
 {
-    using host::InputMode;
-    if (mode != PopupDialer::EDITING)
-        return {InputMode::NUMBERS};
-    return {InputMode::CAPITALISED, InputMode::LOWER, InputMode::UPPER, InputMode::NUMBERS};
+    return mode == PopupDialer::EDITING ? host::modesOf(host::EditKind::NAME) : Modes{host::InputMode::NUMBERS};
 }
 
 std::string utf8(const PegString& text)
@@ -28,60 +24,9 @@ std::string utf8(const PegString& text)
 } // namespace
 
 PopupDialerSide::Impl::Impl(PopupDialerSide& dialer, PopupDialer* facade, bool wayBack)
-    : Popup(dialer, facade, nullptr), leftGoesBack(wayBack)
+    : EditPopup(dialer, facade, nullptr), leftGoesBack(wayBack)
 {
-    field->setMessageTarget(this);
-    field->line().setMessageTarget(this);
     field->line().setPlusByLongZero(true);
-    box->setField(field);
-}
-
-PopupDialerSide::Impl::~Impl()
-{
-    if (box == nullptr)
-        return;
-    field->setMessageTarget(nullptr);
-    field->line().setMessageTarget(nullptr);
-}
-
-void PopupDialerSide::Impl::hear(const PegMessage& message)
-{
-    switch (message.wType) {
-    case PM_CURRENT_CHANGED: message.pSource == &field->line() ? userHasEdited() : moved(); break;
-    case PM_CLICKED: choose(message.iData); break;
-    case PM_LEFT: goBack(); break;
-    case PM_KEY: key(message.iData); break;
-    default: break;
-    }
-}
-
-/// What neither the field nor the bar has a use for. The left key is the edit line's: up and down move in the bar, too.
-void PopupDialerSide::Impl::key(int key)
-{
-    if (key == PK_UP)
-        moveTo(box->bar().current() - 1);
-    else if (key == PK_DOWN)
-        moveTo(box->bar().current() + 1);
-}
-
-void PopupDialerSide::Impl::moveTo(int command)
-{
-    const int before = box->bar().current();
-    box->bar().setCurrent(command);
-    if (box->bar().current() != before)
-        moved();
-}
-
-void PopupDialerSide::Impl::moved()
-{
-    commands.userMoved();
-    changed();
-}
-
-void PopupDialerSide::Impl::choose(int command)
-{
-    if (Command* const chosen = commands.at(command))
-        raise(chosen);
 }
 
 void PopupDialerSide::Impl::goBack()
@@ -94,8 +39,7 @@ void PopupDialerSide::Impl::goBack()
 void PopupDialerSide::Impl::letGo()
 {
     isComingUp = false;
-    if (box != nullptr)
-        field->released(0);
+    EditPopup::letGo();
 }
 
 /// The text is no translation any more.
@@ -103,15 +47,13 @@ void PopupDialerSide::Impl::userHasEdited()
 {
     edited = OwnedText();
     followEditField();
-    for (ItemStateListener* const listener : listeners)
-        listener->postItemStateChange(nullptr);
-    changed();
+    tellEdited(nullptr);
 }
 
 void PopupDialerSide::Impl::opened()
 {
     editFieldIsShown = false;
-    commands.begin();
+    EditPopup::opened();
 }
 
 void PopupDialerSide::Impl::arrived()
@@ -179,44 +121,6 @@ void PopupDialerSide::Impl::showTexts()
     changed();
 }
 
-/// On two lines the bar's room is that of the second line.
-void PopupDialerSide::Impl::layOut()
-{
-    field->setRoomForSecond(!host::hasTwoLines() || box->bar().count() == 0);
-    box->fitField();
-}
-
-void PopupDialerSide::Impl::add(MenuCommand* command)
-{
-    if (!commands.add(command))
-        return;
-    layOut();
-    changed();
-}
-
-void PopupDialerSide::Impl::remove(MenuCommand* command)
-{
-    if (!commands.remove(command))
-        return;
-    layOut();
-    changed();
-}
-
-void PopupDialerSide::Impl::clear()
-{
-    commands.clear();
-    if (box == nullptr)
-        return;
-    layOut();
-    changed();
-}
-
-void PopupDialerSide::Impl::setDefault(MenuCommand* command)
-{
-    commands.setDefault(command);
-    changed();
-}
-
 /// A command that has gone keeps the text that it had, and so does what the user has typed.
 void PopupDialerSide::Impl::languageChanged()
 {
@@ -232,7 +136,7 @@ std::string PopupDialerSide::Impl::asText(const std::vector<DisplayAPIUtils::Rec
     if (isVisible(box->headerArea(), visible))
         contents += screen::caption(utf8(box->header()));
     if (isVisible(field->Area(), visible))
-        contents += screen::textLine(0, utf8(field->prefix()) + utf8(field->line().shown()));
+        contents += screen::textLine(0, utf8(field->prefix()) + utf8(field->line().masked()));
     if (isVisible(field->secondArea(), visible))
         contents += screen::textLine(1, utf8(field->second()));
     return screen::object("PopupDialer", contents + commands.asText(visible));

@@ -3,7 +3,6 @@
 #include "host/variants/popup/PopupDialerImpl.h"
 #include "utilities/ICC.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace DisplayAPI {
@@ -104,13 +103,12 @@ void PopupDialerSide::setLineEditText(TranslationInfo* text)
 
 void PopupDialerSide::addItemStateListener(ItemStateListener* listener)
 {
-    if (listener != nullptr && std::ranges::find(mImpl->listeners, listener) == mImpl->listeners.end())
-        mImpl->listeners.push_back(listener);
+    mImpl->addListener(listener);
 }
 
 void PopupDialerSide::removeItemStateListener(ItemStateListener* listener)
 {
-    std::erase(mImpl->listeners, listener);
+    mImpl->removeListener(listener);
 }
 
 void PopupDialerSide::addCommand(MenuCommand* command)

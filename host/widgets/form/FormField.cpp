@@ -20,6 +20,7 @@ constexpr int GAP = 2;     ///< between label and value
 void FormField::setLabelShare(int percent)
 {
     mShare = std::clamp(percent, 0, WHOLE);
+    valueMoved();
     Invalidate();
 }
 
@@ -27,6 +28,7 @@ void FormField::setLabel(PegString label)
 {
     const bool wasAbove = isLabelAbove();
     mLabel = std::move(label);
+    valueMoved();
     Invalidate();
     if (mHolder != nullptr && isLabelAbove() != wasAbove)
         mHolder->heightsChanged();
@@ -35,6 +37,7 @@ void FormField::setLabel(PegString label)
 void FormField::setIcon(const Icon* icon)
 {
     mIcon = icon;
+    valueMoved();
     Invalidate();
 }
 

@@ -82,6 +82,12 @@ protected:
 
     FormFieldHolder* holder() const { return mHolder; }
 
+    /// Where the value is painted.
+    PegRect valueArea() const { return parts().value; }
+
+    /// Called when that may be elsewhere than before; the field's own Resize() says so, too.
+    virtual void valueMoved() {}
+
     /// Called when somebody has said whether the user can only read.
     virtual void lockChanged() {}
 

@@ -2,8 +2,7 @@
 
 #include "host/lcd/Geometry.h"
 #include "host/widgets/Column.h"
-#include "host/widgets/Reading.h"
-#include "host/widgets/Strip.h"
+#include "host/widgets/form/TitleBar.h"
 
 #include <algorithm>
 #include <utility>
@@ -12,17 +11,11 @@ namespace host {
 
 namespace {
 
-constexpr int RULE = 1; ///< between the parts
-constexpr int INSET = 4;
-constexpr int INDENT = 8; ///< of what lies over the form, from the panel's edges
-constexpr int BACK_WIDTH = 14;
-constexpr int STATUS_LINE_HEIGHT = 16;
+constexpr int RULE = 1;          ///< between the parts
+constexpr int INDENT = 8;        ///< of what lies over the form, from the panel's edges
 constexpr int LEAST_HEIGHT = 40; ///< a title and a field
-
-int titleHeight()
-{
-    return hasTwoLines() ? BIG_LINE_HEIGHT : 20;
-}
+constexpr std::int32_t LONG_OK = 1;
+constexpr int LONG_OK_MS = 600;
 
 int barHeight()
 {
@@ -115,6 +108,7 @@ FormWindow::Place FormWindow::place() const
 void FormWindow::setPlace(Place place)
 {
     mPlace = place;
+    mVisitsBar = mVisitsBar && place == COMMANDS;
     mColumn->setFocus(this->place() == FIELDS);
     mBar->setFocus(this->place() == COMMANDS);
     layOut();
@@ -130,7 +124,7 @@ void FormWindow::go(Place place)
 bool FormWindow::hasRoomForTitle(int height) const
 {
     const int field = current() != nullptr ? current()->heightFor(widthOf(Area())) : Field::lineHeight();
-    return !mTitle.empty() && height >= titleHeight() + field;
+    return !mTitle.empty() && height >= titleBarHeight() + field;
 }
 
 FormWindow::Parts FormWindow::parts() const
@@ -142,7 +136,7 @@ FormWindow::Parts FormWindow::parts() const
     parts.bar = column.fromBottom(hasBar ? barHeight() : 0);
     const bool isCrowded = hasBar && hasTwoLines();
     const bool hasTitle = isCrowded ? !mTitle.empty() : hasRoomForTitle(heightOf(column.rest()));
-    parts.title = column.fromTop(hasTitle ? titleHeight() : 0);
+    parts.title = column.fromTop(hasTitle ? titleBarHeight() : 0);
     parts.fields = column.rest();
     if (mOpened != nullptr)
         parts.opened = openedArea();
@@ -161,7 +155,7 @@ PegRect FormWindow::openedArea() const
 
 void FormWindow::layOut()
 {
-    mStatus->setMostLines((heightOf(Area()) - barHeight() - LEAST_HEIGHT) / STATUS_LINE_HEIGHT);
+    mStatus->setRoom(heightOf(Area()) - barHeight() - LEAST_HEIGHT);
     const Parts where = parts();
     if (mStatus->Area() != where.status)
         mStatus->Resize(where.status);
@@ -191,11 +185,9 @@ void FormWindow::layOutBar(const PegRect& place)
 int FormWindow::Message(const PegMessage& message)
 {
     switch (message.wType) {
-    case PM_KEY:
-        if (!key(message.iData) && mListener != nullptr)
-            mListener->formKey(message.iData);
-        break;
-    case PM_KEYRELEASE: mColumn->released(message.iData); break;
+    case PM_KEY: keyDown(message.iData); break;
+    case PM_KEYRELEASE: keyUp(message.iData); break;
+    case PM_TIMER: visitBar(); break;
     case PM_CURRENT_CHANGED:
         layOut();
         if (message.pSource != mColumn)
@@ -203,13 +195,56 @@ int FormWindow::Message(const PegMessage& message)
         else if (mListener != nullptr)
             mListener->currentChanged();
         break;
-    case PM_CLICKED:
-        if (mListener != nullptr)
-            mListener->commandChosen(message.iData);
-        break;
+    case PM_CLICKED: choose(message.iData); break;
     default: return PegWindow::Message(message);
     }
     return 0;
+}
+
+void FormWindow::keyDown(int key)
+{
+    letGo();
+    if (this->key(key))
+        return;
+    if (key == PK_OK && mBar->count() > 0) {
+        mHoldsOk = true;
+        SetTimer(LONG_OK, LONG_OK_MS, false);
+    } else if (mListener != nullptr) {
+        mListener->formKey(key);
+    }
+}
+
+void FormWindow::keyUp(int key)
+{
+    const bool isOk = key == PK_OK && mHoldsOk;
+    letGo();
+    if (isOk && mListener != nullptr)
+        mListener->formKey(PK_OK);
+}
+
+void FormWindow::letGo()
+{
+    mColumn->released(0);
+    mHoldsOk = false;
+    KillTimer(LONG_OK);
+}
+
+void FormWindow::visitBar()
+{
+    mHoldsOk = false;
+    if (mBar->count() == 0 || mOpened != nullptr)
+        return;
+    mVisitsBar = true;
+    go(COMMANDS);
+}
+
+/// Who has come for one command is back in his field by then.
+void FormWindow::choose(int command)
+{
+    if (mVisitsBar)
+        setPlace(FIELDS);
+    if (mListener != nullptr)
+        mListener->commandChosen(command);
 }
 
 bool FormWindow::key(int key)
@@ -231,7 +266,8 @@ bool FormWindow::keyInBar(int key)
 {
     if (mBar->key(key))
         return true;
-    if ((key != PK_UP && key != PK_DOWN) || !mColumn->takesFocus())
+    const bool leadsBack = key == PK_UP || key == PK_DOWN || (key == PK_LEFT && mVisitsBar);
+    if (!leadsBack || !mColumn->takesFocus())
         return false;
     go(FIELDS);
     return true;
@@ -275,18 +311,7 @@ void FormWindow::Draw(PegPainter& painter)
     if (!isEmpty(where.bar) && !hasTwoLines())
         painter.fill(rectAt(where.bar.left, where.bar.top, widthOf(where.bar), RULE), Level::MIDDLE);
     if (!isEmpty(where.title))
-        drawTitle(painter, where.title);
-}
-
-/// The arrow says that the left key goes back.
-void FormWindow::drawTitle(PegPainter& painter, const PegRect& bar) const
-{
-    painter.fill(bar, Level::LIGHT);
-    painter.fill(rectAt(bar.left, bar.bottom, widthOf(bar), RULE), Level::DARK);
-    Strip strip(rectAt(bar.left + INSET, bar.top, widthOf(bar) - 2 * INSET, heightOf(bar) - RULE));
-    const PegRect back = strip.fromEnd(BACK_WIDTH);
-    painter.icon(icons::BACK, back, Level::DARK);
-    painter.text(strip.rest(), mTitle, {.font = Field::boldFont(), .align = startAlign()});
+        drawTitleBar(painter, where.title, mTitle);
 }
 
 } // namespace host

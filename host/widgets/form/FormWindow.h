@@ -25,7 +25,9 @@ protected:
 
 /// A form: status lines where there are any, a title, a column of fields that scrolls, and a bar of commands at the
 /// foot. The keys are the fields' or the bar's: down leads from the last field to the bar, up from the first, and both
-/// lead back. On two lines the bar is there as long as the user is in it, and the title yields to a field that is
+/// lead back. From every field that has no use of its own for OK the key leads to the bar while it is held, for one
+/// command or until left or the way back; where there is a bar OK is what it is otherwise when it goes up. On two lines
+/// the bar is there as long as the user is in it, and the title yields to a field that is
 /// higher than a line.
 class FormWindow : public PegWindow, private FormFieldHolder {
 public:
@@ -63,6 +65,9 @@ public:
     /// Texts may be read from the other side than before.
     void turn();
 
+    /// A key that is held is somebody else's from now on.
+    void letGo();
+
     /// Not owned; null is nobody.
     void setListener(FormListener* listener) { mListener = listener; }
 
@@ -94,7 +99,10 @@ private:
     void setPlace(Place place);
     void go(Place place);
 
-    void drawTitle(PegPainter& painter, const PegRect& bar) const;
+    void keyDown(int key);
+    void keyUp(int key);
+    void visitBar();
+    void choose(int command);
     bool key(int key);
     bool keyInBar(int key);
     void valueChanged(FormField& field) override;
@@ -114,6 +122,8 @@ private:
     const int mLabelShare;
     Place mPlace = FIELDS;
     bool mReadOnly = false;
+    bool mHoldsOk = false;   ///< and what it means is still to be seen
+    bool mVisitsBar = false; ///< for one command
 };
 
 } // namespace host

@@ -109,6 +109,7 @@ int PopupBox::Message(const PegMessage& message)
         mField->released(message.iData);
     if (message.wType != PM_KEY)
         return PegWindow::Message(message);
+    mKeyHeard();
     if (mField != nullptr && mField->takesFocus() && mField->key(message.iData))
         return 0;
     if (mBar->key(message.iData))

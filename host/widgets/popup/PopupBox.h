@@ -6,6 +6,7 @@
 #include "toolkit/PString.h"
 #include "toolkit/PegWindow.h"
 
+#include <functional>
 #include <utility>
 #include <vector>
 
@@ -73,6 +74,9 @@ public:
     /// Told what the bar tells, and the keys that nobody wants, as PM_KEY. Not owned; null is nobody.
     void setMessageTarget(PegThing* target);
 
+    /// Called when a key has gone down, whoever wants it, before that one gets it.
+    void setKeyHeard(std::function<void()> heard) { mKeyHeard = std::move(heard); }
+
     int Message(const PegMessage& message) override;
     void Draw(PegPainter& painter) override;
     void VisibilityChanged() override;
@@ -95,6 +99,7 @@ private:
     CommandBar* mBar;
     Field* mField = nullptr;
     PegThing* mTarget = nullptr;
+    std::function<void()> mKeyHeard = [] {};
     int mFreeAbove = 0;
     int mLinesAbove = 0;
     PopupStatus mStatus;

@@ -23,8 +23,8 @@ public:
     /// UTF-8. Lines outside 0 to 5 are ignored.
     void setText(int line, std::string text);
 
-    /// How many there is room for.
-    void setMostLines(int lines) { mMost = lines; }
+    /// The pixels that its screen has for the lines: as many are in sight as fit.
+    void setRoom(int pixels) { mMost = pixels / LINE_HEIGHT; }
 
     /// Those that are in sight.
     int lines() const;

@@ -17,14 +17,14 @@ struct Boxes : test::WidgetSubject<CheckBoxField> {
     Image image{Image::NO_SKIN_ELEMENT};
 };
 
-const bool CHECKED = test::Contract<Boxes>("CheckBoxFieldContractTest")
-                         .waits("getImage", 2, nullptr, nullptr, [](Boxes& b) { return b->getImage(); })
-                         .waits("getString", 3, "", "", [](Boxes& b) { return b->getString(); })
-                         .waits("isChecked", 4, false, false, [](Boxes& b) { return b->isChecked(); })
-                         .waits("swapChecked", 5, [](Boxes& b) { b->swapChecked(); })
-                         .waits("setChecked", 6, [](Boxes& b) { b->setChecked(true); })
-                         .record({.bool1 = true})
-                         .completes({-1, 7, 99})
-                         .check();
+const bool CHECK_BOX_FIELD_CHECKED = test::Contract<Boxes>("CheckBoxFieldContractTest")
+                                         .waits("getImage", 2, nullptr, nullptr, [](Boxes& b) { return b->getImage(); })
+                                         .waits("getString", 3, "", "", [](Boxes& b) { return b->getString(); })
+                                         .waits("isChecked", 4, false, false, [](Boxes& b) { return b->isChecked(); })
+                                         .waits("swapChecked", 5, [](Boxes& b) { b->swapChecked(); })
+                                         .waits("setChecked", 6, [](Boxes& b) { b->setChecked(true); })
+                                         .record({.bool1 = true})
+                                         .completes({-1, 7, 99})
+                                         .check();
 
 } // namespace

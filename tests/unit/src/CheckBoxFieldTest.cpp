@@ -2,6 +2,7 @@
 
 #include "CheckBoxFieldPrivate.h"
 #include "DisplayAPI/Form.h"
+#include "DisplayAPI/Image.h"
 #include "unit/src/FacadeTest.h"
 #include "unit/src/Posted.h"
 #include "utilities/TranslationInfo.h"
@@ -61,11 +62,51 @@ INSTANTIATE_FROM_BOTH_THREADS(CheckBoxFieldTest);
 
 using QueuedCheckBoxFieldTest = test::SteppedTest;
 
-TEST_F(QueuedCheckBoxFieldTest, MakingWaitsAndDeletingPostsNothing)
+TEST_F(QueuedCheckBoxFieldTest, WhatIsQueuedIsCarriedOutBeforeItGoes)
+{
+    auto field = std::make_unique<CheckBoxField>("Days", "Monday", nullptr);
+    test::Worker asking([&] { EXPECT_FALSE(field->isChecked()); });
+    gui.waitForQueued(1);
+    test::Worker deleting([&] { field.reset(); });
+    EXPECT_TRUE(deleting.isBlocked());
+    gui.runAll();
+    asking.join();
+    deleting.join();
+}
+
+TEST_F(QueuedCheckBoxFieldTest, MakingAndDeletingWait)
 {
     TranslationInfo text("Monday", nullptr);
     EXPECT_EQ(test::postedBy(gui, [] { const CheckBoxField field("Days", "Monday", nullptr); }), (Posted{{0}, true}));
     EXPECT_EQ(test::postedBy(gui, [&] { const CheckBoxField field(&text, &text, nullptr); }), (Posted{{1}, true}));
+}
+
+TEST_F(QueuedCheckBoxFieldTest, RecordThatMakesItHasAllThree)
+{
+    TranslationInfo label("Days", nullptr), text("Monday", nullptr);
+    Image picture{Image::NO_SKIN_ELEMENT};
+    for (const int code : {0, 1}) {
+        const test::Worker worker([&] {
+            if (code == 0)
+                const CheckBoxField field("Days", "Monday", &picture);
+            else
+                const CheckBoxField field(&label, &text, &picture);
+        });
+        EXPECT_TRUE(worker.isBlocked());
+        const auto& record = *static_cast<GuiRequestEvent*>(gui.messages().at(0).pData);
+        EXPECT_EQ(record.getType(), code);
+        EXPECT_EQ(record.stringParam1, code == 0 ? "Days" : "");
+        EXPECT_EQ(record.stringParam2, code == 0 ? "Monday" : "");
+        if (code == 0) {
+            EXPECT_EQ(record.ptrParam1, &picture);
+        } else {
+            EXPECT_EQ(record.ptrParam1, &label);
+            EXPECT_EQ(record.ptrParam2, &text);
+            EXPECT_EQ(record.ptrParam3, &picture);
+        }
+        while (!worker.hasReturned())
+            gui.step();
+    }
 }
 
 TEST(CheckBoxFieldPrivateTest, KnowsWhetherItsWidgetWouldBeItsOwn)

@@ -22,17 +22,17 @@ struct Rows : test::WidgetSubject<CheckBoxItem> {
     TranslationInfo text{"key", nullptr};
 };
 
-const bool CHECKED = test::Contract<Rows>("CheckBoxItemContractTest")
-                         .posts("setText", 3, [](Rows& r) { r->setText("Tuesday"); })
-                         .record({.text1 = "Tuesday"})
-                         .posts("setTranslation", 3, [](Rows& r) { r->setText(&r.text); })
-                         .record([](Rows& r) { return Filling{.ptr1 = &r.text}; })
-                         .waits("getText", 6, "Monday", "", [](Rows& r) { return r->getText(); })
-                         .waits("isChecked", 12, true, false, [](Rows& r) { return r->isChecked(); })
-                         .waits("swapChecked", 13, [](Rows& r) { r->swapChecked(); })
-                         .waits("setChecked", 14, [](Rows& r) { r->setChecked(false); })
-                         .record({.bool1 = false})
-                         .completes({-1, 4, 5, 7, 16, 100})
-                         .check();
+const bool CHECK_BOX_ITEM_CHECKED = test::Contract<Rows>("CheckBoxItemContractTest")
+                                        .posts("setText", 3, [](Rows& r) { r->setText("Tuesday"); })
+                                        .record({.text1 = "Tuesday"})
+                                        .posts("setTranslation", 3, [](Rows& r) { r->setText(&r.text); })
+                                        .record([](Rows& r) { return Filling{.ptr1 = &r.text}; })
+                                        .waits("getText", 6, "Monday", "", [](Rows& r) { return r->getText(); })
+                                        .waits("isChecked", 12, true, false, [](Rows& r) { return r->isChecked(); })
+                                        .waits("swapChecked", 13, [](Rows& r) { r->swapChecked(); })
+                                        .waits("setChecked", 14, [](Rows& r) { r->setChecked(false); })
+                                        .record({.bool1 = false})
+                                        .completes({-1, 4, 5, 7, 16, 100})
+                                        .check();
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "DisplayAPI/CheckBoxItem.h"
 
 #include "CheckBoxItemPrivate.h"
+#include "DisplayAPI/Image.h"
 #include "doubles/Mocks.h"
 #include "support/RowsOwner.h"
 #include "unit/src/Posted.h"
@@ -96,6 +97,27 @@ TEST_F(QueuedCheckBoxItemTest, MakingWaitsAndSoDoesDeleting)
     EXPECT_EQ(test::postedBy(gui, [&] { row.reset(); }), (Posted{{15}, true}));
     EXPECT_EQ(test::postedBy(gui, [&] { row = std::make_unique<CheckBoxItem>(&key, nullptr, true, true); }),
               (Posted{{11}, true}));
+}
+
+/// On the GUI thread the image stays behind.
+TEST_F(QueuedCheckBoxItemTest, WorkerHandsTheImageOnWithItsTranslationAlone)
+{
+    TranslationInfo key("key", nullptr);
+    Image picture{Image::NO_SKIN_ELEMENT};
+    for (const int code : {10, 11}) {
+        std::unique_ptr<CheckBoxItem> row;
+        const test::Worker worker([&] {
+            row = code == 10 ? std::make_unique<CheckBoxItem>("Monday", &picture, true, true)
+                             : std::make_unique<CheckBoxItem>(&key, &picture, true, true);
+        });
+        EXPECT_TRUE(worker.isBlocked());
+        const auto& record = *static_cast<GuiRequestEvent*>(gui.messages().at(0).pData);
+        EXPECT_EQ(record.getType(), code);
+        EXPECT_EQ(record.stringParam1, code == 10 ? "Monday" : "");
+        EXPECT_EQ(record.ptrParam1, code == 10 ? nullptr : &key);
+        EXPECT_EQ(record.ptrParam2, code == 10 ? nullptr : &picture);
+        gui.runAll();
+    }
 }
 
 TEST(CheckBoxItemPrivateTest, TranslationFollowsTheApplicationsLanguage)

@@ -1,15 +1,13 @@
 #include "DisplayAPI/Item.h"
 
 #include "DisplayAPI/GuiRequestEvent.h"
-#include "DisplayAPI/ItemStateListener.h"
 #include "doubles/Screen.h"
+#include "support/ItemChanges.h"
 #include "unit/src/PoolGate.h"
 
 #include <gmock/gmock.h>
 
 #include <memory>
-#include <mutex>
-#include <vector>
 
 using namespace DisplayAPI;
 
@@ -21,26 +19,6 @@ public:
     void processGuiRequest(GuiRequestEvent& request) override { signalComplete(request); }
     ItemPrivateIfc* getPrivateImpl() override { return nullptr; }
     void localeChanged(std::string) override {}
-};
-
-/// Notes whose changes arrive.
-class NotingListener : public ItemStateListener {
-public:
-    void itemStateChanged(Item* item) override
-    {
-        std::lock_guard lock(mMutex);
-        mItems.push_back(item);
-    }
-
-    std::vector<Item*> items() const
-    {
-        std::lock_guard lock(mMutex);
-        return mItems;
-    }
-
-private:
-    mutable std::mutex mMutex;
-    std::vector<Item*> mItems;
 };
 
 } // namespace
@@ -67,7 +45,7 @@ TEST(ItemTest, AnswersForEverySubclassThatDoesNotOverride)
 
 TEST(ItemTest, DestructionRecallsItsQueuedChanges)
 {
-    NotingListener listener;
+    test::ItemChanges listener;
     PlainItem other;
     {
         test::PoolGate gate;
@@ -76,6 +54,5 @@ TEST(ItemTest, DestructionRecallsItsQueuedChanges)
         listener.postItemStateChange(&other);
         item.reset();
     }
-    test::waitUntil([&] { return !listener.items().empty(); });
-    EXPECT_THAT(listener.items(), testing::ElementsAre(&other));
+    EXPECT_THAT(listener.take(), testing::ElementsAre(&other));
 }

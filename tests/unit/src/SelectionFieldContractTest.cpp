@@ -36,7 +36,7 @@ struct Selections : test::WidgetSubject<SelectionField> {
     MenuCommand home{"Home", 1};
 };
 
-const bool CHECKED =
+const bool SELECTION_FIELD_CHECKED =
     test::Contract<Selections>("SelectionFieldContractTest")
         .waits("setFieldContents", 3, [](Selections& s) { s->setFieldContents(&s.home); })
         .record(Selections::command)

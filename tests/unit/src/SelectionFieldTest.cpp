@@ -2,10 +2,9 @@
 
 #include "DisplayAPI/Form.h"
 #include "DisplayAPI/MenuCommand.h"
-#include "support/HardwareVariant.h"
 #include "support/SteppedLoop.h"
 #include "support/Worker.h"
-#include "unit/src/FacadeTest.h"
+#include "unit/src/MadeFacadeTest.h"
 #include "utilities/TranslationInfo.h"
 #include "variants/form/SelectionFieldPrivate.h"
 
@@ -19,27 +18,8 @@ namespace {
 
 constexpr auto HOUSE = PhonebookItem::ICON_HOME;
 
-class SelectionFieldTest : public test::FacadeTest, public testing::WithParamInterface<From> {
+class SelectionFieldTest : public test::MadeFacadeTest<SelectionField, test::HardwareVariant> {
 protected:
-    ~SelectionFieldTest() override
-    {
-        run([&] { field.reset(); });
-    }
-
-    void run(const std::function<void()>& work) { FacadeTest::run(GetParam(), work); }
-
-    /// Makes a field on hardware that is called so, and tells how its private side has been made.
-    template <typename... Args>
-    std::vector<std::string> made(int variant, Args... args)
-    {
-        run([&] { field.reset(); });
-        reached();
-        const test::HardwareVariant production(variant);
-        run([&] { field = std::make_unique<SelectionField>(args...); });
-        expectAllOnGuiThread();
-        return reached();
-    }
-
     std::string side(const char* name, const std::string& text, int icon)
     {
         return callText(name, text, icon, &home, form);
@@ -49,7 +29,7 @@ protected:
     MenuCommand home{"Home", 1}, office{"Work", 2};
     int somewhere = 0;
     Form* const form = reinterpret_cast<Form*>(&somewhere); ///< only handed on
-    std::unique_ptr<SelectionField> field;
+    std::unique_ptr<SelectionField>& field = facade;
 };
 
 TEST_P(SelectionFieldTest, ProductionDataSaysWhichSideItHas)

@@ -1,42 +1,23 @@
 #include "DisplayAPI/SliderItem.h"
 
-#include "support/HardwareVariant.h"
 #include "support/SteppedLoop.h"
 #include "support/Worker.h"
-#include "unit/src/FacadeTest.h"
+#include "unit/src/MadeFacadeTest.h"
 #include "utilities/TranslationInfo.h"
 #include "variants/form/SliderItemPrivate.h"
 
 using namespace DisplayAPI;
+using doubles::callText;
 using test::From;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace {
 
-class SliderItemTest : public test::FacadeTest, public testing::WithParamInterface<From> {
+class SliderItemTest : public test::MadeFacadeTest<SliderItem, test::HardwareVariant> {
 protected:
-    ~SliderItemTest() override
-    {
-        run([&] { slider.reset(); });
-    }
-
-    void run(const std::function<void()>& work) { FacadeTest::run(GetParam(), work); }
-
-    /// Makes a slider on hardware that is called so, and tells how its private side has been made.
-    template <typename Label>
-    std::vector<std::string> made(int variant, Label shown)
-    {
-        run([&] { slider.reset(); });
-        reached();
-        const test::HardwareVariant production(variant);
-        run([&] { slider = std::make_unique<SliderItem>(shown); });
-        expectAllOnGuiThread();
-        return reached();
-    }
-
     TranslationInfo label{"Volume", nullptr};
-    std::unique_ptr<SliderItem> slider;
+    std::unique_ptr<SliderItem>& slider = facade;
 };
 
 TEST_P(SliderItemTest, ProductionDataSaysWhichSideATranslatedOneHas)
@@ -91,6 +72,35 @@ TEST_P(SliderItemTest, ItemsOperationsAreThoseOfItsBase)
     EXPECT_THAT(reached(), IsEmpty());
 }
 
+TEST_P(SliderItemTest, NullTranslationIsAnEmptyLabel)
+{
+    for (const int variant : {0, 2}) {
+        const std::string side = variant == 0 ? "SliderItemPrivateWP1" : "SliderItemPrivate";
+        EXPECT_THAT(made(variant, static_cast<TranslationInfo*>(nullptr)), ElementsAre(side + "(\"\")"));
+        run([&] { slider->setLabel(static_cast<TranslationInfo*>(nullptr)); });
+        EXPECT_THAT(reached(), ElementsAre(callText(side + "::setLabel", static_cast<TranslationInfo*>(nullptr))));
+    }
+}
+
+TEST_P(SliderItemTest, WithoutASideItTakesEverythingAndAnswersNothing)
+{
+    run([&] {
+        slider = std::make_unique<SliderItem>(static_cast<SliderItemPrivateIfc*>(nullptr));
+        slider->setMaxValue("10");
+        slider->setMinValue("1");
+        slider->setValue("5");
+        slider->setInterval("2");
+        slider->setLabel("Tone");
+        slider->setLabel(&label);
+        slider->setReadOnly(true);
+        EXPECT_EQ(slider->getMaxValue(), "");
+        EXPECT_EQ(slider->getValue(), "");
+        EXPECT_FALSE(slider->isReadOnly());
+    });
+    EXPECT_EQ(slider->getPrivateImpl(), nullptr);
+    EXPECT_THAT(reached(), IsEmpty());
+}
+
 INSTANTIATE_FROM_BOTH_THREADS(SliderItemTest);
 
 using QueuedSliderItemTest = test::SteppedTest;
@@ -105,6 +115,9 @@ TEST_F(QueuedSliderItemTest, MakingWaitsAndSoDoesDeleting)
         });
         EXPECT_TRUE(worker.isBlocked());
         EXPECT_THAT(gui.queuedCodes(), ElementsAre(code));
+        const auto& record = *static_cast<GuiRequestEvent*>(gui.messages().at(0).pData);
+        EXPECT_EQ(record.stringParam1, code == 1 ? "Volume" : "");
+        EXPECT_EQ(record.ptrParam1, code == 1 ? nullptr : &label);
         gui.step();
         gui.waitForQueued(1);
         EXPECT_THAT(gui.queuedCodes(), ElementsAre(3));

@@ -4,14 +4,11 @@
 
 #include "DisplayAPI/Item.h"
 #include "DisplayAPI/ItemPrivateIfc.h"
-#include "DisplayAPI/ItemStateListener.h"
 #include "DisplayAPI/WatchedWidget.h"
-#include "support/Gate.h"
+#include "support/ItemChanges.h"
 #include "unit/host/variants/form/FormVariantTest.h"
 #include "unit/host/widgets/form/TestFormField.h"
 #include "utilities/TranslationInfo.h"
-
-#include <atomic>
 
 using namespace DisplayAPI;
 using test::TestFormField;
@@ -40,13 +37,6 @@ public:
 
 private:
     const bool mIsBlank;
-};
-
-/// Keeps the item whose change has arrived last.
-struct ChangeNote : ItemStateListener {
-    void itemStateChanged(Item* changed) override { item = changed; }
-
-    std::atomic<Item*> item{nullptr};
 };
 
 class FormPrivateTest : public test::FormVariantTest {
@@ -99,12 +89,12 @@ TEST_P(FormPrivateTest, CurrentItemIsTheFirstAndFollowsTheKeys)
 TEST_P(FormPrivateTest, ChangedValueIsTheItemsChange)
 {
     Item* const digit = append("One");
-    ChangeNote note;
-    form->addItemStateListener(&note);
+    test::ItemChanges changes;
+    form->addItemStateListener(&changes);
     open();
     press('7');
     EXPECT_THAT(raised, ElementsAre("changed"));
-    EXPECT_TRUE(test::becomesTrue([&] { return note.item == digit; }));
+    EXPECT_THAT(changes.take(), ElementsAre(digit));
     EXPECT_EQ(shown(), asText(item("One", "7")));
 }
 
@@ -298,6 +288,22 @@ TEST_P(FormPrivateTest, WhoHearsOfAnotherFieldMayDeleteTheForm)
     deleteFormAt("current");
     press(PK_DOWN);
     EXPECT_THAT(raised, ElementsAre("current"));
+}
+
+TEST_P(FormPrivateTest, WhoIsToldOfAnItemOrACommandMayDeleteTheForm)
+{
+    Command save("Save", Command::SAVE);
+    Item* first = nullptr;
+    const std::vector<std::function<void()>> changes{[&] { append("Two"); }, [&] { form->append(first); },
+                                                     [&] { form->addCommand(&save); }, [&] { form->clearCommands(); }};
+    for (std::size_t i = 0; i < changes.size(); ++i) {
+        form = std::make_unique<Form>(Form::HALF_AND_HALF);
+        first = append("One");
+        form->addCommand(&save);
+        open();
+        deleteFormWhenTold(changes[i]);
+        EXPECT_EQ(form, nullptr) << i;
+    }
 }
 
 TEST_P(FormPrivateTest, WhoHearsOfAnotherValueMayDeleteTheForm)

@@ -9,9 +9,9 @@
 #include "doubles/Mocks.h"
 #include "host/Phone.h"
 #include "presentation/PRESCPresentationManager.h"
+#include "support/Dictionary.h"
 #include "support/VirtualTime.h"
 #include "unit/host/variants/OnPanel.h"
-#include "utilities/TranslatorIfc.h"
 #include "widgets/KestrelApplication.h"
 
 #include <gmock/gmock.h>
@@ -22,14 +22,6 @@
 #include <vector>
 
 namespace test {
-
-/// Says the key in the language of the moment.
-class FormDictionary : public TranslatorIfc {
-public:
-    std::string translate(const std::string& key) override { return language + key; }
-
-    std::string language = "en:";
-};
 
 /// A form on the screen, on the real private sides. The test's thread is the GUI thread.
 class FormVariantTest : public testing::TestWithParam<host::Variant> {
@@ -74,6 +66,8 @@ protected:
 
     /// To whoever has the focus.
     static void press(int key) { gpPresent->Focus()->Message({.wType = PM_KEY, .iData = key}); }
+
+    static void release(int key) { gpPresent->Focus()->Message({.wType = PM_KEYRELEASE, .iData = key}); }
 
     void press(std::initializer_list<int> keys)
     {
@@ -141,7 +135,7 @@ protected:
     VirtualTime time;
     OnPanel gui{GetParam()};
     DisplayAPI::Display display{host::hardwareName(), "en_GB", "dd.mm.yyyy", "24h", host::isNarrow(), nullptr};
-    FormDictionary dictionary;
+    Dictionary dictionary;
     testing::NiceMock<doubles::MockCommandListener> listener;
     std::vector<std::string> raised;
     std::unique_ptr<DisplayAPI::Form> form = std::make_unique<DisplayAPI::Form>(DisplayAPI::Form::HALF_AND_HALF);

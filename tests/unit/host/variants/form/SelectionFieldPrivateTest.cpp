@@ -10,6 +10,7 @@
 
 using namespace DisplayAPI;
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
 
 namespace {
@@ -39,6 +40,9 @@ protected:
 
     /// The three choices over the form: as many as there is room for.
     static std::string choices() { return command("Home") + command("Work") + (isSmall() ? "" : command("Mobile")); }
+
+    /// On two lines the choices leave nothing.
+    static std::string besideChoices(const std::string& items) { return isSmall() ? "" : items; }
 
     std::unique_ptr<MenuCommand> none = choice("None"), home = choice("Home"), work = choice("Work"),
                                  mobile = choice("Mobile");
@@ -96,7 +100,7 @@ TEST_P(SelectionFieldPrivateTest, OkShowsAllChoicesAndTakesOne)
     EXPECT_EQ(field->getHighlightedIndex(), -1);
     press(PK_OK);
     EXPECT_EQ(field->getHighlightedIndex(), 0);
-    EXPECT_EQ(shown(), asText(item("Kind", "Home") + choices()));
+    EXPECT_EQ(shown(), asText(besideChoices(item("Kind", "Home")) + choices()));
     press(PK_DOWN);
     EXPECT_EQ(field->getHighlightedIndex(), 1);
     EXPECT_EQ(field->getSelectionIndex(), 0);
@@ -105,6 +109,21 @@ TEST_P(SelectionFieldPrivateTest, OkShowsAllChoicesAndTakesOne)
     EXPECT_EQ(field->getSelectionIndex(), 1);
     EXPECT_EQ(shown(), asText(item("Kind", "Work")));
     EXPECT_THAT(raised, ElementsAre("choices", "changed"));
+}
+
+/// On two lines they cover everything; elsewhere a part of the title and of each row can be seen beside them.
+TEST_P(SelectionFieldPrivateTest, WhatTheChoicesCoverIsNotTold)
+{
+    form->setTitle("Entry");
+    for (const char* label : {"b", "c", "d", "e", "f", "g"})
+        form->append(new SelectionField(label, home.get(), form.get(), true));
+    open();
+    press(PK_OK);
+    EXPECT_THAT(shown(), HasSubstr(choices()));
+    EXPECT_EQ(shown().find("caption:Entry") != std::string::npos, !isSmall());
+    EXPECT_EQ(shown().find("string0:Kind") != std::string::npos, !isSmall());
+    press(PK_LEFT);
+    EXPECT_THAT(shown(), HasSubstr("string0:Kind"));
 }
 
 TEST_P(SelectionFieldPrivateTest, LeftLeavesTheChoicesAndTheSameOneIsNoChange)
@@ -193,7 +212,7 @@ TEST_P(SelectionFieldPrivateTest, TextsFollowTheLanguage)
     changeLanguage("de");
     EXPECT_EQ(shown(), asText(item("Sort", "de:other")));
     press(PK_OK);
-    EXPECT_EQ(shown(), asText(item("Sort", "de:other") + command("de:other")));
+    EXPECT_EQ(shown(), asText(besideChoices(item("Sort", "de:other")) + command("de:other")));
 }
 
 TEST_P(SelectionFieldPrivateTest, EndOfTheFieldTakesItsChoicesOff)
@@ -330,9 +349,13 @@ TEST_P(SelectionFieldPrivateTest, WhoIsInformedOfAChoiceMayDeleteTheForm)
 
 TEST_P(SelectionFieldPrivateTest, WhoIsToldOfAChangeMayDeleteTheForm)
 {
-    const std::vector<std::function<void()>> changes{[&] { field->setLabel("Sort"); }, [&] { press(PK_RIGHT); },
-                                                     [&] { press(PK_OK); }, [&] { form->clear(); },
-                                                     [&] { form->setReadonly(true); }};
+    const std::vector<std::function<void()>> changes{[&] { field->setLabel("Sort"); },
+                                                     [&] { press(PK_RIGHT); },
+                                                     [&] { press(PK_OK); },
+                                                     [&] { form->clear(); },
+                                                     [&] { form->setReadonly(true); },
+                                                     [&] { field->clearSelections(nullptr); },
+                                                     [&] { field->appendSelection(field->getCommands().front()); }};
     for (std::size_t i = 0; i < changes.size(); ++i) {
         renew();
         deleteFormWhenTold(changes[i]);

@@ -1,25 +1,17 @@
 // What a context menu shows and holds.
 
 #include "host/variants/menu/ContextMenuImpl.h"
+#include "support/Dictionary.h"
 #include "support/Keys.h"
 #include "unit/host/variants/menu/ContextMenuVariantTest.h"
 #include "utilities/Rect.h"
 #include "utilities/TranslationInfo.h"
-#include "utilities/TranslatorIfc.h"
 
 using namespace DisplayAPI;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
 namespace {
-
-/// Says the key in the language of the moment.
-class Dictionary : public TranslatorIfc {
-public:
-    std::string translate(const std::string& key) override { return language + key; }
-
-    std::string language = "en:";
-};
 
 class ContextMenuPrivateTest : public test::ContextMenuVariantTest {
 protected:
@@ -48,7 +40,7 @@ protected:
         display.localeChanged(language);
     }
 
-    Dictionary dictionary;
+    test::Dictionary dictionary;
     std::vector<std::unique_ptr<MenuCommand>> made;
 };
 

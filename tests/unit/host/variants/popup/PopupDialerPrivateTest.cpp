@@ -1,9 +1,10 @@
 // What a dialer shows, holds and tells.
 
+#include "support/Dictionary.h"
+#include "support/ItemChanges.h"
 #include "unit/host/variants/popup/DialerVariantTest.h"
 #include "utilities/Rect.h"
 #include "utilities/TranslationInfo.h"
-#include "utilities/TranslatorIfc.h"
 
 #include <functional>
 
@@ -14,26 +15,6 @@ using testing::IsEmpty;
 using testing::Not;
 
 namespace {
-
-/// Says the key in the language of the moment.
-class Dictionary : public TranslatorIfc {
-public:
-    std::string translate(const std::string& key) override { return language + key; }
-
-    std::string language = "en:";
-};
-
-/// Counts what it is told, on a thread of the pool.
-struct Changes : ItemStateListener {
-    void itemStateChanged(Item* item) override
-    {
-        EXPECT_EQ(item, nullptr);
-        ++times;
-        times.notify_all();
-    }
-
-    std::atomic<int> times{0};
-};
 
 class PopupDialerPrivateTest : public test::DialerVariantTest {
 protected:
@@ -53,7 +34,7 @@ protected:
         return isSmall() ? std::string() : "caption:" + header + "\n";
     }
 
-    Dictionary dictionary;
+    test::Dictionary dictionary;
 };
 
 TEST_P(PopupDialerPrivateTest, DigitsStarAndHashAreTyped)
@@ -339,7 +320,7 @@ TEST_P(PopupDialerPrivateTest, ModesChangeWhatKeysType)
 
 TEST_P(PopupDialerPrivateTest, ListenersHearWhatTheUserChanges)
 {
-    Changes changes, other;
+    test::ItemChanges changes, other;
     dialer->addItemStateListener(&changes);
     dialer->addItemStateListener(&changes);
     dialer->addItemStateListener(&other);
@@ -348,12 +329,10 @@ TEST_P(PopupDialerPrivateTest, ListenersHearWhatTheUserChanges)
     dialer->show();
     dialer->setLineEditText("3");
     type("1");
-    changes.times.wait(0);
-    EXPECT_EQ(changes.times, 1);
+    EXPECT_THAT(changes.take(), ElementsAre(nullptr));
     press(PK_LEFT);
-    changes.times.wait(1);
-    EXPECT_EQ(changes.times, 2);
-    EXPECT_EQ(other.times, 0);
+    EXPECT_THAT(changes.take(), ElementsAre(nullptr));
+    EXPECT_THAT(other.take(), IsEmpty());
 }
 
 TEST_P(PopupDialerPrivateTest, EditFieldIsToldWhenItComesIntoView)

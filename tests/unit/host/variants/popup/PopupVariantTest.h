@@ -7,11 +7,11 @@
 #include "doubles/Mocks.h"
 #include "host/Phone.h"
 #include "presentation/PRESCPresentationManager.h"
+#include "support/Dictionary.h"
 #include "support/VirtualTime.h"
 #include "unit/host/variants/OnPanel.h"
 #include "utilities/Rect.h"
 #include "utilities/TranslationInfo.h"
-#include "utilities/TranslatorIfc.h"
 #include "widgets/KestrelApplication.h"
 
 #include <gmock/gmock.h>
@@ -21,14 +21,6 @@
 #include <vector>
 
 namespace test {
-
-/// Says the key in the language of the moment.
-class Dictionary : public TranslatorIfc {
-public:
-    std::string translate(const std::string& key) override { return language + key; }
-
-    std::string language = "en:";
-};
 
 /// A popup over a list, on the real private sides. The test's thread is the GUI thread.
 template <typename Facade>
