@@ -5,6 +5,7 @@
 #include "DisplayAPI/ListItemPrivateIfc.h"
 #include "GuiThread.h"
 #include "Operations.h"
+#include "TellRowsChanged.h"
 #include "Variant.h"
 #include "variants/tree/ExpandingTreeListPrivate.h"
 
@@ -214,6 +215,7 @@ void ExpandingTreeList::localeChanged(std::string locale)
         if (ListItemPrivateIfc* const row = item->getPrivateImplemetation())
             row->localeChanged(locale);
     }
+    tellRowsChanged(mImplementation);
 }
 
 } // namespace DisplayAPI

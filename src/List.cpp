@@ -3,18 +3,14 @@
 #include "DisplayAPI/Command.h"
 #include "DisplayAPI/ListBoxPrivateIfc.h"
 #include "DisplayAPI/ListItem.h"
-#include "DisplayAPI/ListItemPrivateIfc.h"
 #include "DisplayAPI/Ticker.h"
 #include "GuiThread.h"
+#include "ListRows.h"
 #include "Log.h"
 #include "Operations.h"
 #include "Variant.h"
 #include "utilities/HardwareVersion.h"
 #include "variants/list/ListBoxPrivate.h"
-#include "widgets/KestrelListBoxItem.h"
-
-#include <algorithm>
-#include <cstddef>
 
 namespace DisplayAPI {
 
@@ -141,8 +137,8 @@ void List::cleanup()
 {
     onlyOnGuiThread("List::cleanup()");
     gLog(TRACE, 148, "DAPI::List::cleanup() this: %p\n", static_cast<void*>(this));
-    deletePrivateSide(mImplementation);
-    deleteItems();
+    if (deletePrivateSide(mImplementation))
+        rows().deleteItems();
 }
 
 void List::align() {}
@@ -291,10 +287,7 @@ void List::hide()
 void List::localeChanged(std::string locale)
 {
     onlyOnGuiThread("List::localeChanged()");
-    mItems.forEach([&](ListItem* item) {
-        if (ListItemPrivateIfc* row = item->getPrivateImplemetation())
-            row->localeChanged(locale);
-    });
+    rows().localeChanged(locale);
 }
 
 void List::setTicker(Ticker* ticker)
@@ -369,99 +362,44 @@ void List::takeOver(ListItem* item)
         privateAppend(item);
 }
 
+ListRows<ListBoxPrivateIfc> List::rows()
+{
+    return {gLog, "List", this, mItems, mImplementation};
+}
+
 void List::privateAppend(ListItem* item)
 {
-    gLog(TRACE, 494, "DAPI::List::privateAppend() this: %p\n", static_cast<void*>(this));
-    ListItemPrivateIfc* row = item != nullptr ? item->getPrivateImplemetation() : nullptr;
-    if (row == nullptr)
-        return;
-    if (mImplementation != nullptr)
-        mImplementation->append(row);
-    mItems.append(item);
+    rows().append(item);
 }
 
 void List::privateInsertAt(ListItem* item, int index)
 {
-    gLog(TRACE, 508, "DAPI::List::privateInsertAt() this: %p\n", static_cast<void*>(this));
-    if (item == nullptr)
-        return;
-    if (mImplementation != nullptr)
-        mImplementation->insertAt(item->getPrivateImplemetation(), index);
-    mItems.insert(item, std::clamp(index, 0, mItems.size()));
+    rows().insertAt(item, index);
 }
 
 ListItem* List::privateRemoveAt(int index)
 {
-    gLog(TRACE, 526, "DAPI::List::privateRemoveAt() this: %p\n", static_cast<void*>(this));
-    const int position = std::max(index, 0);
-    ListItem* const item = mItems.at(position);
-    if (item == nullptr) {
-        gLog(REFUSED, 540, "DAPI::List::removeAt() this %p, cannot remove item at index %d", static_cast<void*>(this),
-             index);
-        return nullptr;
-    }
-    if (mImplementation != nullptr)
-        mImplementation->removeAt(index, item->getPrivateImplemetation());
-    mItems.erase(position);
-    return item;
-}
-
-/// A row's widget knows its place, which is mostly the item's; otherwise the items are looked through.
-int List::positionOf(ListItem* item) const
-{
-    ListItemPrivateIfc* const row = item->getPrivateImplemetation();
-    const KestrelListBoxItem* const widget = row != nullptr ? row->getKestrelListItem() : nullptr;
-    return mItems.find(item, widget != nullptr ? widget->row() : -1);
+    return rows().removeAt(index);
 }
 
 void List::privateRemove(ListItem* item)
 {
-    gLog(TRACE, 552, "DAPI::List::privateRemove() this: %p\n", static_cast<void*>(this));
-    if (item == nullptr)
-        return;
-    const int position = positionOf(item);
-    if (mImplementation != nullptr)
-        mImplementation->remove(item->getPrivateImplemetation());
-    if (position >= 0)
-        mItems.erase(position);
+    rows().remove(item);
 }
 
 void List::privateRemoveAll()
 {
-    mItems.forEach([this](ListItem* item) {
-        if (mImplementation != nullptr)
-            mImplementation->remove(item->getPrivateImplemetation());
-    });
-    mItems.clear();
+    rows().removeAll();
 }
 
 void List::privateReplace(ListItem* oldItem, ListItem* newItem)
 {
-    if (newItem == nullptr)
-        return;
-    if (oldItem == nullptr)
-        return privateAppend(newItem);
-    const int position = positionOf(oldItem);
-    if (mImplementation != nullptr)
-        mImplementation->remove(oldItem->getPrivateImplemetation());
-    if (position < 0)
-        return privateAppend(newItem);
-    if (mImplementation != nullptr)
-        mImplementation->insertAt(newItem->getPrivateImplemetation(), position);
-    mItems.replace(newItem, position);
+    rows().replace(oldItem, newItem);
 }
 
 void List::privateClear()
 {
-    if (mImplementation != nullptr)
-        mImplementation->clear();
-    deleteItems();
-}
-
-void List::deleteItems()
-{
-    mItems.forEach([](ListItem* item) { delete item; });
-    mItems.clear();
+    rows().clear();
 }
 
 void List::privateSetTicker(Ticker* ticker)
@@ -480,14 +418,7 @@ void List::privateAddDialer(PopupDialer* dialer)
 
 ListItem* List::findSelectedItem()
 {
-    const int index = mImplementation != nullptr ? mImplementation->getSelectedIndex() : -1;
-    ListItem* const item = mItems.at(index);
-    if (item == nullptr)
-        gLog(TRACE, 640, "DAPI::List::findSelectedItem() this: %p returns NULL\n", static_cast<void*>(this));
-    else
-        gLog(TRACE, 648, "DAPI::List::findSelectedItem() this: %p returns %p\n", static_cast<void*>(this),
-             static_cast<void*>(item));
-    return item;
+    return rows().selected();
 }
 
 Command* List::SELECT_COMMAND()

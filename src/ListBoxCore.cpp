@@ -165,6 +165,12 @@ void ListBoxCore::setTitle(TranslatedText title)
     showTitle();
 }
 
+void ListBoxCore::localeChanged()
+{
+    if (!mChangesLanguage)
+        showTitle();
+}
+
 void ListBoxCore::showTitle()
 {
     change([this](KestrelListBox& list) { list.setTitle(mTitle.shown()); });

@@ -13,7 +13,8 @@ using DisplayAPIUtils::Rect;
 
 std::string captionOf(const KestrelListBox& list)
 {
-    return list.title().empty() ? std::string() : screen::caption(ICC::fromUNICODEtoUTF8(list.title()));
+    const bool isShown = !list.title().empty() && !list.isTitleCovered();
+    return !isShown ? std::string() : screen::caption(ICC::fromUNICODEtoUTF8(list.title()));
 }
 
 std::string subItem(const KestrelListBoxItem& item)

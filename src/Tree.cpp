@@ -4,6 +4,7 @@
 #include "DisplayAPI/TreePrivateIfc.h"
 #include "GuiThread.h"
 #include "Operations.h"
+#include "TellRowsChanged.h"
 #include "TreeNodes.h"
 #include "Variant.h"
 #include "variants/tree/TreePrivate.h"
@@ -226,6 +227,7 @@ void Tree::localeChanged(std::string locale)
             side->localeChanged(locale);
         return true;
     });
+    tellRowsChanged(mImplementation);
 }
 
 Command* Tree::HIGHLIGHT_CHANGED_COMMAND()

@@ -75,7 +75,7 @@ public:
     void addCommandListener(CommandListener* listener);
     void removeCommandListener(CommandListener* listener);
 
-    /// Hands the locale to every row. Call it on the GUI thread.
+    /// Hands the locale to every row, and tells the display then. Call it on the GUI thread.
     void localeChanged(std::string locale);
 
 private:

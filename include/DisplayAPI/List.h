@@ -18,6 +18,9 @@ class ListItem;
 class PopupDialer;
 class Ticker;
 
+template <typename Side>
+class ListRows;
+
 /// A screen of rows of which the user selects one.
 ///
 /// Threads: safe from any thread. Off the GUI thread size(), getSelected(), getSelectedIndex(), removeAt(), getItems(),
@@ -178,7 +181,7 @@ private:
     struct Ops;
     struct ClearOps;
 
-    int positionOf(ListItem* item) const;
+    ListRows<ListBoxPrivateIfc> rows();
     void createAndAppendItem(const std::string& text);
     void createAndAppendItem(TranslationInfo* text);
     void takeOver(ListItem* item);
@@ -193,7 +196,6 @@ private:
     void privateAddDialer(PopupDialer* dialer);
     void waitForEarlierRequests(int code) const;
     ListItem* findSelectedItem();
-    void deleteItems();
 
     ListBoxPrivateIfc* mImplementation = nullptr;
     Sequence<ListItem> mItems;

@@ -76,6 +76,10 @@ public:
     void clear();
 
     void setTitle(TranslatedText title);
+
+    /// Looks a translated title up anew, and tells the display; nothing while the core follows the language itself,
+    /// which does both afterwards.
+    void localeChanged();
     bool hasTitle() const;
 
     /// Applies a change to the box, where there is one, and tells the display.

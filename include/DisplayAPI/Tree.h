@@ -75,7 +75,7 @@ public:
     void addCommandListener(CommandListener* listener);
     void removeCommandListener(CommandListener* listener);
 
-    /// Hands the locale to every node. Call it on the GUI thread.
+    /// Hands the locale to every node, and tells the display then. Call it on the GUI thread.
     void localeChanged(std::string locale);
 
     /// One object per process, recognised by its address.

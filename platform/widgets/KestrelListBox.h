@@ -97,6 +97,16 @@ public:
     /// Stands before the title, or alone; null is none.
     void setTitlePicture(const Picture* picture);
 
+    /// Stands at the title's other end, before which a title that is too long is cut. Has the title's bar where
+    /// there is none; an empty one takes no room.
+    void setTitleEnd(PegString text);
+
+    /// The title's bar; empty where there is none, or a strip stands in its place.
+    PegRect titleArea() const;
+
+    /// Whether a strip stands in the title's place.
+    bool isTitleCovered() const;
+
     /// Whether the current row is shown inverted; it is at first.
     void setSelectionHighlight(bool on);
 
@@ -116,12 +126,23 @@ public:
     /// The strip that is kept free; empty where none is. It moves when the list is resized.
     PegRect tickerArea() const;
 
+    /// A child from now on, which the list places: below the rows, or in the title's place on the panel of two lines.
+    /// Whoever adds it elsewhere takes it back. There is one at a time.
+    void setStrip(PegThing* strip);
+
+    using KeyTaker = std::function<bool(const PegMessage& message)>;
+
+    /// Asked before the rows what it does with each key that goes down or up; false leaves it to them. Empty is
+    /// nobody. It may delete the list where it answers true.
+    void setKeyTaker(KeyTaker taker);
+
 protected:
     struct Impl;
 
     KestrelListBox(std::uint8_t type, const Layout& layout);
 
     void VisibilityChanged() override;
+    void ChildRemoved(PegThing* child) override;
 
     Impl& impl() { return *mImpl; }
 

@@ -56,6 +56,9 @@ public:
     /// Whether its text begins where those of all levels do.
     void setAligned(bool on);
 
+    /// Ends with the row: whoever does not own it looks whether it is there still.
+    std::weak_ptr<void> life();
+
     void Draw(PegPainter& painter, const Place& place) const override;
     Description describe() const override;
 
@@ -73,6 +76,7 @@ private:
     Peg_TreeListItem* mParent = nullptr;
     Children mChildren;
     std::unique_ptr<Peg_TreeListItem> mWayBack; ///< null while it is not shown
+    std::shared_ptr<void> mLife;                ///< null until somebody asks
     bool mOpen = false;
     bool mInactive = false;
     bool mProtected = false;

@@ -48,7 +48,7 @@ private:
 /// the answer; both without a private side; the facade's end while the request is queued. So are codes that nobody
 /// knows.
 ///
-///     const bool CHECKED = Contract<LampSubject>("LampContract")
+///     const bool LAMP_CHECKED = Contract<LampSubject>("LampContract")
 ///                              .posts("blink", 2, [](LampSubject& l) { l->blink(500); })
 ///                              .record({.int1 = 500})
 ///                              .arrives("blink(500)")

@@ -19,21 +19,38 @@ struct ExpandingTreeListSide::Impl {
     {
     }
 
-    Peg_TreeListItem* parentOf(int level);
-    void append(KestrelListBoxItem* row, int level);
-    void show(KestrelListBoxItem& row, int level);
-    void setReadonly(Peg_TreeListItem& item, bool on);
-    void setAligned(bool on);
+    /// A row of the facade's. Its side may be deleted without the list's hearing of it.
+    struct Row {
+        explicit Row(KestrelListBoxItem* shown) : row(shown), item(dynamic_cast<Peg_TreeListItem*>(shown))
+        {
+            if (item != nullptr)
+                life = item->life();
+        }
+
+        /// Null where it is not a tree's, or has gone.
+        Peg_TreeListItem* treeItem() const { return life.expired() ? nullptr : item; }
+        bool is(const KestrelListBoxItem* other) const { return row == other && treeItem() == item; }
+
+        const KestrelListBoxItem* row; ///< null for what is not shown
+        Peg_TreeListItem* item;
+        std::weak_ptr<void> life;
+    };
 
     /// The last row, and those above it: where the next one may belong.
     struct Above {
-        Peg_TreeListItem* item;
+        Row row;
         int level;
     };
 
+    Peg_TreeListItem* parentOf(int level);
+    void append(KestrelListBoxItem* row, int level);
+    void show(KestrelListBoxItem& shown, const Row& row, int level);
+    void setReadonly(Peg_TreeListItem& item, bool on);
+    void setAligned(bool on);
+
     TreeCore tree;
     Screen screen{tree};
-    std::vector<KestrelListBoxItem*> rows; ///< all, in the order of append(); null for what is not shown
+    std::vector<Row> rows; ///< all, in the order of append()
     std::vector<Above> path;
     bool aligned = false;
 };
@@ -41,40 +58,40 @@ struct ExpandingTreeListSide::Impl {
 /// The last row that stands less deep; null for those on top.
 Peg_TreeListItem* ExpandingTreeListSide::Impl::parentOf(int level)
 {
-    while (!path.empty() && path.back().level >= level)
+    while (!path.empty() && (path.back().level >= level || path.back().row.treeItem() == nullptr))
         path.pop_back();
-    return path.empty() ? nullptr : path.back().item;
+    return path.empty() ? nullptr : path.back().row.treeItem();
 }
 
 void ExpandingTreeListSide::Impl::append(KestrelListBoxItem* row, int level)
 {
-    rows.push_back(row);
+    const Row& added = rows.emplace_back(row);
     if (row != nullptr)
-        show(*row, level);
+        show(*row, added, level);
 }
 
 /// A row that is not a tree's stands on top, and nothing below it: what comes later stands behind it.
-void ExpandingTreeListSide::Impl::show(KestrelListBoxItem& row, int level)
+void ExpandingTreeListSide::Impl::show(KestrelListBoxItem& shown, const Row& row, int level)
 {
-    auto* const item = dynamic_cast<Peg_TreeListItem*>(&row);
+    Peg_TreeListItem* const item = row.item;
     if (item == nullptr)
         path.clear();
     Peg_TreeListItem* const parent = item != nullptr ? parentOf(std::max(level, 0)) : nullptr;
     if (item != nullptr) {
         item->setAligned(aligned);
-        path.push_back({item, std::max(level, 0)});
+        path.push_back({row, std::max(level, 0)});
     }
     if (parent != nullptr)
         tree.change([&](KestrelListBox&) { parent->append(*item); });
     else
-        tree.insert(&row, tree.size());
+        tree.insert(&shown, tree.size());
 }
 
 void ExpandingTreeListSide::Impl::setAligned(bool on)
 {
     aligned = on;
-    for (KestrelListBoxItem* row : rows)
-        if (auto* const item = dynamic_cast<Peg_TreeListItem*>(row))
+    for (const Row& row : rows)
+        if (Peg_TreeListItem* const item = row.treeItem())
             item->setAligned(on);
     tree.changed();
 }
@@ -139,7 +156,7 @@ int ExpandingTreeListSide::getSelectedIndex()
     const KestrelListBoxItem* const current = box != nullptr ? box->itemAt(box->currentRow()) : nullptr;
     if (current == nullptr)
         return -1;
-    const auto found = std::find(mImpl->rows.begin(), mImpl->rows.end(), current);
+    const auto found = std::ranges::find_if(mImpl->rows, [=](const Impl::Row& row) { return row.is(current); });
     return found != mImpl->rows.end() ? static_cast<int>(found - mImpl->rows.begin()) : -1;
 }
 
@@ -166,7 +183,7 @@ void ExpandingTreeListSide::unalign()
 void ExpandingTreeListSide::setReadonly(int index, bool on)
 {
     const auto place = static_cast<std::size_t>(index);
-    auto* const item = place < mImpl->rows.size() ? dynamic_cast<Peg_TreeListItem*>(mImpl->rows[place]) : nullptr;
+    Peg_TreeListItem* const item = place < mImpl->rows.size() ? mImpl->rows[place].treeItem() : nullptr;
     if (item != nullptr)
         mImpl->setReadonly(*item, on);
 }

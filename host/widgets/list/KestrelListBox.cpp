@@ -24,6 +24,9 @@ int KestrelListBox::Message(const PegMessage& message)
 {
     if (message.wType == PM_APPLICATION_CHANGED)
         mImpl->languageChanged();
+    const bool isKey = message.wType == PM_KEY || message.wType == PM_KEYRELEASE;
+    if (isKey && mImpl->keyTaker && mImpl->keyTaker(message))
+        return 0;
     if (message.wType == PM_KEY && mImpl->key(message.iData))
         return 0;
     return PegThing::Message(message);
@@ -33,7 +36,7 @@ void KestrelListBox::Resize(const PegRect& area)
 {
     PegThing::Resize(area);
     mImpl->update();
-    mImpl->placeTicker();
+    mImpl->placeChildren();
 }
 
 void KestrelListBox::setMessageTarget(PegThing* target)
@@ -161,6 +164,25 @@ void KestrelListBox::setTitle(PegString title)
     Invalidate();
 }
 
+void KestrelListBox::setTitleEnd(PegString text)
+{
+    if (mImpl->titleEnd == text)
+        return;
+    mImpl->titleEnd = std::move(text);
+    mImpl->update();
+    Invalidate(mImpl->view().parts.title);
+}
+
+PegRect KestrelListBox::titleArea() const
+{
+    return isTitleCovered() ? PegRect{0, 0, -1, -1} : mImpl->view().parts.title;
+}
+
+bool KestrelListBox::isTitleCovered() const
+{
+    return mImpl->inStrip != nullptr && mImpl->layout.tickerInTitle;
+}
+
 const PegString& KestrelListBox::title() const
 {
     return mImpl->title;
@@ -198,7 +220,24 @@ void KestrelListBox::setTickerShown(bool on)
         Invalidate();
     mImpl->ticker = on;
     mImpl->update();
-    mImpl->placeTicker();
+    mImpl->placeChildren();
+}
+
+void KestrelListBox::setStrip(PegThing* strip)
+{
+    Add(strip);
+    mImpl->setStrip(strip);
+}
+
+void KestrelListBox::ChildRemoved(PegThing* child)
+{
+    if (child == mImpl->inStrip)
+        mImpl->setStrip(nullptr);
+}
+
+void KestrelListBox::setKeyTaker(KeyTaker taker)
+{
+    mImpl->keyTaker = std::move(taker);
 }
 
 PegRect KestrelListBox::tickerArea() const

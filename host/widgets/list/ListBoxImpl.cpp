@@ -4,6 +4,8 @@
 
 void KestrelListBox::Impl::insert(KestrelListBoxItem* item, int row)
 {
+    if (current >= 0 && row > current)
+        return insertBelowCurrent(item, row);
     markCurrent(false);
     rows.insert(item, row);
     if (row < top)
@@ -66,12 +68,22 @@ void KestrelListBox::Impl::markCurrent(bool on)
 void KestrelListBox::Impl::languageChanged()
 {
     mIsLaidOut = false;
-    placeTicker();
+    placeChildren();
     box.Invalidate();
 }
 
-void KestrelListBox::Impl::placeTicker()
+void KestrelListBox::Impl::setStrip(PegThing* shown)
 {
+    inStrip = shown;
+    update();
+    placeChildren();
+    box.Invalidate();
+}
+
+void KestrelListBox::Impl::placeChildren()
+{
+    if (inStrip != nullptr)
+        inStrip->Resize(view().parts.strip);
     for (PegThing* child = box.First(); child != nullptr; child = child->NextSibling())
         if (child->Type() == TYPE_TICKER)
             child->Resize(view().parts.ticker);

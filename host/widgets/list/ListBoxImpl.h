@@ -25,7 +25,8 @@ struct KestrelListBox::Impl final : host::StatusTimeView {
     void clear();
     void makeCurrent(int row);
     void setExclusive(bool on);
-    void placeTicker();
+    void placeChildren();
+    void setStrip(PegThing* shown);
     void languageChanged();
 
     bool key(int key);
@@ -63,11 +64,14 @@ struct KestrelListBox::Impl final : host::StatusTimeView {
     int statusShown = 0; ///< status lines that take room where there is any
     DisplayAPI::Sequence<KestrelListBoxItem, RowPlace> rows;
     PegString title;
+    PegString titleEnd;
     const Picture* titlePicture = nullptr;
     PegThing* target = nullptr;
+    PegThing* inStrip = nullptr; ///< a child
+    KeyTaker keyTaker;
     int current = -1;
     int top = 0;
-    int lastTop = 0; ///< that of a view that ends with the last row
+    int lastTop = 0; ///< that of a view that ends with the last row; see mHasEndMoved
     bool highlight = true;
     bool tellsKeypad = false;
     bool tellsLeft = true;
@@ -80,11 +84,16 @@ private:
     host::ListState state() const;
     int heightIn(const KestrelListBoxItem& item) const;
     int firstRowBefore(int end, int height) const;
+    void insertBelowCurrent(KestrelListBoxItem* item, int row);
+    bool isBelowView(int row) const;
+    void findLastTop(int height);
     void scrollToCurrent();
     void layOut();
+    void layOutParts();
     void markCurrent(bool on);
 
     host::ListView mInView;
-    host::ListView mFormer;  ///< what was before the last change
-    bool mIsLaidOut = false; ///< whether `mInView` is what is on the screen
+    host::ListView mFormer;    ///< what was before the last change
+    bool mIsLaidOut = false;   ///< whether `mInView` is what is on the screen
+    bool mHasEndMoved = false; ///< but for the scroll bar: `lastTop` has to be found again
 };

@@ -13,8 +13,9 @@ ListState KestrelListBox::Impl::state() const
             .top = top,
             .lastTop = lastTop,
             .statusLines = statusShown,
-            .titled = !title.empty() || titlePicture != nullptr,
+            .titled = !title.empty() || titlePicture != nullptr || !titleEnd.empty(),
             .ticker = ticker,
+            .strip = inStrip != nullptr,
             .back = back,
             .mirrored = isReadFromTheRight()};
 }
@@ -23,12 +24,46 @@ const ListView& KestrelListBox::Impl::view()
 {
     if (!mIsLaidOut)
         layOut();
+    else if (mHasEndMoved)
+        layOutParts(); // the rows may have changes by now that nobody has compared yet
     return mInView;
+}
+
+/// Nothing scrolls. Where the scroll bar stands is worked out when somebody looks: thousands of rows may come before.
+void KestrelListBox::Impl::insertBelowCurrent(KestrelListBoxItem* item, int row)
+{
+    const bool isSeen = !isBelowView(row);
+    rows.insert(item, row);
+    const bool wasKnown = !mHasEndMoved;
+    mHasEndMoved = true;
+    if (isSeen)
+        refresh();
+    else if (wasKnown && !isEmpty(mInView.parts.scroll))
+        box.Invalidate(mInView.parts.scroll);
+}
+
+/// Whether a row that comes in there changes no row on the screen: the first that has no room stays where it is.
+bool KestrelListBox::Impl::isBelowView(int row) const
+{
+    return mIsLaidOut && box.StatusIs(PSF_VISIBLE) && row > top + static_cast<int>(mInView.rows.size());
+}
+
+void KestrelListBox::Impl::findLastTop(int height)
+{
+    lastTop = firstRowBefore(rows.size(), height);
+    mHasEndMoved = false;
+}
+
+void KestrelListBox::Impl::layOutParts()
+{
+    if (mHasEndMoved)
+        findLastTop(heightOfRows(layout, box.Area(), state()));
+    mInView.parts = geometryOf(layout, box.Area(), state());
 }
 
 void KestrelListBox::Impl::layOut()
 {
-    mInView.parts = geometryOf(layout, box.Area(), state());
+    layOutParts();
     mInView.rows.clear();
     const PegRect& body = mInView.parts.body;
     rows.walkFrom(top, [&, row = top, next = int{body.top}](const KestrelListBoxItem* item) mutable {
@@ -97,7 +132,7 @@ int KestrelListBox::Impl::firstRowBefore(int end, int height) const
 void KestrelListBox::Impl::scrollToCurrent()
 {
     const int height = heightOfRows(layout, box.Area(), state());
-    lastTop = firstRowBefore(rows.size(), height);
+    findLastTop(height);
     const int first = firstRowBefore(current + 1, height);
     top = std::min(std::clamp(top, first, std::max(first, current)), lastTop);
 }

@@ -1,4 +1,5 @@
 #include "host/lcd/Geometry.h"
+#include "host/lcd/Lcd.h"
 #include "host/lcd/Painter.h"
 #include "host/widgets/Reading.h"
 #include "host/widgets/Strip.h"
@@ -10,6 +11,7 @@ using namespace host;
 namespace {
 
 constexpr int PICTURE_GAP = 4;
+constexpr int TITLE_END_GAP = 6;
 
 /// The selection bar, its corners rounded by a pixel.
 void drawBar(PegPainter& painter, const PegRect& row)
@@ -56,7 +58,7 @@ void KestrelListBox::Impl::drawTitle(PegPainter& painter, const ListGeometry& pa
 {
     if (!isEmpty(parts.title) && !painter.isClippedOut(parts.title)) {
         const PegRect& bar = parts.title;
-        const bool hidden = overlap(parts.ticker, bar);
+        const bool hidden = overlap(parts.ticker, bar) || overlap(parts.strip, bar);
         const auto line = static_cast<std::int16_t>(bar.bottom - 1);
         painter.fill({bar.left, bar.top, bar.right, line}, hidden ? Level::BARE : Level::LIGHT);
         painter.fill({bar.left, line, bar.right, line}, Level::DARK);
@@ -74,6 +76,10 @@ void KestrelListBox::Impl::drawTitleText(PegPainter& painter, const PegRect& cel
         painter.icon(titlePicture->icon, strip.fromStart(titlePicture->icon.width()), Level::DARK);
         strip.fromStart(PICTURE_GAP);
     }
+    if (!titleEnd.empty())
+        painter.text(strip.fromEnd(Lcd::current()->textWidth(layout.font, titleEnd)), titleEnd,
+                     {layout.font, endAlign()});
+    strip.fromEnd(titleEnd.empty() ? 0 : TITLE_END_GAP);
     painter.text(strip.rest(), title, {layout.titleFont, startAlign()});
 }
 

@@ -35,16 +35,23 @@ PegRect beside(const PegRect& row, const PegRect& column)
     return {column.left, row.top, column.right, row.bottom};
 }
 
-/// The title bar comes for a way back or a ticker if need be.
+/// The title bar comes for a way back, a ticker or a strip if need be.
 bool hasBar(const Layout& layout, const ListState& state)
 {
-    return state.titled || (state.back && layout.gutter == 0) || (state.ticker && layout.tickerInTitle);
+    return state.titled || (state.back && layout.gutter == 0) ||
+           ((state.ticker || state.strip) && layout.tickerInTitle);
+}
+
+bool hasStripBelow(const Layout& layout, const ListState& state)
+{
+    return state.strip && !layout.tickerInTitle;
 }
 
 /// As many lines as leave room for a row.
 void placeStatus(ListGeometry& geometry, const Layout& layout, PegRect& rest, const ListState& state)
 {
-    const int others = (hasBar(layout, state) ? layout.titleHeight : 0) + RULE + layout.rowHeight;
+    const int others = (hasBar(layout, state) ? layout.titleHeight : 0) + RULE +
+                       (hasStripBelow(layout, state) ? 2 : 1) * layout.rowHeight;
     const int lines = std::clamp((heightOf(rest) - others) / layout.statusLineHeight, 0, state.statusLines);
     geometry.status = lines > 0 ? cutTop(rest, lines * layout.statusLineHeight + RULE) : NOWHERE;
     geometry.firstStatusLine =
@@ -74,12 +81,23 @@ void placeTicker(ListGeometry& geometry, const Layout& layout, PegRect& rest, co
         geometry.ticker.top = static_cast<std::int16_t>(geometry.ticker.top + RULE);
 }
 
+/// Below the rows, or in the title's place; where that has no room it takes the rows'.
+void placeStrip(ListGeometry& geometry, const Layout& layout, PegRect& rest, const ListState& state)
+{
+    geometry.strip = NOWHERE;
+    if (hasStripBelow(layout, state))
+        geometry.strip = cutBottom(rest, layout.rowHeight);
+    else if (state.strip)
+        geometry.strip = isEmpty(geometry.title) ? cutTop(rest, heightOf(rest)) : geometry.title;
+}
+
 /// Returns what is left for the rows.
 PegRect placeFrame(ListGeometry& geometry, const Layout& layout, const PegRect& area, const ListState& state)
 {
     PegRect rest = area;
     placeStatus(geometry, layout, rest, state);
     placeTitle(geometry, layout, rest, state);
+    placeStrip(geometry, layout, rest, state);
     placeTicker(geometry, layout, rest, state);
     return rest;
 }
@@ -149,7 +167,7 @@ void mirror(ListGeometry& geometry, const PegRect& area)
 void placeBack(ListGeometry& geometry, const Layout& layout, const PegRect& area, const ListState& state)
 {
     geometry.back = NOWHERE;
-    if (!state.back)
+    if (!state.back || (state.strip && layout.tickerInTitle))
         return;
     const PegRect beside = isEmpty(geometry.title) ? area : geometry.titleText;
     const int left = area.left + (layout.gutter > 0 ? 0 : layout.leftInset);

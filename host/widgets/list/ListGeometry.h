@@ -12,6 +12,7 @@ struct ListState {
     int statusLines = 0;
     bool titled = false;
     bool ticker = false;
+    bool strip = false;
     bool back = false;
     bool mirrored = false; ///< for a language that is read from right to left
 };
@@ -23,6 +24,7 @@ struct ListGeometry {
     PegRect title;
     PegRect titleText;
     PegRect ticker;
+    PegRect strip;
     PegRect back;   ///< the arrow's cell
     PegRect body;   ///< all rows
     PegRect scroll; ///< the place of the scroll bar or of the arrows

@@ -16,7 +16,7 @@ struct KestrelListBox::Layout {
     int leftInset; ///< from a row's left edge to its text
     int rightInset;
     int scrollWidth;
-    bool tickerInTitle; ///< a ticker takes the title's place, not a row's
+    bool tickerInTitle; ///< a ticker, or a strip, takes the title's place, not a row's
     bool scrollBar;     ///< a bar, there when it is needed; otherwise arrows, with a place that is always kept
 };
 

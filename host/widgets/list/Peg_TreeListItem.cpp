@@ -32,6 +32,13 @@ Peg_TreeListItem::~Peg_TreeListItem()
         mParent->remove(*this);
 }
 
+std::weak_ptr<void> Peg_TreeListItem::life()
+{
+    if (mLife == nullptr)
+        mLife = std::make_shared<char>();
+    return mLife;
+}
+
 void Peg_TreeListItem::append(Peg_TreeListItem& child)
 {
     KestrelListBoxItem* const before = mChildren.empty() ? this : mChildren.back()->lastShown();

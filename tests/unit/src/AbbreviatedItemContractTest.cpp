@@ -21,13 +21,13 @@ struct ShortDials : test::WidgetSubject<AbbreviatedItem> {
     TranslationInfo text{"key", nullptr};
 };
 
-const bool CHECKED = test::Contract<ShortDials>("AbbreviatedItemContractTest")
-                         .posts("setText", 3, [](ShortDials& r) { r->setText("Bert"); })
-                         .record({.text1 = "Bert"})
-                         .posts("setTranslation", 3, [](ShortDials& r) { r->setText(&r.text); })
-                         .record([](ShortDials& r) { return Filling{.ptr1 = &r.text}; })
-                         .waits("getText", 6, "Anna", "", [](ShortDials& r) { return r->getText(); })
-                         .completes({-1, 4, 5, 7, 12, 100})
-                         .check();
+const bool ABBREVIATED_ITEM_CHECKED = test::Contract<ShortDials>("AbbreviatedItemContractTest")
+                                          .posts("setText", 3, [](ShortDials& r) { r->setText("Bert"); })
+                                          .record({.text1 = "Bert"})
+                                          .posts("setTranslation", 3, [](ShortDials& r) { r->setText(&r.text); })
+                                          .record([](ShortDials& r) { return Filling{.ptr1 = &r.text}; })
+                                          .waits("getText", 6, "Anna", "", [](ShortDials& r) { return r->getText(); })
+                                          .completes({-1, 4, 5, 7, 12, 100})
+                                          .check();
 
 } // namespace

@@ -17,11 +17,11 @@ struct CallBacks : test::LogRowSubject<CallBackMainItem> {
     }
 };
 
-const bool CHECKED = test::Contract<CallBacks>("CallBackMainItemContractTest")
-                         .posts("setText", 3, [](CallBacks& r) { r->setText("Bert"); })
-                         .record({.text1 = "Bert"})
-                         .waits("getText", 6, "Ada", "", [](CallBacks& r) { return r->getText(); })
-                         .completes({-1, 4, 5, 7, 9, 11, 12, 99})
-                         .check();
+const bool CALL_BACK_MAIN_ITEM_CHECKED = test::Contract<CallBacks>("CallBackMainItemContractTest")
+                                             .posts("setText", 3, [](CallBacks& r) { r->setText("Bert"); })
+                                             .record({.text1 = "Bert"})
+                                             .waits("getText", 6, "Ada", "", [](CallBacks& r) { return r->getText(); })
+                                             .completes({-1, 4, 5, 7, 9, 11, 12, 99})
+                                             .check();
 
 } // namespace

@@ -51,7 +51,7 @@ Filling details(Calls& c)
             .ptr3 = &c.text};
 }
 
-const bool CHECKED =
+const bool CALL_CONNECTED_ITEM_CHECKED =
     test::Contract<Calls>("CallConnectedItemContractTest")
         .posts("setState", 14, [](Calls& c) { c->setState(static_cast<CallConnectedItem::CallStateIcon>(77)); })
         .record({.int1 = 77})

@@ -32,7 +32,7 @@ struct Forwardings : test::WidgetSubject<CallForwardItem> {
 
 constexpr auto LINE = static_cast<CallForwardItem::eCallForwardBranchLine>(-77);
 
-const bool CHECKED =
+const bool CALL_FORWARD_ITEM_CHECKED =
     test::Contract<Forwardings>("CallForwardItemContractTest")
         .posts("localeChanged", 3, [](Forwardings& f) { f->localeChanged("de"); })
         .record({.text1 = "de"})

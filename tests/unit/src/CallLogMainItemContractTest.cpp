@@ -21,16 +21,16 @@ struct LogEntries : test::LogRowSubject<CallLogMainItem> {
     TranslationInfo text{"key", nullptr};
 };
 
-const bool CHECKED = test::Contract<LogEntries>("CallLogMainItemContractTest")
-                         .posts("setbold", 12, [](LogEntries& r) { r->setbold(true); })
-                         .record({.bool1 = true})
-                         .arrives("setbold(true)")
-                         .posts("setText", 3, [](LogEntries& r) { r->setText("Bert"); })
-                         .record({.text1 = "Bert"})
-                         .posts("setTranslation", 3, [](LogEntries& r) { r->setText(&r.text); })
-                         .record([](LogEntries& r) { return Filling{.ptr1 = &r.text}; })
-                         .waits("getText", 6, "Ada", "", [](LogEntries& r) { return r->getText(); })
-                         .completes({-1, 4, 5, 7, 9, 11, 13, 99})
-                         .check();
+const bool CALL_LOG_MAIN_ITEM_CHECKED = test::Contract<LogEntries>("CallLogMainItemContractTest")
+                                            .posts("setbold", 12, [](LogEntries& r) { r->setbold(true); })
+                                            .record({.bool1 = true})
+                                            .arrives("setbold(true)")
+                                            .posts("setText", 3, [](LogEntries& r) { r->setText("Bert"); })
+                                            .record({.text1 = "Bert"})
+                                            .posts("setTranslation", 3, [](LogEntries& r) { r->setText(&r.text); })
+                                            .record([](LogEntries& r) { return Filling{.ptr1 = &r.text}; })
+                                            .waits("getText", 6, "Ada", "", [](LogEntries& r) { return r->getText(); })
+                                            .completes({-1, 4, 5, 7, 9, 11, 13, 99})
+                                            .check();
 
 } // namespace

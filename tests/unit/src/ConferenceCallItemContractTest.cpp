@@ -38,7 +38,7 @@ struct Conferences : test::WidgetSubject<ConferenceCallItem> {
     TranslationInfo text{"Key", nullptr};
 };
 
-const bool CHECKED =
+const bool CONFERENCE_CALL_ITEM_CHECKED =
     test::Contract<Conferences>("ConferenceCallItemContractTest")
         .waits("appendCall", 102, [](Conferences& c) { c->appendCall(&c.member, true); })
         .record([](Conferences& c) { return Filling{.bool1 = true, .ptr1 = &c.member}; })

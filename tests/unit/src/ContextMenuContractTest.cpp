@@ -49,7 +49,7 @@ const void* plain(const Command& command)
     return &command;
 }
 
-const bool CHECKED =
+const bool CONTEXT_MENU_CHECKED =
     test::Contract<Menus>("ContextMenuContractTest")
         .posts("show", 2, [](Menus& m) { m->show(); })
         .arrives("open()")

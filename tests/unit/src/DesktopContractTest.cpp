@@ -30,7 +30,7 @@ struct Desktops : test::WidgetSubject<Desktop> {
     TranslatorIfc* translator = &translatorMock;
 };
 
-const bool CHECKED =
+const bool DESKTOP_CHECKED =
     test::Contract<Desktops>("DesktopContractTest")
         .posts("setLogoText", 2, [](Desktops& d) { d->setLogoText("Nord"); })
         .record({.text1 = "Nord"})

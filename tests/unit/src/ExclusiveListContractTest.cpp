@@ -25,19 +25,20 @@ struct ExclusiveLists : test::WidgetSubject<ExclusiveList> {
     static std::string exclusive() { return isFullPanel() ? "ExclusiveListPrivate" : "ExclusiveListPrivateWP1"; }
 };
 
-const bool CHECKED = test::Contract<ExclusiveLists>("ExclusiveListContractTest")
-                         .waits("getSelectedIndex", 41, 2, -1, [](ExclusiveLists& l) { return l->getSelectedIndex(); })
-                         .arrives([](ExclusiveLists& l) { return l.box() + "::getSelectedIndex()"; })
-                         .posts("isSelected", 42, true, false, [](ExclusiveLists& l) { return l->isSelected(6); })
-                         .record({.int1 = 6})
-                         .arrives([](ExclusiveLists& l) { return l.exclusive() + "::isSelected(6)"; })
-                         .waits("setSelectedIndex", 45, [](ExclusiveLists& l) { l->setSelectedIndex(3); })
-                         .record({.int1 = 3})
-                         .arrives([](ExclusiveLists& l) { return l.box() + "::setSelectedIndex(3)"; })
-                         .posts("setTitle", 22, [](ExclusiveLists& l) { l->setTitle("Tones"); })
-                         .record({.text1 = "Tones"})
-                         .arrives([](ExclusiveLists& l) { return l.box() + "::setTitle(\"Tones\")"; })
-                         .completes({-1, 43, 44, 46, 99})
-                         .check();
+const bool EXCLUSIVE_LIST_CHECKED =
+    test::Contract<ExclusiveLists>("ExclusiveListContractTest")
+        .waits("getSelectedIndex", 41, 2, -1, [](ExclusiveLists& l) { return l->getSelectedIndex(); })
+        .arrives([](ExclusiveLists& l) { return l.box() + "::getSelectedIndex()"; })
+        .posts("isSelected", 42, true, false, [](ExclusiveLists& l) { return l->isSelected(6); })
+        .record({.int1 = 6})
+        .arrives([](ExclusiveLists& l) { return l.exclusive() + "::isSelected(6)"; })
+        .waits("setSelectedIndex", 45, [](ExclusiveLists& l) { l->setSelectedIndex(3); })
+        .record({.int1 = 3})
+        .arrives([](ExclusiveLists& l) { return l.box() + "::setSelectedIndex(3)"; })
+        .posts("setTitle", 22, [](ExclusiveLists& l) { l->setTitle("Tones"); })
+        .record({.text1 = "Tones"})
+        .arrives([](ExclusiveLists& l) { return l.box() + "::setTitle(\"Tones\")"; })
+        .completes({-1, 43, 44, 46, 99})
+        .check();
 
 } // namespace

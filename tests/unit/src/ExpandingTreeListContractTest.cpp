@@ -67,7 +67,7 @@ struct TreeLists : test::WidgetSubject<ExpandingTreeList> {
     TranslationInfo text{"Settings", nullptr};
 };
 
-const bool CHECKED =
+const bool EXPANDING_TREE_LIST_CHECKED =
     test::Contract<TreeLists>("ExpandingTreeListContractTest")
         .waits("cleanup", CLEANUP, [](TreeLists& t) { t->cleanup(); })
         .posts("append", 2, [](TreeLists& t) { t->append(t.other); })

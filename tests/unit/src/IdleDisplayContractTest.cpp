@@ -46,7 +46,7 @@ const void* plain(const void* object)
     return object;
 }
 
-const bool CHECKED =
+const bool IDLE_DISPLAY_CHECKED =
     test::Contract<Screens>("IdleDisplayContractTest")
         .posts("setMessages", 2, [](Screens& s) { s->setMessages(3); })
         .record({.int1 = 3})

@@ -28,7 +28,7 @@ struct KVXLists : test::WidgetSubject<KVXList> {
     static bool isArrival(const std::string&) { return false; }
 };
 
-const bool CHECKED =
+const bool KVX_LIST_CHECKED =
     test::Contract<KVXLists>("KVXListContractTest")
         .posts("setNumDisplayLines", 42, [](KVXLists& l) { l->setNumDisplayLines(3); })
         .record({.int1 = 3})

@@ -67,7 +67,7 @@ std::string appendsTheLast(Lists& l)
     return callText("append", side(l->getItems().back()));
 }
 
-const bool CHECKED =
+const bool LIST_CHECKED =
     test::Contract<Lists>("ListContractTest")
         .posts("appendText", 5, [](Lists& l) { l->append("new"); })
         .record({.text1 = "new"})

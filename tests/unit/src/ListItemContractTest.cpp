@@ -19,13 +19,13 @@ struct Rows : test::WidgetSubject<ListItem> {
     TranslationInfo text{"key", nullptr};
 };
 
-const bool CHECKED = test::Contract<Rows>("ListItemContractTest")
-                         .posts("setText", 3, [](Rows& r) { r->setText("Bert"); })
-                         .record({.text1 = "Bert"})
-                         .posts("setTranslation", 3, [](Rows& r) { r->setText(&r.text); })
-                         .record([](Rows& r) { return Filling{.ptr1 = &r.text}; })
-                         .waits("getText", 6, "Anna", "", [](Rows& r) { return r->getText(); })
-                         .completes({-1, 4, 5, 7, 10, 100})
-                         .check();
+const bool LIST_ITEM_CHECKED = test::Contract<Rows>("ListItemContractTest")
+                                   .posts("setText", 3, [](Rows& r) { r->setText("Bert"); })
+                                   .record({.text1 = "Bert"})
+                                   .posts("setTranslation", 3, [](Rows& r) { r->setText(&r.text); })
+                                   .record([](Rows& r) { return Filling{.ptr1 = &r.text}; })
+                                   .waits("getText", 6, "Anna", "", [](Rows& r) { return r->getText(); })
+                                   .completes({-1, 4, 5, 7, 10, 100})
+                                   .check();
 
 } // namespace

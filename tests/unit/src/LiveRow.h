@@ -1,7 +1,6 @@
 #pragma once
 
 #include "DisplayAPI/GuiRequestEvent.h"
-#include "DisplayAPI/List.h"
 #include "DisplayAPI/ListItem.h"
 
 #include <algorithm>
@@ -37,7 +36,8 @@ public:
     }
 
     /// Deletes the row if it lives and does not stand in the list.
-    static void deleteUnlessIn(DisplayAPI::List& list, const ListItem* row)
+    template <typename Screen>
+    static void deleteUnlessIn(Screen& list, const ListItem* row)
     {
         const auto rows = list.getItems();
         if (isAlive(row) && std::find(rows.begin(), rows.end(), row) == rows.end())

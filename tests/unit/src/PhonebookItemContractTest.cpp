@@ -21,13 +21,13 @@ struct Entries : test::WidgetSubject<PhonebookItem> {
     TranslationInfo text{"key", nullptr};
 };
 
-const bool CHECKED = test::Contract<Entries>("PhonebookItemContractTest")
-                         .posts("setText", 3, [](Entries& r) { r->setText("Bert"); })
-                         .record({.text1 = "Bert"})
-                         .posts("setTranslation", 3, [](Entries& r) { r->setText(&r.text); })
-                         .record([](Entries& r) { return Filling{.ptr1 = &r.text}; })
-                         .waits("getText", 6, "Anna", "", [](Entries& r) { return r->getText(); })
-                         .completes({-1, 4, 5, 7, 12, 100})
-                         .check();
+const bool PHONEBOOK_ITEM_CHECKED = test::Contract<Entries>("PhonebookItemContractTest")
+                                        .posts("setText", 3, [](Entries& r) { r->setText("Bert"); })
+                                        .record({.text1 = "Bert"})
+                                        .posts("setTranslation", 3, [](Entries& r) { r->setText(&r.text); })
+                                        .record([](Entries& r) { return Filling{.ptr1 = &r.text}; })
+                                        .waits("getText", 6, "Anna", "", [](Entries& r) { return r->getText(); })
+                                        .completes({-1, 4, 5, 7, 12, 100})
+                                        .check();
 
 } // namespace

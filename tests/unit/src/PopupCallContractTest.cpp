@@ -36,7 +36,7 @@ Filling details(Calls& p)
             .ptr3 = test::ownedText()};
 }
 
-const bool CHECKED =
+const bool POPUP_CALL_CHECKED =
     test::Contract<Calls>("PopupCallContractTest")
         .waits("setLine1PrefixText", 2, [](Calls& p) { p->setLine1PrefixText("Ada"); })
         .record({.text1 = "Ada"})

@@ -28,7 +28,7 @@ Filling listener(Questions& p)
     return {.ptr1 = p.listener};
 }
 
-const bool CHECKED =
+const bool POPUP_CONFIRM_CHECKED =
     test::Contract<Questions>("PopupConfirmContractTest")
         .waits("setLine1PrefixText", 2, [](Questions& p) { p->setLine1PrefixText("Ada"); })
         .record({.text1 = "Ada"})

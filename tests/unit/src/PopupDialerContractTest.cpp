@@ -59,7 +59,7 @@ Filling changes(Dialers& d)
     return {.ptr1 = d.changes};
 }
 
-const bool CHECKED =
+const bool POPUP_DIALER_CHECKED =
     test::Contract<Dialers>("PopupDialerContractTest")
         .posts("setLine1PrefixText", 2, [](Dialers& d) { d->setLine1PrefixText("To:"); })
         .record({.text1 = "To:"})

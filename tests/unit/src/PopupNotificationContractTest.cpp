@@ -23,7 +23,7 @@ Filling parties(Notices& p)
     return {.int1 = 77, .ptr1 = new CallPartyIdentifier(p.caller), .ptr2 = new CallPartyIdentifier(p.called)};
 }
 
-const bool CHECKED =
+const bool POPUP_NOTIFICATION_CHECKED =
     test::Contract<Notices>("PopupNotificationContractTest")
         .waits("setLine1PrefixText", 2, [](Notices& p) { p->setLine1PrefixText("Ada"); })
         .record({.text1 = "Ada"})

@@ -12,7 +12,7 @@ struct Progresses : test::PopupSubject<PopupProgress> {
     explicit Progresses(bool hasSide) : PopupSubject(hasSide, "PopupProgressPrivate") {}
 };
 
-const bool CHECKED =
+const bool POPUP_PROGRESS_CHECKED =
     test::Contract<Progresses>("PopupProgressContractTest")
         .waits("setText", 2, [](Progresses& p) { p->setText("Ada"); })
         .record({.text1 = "Ada"})

@@ -7,7 +7,9 @@
 #include "DisplayAPI/PopupDialer.h"
 #include "DisplayAPI/PopupNotification.h"
 #include "DisplayAPI/PopupPlayer.h"
+#include "DisplayAPI/PopupTextField.h"
 #include "DisplayAPI/TabScreen.h"
+#include "DisplayAPI/TextBox.h"
 
 #include <gtest/gtest.h>
 
@@ -40,8 +42,12 @@ std::set<Command*> commandsOfClasses()
             Form::SAVE_COMMAND(),
             Form::OK_COMMAND(),
             Form::BACK_COMMAND(),
+            TextBox::SELECT_COMMAND(),
+            TextBox::RIGHT_COMMAND(),
+            TextBox::BACK_COMMAND(),
             PopupConfirm::HIDDEN_COMMAND(),
             PopupNotification::HIDDEN_COMMAND(),
+            PopupTextField::HIDDEN_COMMAND(),
             PopupDialer::BackCommand(),
             PopupDialer::EditFieldShownCommand(),
             PopupPlayer::CALL(),
@@ -80,7 +86,7 @@ TEST(StaticCommandsDeathTest, CommandsOfAllClassesGoAtTheEndOfTheProcess)
 TEST(StaticCommandsTest, EachIsAnObjectOfItsOwnAndTheSameForTheWholeProcess)
 {
     const std::set<Command*> commands = commandsOfClasses();
-    EXPECT_EQ(commands.size(), 32U);
+    EXPECT_EQ(commands.size(), 36U);
     EXPECT_EQ(commandsOfClasses(), commands);
 }
 

@@ -15,11 +15,11 @@ struct Tickers : test::WidgetSubject<Ticker> {
     explicit Tickers(bool) { facade = std::make_unique<Ticker>("News"); }
 };
 
-const bool CHECKED = test::Contract<Tickers>("TickerContractTest")
-                         .waits("setText", 1, [](Tickers& t) { t->setText("other"); })
-                         .record({.text1 = "other"})
-                         .waits("getText", 2, "News", "", [](Tickers& t) { return t->getText(); })
-                         .completes({-1, 3, 100})
-                         .check();
+const bool TICKER_CHECKED = test::Contract<Tickers>("TickerContractTest")
+                                .waits("setText", 1, [](Tickers& t) { t->setText("other"); })
+                                .record({.text1 = "other"})
+                                .waits("getText", 2, "News", "", [](Tickers& t) { return t->getText(); })
+                                .completes({-1, 3, 100})
+                                .check();
 
 } // namespace

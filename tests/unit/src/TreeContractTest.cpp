@@ -49,7 +49,7 @@ std::string addsTheLast(Trees& t)
     return callText("addNode", sideOf(t->getTreeNodes().back()));
 }
 
-const bool CHECKED =
+const bool TREE_CHECKED =
     test::Contract<Trees>("TreeContractTest")
         .waits("cleanup", CLEANUP, [](Trees& t) { t->cleanup(); })
         .waits("addNode", 3, [](Trees& t) { t->addNode("Telephone", 7); })

@@ -2,11 +2,13 @@
 #include "DisplayAPI/ExpandingTreeList.h"
 #include "DisplayAPI/ExpandingTreeListItem.h"
 #include "DisplayAPI/ExpandingTreeListPrivateIfc.h"
+#include "DisplayAPI/GuiRequestEvent.h"
 #include "DisplayAPI/List.h"
 #include "doubles/Mocks.h"
 #include "support/RowsOwner.h"
 #include "unit/host/variants/OnPanel.h"
 #include "unit/host/variants/tree/Told.h"
+#include "utilities/TranslationInfo.h"
 #include "variants/list/ListItemPrivate.h"
 #include "widgets/Peg_TreeListItem.h"
 
@@ -63,6 +65,38 @@ TEST_P(ExpandingTreeListPrivateTest, IndexCountsAllRows)
     EXPECT_EQ(shown(), "ab[d]e" + back());
     EXPECT_EQ(list.getSelectedIndex(), 3);
     EXPECT_EQ(list.getSelected(), list.getExpandingItemsList()[3]);
+}
+
+TEST_P(ExpandingTreeListPrivateTest, ObserverIsToldOnceOfALocale)
+{
+    TranslationInfo text{"Row", nullptr};
+    list.append(new ExpandingTreeListItem(&text, 0));
+    list.append(new ExpandingTreeListItem(&text, 0));
+    test::Told told(display);
+    list.localeChanged("de_DE");
+    EXPECT_EQ(told.take(), 1) << "from the application";
+    display.localeChanged("de_DE");
+    EXPECT_EQ(told.take(), 1) << "from the display";
+    list.clear();
+}
+
+/// Nobody but a request of its own does so.
+TEST_P(ExpandingTreeListPrivateTest, RowWhoseSideHasGoneIsLeftAlone)
+{
+    press(PK_OK);
+    for (const int gone : {4, 1}) {
+        GuiRequestEvent destroy(list.getExpandingItemsList()[static_cast<std::size_t>(gone)], 2);
+        destroy.requesterWidget()->processGuiRequest(destroy);
+    }
+    EXPECT_EQ(shown(), "[a]d" + back());
+    append("f", 1);
+    EXPECT_EQ(shown(), "[a]df" + back());
+    list.align();
+    list.setReadonly(1, true);
+    list.setReadonly(4, true);
+    EXPECT_EQ(list.getSelectedIndex(), 0);
+    press(PK_DOWN);
+    EXPECT_EQ(list.getSelectedIndex(), 3);
 }
 
 TEST_P(ExpandingTreeListPrivateTest, RowBelongsToTheLastOneThatStandsLessDeep)

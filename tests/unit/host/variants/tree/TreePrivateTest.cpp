@@ -241,6 +241,25 @@ TEST_P(TreePrivateTest, LanguageReachesNameAndNodesShownOrNot)
     tree.cleanup();
 }
 
+TEST_P(TreePrivateTest, ObserverIsToldOnceOfALocale)
+{
+    Numbering translator;
+    TranslationInfo text{"Node", &translator};
+    tree.addNode(&text, 0);
+    tree.addNode(&text, 0);
+    test::Told told(display);
+    tree.localeChanged("de_DE");
+    EXPECT_EQ(told.take(), 1) << "from the application";
+    EXPECT_EQ(test::textOf(box().itemAt(2)), "Node3");
+    display.localeChanged("de_DE");
+    EXPECT_EQ(told.take(), 1) << "from the display";
+    display.setCurrent(nullptr);
+    told.take();
+    tree.localeChanged("en_GB");
+    EXPECT_EQ(told.take(), 0) << "while the tree is not shown";
+    tree.cleanup();
+}
+
 TEST_P(TreePrivateTest, DeletedNodesSideTakesItsRowsAlong)
 {
     tree.expandNode(a, true);

@@ -1,0 +1,35 @@
+#pragma once
+
+namespace DisplayAPI {
+
+/// Whether an object is there still after a call by which its application may have deleted it: whoever observes the
+/// screen may. The object tells its end. GUI thread only.
+class Survival {
+public:
+    explicit Survival(const void* object) : mObject(object), mOuter(top()) { top() = this; }
+    Survival(const Survival&) = delete;
+    Survival& operator=(const Survival&) = delete;
+    ~Survival() { top() = mOuter; }
+
+    explicit operator bool() const { return mObject != nullptr; }
+
+    static void end(const void* object)
+    {
+        for (Survival* each = top(); each != nullptr; each = each->mOuter)
+            if (each->mObject == object)
+                each->mObject = nullptr;
+    }
+
+private:
+    /// The innermost of the calls that are under way.
+    static Survival*& top()
+    {
+        static Survival* innermost = nullptr;
+        return innermost;
+    }
+
+    const void* mObject;
+    Survival* const mOuter;
+};
+
+} // namespace DisplayAPI
