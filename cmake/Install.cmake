@@ -11,9 +11,10 @@ foreach(part platform host languages variants phone kit)
     set_target_properties(displayapi_${part} PROPERTIES EXPORT_NAME ${part})
 endforeach()
 
-# Front ends are loaded from beside the host's shared object, and everything finds everything wherever it is moved to.
-set_target_properties(displayapi displayapi_host displayapi_languages displayapi_variants displayapi_web
-    displayapi_script PROPERTIES INSTALL_RPATH $ORIGIN)
+# What draws and front ends are loaded from beside the host's shared object, and everything finds everything wherever it
+# is moved to.
+set_target_properties(displayapi displayapi_host displayapi_drawing displayapi_languages displayapi_variants
+    displayapi_web displayapi_script PROPERTIES INSTALL_RPATH $ORIGIN)
 file(RELATIVE_PATH FROM_BIN_TO_LIB ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
 set_target_properties(phone PROPERTIES INSTALL_RPATH $ORIGIN/${FROM_BIN_TO_LIB})
 
@@ -21,7 +22,7 @@ install(TARGETS
     displayapi displayapi_platform displayapi_host displayapi_languages displayapi_variants displayapi_phone displayapi_kit
     EXPORT DisplayAPI
     INCLUDES DESTINATION ${HEADERS})
-install(TARGETS displayapi_web displayapi_script phone LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+install(TARGETS displayapi_drawing displayapi_web displayapi_script phone LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/ DESTINATION ${HEADERS} FILES_MATCHING PATTERN *.h)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/platform/ DESTINATION ${HEADERS} FILES_MATCHING PATTERN *.h)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/kit DESTINATION ${HEADERS} FILES_MATCHING PATTERN *.h)

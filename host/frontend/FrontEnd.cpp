@@ -5,7 +5,6 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
-#include <dlfcn.h>
 #include <string_view>
 #include <utility>
 
@@ -34,21 +33,17 @@ FrontEnd* gFrontEnd = nullptr;
     std::_Exit(EXIT_FAILURE);
 }
 
-/// The shared object stays loaded: its threads may still be on their way out.
-FrontEnd* load(const std::string& path)
+FrontEnd* load(const char* file)
 {
-    void* const object = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
-    if (object == nullptr)
-        giveUp(std::string("The front end cannot be loaded: ") + dlerror());
-    const auto create = reinterpret_cast<CreateFrontEnd>(dlsym(object, "displayapiCreateFrontEnd"));
-    if (create == nullptr)
-        giveUp(path + " is not a front end");
-    return create();
+    const LoadedFunction create = loadBesideTheHost(file, "displayapiCreateFrontEnd");
+    if (create.function == nullptr)
+        giveUp("The front end cannot be loaded: " + create.error);
+    return reinterpret_cast<CreateFrontEnd>(create.function)();
 }
 
 void start(const Kind& kind, const std::string& options)
 {
-    gFrontEnd = load(besideTheHost(kind.file));
+    gFrontEnd = load(kind.file);
     const std::string error = gFrontEnd->start(options);
     if (!error.empty())
         giveUp(error);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <mutex>
+#include <set>
 #include <utility>
 
 namespace host {
@@ -93,6 +94,15 @@ bool Wire::isThere(std::string_view name)
 {
     const std::lock_guard lock(allWires().mutex);
     return find(name) != nullptr;
+}
+
+std::vector<std::string> Wire::names()
+{
+    const std::lock_guard lock(allWires().mutex);
+    std::set<std::string> names;
+    for (const Wire* wire : allWires().wires)
+        names.insert(wire->mName);
+    return {names.begin(), names.end()};
 }
 
 std::vector<Wire::Offer> Wire::offers(std::string_view name)

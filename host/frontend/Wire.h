@@ -43,6 +43,9 @@ public:
     static std::string say(std::string_view name, std::string_view line);
 
     static bool isThere(std::string_view name);
+
+    /// Of all that are there, in the order of the alphabet.
+    static std::vector<std::string> names();
     static std::vector<Offer> offers(std::string_view name);
 
     /// Told each time that a wire has come or gone, or has other offers, one time after the other; may look at the

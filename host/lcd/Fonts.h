@@ -1,11 +1,9 @@
 #pragma once
 
 #include <array>
-#include <memory>
+#include <cstddef>
 #include <string>
 #include <vector>
-
-struct _PangoLayout;
 
 namespace host {
 
@@ -16,32 +14,37 @@ enum class Font : unsigned char { TEXT, TEXT_BOLD, FIXED, FIXED_BOLD };
 /// Stands for a character that no font has.
 constexpr char16_t REPLACEMENT = 0xFFFD;
 
-/// The fonts of the panel: only the project's own, whatever else the machine has, so that pictures are the same
-/// everywhere. Nothing is loaded before the first text; the large bitmap fonts not before a text needs one.
-///
-/// A missing font is reported once on stderr and replaced by what there is.
-class Fonts {
-public:
-    /// Where Debian's packages put them, and the build the one that it makes.
-    static const std::vector<std::string>& folders();
+/// Stands for what is cut off.
+constexpr char16_t ELLIPSIS = 0x2026;
 
-    explicit Fonts(std::vector<std::string> folders = Fonts::folders());
-    ~Fonts();
-
-    /// A layout set up for `text`, without antialiasing, on one line. The caller sets text and width and does not keep
-    /// it. Null where there is no font at all. Characters that no font has become U+FFFD.
-    _PangoLayout* layoutFor(Font font, std::u16string& text);
-
-private:
-    struct Set;
-
-    Set& load(std::unique_ptr<Set>& set, bool complete);
-    void reportMissing(std::size_t face);
-
-    std::vector<std::string> mFolders;
-    std::unique_ptr<Set> mLook;
-    std::unique_ptr<Set> mComplete;
-    std::array<bool, 6> mReported{};
+/// A font of the panel: only the project's own, whatever else the machine has, so that pictures are the same
+/// everywhere.
+struct FontFace {
+    const char* family;
+    const char* file;
+    const char* cure; ///< where it is missing
 };
+
+/// Up to BIWIDTH those that nearly every text needs; the large ones behind them have what is missing there.
+enum FaceIndex : std::size_t { DEJAVU, DEJAVU_BOLD, TERMINUS, TERMINUS_BOLD, BIWIDTH, UNIFONT, FACE_COUNT };
+
+extern const std::array<FontFace, FACE_COUNT> FACES;
+
+/// A look: its own face and the one that helps out before the large ones do.
+struct FontStyle {
+    const char* families;
+    bool bold;
+    int pixels;
+    FaceIndex face;
+    FaceIndex helper;
+};
+
+constexpr std::size_t STYLE_COUNT = 4;
+
+/// Of the font.
+const FontStyle& styleOf(Font font);
+
+/// Where Debian's packages put the fonts, and the build the one that it makes.
+const std::vector<std::string>& fontFolders();
 
 } // namespace host

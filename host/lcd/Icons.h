@@ -76,6 +76,7 @@ extern const Icon BOX;
 extern const Icon BOX_CHECKED;
 extern const Icon RECORDING;
 extern const Icon ON_HOOK;
+extern const Icon SEARCH;
 
 } // namespace icons
 

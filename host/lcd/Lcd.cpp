@@ -151,6 +151,11 @@ int Lcd::textWidth(Font font, const PegString& text)
     return mImpl->renderer.mask(font, text, TextMask::MAX_WIDTH).width;
 }
 
+const std::vector<TextEdges>& Lcd::textEdges(Font font, const PegString& text)
+{
+    return mImpl->renderer.edges(font, text);
+}
+
 Picture Lcd::picture() const
 {
     std::lock_guard lock(mImpl->mutex);

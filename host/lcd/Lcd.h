@@ -15,6 +15,8 @@ class PegPainter;
 
 namespace host {
 
+struct TextEdges;
+
 /// What stands where on the panel, as text. `text` is UTF-8 and whole, also where only a part of it fits (`cut`); of
 /// a text longer than MAX_LENGTH characters it is the beginning.
 struct TextRun {
@@ -73,6 +75,9 @@ public:
 
     /// How wide the text is when nothing of it is cut off; at most TextMask::MAX_WIDTH. GUI thread only.
     int textWidth(Font font, const PegString& text);
+
+    /// Where the characters of the text stand when nothing of it is cut off: TextRenderer::edges(). GUI thread only.
+    const std::vector<TextEdges>& textEdges(Font font, const PegString& text);
 
     Picture picture() const;
 

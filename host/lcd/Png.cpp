@@ -1,9 +1,12 @@
 #include "host/lcd/Png.h"
 
-#include "host/lcd/Surface.h"
+#include "host/lcd/Drawing.h"
 
 #include <algorithm>
 #include <array>
+#include <fstream>
+#include <iterator>
+#include <limits>
 
 namespace host {
 
@@ -17,45 +20,45 @@ std::uint8_t pixelOf(const Picture& picture, int x, int y)
     return picture.pixels[static_cast<std::size_t>(y * picture.width + x)];
 }
 
-Surface draw(const Picture& picture, int scale)
+ColourPicture coloured(const Picture& picture, int scale)
 {
-    Surface surface(cairo_image_surface_create(CAIRO_FORMAT_RGB24, picture.width * scale, picture.height * scale));
-    if (!isFine(surface))
-        return surface;
-    for (int y = 0; y < picture.height * scale; ++y) {
-        for (int x = 0; x < picture.width * scale; ++x)
-            rowOf(surface, y)[x] = COLOURS[pixelOf(picture, x / scale, y / scale) & 3];
-    }
-    cairo_surface_mark_dirty(surface.get());
-    return surface;
+    ColourPicture colours{.width = picture.width * scale, .height = picture.height * scale};
+    for (int y = 0; y < colours.height; ++y)
+        for (int x = 0; x < colours.width; ++x)
+            colours.pixels.push_back(COLOURS[pixelOf(picture, x / scale, y / scale) & 3]);
+    return colours;
+}
+
+std::string contentOf(const std::string& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
 }
 
 } // namespace
 
 std::string writePng(const Picture& picture, const std::string& path, int scale)
 {
-    const Surface surface = draw(picture, std::max(scale, 1));
-    const cairo_status_t status = cairo_surface_write_to_png(surface.get(), path.c_str());
-    if (status == CAIRO_STATUS_SUCCESS)
-        return {};
-    return "cannot write " + path + ": " + cairo_status_to_string(status);
+    return drawing().write(coloured(picture, std::max(scale, 1)), path);
+}
+
+std::string pngOf(const Picture& picture, int scale)
+{
+    return drawing().encode(coloured(picture, std::max(scale, 1)));
 }
 
 std::optional<Picture> readPng(const std::string& path)
 {
-    const Surface surface(cairo_image_surface_create_from_png(path.c_str()));
-    if (!isFine(surface))
+    constexpr int ANY = std::numeric_limits<int>::max();
+    const ColourPicture colours = drawing().decode(contentOf(path), ANY, ANY);
+    if (colours.pixels.empty())
         return {};
-    Picture picture;
-    picture.width = cairo_image_surface_get_width(surface.get());
-    picture.height = cairo_image_surface_get_height(surface.get());
-    for (int y = 0; y < picture.height; ++y) {
-        for (int x = 0; x < picture.width; ++x) {
-            const auto* colour = std::find(COLOURS.begin(), COLOURS.end(), rowOf(surface, y)[x] & 0xFFFFFF);
-            if (colour == COLOURS.end())
-                return {};
-            picture.pixels.push_back(static_cast<std::uint8_t>(colour - COLOURS.begin()));
-        }
+    Picture picture{.width = colours.width, .height = colours.height};
+    for (const std::uint32_t pixel : colours.pixels) {
+        const auto* colour = std::find(COLOURS.begin(), COLOURS.end(), pixel);
+        if (colour == COLOURS.end())
+            return {};
+        picture.pixels.push_back(static_cast<std::uint8_t>(colour - COLOURS.begin()));
     }
     return picture;
 }

@@ -1,34 +1,23 @@
 #pragma once
 
-#include "host/lcd/Fonts.h"
+#include "host/lcd/Drawing.h"
+#include "host/lcd/PlainText.h"
 #include "toolkit/PString.h"
 
-#include <cstdint>
 #include <list>
+#include <memory>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
 
 namespace host {
 
-/// A text as a stencil: one byte per pixel, 1 where there is ink. Its top row is ASCENT rows above the base line.
-struct TextMask {
-    static constexpr int ASCENT = 16;
-    static constexpr int HEIGHT = 22;
-    static constexpr int MAX_WIDTH = 8192; ///< for a text that is wanted whole
-
-    int width = 0;
-    bool cut = false;         ///< more text than fits: an ellipsis stands at its end
-    bool rightToLeft = false; ///< the text begins at the right
-    bool lacksGlyph = false;  ///< a character stands there as U+FFFD
-    std::vector<std::uint8_t> ink;
-};
-
-/// Turns texts into stencils and keeps those used last, so that painting a text again is a copy. GUI thread only.
+/// Turns texts into stencils and keeps those used last, so that painting a text again is a copy. A text of plain
+/// letters is put together from theirs; any other is what Pango is loaded for. GUI thread only.
 class TextRenderer {
 public:
-    explicit TextRenderer(std::vector<std::string> fontFolders = Fonts::folders());
-    ~TextRenderer();
+    explicit TextRenderer(std::vector<std::string> folders = fontFolders());
     TextRenderer(const TextRenderer&) = delete;
     TextRenderer& operator=(const TextRenderer&) = delete;
 
@@ -36,9 +25,14 @@ public:
     /// text that can never be visible.
     const TextMask& mask(Font font, const PegString& text, int width);
 
+    /// One for each unit of the text, as it stands in a stencil of MAX_WIDTH; fewer where it is longer than can be
+    /// visible. Valid until the next call.
+    const std::vector<TextEdges>& edges(Font font, const PegString& text);
+
     static constexpr std::size_t MAX_BYTES = 4 << 20;
 
-    /// What the stencils take that are kept: MAX_BYTES at most, but for a single one that is larger.
+    /// What the stencils and edges of texts take that are kept: MAX_BYTES at most, but for a single text that is
+    /// larger.
     std::size_t bytes() const { return mBytes; }
 
 private:
@@ -53,22 +47,28 @@ private:
         std::size_t operator()(const Key& key) const noexcept;
     };
     struct Entry {
-        TextMask mask;
+        std::optional<TextMask> mask; ///< none before it is asked for
+        std::optional<std::vector<TextEdges>> edges;
         std::list<const Key*>::iterator use;
+
+        std::size_t bytes() const;
     };
 
     static constexpr std::size_t MAX_ENTRIES = 256;
 
-    TextMask render(const Key& key);
+    Entry& entryFor(const Key& key);
+    TextMask draw(const Key& key);
+    std::vector<TextEdges> measure(const Key& key);
+    TextShaper* shaper();
     bool isFull() const;
-    void forgetOldest();
+    void makeRoom();
 
-    Fonts mFonts;
+    std::vector<std::string> mFolders;
+    PlainText mPlainText;
+    std::unique_ptr<TextShaper> mShaper; ///< made when a text needs it
     std::unordered_map<Key, Entry, KeyHash> mEntries;
     std::list<const Key*> mUses; ///< the last used first
     std::size_t mBytes = 0;
-    struct Canvas;
-    std::unique_ptr<Canvas> mCanvas;
 };
 
 } // namespace host

@@ -33,6 +33,13 @@ TEST(WireTest, WithoutAListenerThatIsSaid)
     EXPECT_TRUE(Wire::isThere("weather"));
 }
 
+TEST(WireTest, EachNameIsThereOnce)
+{
+    EXPECT_THAT(Wire::names(), IsEmpty());
+    const Wire wires[] = {{"weather", agree}, {"exchange", agree}, {"weather", agree}};
+    EXPECT_THAT(Wire::names(), ElementsAre("exchange", "weather"));
+}
+
 TEST(WireTest, WireMadeLastCounts)
 {
     const Wire first("exchange", agree, {{"one", "1"}});

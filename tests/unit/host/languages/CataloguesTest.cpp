@@ -147,9 +147,9 @@ TEST(CataloguesTest, RestrictedTablesArePlainLettersInEveryLanguage)
 TEST(CataloguesTest, GermanWritesItsUmlauts)
 {
     const host::Catalogue german = catalogueOf("de");
-    EXPECT_EQ(german.texts.at("Keypad.2.lower.case"), "abcä2");
-    EXPECT_EQ(german.texts.at("Keypad.6.upper.case"), "MNOÖ6");
-    EXPECT_EQ(german.texts.at("Keypad.7.lower.case"), "pqrsß7");
+    EXPECT_EQ(german.texts.at("Keypad.2.lower.case"), "abcäåáàâãæç2");
+    EXPECT_EQ(german.texts.at("Keypad.6.upper.case"), "MNOÖÓÒÔÕØŒÑ6");
+    EXPECT_EQ(german.texts.at("Keypad.7.lower.case"), "pqrsßšś7");
 }
 
 TEST(CataloguesTest, ArgumentsAreTheSameInEveryLanguage)

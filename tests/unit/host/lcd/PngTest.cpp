@@ -4,6 +4,7 @@
 
 #include <fstream>
 #include <gmock/gmock.h>
+#include <sstream>
 
 namespace host {
 
@@ -35,6 +36,14 @@ TEST_F(PngTest, Scales)
     EXPECT_EQ(read->height, 6);
     EXPECT_EQ(read->pixels[5 * 12 + 2], 3);
     EXPECT_EQ(read->pixels[5 * 12 + 3], 2);
+}
+
+TEST_F(PngTest, BytesAreThoseOfTheFile)
+{
+    ASSERT_EQ(writePng(mPicture, mPath, 2), "");
+    std::stringstream file;
+    file << std::ifstream(mPath).rdbuf();
+    EXPECT_EQ(pngOf(mPicture, 2), file.str());
 }
 
 TEST_F(PngTest, SaysWhereItCannotWrite)

@@ -126,7 +126,7 @@ TEST_F(PresentationManagerFocusTest, PushesNoMessage)
 {
     gpPresent->MoveFocusTree(row);
     gpPresent->MoveFocusTree(other);
-    EXPECT_EQ(gtPegMainQueue->count, 0);
+    EXPECT_EQ(gtPegMainQueue->count(), 0);
 }
 
 TEST_F(PresentationManagerFocusTest, IsLostWithTheBranchThatIsRemoved)
@@ -220,7 +220,7 @@ TEST_F(PresentationManagerLoopTest, KeyWithoutAFocusIsDropped)
 {
     PegMessageQueue().Push({PM_KEY, PK_OK});
     EXPECT_TRUE(toolkit.waitUntilIdle());
-    EXPECT_EQ(gtPegMainQueue->count, 0);
+    EXPECT_EQ(gtPegMainQueue->count(), 0);
 }
 
 TEST_F(PresentationManagerLoopTest, KeyThatNobodyWantsEndsAtTheRoot)
@@ -364,7 +364,7 @@ TEST(Execute, EndsOnExitThatWasPushedBefore)
     PegMessageQueue().Push({PM_CLICKED, 2});
     gpPresent->Execute(nullptr);
     EXPECT_FALSE(host::Loop::isRunning());
-    EXPECT_EQ(gtPegMainQueue->count, 1) << "what stands behind the exit is not taken";
+    EXPECT_EQ(gtPegMainQueue->count(), 1) << "what stands behind the exit is not taken";
 }
 
 TEST(Execute, ExitToAnybodyElseDoesNotEndIt)
@@ -385,7 +385,7 @@ TEST(Execute, MayRunAgain)
         PegMessageQueue().Push({PM_EXIT, 0, gpPresent});
         gpPresent->Execute(nullptr);
     }
-    EXPECT_EQ(gtPegMainQueue->count, 0);
+    EXPECT_EQ(gtPegMainQueue->count(), 0);
 }
 
 TEST(Execute, NamesItsCallerInTheTrace)

@@ -1,9 +1,10 @@
-#include "host/lcd/Fonts.h"
-
 #include "host/lcd/TextRenderer.h"
+
 #include "utilities/ICC.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <dlfcn.h>
 #include <gmock/gmock.h>
 
 using testing::HasSubstr;
@@ -25,7 +26,7 @@ int inkOf(const TextMask& mask)
     return static_cast<int>(std::count(mask.ink.begin(), mask.ink.end(), 1));
 }
 
-class FontsTest : public testing::Test {
+class TextRendererTest : public testing::Test {
 protected:
     const TextMask& mask(const std::string& utf8, Font font = Font::TEXT, int width = 230)
     {
@@ -35,7 +36,7 @@ protected:
     TextRenderer renderer;
 };
 
-TEST_F(FontsTest, NothingIsMissingHere)
+TEST_F(TextRendererTest, NothingIsMissingHere)
 {
     testing::internal::CaptureStderr();
     for (Font font : {Font::TEXT, Font::TEXT_BOLD, Font::FIXED, Font::FIXED_BOLD})
@@ -43,24 +44,7 @@ TEST_F(FontsTest, NothingIsMissingHere)
     EXPECT_THAT(testing::internal::GetCapturedStderr(), IsEmpty());
 }
 
-TEST_F(FontsTest, MissingFontIsReportedOnceWithItsPackage)
-{
-    Fonts fonts({"/usr/share/fonts/opentype/terminus"});
-    std::u16string abc = u"abc", def = u"def";
-    testing::internal::CaptureStderr();
-    EXPECT_NE(fonts.layoutFor(Font::FIXED, abc), nullptr);
-    EXPECT_THAT(testing::internal::GetCapturedStderr(), IsEmpty());
-
-    testing::internal::CaptureStderr();
-    EXPECT_NE(fonts.layoutFor(Font::TEXT, abc), nullptr);
-    EXPECT_NE(fonts.layoutFor(Font::TEXT, def), nullptr);
-    const std::string report = testing::internal::GetCapturedStderr();
-    EXPECT_THAT(report, HasSubstr("the font DejaVu Sans Condensed is missing; install the Debian package "
-                                  "fonts-dejavu-extra"));
-    EXPECT_EQ(report.find("DejaVu"), report.rfind("DejaVu"));
-}
-
-TEST_F(FontsTest, WithoutAnyFontTextsAreBoxes)
+TEST_F(TextRendererTest, WithoutAnyFontTextsAreBoxes)
 {
     TextRenderer bare(NOWHERE);
     testing::internal::CaptureStderr();
@@ -75,20 +59,20 @@ TEST_F(FontsTest, WithoutAnyFontTextsAreBoxes)
     EXPECT_TRUE(many.cut);
 }
 
-TEST_F(FontsTest, FixedFontHasEightPixelsACharacter)
+TEST_F(TextRendererTest, FixedFontHasEightPixelsACharacter)
 {
     EXPECT_EQ(mask("123456789012345678901234", Font::FIXED, 192).width, 192);
     EXPECT_FALSE(mask("123456789012345678901234", Font::FIXED, 192).cut);
     EXPECT_TRUE(mask("1234567890123456789012345", Font::FIXED, 192).cut);
 }
 
-TEST_F(FontsTest, IdeographsHaveFourteenPixelsInEveryFont)
+TEST_F(TextRendererTest, IdeographsHaveFourteenPixelsInEveryFont)
 {
     EXPECT_EQ(mask("你好世界").width, 56);
     EXPECT_EQ(mask("你好世界", Font::FIXED).width, 56);
 }
 
-TEST_F(FontsTest, EastAsianTextLeavesAirAboveAndBelowInALineOfSixteen)
+TEST_F(TextRendererTest, EastAsianTextLeavesAirAboveAndBelowInALineOfSixteen)
 {
     constexpr int TOP = TextMask::ASCENT - 12;
     constexpr int BOTTOM = TextMask::ASCENT + 2;
@@ -104,7 +88,7 @@ TEST_F(FontsTest, EastAsianTextLeavesAirAboveAndBelowInALineOfSixteen)
     }
 }
 
-TEST_F(FontsTest, DigitsBesideIdeographsStandOnTheBaseLine)
+TEST_F(TextRendererTest, DigitsBesideIdeographsStandOnTheBaseLine)
 {
     const TextMask both = mask("中4");
     const TextMask digit = mask("4");
@@ -116,14 +100,14 @@ TEST_F(FontsTest, DigitsBesideIdeographsStandOnTheBaseLine)
     }
 }
 
-TEST_F(FontsTest, ArabicLettersAreJoined)
+TEST_F(TextRendererTest, ArabicLettersAreJoined)
 {
     const int joined = mask("بيت").width;
     const int apart = mask("ب").width + mask("ي").width + mask("ت").width;
     EXPECT_LT(joined, apart);
 }
 
-TEST_F(FontsTest, HebrewRunsFromRightToLeft)
+TEST_F(TextRendererTest, HebrewRunsFromRightToLeft)
 {
     const TextMask word = mask("אבי");
     const TextMask last = mask("י");
@@ -134,25 +118,25 @@ TEST_F(FontsTest, HebrewRunsFromRightToLeft)
     }
 }
 
-TEST_F(FontsTest, AccentsStandOverTheirLetters)
+TEST_F(TextRendererTest, AccentsStandOverTheirLetters)
 {
     EXPECT_EQ(mask("e\u0301").width, mask("\u00E9").width);
     EXPECT_EQ(mask("e\u0301").ink, mask("\u00E9").ink);
 }
 
-TEST_F(FontsTest, LatinLettersStandApart)
+TEST_F(TextRendererTest, LatinLettersStandApart)
 {
     EXPECT_EQ(mask("fl").width, mask("f").width + mask("l").width);
 }
 
-TEST_F(FontsTest, LongTextKeepsItsWidth)
+TEST_F(TextRendererTest, LongTextKeepsItsWidth)
 {
     const TextMask cut = mask(std::string(100, 'm'), Font::TEXT, 50);
     EXPECT_TRUE(cut.cut);
     EXPECT_LE(cut.width, 50);
 }
 
-TEST_F(FontsTest, WhatIsNeverVisibleMakesNoDifference)
+TEST_F(TextRendererTest, WhatIsNeverVisibleMakesNoDifference)
 {
     const TextMask some = mask(std::string(1000, 'i'), Font::TEXT, 50);
     const TextMask huge = mask(std::string(1 << 20, 'i'), Font::TEXT, 50);
@@ -160,7 +144,7 @@ TEST_F(FontsTest, WhatIsNeverVisibleMakesNoDifference)
     EXPECT_TRUE(huge.cut);
 }
 
-TEST_F(FontsTest, CutInTheMiddleOfMarksStillEndsInAnEllipsis)
+TEST_F(TextRendererTest, CutInTheMiddleOfMarksStillEndsInAnEllipsis)
 {
     std::string marks = "a";
     for (int i = 0; i < 1000; ++i)
@@ -168,24 +152,24 @@ TEST_F(FontsTest, CutInTheMiddleOfMarksStillEndsInAnEllipsis)
     EXPECT_GT(mask(marks + "b").width, mask("a").width);
 }
 
-TEST_F(FontsTest, CharactersWithoutAPictureAreReplaced)
+TEST_F(TextRendererTest, CharactersWithoutAPictureAreReplaced)
 {
     EXPECT_EQ(mask("\uE123").ink, mask("\uFFFD").ink);
 }
 
-TEST_F(FontsTest, ControlCharactersAreBlanks)
+TEST_F(TextRendererTest, ControlCharactersAreBlanks)
 {
     EXPECT_EQ(mask("a\nb\tc").ink, mask("a b c").ink);
 }
 
-TEST_F(FontsTest, NoWidthNoInk)
+TEST_F(TextRendererTest, NoWidthNoInk)
 {
     EXPECT_EQ(mask("abc", Font::TEXT, 0).width, 0);
     EXPECT_EQ(mask("abc", Font::TEXT, -7).width, 0);
     EXPECT_EQ(mask("").width, 0);
 }
 
-TEST_F(FontsTest, ForgottenTextsComeBackTheSame)
+TEST_F(TextRendererTest, ForgottenTextsComeBackTheSame)
 {
     const TextMask first = mask("first");
     for (int i = 0; i < 1000; ++i)
@@ -193,7 +177,7 @@ TEST_F(FontsTest, ForgottenTextsComeBackTheSame)
     EXPECT_EQ(mask("first").ink, first.ink);
 }
 
-TEST_F(FontsTest, LongTextsAreKeptWithinBounds)
+TEST_F(TextRendererTest, LongTextsAreKeptWithinBounds)
 {
     const auto longText = [](int i) { return std::to_string(i) + std::string(2000, 'm'); };
     const TextMask first = mask(longText(0), Font::TEXT, TextMask::MAX_WIDTH);
@@ -207,7 +191,7 @@ TEST_F(FontsTest, LongTextsAreKeptWithinBounds)
     EXPECT_EQ(mask(longText(0), Font::TEXT, TextMask::MAX_WIDTH).ink, first.ink);
 }
 
-TEST_F(FontsTest, TextThatIsLargerThanTheBoundIsShown)
+TEST_F(TextRendererTest, TextThatIsLargerThanTheBoundIsShown)
 {
     TextRenderer bare(NOWHERE);
     testing::internal::CaptureStderr();
@@ -222,12 +206,53 @@ TEST_F(FontsTest, TextThatIsLargerThanTheBoundIsShown)
     testing::internal::GetCapturedStderr();
 }
 
-TEST_F(FontsTest, TextsUsedLastAreKept)
+TEST_F(TextRendererTest, TextsUsedLastAreKept)
 {
     const TextMask first = mask("first");
     const std::size_t others = renderer.bytes();
     mask("first");
     EXPECT_EQ(renderer.bytes(), others);
+}
+
+/// In a process of its own: no other test has loaded it.
+TEST(TextRendererDeathTest, PlainTextsDoWithoutPango)
+{
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    const auto hasPango = [] { return dlopen("libpango-1.0.so.0", RTLD_NOW | RTLD_NOLOAD) != nullptr; };
+    const auto look = [&] {
+        TextRenderer own;
+        own.mask(Font::TEXT, text("Zoë Ångström, Жук, Γειά"), 40);
+        own.edges(Font::FIXED, text("+49 30 123"));
+        const bool before = hasPango();
+        own.mask(Font::TEXT, text("א"), 40);
+        std::_Exit(before || !hasPango() ? 1 : 0);
+    };
+    EXPECT_EXIT(look(), testing::ExitedWithCode(0), "");
+}
+
+TEST_F(TextRendererTest, EdgesSayWhereCharactersStand)
+{
+    const auto edges = renderer.edges(Font::FIXED, text("ab c"));
+    ASSERT_EQ(edges.size(), 4u);
+    for (std::size_t at = 0; at < edges.size(); ++at) {
+        EXPECT_EQ(edges[at].begin, static_cast<int>(8 * at));
+        EXPECT_EQ(edges[at].end, static_cast<int>(8 * at + 8));
+    }
+    const auto arabic = renderer.edges(Font::TEXT, text("اب"));
+    EXPECT_EQ(arabic[0].begin, mask("اب").width);
+    EXPECT_EQ(arabic[0].end, arabic[1].begin);
+    EXPECT_EQ(arabic[1].end, 0);
+    EXPECT_TRUE(renderer.edges(Font::TEXT, PegString()).empty());
+}
+
+TEST_F(TextRendererTest, EdgesWithoutFontsAreThoseOfTheBoxes)
+{
+    testing::internal::CaptureStderr();
+    TextRenderer bare(NOWHERE);
+    const auto edges = bare.edges(Font::TEXT, text("a b"));
+    testing::internal::GetCapturedStderr();
+    ASSERT_EQ(edges.size(), 3u);
+    EXPECT_EQ(edges[2].end, bare.mask(Font::TEXT, text("a b"), TextMask::MAX_WIDTH).width);
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "host/lcd/PangoThreads.h"
+#include "host/drawing/PangoThreads.h"
 
 #include <atomic>
 #include <chrono>
