@@ -4,26 +4,20 @@
 
 #include <deque>
 #include <filesystem>
-#include <functional>
 #include <memory>
-#include <string>
-
-namespace SQLite {
-class Database;
-}
 
 namespace deskphone {
 
-/// Past calls in a file, for the next run: an SQLite database "calls.sqlite". On one thread at a time.
+class StateFile;
+
+/// Past calls in a file, for the next run. On one thread at a time.
 ///
-/// What goes wrong is said on stderr, and the telephone works on without the file: it never waits for it for long, and
-/// never writes over one that it cannot read. Of a file that cannot be written it has the calls, and keeps no others.
 /// Two telephones may have the same file: each has what was there at its begin, and adds its own.
 class CallStore {
 public:
-    /// Opens the file in `folder`, and makes both where they are not there. A file that is broken, of another program
-    /// or of a later version is set aside as "calls.sqlite.broken", or with a number behind it.
+    /// In the file of that folder.
     explicit CallStore(const std::filesystem::path& folder);
+    explicit CallStore(std::shared_ptr<StateFile> file);
     CallStore(const CallStore&) = delete;
     CallStore& operator=(const CallStore&) = delete;
     ~CallStore();
@@ -37,13 +31,7 @@ public:
     void seeAll();
 
 private:
-    void open(const std::filesystem::path& folder);
-    void change(const std::function<void(SQLite::Database&)>& work);
-    void attempt(const std::function<void(SQLite::Database&)>& work);
-
-    std::filesystem::path mFile;
-    std::unique_ptr<SQLite::Database> mDatabase; ///< null where there is no file to work with
-    bool mIsReadOnly = false;
+    std::shared_ptr<StateFile> mFile; ///< never null
 };
 
 } // namespace deskphone

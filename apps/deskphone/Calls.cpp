@@ -165,8 +165,20 @@ void Calls::catchUp()
         listener();
 }
 
-void Calls::accept(const CallEvent& event)
+/// Where the user knows the number.
+void Calls::giveName(exchange::Party& party) const
 {
+    if (mNames == nullptr || party.number.empty())
+        return;
+    if (std::string name = mNames(party.number); !name.empty())
+        party.name = std::move(name);
+}
+
+void Calls::accept(CallEvent event)
+{
+    giveName(event.other);
+    giveName(event.forwardedBy);
+    giveName(event.to);
     PhoneCall& call = mCalls[event.call];
     if (call.last.call == exchange::NO_CALL) {
         call.moment = host::WallClock::now();

@@ -48,6 +48,10 @@ public:
     explicit Calls(exchange::Telephony& telephony);
     ~Calls() override;
 
+    /// The user's own name for a number, or nothing: it stands before what the network says. From any thread. Before
+    /// startListening().
+    void setNames(std::function<std::string(const std::string& number)> names) { mNames = std::move(names); }
+
     /// Hears what happens from now on, and of each call that lives already. REQUIRES: all listeners have been added,
     /// which are called on other threads from now on.
     void startListening();
@@ -112,13 +116,15 @@ private:
     void lineChanged(const exchange::Line& line) override;
 
     void catchUp();
-    void accept(const exchange::CallEvent& event);
+    void accept(exchange::CallEvent event);
+    void giveName(exchange::Party& party) const;
     void acceptEnds(std::int64_t now);
     void tellOf(const exchange::Line& line);
 
     exchange::Telephony& mTelephony;
     OwnLines mLines;
     exchange::SignedCalls mSigns;
+    std::function<std::string(const std::string&)> mNames;
     std::map<exchange::CallId, PhoneCall> mCalls;
     std::map<exchange::CallId, exchange::Party> mDialled; ///< calls of which nothing has been told yet
     std::vector<CallListener> mCallListeners;

@@ -2,28 +2,35 @@
 
 #include "DisplayAPI/List.h"
 #include "apps/deskphone/CallScreen.h"
-#include "apps/deskphone/PhoneBook.h"
 
 namespace deskphone {
+
+namespace {
+
+constexpr std::size_t ROWS_OF_A_NUMBER = 2;
+
+} // namespace
 
 ContactCard::ContactCard(Telephone& telephone, Place* parent, CallScreen& call)
     : Screen(telephone, parent, "Contacts.title"), mCall(call)
 {
 }
 
-void ContactCard::show(int entry)
+void ContactCard::show(const Contact& contact)
 {
-    mEntry = entry;
+    mContact = contact;
     list().clear();
-    list().setTitle(PhoneBook::name(entry));
-    list().append(PhoneBook::number(entry));
-    list().append(PhoneBook::kind(entry));
+    list().setTitle(contact.name);
+    for (const ContactNumber& number : contact.numbers) {
+        list().append(number.number);
+        list().append(number.kind);
+    }
     open();
 }
 
-void ContactCard::chosen(int)
+void ContactCard::chosen(int row)
 {
-    mCall.begin(*this, PhoneBook::name(mEntry), PhoneBook::number(mEntry));
+    mCall.begin(*this, mContact.name, mContact.numbers.at(static_cast<std::size_t>(row) / ROWS_OF_A_NUMBER).number);
 }
 
 } // namespace deskphone

@@ -1,24 +1,25 @@
 #pragma once
 
+#include "apps/deskphone/Contact.h"
 #include "apps/deskphone/Screen.h"
 
 namespace deskphone {
 
 class CallScreen;
 
-/// One entry of the phone book, filled anew for each. Choosing a row calls it.
+/// One contact, filled anew for each: two rows for each number. Choosing one calls it.
 class ContactCard : public Screen {
 public:
     ContactCard(Telephone& telephone, Place* parent, CallScreen& call);
 
-    void show(int entry);
+    void show(const Contact& contact);
 
 private:
     void build() override {}
     void chosen(int row) override;
 
     CallScreen& mCall;
-    int mEntry = 0;
+    Contact mContact;
 };
 
 } // namespace deskphone

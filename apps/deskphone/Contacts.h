@@ -1,33 +1,47 @@
 #pragma once
 
+#include "apps/deskphone/Contact.h"
 #include "apps/deskphone/ContactCard.h"
+#include "apps/deskphone/ContactDeeds.h"
 #include "apps/deskphone/Screen.h"
 
+#include <atomic>
+#include <mutex>
 #include <vector>
 
 namespace deskphone {
 
-class CallScreen;
+class ContactBook;
 
-/// Everybody in the phone book. Choosing one shows the card.
+/// Everybody whom the user knows, the latest first. Choosing one shows the card.
 class Contacts : public Screen {
 public:
-    Contacts(Telephone& telephone, Place* parent, CallScreen& call);
+    Contacts(const ContactDeeds& deeds, Place* parent);
 
     ContactCard& card() { return mCard; }
 
 private:
     void build() override;
     void chosen(int row) override;
-    void menuOpens(int row) override { mMenuRow = row; }
+    void menuOpens(int row) override;
 
-    int entryAt(int row) const { return mEntries.at(static_cast<std::size_t>(row)); }
-    void forget(int row);
+    std::vector<Contact> begin();
+    ContactId contactAt(int row) const;
+    int rowOf(ContactId id) const;
 
+    /// Somebody has come, changed or gone.
+    void note(ContactId id);
+    void insert(const Contact& contact);
+    void renew(int row, const Contact& contact);
+    void remove(int row);
+
+    ContactBook& mBook;
     ContactCard mCard;
-    CallScreen& mCall;
-    std::vector<int> mEntries; ///< of the phone book, in the order of the rows
-    int mMenuRow = 0;          ///< rows come behind it alone
+    std::atomic<bool> mIsComplete{false};
+    Contact mMenuContact;
+    mutable std::mutex mMutex;    ///< guards what follows; a leaf but for the book's
+    std::vector<ContactId> mRows; ///< of those to come, too
+    bool mHasBegun = false;
 };
 
 } // namespace deskphone

@@ -11,30 +11,37 @@
 #include "apps/deskphone/CallScreen.h"
 #include "apps/deskphone/CallStatus.h"
 #include "apps/deskphone/Calls.h"
+#include "apps/deskphone/ContactDeeds.h"
+#include "apps/deskphone/ContactForm.h"
+#include "apps/deskphone/ContactSearch.h"
 #include "apps/deskphone/Contacts.h"
+#include "apps/deskphone/DisturbScreen.h"
+#include "apps/deskphone/ForwardingScreen.h"
 #include "apps/deskphone/Handset.h"
 #include "apps/deskphone/Home.h"
 #include "apps/deskphone/LineOverview.h"
 #include "apps/deskphone/LineStatus.h"
+#include "apps/deskphone/NetworkSettings.h"
+#include "apps/deskphone/Notes.h"
 #include "apps/deskphone/Services.h"
 #include "apps/deskphone/Settings.h"
 #include "apps/deskphone/ShortDials.h"
 #include "apps/deskphone/Telephone.h"
 #include "apps/deskphone/TransferQuestions.h"
 
-#include <filesystem>
 #include <string>
 #include <vector>
 
 namespace deskphone {
 
+class Memory;
+
 /// All screens of the telephone and how they hang together. Make and delete it on the GUI thread.
 class Desk {
 public:
-    /// Begins in the language with this code. The calls are `telephony`'s, which outlives it. Keeps past ones in the
-    /// folder `state`; without one it begins with some, and keeps none.
-    Desk(DisplayAPI::Display& display, exchange::Telephony& telephony, const std::string& language,
-         const std::filesystem::path& state);
+    /// Begins in the language with this code. The calls are `telephony`'s, past ones and contacts the memory's; both
+    /// outlive it.
+    Desk(DisplayAPI::Display& display, exchange::Telephony& telephony, const std::string& language, Memory& memory);
 
     /// First ends all that the screens do on other threads. REQUIRES: the display's loop does not run.
     ~Desk();
@@ -50,7 +57,7 @@ private:
     std::string mComplaint; ///< about the first language
     Text mNewsText;
     DisplayAPI::Ticker mNews;
-    CallHistory mHistory;
+    CallHistory& mHistory;
     Calls mCalls;
     CallRecorder mRecorder;
     CallBacks mCallBacks;
@@ -63,10 +70,18 @@ private:
     Home mHome;
     LineStatus mLineStatus;
     CallLogs mCallLogs;
+    ContactForm mContactForm;
+    NewContact mNewContact;
+    ContactDeeds mContactDeeds;
     Contacts mContacts;
+    ContactSearch mContactSearch;
     LineOverview mLines;
     ShortDials mShortDials;
     Settings mSettings;
+    DisturbScreen mDisturb;
+    ForwardingScreen mForwarding;
+    NetworkSettings mNetwork;
+    Notes mNotes;
     Services mServices;
     About mAbout;
 };

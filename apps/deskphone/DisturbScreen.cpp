@@ -12,7 +12,7 @@ using DisplayAPI::CallLogMainItem;
 using exchange::Line;
 
 DisturbScreen::DisturbScreen(Telephone& telephone, Place* parent, Calls& calls)
-    : Screen(telephone, parent, "Settings.disturb"), mCalls(calls)
+    : Screen(telephone, parent, "Menu.disturb"), mCalls(calls)
 {
     for (const Line& line : calls.lines().all()) {
         Text& words = text("Line.number", {[number = line.number] { return std::to_string(number); }});

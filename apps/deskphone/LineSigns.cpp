@@ -53,7 +53,7 @@ std::string keyOf(LineState state)
     case LineOverviewItem::CONFERENCE: return "Call.conference";
     case LineOverviewItem::FORWARDED: return "Line.forwarded";
     case LineOverviewItem::MESSAGE_WAITING: return "Line.messages";
-    case LineOverviewItem::DO_NOT_DISTURB: return "Settings.disturb";
+    case LineOverviewItem::DO_NOT_DISTURB: return "Menu.disturb";
     case LineOverviewItem::NOT_REGISTERED: return "Line.not.registered";
     default: return {};
     }

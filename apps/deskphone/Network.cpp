@@ -1,9 +1,10 @@
 #include "apps/deskphone/Network.h"
 
-#include "apps/deskphone/PhoneBook.h"
+#include "apps/deskphone/ContactBook.h"
 
 #include <cstdio>
 #include <memory>
+#include <optional>
 
 namespace deskphone {
 
@@ -14,35 +15,31 @@ const std::string USUAL_NUMBERS = APP_NUMBERS;
 
 namespace {
 
-Numbers numbersIn(const std::string& file)
+/// Everybody answers after a while.
+Numbers::Others othersIn(const ContactBook& contacts)
+{
+    const auto answers =
+        std::make_shared<const Behaviour>(Behaviour{.arrival = Behaviour::Arrival::ANSWERS, .after = 3000});
+    return [&contacts, answers](const std::string& number) -> std::optional<exchange::Number> {
+        const std::optional<Contact> known = contacts.withNumber(number);
+        return known ? std::optional(exchange::Number{{number, known->name}, answers}) : std::nullopt;
+    };
+}
+
+Numbers numbersIn(const std::string& file, const ContactBook& contacts)
 {
     Numbers numbers = Numbers::read(file);
     for (const std::string& error : numbers.errors)
         std::fprintf(stderr, "deskphone: %s\n", error.c_str());
+    numbers.everybodyElse = othersIn(contacts);
     return numbers;
-}
-
-Numbers withPhoneBook(Numbers numbers)
-{
-    const auto answers =
-        std::make_shared<const Behaviour>(Behaviour{.arrival = Behaviour::Arrival::ANSWERS, .after = 3000});
-    for (int entry = 0; entry < PhoneBook::size(); ++entry)
-        numbers.others.push_back({{digitsOf(PhoneBook::number(entry)), PhoneBook::name(entry)}, answers});
-    return numbers;
-}
-
-std::vector<exchange::Party> partiesOf(const Numbers& numbers)
-{
-    std::vector<exchange::Party> parties;
-    for (const exchange::Number& number : numbers.others)
-        parties.push_back(number.party);
-    return parties;
 }
 
 } // namespace
 
-Network::Network(const std::string& numbers) : Network(numbersIn(numbers)) {}
-
-Network::Network(Numbers numbers) : mExchange(withPhoneBook(numbers), mClock), mWire(mExchange, partiesOf(numbers)) {}
+Network::Network(const std::string& numbers, const ContactBook& contacts)
+    : mExchange(numbersIn(numbers, contacts), mClock), mWire(mExchange)
+{
+}
 
 } // namespace deskphone

@@ -8,22 +8,22 @@
 
 namespace deskphone {
 
+class ContactBook;
+
 /// The exchange that the desk phone begins with.
 extern const std::string USUAL_NUMBERS;
 
 /// What the desk phone is connected to: an exchange in this process, on the host's clock, with the numbers of a file
-/// and everybody of the phone book, who answers after a while; within reach of scripts, and the file's
-/// numbers of the page. What is wrong
-/// in the file is told on stderr.
+/// and everybody else whom the user knows, who answers after a while; within reach of scripts, and the file's numbers
+/// of the page. What is wrong in the file is told on stderr.
 class Network {
 public:
-    explicit Network(const std::string& numbers);
+    /// `contacts` outlive it.
+    Network(const std::string& numbers, const ContactBook& contacts);
 
     exchange::Exchange& telephony() { return mExchange; }
 
 private:
-    explicit Network(exchange::Numbers numbers);
-
     exchange::HostClock mClock;
     exchange::Exchange mExchange;
     exchange::ExchangeWire mWire;

@@ -58,7 +58,8 @@ std::string PhoneBook::number(int index)
 
 std::string digitsOf(std::string number)
 {
-    std::erase(number, ' ');
+    std::erase_if(number,
+                  [](char letter) { return std::string_view(" -/().").find(letter) != std::string_view::npos; });
     return number;
 }
 

@@ -15,7 +15,7 @@ public:
     static std::string number(int index);
 };
 
-/// A number as it is dialled: people write it with spaces.
+/// A number as it is dialled: people write it with spaces and the like.
 std::string digitsOf(std::string number);
 
 } // namespace deskphone

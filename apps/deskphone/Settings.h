@@ -1,54 +1,67 @@
 #pragma once
 
-#include "apps/deskphone/Choice.h"
-#include "apps/deskphone/DisturbScreen.h"
-#include "apps/deskphone/ForwardingScreen.h"
-#include "apps/deskphone/Screen.h"
-#include "host/languages/Languages.h"
+#include "apps/deskphone/FormScreen.h"
 
-#include <array>
+#include <cstddef>
+#include <deque>
+#include <functional>
+#include <string>
 #include <vector>
 
 namespace deskphone {
 
-class Calls;
 class Home;
+class Preferences;
 
-/// The settings with their values. Choosing one leads to its possible values.
-class Settings : public Screen {
+/// How the telephone looks and sounds, as a form. What the user saves takes effect, and is there in the next run.
+class Settings : public FormScreen {
 public:
-    Settings(Telephone& telephone, Home& home, Calls& calls);
-
-    std::array<Choice*, 7> choices()
-    {
-        return {&mLanguage, &mRingTone, &mBrightness, &mDateFormat, &mTimeFormat, &mHomeScreen, &mScreensaver};
-    }
-    std::array<Place*, 2> places() { return {&mDisturb, &mForwarding}; }
+    /// `preferences` outlive it. What they have takes effect, but for the language.
+    Settings(Telephone& telephone, Home& home, Preferences& preferences);
 
 private:
-    void build() override;
-    void chosen(int row) override;
+    /// What a value brings about; returns the sentence that says why it cannot be chosen, or nothing.
+    using Effect = std::function<std::string(const std::string&)>;
 
-    std::string useLanguage(std::size_t value);
-    std::string useDateFormat(std::size_t value);
-    std::string useTimeFormat(std::size_t value);
-    std::string useHomeScreen(std::size_t value);
-    std::string useScreensaver(std::size_t value);
+    /// One of several values.
+    struct Choice {
+        std::string name; ///< in the preferences
+        std::vector<std::string> values;
+        Effect effect;
+        DisplayAPI::SelectionField& field;
+        std::size_t chosen; ///< which of the values is saved
+    };
 
-    Home& mHome;
-    std::vector<host::Language> mLanguages;
-    Choice mLanguage;
-    Choice mRingTone;
-    Choice mBrightness;
-    Choice mDateFormat;
-    Choice mTimeFormat;
-    Choice mHomeScreen;
-    Choice mScreensaver;
-    DisturbScreen mDisturb;
-    ForwardingScreen mForwarding;
-    Text& mDisturbText;
-    Text& mForwardingText;
-    std::array<DisplayAPI::ListItem*, 7> mRows{};
+    /// A number.
+    struct Level {
+        std::string name; ///< in the preferences
+        DisplayAPI::SliderItem& field;
+        std::string value; ///< as it is saved
+    };
+
+    void confirmed() override { save(); }
+    void left() override;
+
+    void addLanguages();
+    void addSounds();
+    void addFormats();
+    void addScreens(Home& home);
+
+    void add(DisplayAPI::SelectionField& field, const std::string& name, const std::vector<std::string>& values,
+             const Effect& effect);
+    void addLevel(const std::string& name, const std::string& label, const std::string& usual);
+    void save();
+    std::string save(Choice& choice);
+    void showSaved();
+
+    Preferences& mPreferences;
+    Text& mSavedText;
+    std::deque<Choice> mSettings;
+    std::deque<Level> mLevels;
 };
+
+/// Begins in the language that the user has chosen, or where there is none in that with the code. Returns the sentence
+/// that says why it is another one than he has chosen, or nothing.
+std::string beginInLanguage(Telephone& telephone, const Preferences& preferences, const std::string& code);
 
 } // namespace deskphone

@@ -12,6 +12,14 @@ namespace {
 constexpr int AT_ONCE = 0;
 constexpr unsigned int MESSAGE_MS = 2000;
 
+std::vector<host::Wire::Offer> offersOf(const std::vector<host::Language>& languages)
+{
+    std::vector<host::Wire::Offer> offers;
+    for (const host::Language& language : languages)
+        offers.push_back({language.name, language.code});
+    return offers;
+}
+
 } // namespace
 
 Telephone::Telephone(DisplayAPI::Display& display)
@@ -20,7 +28,10 @@ Telephone::Telephone(DisplayAPI::Display& display)
                                     for (const auto& listener : mScreenListeners)
                                         listener(current);
                                 }),
-      mStatus(*this, mLines), mLanguageChange(AT_ONCE), mNumberCopied(&mLanguages, "Number.copied")
+      mStatus(*this, mLines), mLanguageChange(AT_ONCE), mNumberCopied(&mLanguages, "Number.copied"),
+      mLanguageWire(
+          "language", [this](std::string_view code) { return useLanguage(std::string(code)); },
+          offersOf(mLanguages.available()))
 {
     mLanguageChange.addEventListener(this);
 }

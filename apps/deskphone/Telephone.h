@@ -3,6 +3,7 @@
 #include "DisplayAPI/Timer.h"
 #include "DisplayAPI/TimerEvent.h"
 #include "apps/deskphone/StatusLines.h"
+#include "host/frontend/Wire.h"
 #include "host/languages/Languages.h"
 #include "kit/StatusLines.h"
 #include "kit/Text.h"
@@ -84,6 +85,7 @@ private:
     std::atomic<Place*> mPlace{nullptr};
     mutable std::mutex mMutex; ///< guards what follows
     std::string mCopied;
+    host::Wire mLanguageWire; ///< before all that its listener needs goes
 };
 
 } // namespace deskphone

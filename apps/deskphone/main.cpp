@@ -1,4 +1,5 @@
 #include "apps/deskphone/Desk.h"
+#include "apps/deskphone/Memory.h"
 #include "apps/deskphone/Network.h"
 #include "host/Phone.h"
 #include "kit/Phone.h"
@@ -47,14 +48,16 @@ int main(int count, char** words)
 {
     const std::optional<Options> options = optionsIn(count, words);
     if (!options) {
-        std::fputs("usage: deskphone [--state DIR] [--numbers FILE]   (the folder that keeps its calls, and who can be "
+        std::fputs("usage: deskphone [--state DIR] [--numbers FILE]   (the folder that keeps its calls and contacts, "
+                   "and who can be "
                    "called)\n",
                    stderr);
         return 2;
     }
-    deskphone::Network network(options->numbers);
+    deskphone::Memory memory(options->state);
+    deskphone::Network network(options->numbers, memory.contacts());
     DisplayAPI::kit::Phone phone({.hardware = host::hardwareName(), .narrow = host::isNarrow()});
-    deskphone::Desk desk(phone.display(), network.telephony(), "en", options->state);
+    deskphone::Desk desk(phone.display(), network.telephony(), "en", memory);
     desk.open();
     phone.run();
 }

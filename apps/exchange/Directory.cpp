@@ -14,7 +14,8 @@ bool forwardsAtOnce(const Number* number)
 
 } // namespace
 
-Directory::Directory(std::vector<Number> numbers, const std::vector<Line>& own) : mNumbers(std::move(numbers))
+Directory::Directory(std::vector<Number> numbers, Numbers::Others everybodyElse, const std::vector<Line>& own)
+    : mNumbers(std::move(numbers)), mEverybodyElse(std::move(everybodyElse))
 {
     const Behaviour busy{Behaviour::Arrival::IS_BUSY};
     for (const Line& line : own)
@@ -57,14 +58,23 @@ const Number* Directory::number(const std::string& number) const
     if (const auto own = mOwn.find(number); own != mOwn.end())
         return &own->second;
     const auto place = mPlaces.find(number);
-    return place != mPlaces.end() ? &mNumbers[place->second] : nullptr;
+    return place != mPlaces.end() ? &mNumbers[place->second] : elsewhere(number);
+}
+
+const Number* Directory::elsewhere(const std::string& number) const
+{
+    std::optional<Number> found = mEverybodyElse != nullptr ? mEverybodyElse(number) : std::nullopt;
+    return found ? &(mElsewhere[number] = std::move(*found)) : nullptr;
 }
 
 void Directory::define(Number number)
 {
     const auto [place, isNew] = mPlaces.try_emplace(number.party.number, mNumbers.size());
-    if (isNew)
+    if (isNew) {
+        if (const Number* const known = elsewhere(number.party.number); known != nullptr && number.party.name.empty())
+            number.party.name = known->party.name;
         return mNumbers.push_back(std::move(number));
+    }
     Number& present = mNumbers[place->second];
     if (!number.party.name.empty())
         present.party.name = std::move(number.party.name);

@@ -12,7 +12,7 @@ namespace exchange {
 class Directory {
 public:
     /// A call of the telephone's to one of its own lines finds that busy.
-    Directory(std::vector<Number> numbers, const std::vector<Line>& own);
+    Directory(std::vector<Number> numbers, Numbers::Others everybodyElse, const std::vector<Line>& own);
 
     /// Where a call to a number comes out, after all that forwards at once.
     struct Destination {
@@ -29,7 +29,7 @@ public:
     /// The name is empty where it is not known.
     Party party(const std::string& number) const;
 
-    /// Null where nobody has the number.
+    /// Null where nobody has the number. Of everybody else it is what was true at the last question.
     const Number* number(const std::string& number) const;
 
     /// Puts a number in, or what it does from now on; a name that is not said stays.
@@ -39,9 +39,13 @@ public:
     std::vector<Party> parties() const;
 
 private:
+    const Number* elsewhere(const std::string& number) const;
+
     std::unordered_map<std::string, Number> mOwn;
     std::vector<Number> mNumbers;
     std::unordered_map<std::string, std::size_t> mPlaces;
+    Numbers::Others mEverybodyElse;
+    mutable std::unordered_map<std::string, Number> mElsewhere; ///< who has been asked for
 };
 
 } // namespace exchange

@@ -12,42 +12,23 @@ std::vector<host::Wire::Offer> offersOf(const std::vector<Party>& callers)
     return offers;
 }
 
-std::set<std::string> othersThan(const std::vector<Party>& callers, const std::vector<Party>& all)
-{
-    std::set<std::string> others;
-    for (const Party& party : all)
-        others.insert(party.number);
-    for (const Party& caller : callers)
-        others.erase(caller.number);
-    return others;
-}
-
 } // namespace
 
-ExchangeWire::ExchangeWire(Exchange& exchange) : ExchangeWire(exchange, exchange.parties()) {}
-
-ExchangeWire::ExchangeWire(Exchange& exchange, const std::vector<Party>& callers)
-    : mExchange(exchange), mSilent(othersThan(callers, exchange.parties())),
+ExchangeWire::ExchangeWire(Exchange& exchange)
+    : mExchange(exchange),
       mWire(
-          "exchange", [this](std::string_view line) { return hear(line); }, offersOf(callers))
+          "exchange", [this](std::string_view line) { return hear(line); }, offersOf(exchange.parties()))
 {
 }
 
 /// A sentence may name somebody, or bring somebody new.
 std::string ExchangeWire::hear(std::string_view line)
 {
-    const std::vector<Party> before = callers();
+    const std::vector<Party> before = mExchange.parties();
     std::string complaint = mExchange.command(line);
-    if (const std::vector<Party> now = callers(); now != before)
+    if (const std::vector<Party> now = mExchange.parties(); now != before)
         mWire.setOffers(offersOf(now));
     return complaint;
-}
-
-std::vector<Party> ExchangeWire::callers() const
-{
-    std::vector<Party> callers = mExchange.parties();
-    std::erase_if(callers, [this](const Party& party) { return mSilent.contains(party.number); });
-    return callers;
 }
 
 } // namespace exchange

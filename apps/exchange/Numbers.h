@@ -3,6 +3,7 @@
 #include "apps/exchange/Line.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -42,8 +43,11 @@ struct Number {
 
 /// Who is at an exchange: a telephone's own lines and the others with their behaviour.
 struct Numbers {
-    std::vector<Line> lines;         ///< in the order of their numbers; never none
-    std::vector<Number> others;      ///< no number twice
+    std::vector<Line> lines;    ///< in the order of their numbers; never none
+    std::vector<Number> others; ///< no number twice
+    using Others = std::function<std::optional<Number>(const std::string& number)>;
+    Others everybodyElse = {}; ///< who has a number that nobody of these has. Quick, and without the exchange
+
     std::vector<std::string> errors; ///< one sentence each, with file and line; what is wrong is left out
 
     /// Reads one sentence a line; empty lines and lines that begin with # are nothing, nor is a byte order mark.

@@ -7,7 +7,7 @@ namespace exchange {
 
 Switchboard::Switchboard(Numbers numbers, Schedule& schedule, std::deque<Happening>& happenings)
     : mSchedule(schedule), mHappenings(happenings), mLines(std::move(numbers.lines)),
-      mDirectory(std::move(numbers.others), mLines)
+      mDirectory(std::move(numbers.others), std::move(numbers.everybodyElse), mLines)
 {
 }
 

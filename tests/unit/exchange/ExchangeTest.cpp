@@ -359,6 +359,34 @@ TEST(ExchangeTest, WhatIsDroppedIsNotWaitedFor)
     exchange.setListener(nullptr);
 }
 
+TEST(ExchangeTest, SomebodyElseMayHaveANumber)
+{
+    exchange::Numbers numbers = exchange::Numbers::parse("numbers", "4711 \"Ada\" is busy");
+    std::vector<std::string> asked;
+    numbers.everybodyElse = [&asked](const std::string& number) -> std::optional<exchange::Number> {
+        asked.push_back(number);
+        if (number != "99")
+            return std::nullopt;
+        return exchange::Number{{"99", "Eve"}, std::make_shared<const exchange::Behaviour>()};
+    };
+    StandingClock clock;
+    exchange::Exchange exchange(std::move(numbers), clock);
+    NotingListener listener;
+    exchange.setListener(&listener);
+    exchange.place(1, "4711");
+    exchange.place(1, "98");
+    exchange.place(1, "99");
+    clock.pass(1000);
+    exchange.waitUntilHeard();
+    EXPECT_THAT(listener.take(),
+                testing::IsSupersetOf({"500 #1 ended 4711 (Ada): busy", "500 #2 failed 98: unknown number",
+                                       "500 #3 ringing back 99 (Eve)"}));
+    EXPECT_THAT(asked, testing::Not(testing::Contains("4711")));
+    EXPECT_EQ(exchange.command("99 is busy"), "");
+    EXPECT_THAT(exchange.parties(), testing::Contains(exchange::Party{"99", "Eve"})) << "a sentence without a name";
+    exchange.setListener(nullptr);
+}
+
 TEST(ExchangeTest, EndsWithCallsAndPlansLeft)
 {
     ExchangeFixture fixture("4711 is busy, calls back after 1 s");

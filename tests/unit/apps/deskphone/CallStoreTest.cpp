@@ -1,5 +1,7 @@
 #include "apps/deskphone/CallStore.h"
 
+#include "unit/apps/deskphone/StateFolder.h"
+
 #include <SQLiteCpp/Database.h>
 #include <gmock/gmock.h>
 
@@ -19,33 +21,8 @@ namespace {
 
 using enum PastCall::Kind;
 
-/// Nobody can write there as long as this lives, the super-user included: then somebody else looks.
-class ReadOnly {
-public:
-    explicit ReadOnly(fs::path folder) : mFolder(std::move(folder))
-    {
-        fs::permissions(mFolder, fs::perms(0555));
-        EXPECT_EQ(seteuid(geteuid() == 0 ? NOBODY : geteuid()), 0);
-    }
-    ReadOnly(const ReadOnly&) = delete;
-    ReadOnly& operator=(const ReadOnly&) = delete;
-    ~ReadOnly()
-    {
-        EXPECT_EQ(seteuid(getuid()), 0);
-        fs::permissions(mFolder, fs::perms(0755));
-    }
-
-private:
-    static constexpr uid_t NOBODY = 65534;
-
-    fs::path mFolder;
-};
-
 class CallStoreTest : public testing::Test {
 protected:
-    CallStoreTest() { fs::remove_all(folder); }
-    ~CallStoreTest() override { fs::remove_all(folder); }
-
     static PastCall callOf(const std::string& party)
     {
         return {.kind = MISSED, .moment = 1'000'000, .party = party, .number = "030 4711"};
@@ -105,7 +82,8 @@ protected:
 
     static constexpr const char* FILE = "calls.sqlite";
 
-    const fs::path folder = fs::temp_directory_path() / ("displayapi-calls-" + std::to_string(getpid()));
+    const test::StateFolder state;
+    const fs::path folder = state.path();
 };
 
 TEST_F(CallStoreTest, BeginsWithoutCallsInAFolderThatItMakes)
@@ -228,21 +206,21 @@ TEST_F(CallStoreTest, ShowsTheCallsOfAFileThatCannotBeWritten)
 {
     PastCall ada = callOf("Ada");
     CallStore(folder).add(ada);
-    const ReadOnly readOnly(folder);
+    const test::ReadOnly readOnly(folder);
     testing::internal::CaptureStderr();
     CallStore store(folder);
     PastCall zoe = callOf("Zoë");
     store.add(zoe);
     store.seeAll();
     EXPECT_EQ(testing::internal::GetCapturedStderr(),
-              "deskphone: calls are not kept: " + (folder / FILE).string() + " cannot be written\n");
+              "deskphone: nothing is kept: " + (folder / FILE).string() + " cannot be written\n");
     EXPECT_THAT(parties(), ElementsAre("Ada"));
 }
 
 TEST_F(CallStoreTest, ShowsTheCallsOfAFileWithoutLinesThatCannotBeWritten)
 {
     writeVersion1();
-    const ReadOnly readOnly(folder);
+    const test::ReadOnly readOnly(folder);
     EXPECT_THAT(complaint(), HasSubstr("cannot be written"));
     EXPECT_THAT(parties(), ElementsAre("Ada"));
 }
@@ -250,8 +228,8 @@ TEST_F(CallStoreTest, ShowsTheCallsOfAFileWithoutLinesThatCannotBeWritten)
 TEST_F(CallStoreTest, SetsAsideAFileOfALaterVersion)
 {
     complaint();
-    database().exec("PRAGMA user_version = 3");
-    expectSetAside("of version 3");
+    database().exec("PRAGMA user_version = 5");
+    expectSetAside("of version 5");
 }
 
 TEST_F(CallStoreTest, SetsAsideAnotherProgramsDatabase)
@@ -288,7 +266,7 @@ TEST_F(CallStoreTest, WorksWithoutAFileWhereThereCanBeNone)
     store.seeAll();
     store.forget(call);
     EXPECT_THAT(store.calls(), IsEmpty());
-    EXPECT_THAT(testing::internal::GetCapturedStderr(), HasSubstr("calls are not kept"));
+    EXPECT_THAT(testing::internal::GetCapturedStderr(), HasSubstr("nothing is kept"));
 }
 
 TEST_F(CallStoreTest, ACallThatCannotBeWrittenIsSaidAndTheFileIsLeft)

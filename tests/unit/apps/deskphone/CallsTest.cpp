@@ -38,6 +38,19 @@ TEST_F(CallsTest, PlacedCallWithoutANameHasTheNetworks)
     EXPECT_EQ(phone.calls.find(place("4710", ""))->party(), "Ada");
 }
 
+TEST_F(CallsTest, UsersOwnNameStandsBeforeTheNetworks)
+{
+    deskphone::Calls named(phone.exchange);
+    named.setNames([](const std::string& number) { return number == "4710" ? "My Ada" : ""; });
+    named.startListening();
+    phone.say("4710 calls forwarded by 4711");
+    phone.settle();
+    ASSERT_EQ(named.all().size(), 1U);
+    EXPECT_EQ(named.all().front()->party(), "My Ada");
+    EXPECT_EQ(named.all().front()->last.forwardedBy.name, "Bert");
+    named.stopListening();
+}
+
 TEST_F(CallsTest, PlacedCallThatIsForwardedKeepsWhomTheUserDialled)
 {
     phone.say("4710 forwards to 4711");

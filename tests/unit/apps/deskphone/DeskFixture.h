@@ -2,6 +2,7 @@
 
 #include "DisplayAPI/Display.h"
 #include "apps/deskphone/Desk.h"
+#include "apps/deskphone/Memory.h"
 #include "host/Phone.h"
 #include "kit/Fence.h"
 #include "kit/OnGuiThread.h"
@@ -103,7 +104,8 @@ private:
 
     Panel mPanel;
     DisplayAPI::kit::Phone mPhone{{.hardware = host::hardwareName(), .narrow = host::isNarrow()}};
-    deskphone::Desk mDesk{mPhone.display(), exchange, "en", {}};
+    deskphone::Memory mMemory;
+    deskphone::Desk mDesk{mPhone.display(), exchange, "en", mMemory};
     std::string mShown;
 };
 

@@ -100,10 +100,10 @@ TEST_F(LineSignsTest, NothingIsToldOfLinesOnWhichNothingIsTheMatter)
 TEST_F(LineSignsTest, NoticesNameEachLineToWhichNobodyComesThrough)
 {
     const LineSigns told = signs({{.number = 1, .doNotDisturb = true}, {.number = 2, .isRegistered = false}});
-    EXPECT_THAT(told.notices, ElementsAre("Line.number 1  Settings.disturb 0", "Line.number 2  "
-                                                                               "Line.not.registered 0"));
-    EXPECT_EQ(told.state, "Settings.disturb 0");
-    EXPECT_EQ(told.status, "Line.number 1  Settings.disturb 0");
+    EXPECT_THAT(told.notices, ElementsAre("Line.number 1  Menu.disturb 0", "Line.number 2  "
+                                                                           "Line.not.registered 0"));
+    EXPECT_EQ(told.state, "Menu.disturb 0");
+    EXPECT_EQ(told.status, "Line.number 1  Menu.disturb 0");
     EXPECT_TRUE(told.isQuiet);
 }
 
