@@ -10,10 +10,13 @@ namespace simulator {
 
 const char* const USAGE = R"(Usage: phone [--variant plain|narrow|wp1] [--port 8080] APP [ARGS]
        phone [--variant ...] [--port 8080] --listen ADDRESS --token TOKEN APP [ARGS]
+       phone [--variant ...] [--port 8080] --rpc [--rpc-token FILE] [--rpc-read-only] APP [ARGS]
        phone [--variant ...] --script FILE [--out DIR] APP [ARGS]
 
 Runs APP as a telephone. Its panel and keys are a page for the browser, or a script presses the keys and looks at the
 panel. The page is for this machine only unless --listen and --token say otherwise; --port 0 takes a free port.
+--rpc opens the test interface on the same port, for programs that know the token in the file that is printed, or is
+named by --rpc-token; with --rpc-read-only they only look. --virtual-clock lets no time pass but what they pass.
 
 A script has one command a line:
   key NAME, hold NAME MS, type DIGITS      press keys
@@ -42,6 +45,20 @@ const std::map<std::string, Setter>& setters()
         {"--token", [](Options& options, const std::string& value) { options.token = value; }},
         {"--script", [](Options& options, const std::string& value) { options.script = value; }},
         {"--out", [](Options& options, const std::string& value) { options.out = value; }},
+        {"--rpc-token", [](Options& options, const std::string& value) { options.rpcToken = value; }},
+    };
+    return all;
+}
+
+/// Options without a value.
+const std::map<std::string, bool Options::*>& switches()
+{
+    static const std::map<std::string, bool Options::*> all = {
+        {"--help", &Options::wantsHelp},
+        {"-h", &Options::wantsHelp},
+        {"--virtual-clock", &Options::virtualClock},
+        {"--rpc", &Options::rpc},
+        {"--rpc-read-only", &Options::rpcReadOnly},
     };
     return all;
 }
@@ -51,6 +68,10 @@ using Position = std::vector<std::string>::const_iterator;
 /// Reads one option with its value, `--name value` or `--name=value`, and returns where the next word is.
 Position readOption(Options& options, Position word, Position end)
 {
+    if (const auto flag = switches().find(*word); flag != switches().end()) {
+        options.*flag->second = true;
+        return word + 1;
+    }
     const std::string name = word->substr(0, word->find('='));
     const auto setter = setters().find(name);
     if (setter == setters().end())
@@ -68,13 +89,8 @@ Position readOption(Options& options, Position word, Position end)
 void readAll(Options& options, const std::vector<std::string>& arguments)
 {
     Position word = arguments.begin();
-    while (word != arguments.end() && word->starts_with('-') && *word != "--") {
-        if (*word == "--help" || *word == "-h") {
-            options.wantsHelp = true;
-            return;
-        }
+    while (!options.wantsHelp && word != arguments.end() && word->starts_with('-') && *word != "--")
         word = readOption(options, word, arguments.end());
-    }
     if (word != arguments.end() && *word == "--")
         ++word;
     options.application.assign(word, arguments.end());
@@ -86,6 +102,10 @@ void check(const Options& options)
         throw Mistake("There is no variant '" + options.variant + "'; there are plain, narrow and wp1.");
     if (options.application.empty())
         throw Mistake("Which application shall run? Its name is missing.");
+    if (!options.rpc && (options.rpcToken || options.rpcReadOnly))
+        throw Mistake("--rpc-token and --rpc-read-only go with --rpc.");
+    if (options.rpc && options.script)
+        throw Mistake("--rpc is on the page's port; a script has none.");
     if (options.script)
         return;
     const std::string port = options.port == ANY_PORT ? Options().port : options.port;

@@ -17,6 +17,10 @@ struct Options {
     std::optional<std::string> token;
     std::optional<std::string> script;
     std::string out = ".";
+    bool virtualClock = false;
+    bool rpc = false;                    ///< whether there is a test interface
+    std::optional<std::string> rpcToken; ///< the file for its token
+    bool rpcReadOnly = false;
     std::vector<std::string> application; ///< its name and its arguments
 
     bool wantsHelp = false;

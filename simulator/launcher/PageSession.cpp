@@ -2,6 +2,7 @@
 
 #include "simulator/launcher/ApplicationRun.h"
 #include "simulator/launcher/DisplayReminder.h"
+#include "simulator/launcher/TokenFile.h"
 #include "simulator/web/PortCheck.h"
 
 #include <iostream>
@@ -12,16 +13,21 @@ namespace {
 
 using std::chrono::milliseconds;
 
-Child::Environment environmentFor(const Options& options, const Endpoint& endpoint)
+Child::Environment environmentFor(const Options& options, const Endpoint& endpoint, const std::string& rpcToken)
 {
-    return {{"DISPLAYAPI_HOST", "web:" + std::to_string(endpoint.port)},
-            {"DISPLAYAPI_VARIANT", options.variant},
-            {LISTEN_VARIABLE, options.listen.value_or("")},
-            {TOKEN_VARIABLE, options.token.value_or("")}};
+    Child::Environment added = {{"DISPLAYAPI_HOST", "web:" + std::to_string(endpoint.port)},
+                                {"DISPLAYAPI_VARIANT", options.variant},
+                                {LISTEN_VARIABLE, options.listen.value_or("")},
+                                {TOKEN_VARIABLE, options.token.value_or("")},
+                                {RPC_TOKEN_VARIABLE, rpcToken},
+                                {RPC_READ_ONLY_VARIABLE, options.rpcReadOnly ? "1" : ""}};
+    if (options.virtualClock)
+        added["DISPLAYAPI_CLOCK"] = "virtual";
+    return added;
 }
 
 /// The address is worth printing once somebody answers there.
-std::optional<Ending> waitUntilServed(ApplicationRun& run, const Endpoint& endpoint)
+std::optional<Ending> waitUntilServed(ApplicationRun& run, const Endpoint& endpoint, const TokenFile* rpc)
 {
     DisplayReminder reminder;
     while (!isServed(endpoint)) {
@@ -29,6 +35,8 @@ std::optional<Ending> waitUntilServed(ApplicationRun& run, const Endpoint& endpo
             return ending;
         reminder.stillWaiting();
     }
+    if (rpc != nullptr)
+        std::cout << "The test interface is at " << endpoint.rpcUrl() << ", its token in " << rpc->path() << std::endl;
     std::cout << "The telephone is at " << endpoint.url() << " (Ctrl-C ends it)" << std::endl;
     return {};
 }
@@ -55,10 +63,13 @@ int runBehindPage(const Options& options)
         endpoint.port = freePort(endpoint);
     if (const std::string problem = portProblem(endpoint); !problem.empty())
         return complain(problem);
-    ApplicationRun run(options.application, environmentFor(options, endpoint));
+    std::optional<TokenFile> rpc;
+    if (options.rpc && !rpc.emplace(options.rpcToken).error().empty())
+        return complain(rpc->error());
+    ApplicationRun run(options.application, environmentFor(options, endpoint, rpc ? rpc->token() : std::string()));
     if (!run.error().empty())
         return complain(run.error());
-    const auto early = waitUntilServed(run, endpoint);
+    const auto early = waitUntilServed(run, endpoint, rpc ? &*rpc : nullptr);
     const Ending ending = early ? *early : waitForEnd(run);
     std::cout << "The application " << ending.description() << '.' << std::endl;
     return ending.status();

@@ -1,6 +1,7 @@
 #include "simulator/screen/ScreenJson.h"
 
 #include "host/lcd/Geometry.h"
+#include "simulator/screen/ScreenRows.h"
 #include "simulator/screen/WidgetNames.h"
 
 #include <nlohmann/json.hpp>
@@ -8,9 +9,6 @@
 namespace simulator {
 
 namespace {
-
-/// Keeps its members in the order in which they are written down here.
-using Json = nlohmann::ordered_json;
 
 Json toJson(const PegRect& rect)
 {
@@ -28,23 +26,40 @@ Json toJson(const host::TextRun& run)
             {"widget", widgetName(run.widget)}};
 }
 
-Json toJson(const std::vector<host::TextRun>& texts)
+Json toJson(const ScreenRow& row)
 {
-    Json all = Json::array();
-    for (const host::TextRun& run : texts)
-        all.push_back(toJson(run));
-    return all;
+    return {{"text", row.text}, {"selected", row.selected}, {"lasting", row.lasting}};
+}
+
+template <typename Each>
+Json listOf(const std::vector<Each>& all)
+{
+    Json list = Json::array();
+    for (const Each& each : all)
+        list.push_back(toJson(each));
+    return list;
 }
 
 } // namespace
 
+Json screenForm(const host::Picture& picture, std::string_view variant)
+{
+    return {{"version", SCREEN_FORM_VERSION},
+            {"panel", panelJson(picture, variant)},
+            {"focus", host::isEmpty(picture.focus) ? Json() : toJson(picture.focus)},
+            {"rows", listOf(rowsOf(picture.texts))},
+            {"texts", listOf(picture.texts)}};
+}
+
+Json panelJson(const host::Picture& picture, std::string_view variant)
+{
+    return {{"variant", variant}, {"width", picture.width}, {"height", picture.height}};
+}
+
 std::string screenJson(const host::Picture& picture, std::string_view variant)
 {
     constexpr int INDENT = 2;
-    const Json panel = {{"variant", variant}, {"width", picture.width}, {"height", picture.height}};
-    const Json focus = host::isEmpty(picture.focus) ? Json() : toJson(picture.focus);
-    const Json screen = {{"panel", panel}, {"focus", focus}, {"texts", toJson(picture.texts)}};
-    return screen.dump(INDENT, ' ', false, Json::error_handler_t::replace) + '\n';
+    return screenForm(picture, variant).dump(INDENT, ' ', false, Json::error_handler_t::replace) + '\n';
 }
 
 } // namespace simulator

@@ -1,14 +1,11 @@
 #include "simulator/script/HostPhone.h"
 
 #include "DisplayAPI/Display.h"
-#include "host/clock/Clock.h"
 #include "host/frontend/Wire.h"
 #include "host/input/Keyboard.h"
 #include "host/toolkit/Loop.h"
-#include "host/toolkit/MainQueue.h"
-#include "simulator/script/Threads.h"
 
-#include <algorithm>
+#include <future>
 #include <thread>
 #include <utility>
 
@@ -28,29 +25,34 @@ constexpr seconds PATIENCE_WITH_THREADS(2);
 /// How often it is looked what the GUI thread is about.
 constexpr milliseconds GLANCE(200);
 
-/// How often it is looked whether the telephone is still there, in real and virtual time.
-constexpr milliseconds SLICE(1000);
-constexpr std::chrono::minutes ADVANCED_SLICE(1);
+/// How long an idle loop may take to notice that it has something to do again.
+constexpr milliseconds PAUSE(5);
 
-constexpr std::uint16_t INQUIRY = 0x5C01;
+/// The display is there while it is asked: on the GUI thread, between two messages.
+ScreenWords displayedWords()
+{
+    DisplayAPI::Display* const display = DisplayAPI::Display::latest();
+    return {display != nullptr ? display->serialise() : std::string(), {}};
+}
 
 } // namespace
 
-HostPhone::HostPhone(host::Lcd& lcd) : mLcd(lcd)
+HostPhone::HostPhone(host::Lcd& lcd) : mLcd(lcd), mReader(lcd, displayedWords)
 {
-    mLcd.setFrameListener([this] { noteFrame(); });
+    mLcd.setFrameListener([this] { mReader.frameReady(); });
 }
 
 HostPhone::~HostPhone()
 {
     mLcd.setFrameListener({});
+    leave();
 }
 
 void HostPhone::leave()
 {
-    std::lock_guard lock(mMutex);
-    mIsThere = false;
-    mChanged.notify_all();
+    mReader.leave();
+    mClock.leave();
+    mWatch.end();
 }
 
 bool HostPhone::press(PegKey key)
@@ -65,30 +67,12 @@ bool HostPhone::release(PegKey key)
 
 void HostPhone::pass(std::int64_t milliseconds)
 {
-    if (host::Clock::instance().isVirtual())
-        moveClock(milliseconds, SLICE.count());
-    else
-        sleep(std::chrono::milliseconds(milliseconds));
+    mClock.pass(milliseconds);
 }
 
 bool HostPhone::advance(std::int64_t milliseconds)
 {
-    if (!host::Clock::instance().isVirtual())
-        return false;
-    moveClock(milliseconds, std::chrono::milliseconds(ADVANCED_SLICE).count());
-    return true;
-}
-
-void HostPhone::moveClock(std::int64_t milliseconds, std::int64_t slice)
-{
-    for (std::int64_t left = milliseconds; left > 0 && isThere(); left -= slice)
-        host::Clock::instance().advance(std::min(left, slice));
-}
-
-void HostPhone::sleep(std::chrono::milliseconds time)
-{
-    std::unique_lock lock(mMutex);
-    mChanged.wait_for(lock, time, [this] { return !mIsThere; });
+    return mClock.advance(milliseconds);
 }
 
 bool HostPhone::settle(const std::function<void()>& standsStill)
@@ -106,7 +90,7 @@ bool HostPhone::becomeIdle(std::function<void()>& standsStill)
             return true;
         if (standsStill && host::Loop::standsStill())
             std::exchange(standsStill, {})();
-        waitForFrame(milliseconds(5));
+        mClock.rest(PAUSE);
     }
     return false;
 }
@@ -114,7 +98,7 @@ bool HostPhone::becomeIdle(std::function<void()>& standsStill)
 void HostPhone::waitForThreads()
 {
     const auto deadline = steady_clock::now() + PATIENCE_WITH_THREADS;
-    while (isThere() && !othersAreAtRest() && steady_clock::now() < deadline)
+    while (isThere() && !mOtherThreads.areAtRest() && steady_clock::now() < deadline)
         std::this_thread::sleep_for(milliseconds(1));
 }
 
@@ -128,48 +112,25 @@ host::Picture HostPhone::picture()
     return mLcd.picture();
 }
 
-std::string HostPhone::displayables()
+ScreenPtr HostPhone::screen()
 {
-    std::unique_lock lock(mMutex);
-    mAnswer.reset();
-    lock.unlock();
-    if (!host::MainQueue::push({INQUIRY, 0, &mInquiry}))
+    return mReader.read(PATIENCE);
+}
+
+std::optional<std::string> HostPhone::waitFor(const ScreenCondition& condition, milliseconds limit)
+{
+    const auto verdict = std::make_shared<std::promise<ScreenWatch::Verdict>>();
+    std::future<ScreenWatch::Verdict> awaited = verdict->get_future();
+    mWatch.waitFor(this, condition, 0, limit, [verdict](const auto& reached) { verdict->set_value(reached); });
+    ScreenWatch::Verdict reached = awaited.get();
+    if (reached.end == ScreenWatch::End::HELD)
         return {};
-    lock.lock();
-    mChanged.wait_for(lock, PATIENCE, [this] { return mAnswer || !mIsThere; });
-    return mAnswer.value_or(std::string());
-}
-
-int HostPhone::Inquiry::Message(const PegMessage& message)
-{
-    if (message.wType != INQUIRY)
-        return PegThing::Message(message);
-    DisplayAPI::Display* const display = DisplayAPI::Display::latest();
-    std::string answer = display != nullptr ? display->serialise() : std::string();
-    std::lock_guard lock(mPhone.mMutex);
-    mPhone.mAnswer = std::move(answer);
-    mPhone.mChanged.notify_all();
-    return 0;
-}
-
-void HostPhone::waitForFrame(milliseconds limit)
-{
-    std::unique_lock lock(mMutex);
-    mChanged.wait_for(lock, limit, [this] { return mFrameIsNew || !mIsThere; });
-    mFrameIsNew = false;
+    return std::move(reached.difference);
 }
 
 bool HostPhone::isThere()
 {
-    std::lock_guard lock(mMutex);
-    return mIsThere;
-}
-
-void HostPhone::noteFrame()
-{
-    std::lock_guard lock(mMutex);
-    mFrameIsNew = true;
-    mChanged.notify_all();
+    return mReader.isThere();
 }
 
 } // namespace simulator

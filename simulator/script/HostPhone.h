@@ -1,11 +1,9 @@
 #pragma once
 
+#include "simulator/core/PhoneClock.h"
+#include "simulator/core/ScreenWatch.h"
 #include "simulator/script/ScriptedPhone.h"
-#include "toolkit/PegThing.h"
-
-#include <condition_variable>
-#include <mutex>
-#include <optional>
+#include "simulator/script/Threads.h"
 
 namespace simulator {
 
@@ -25,35 +23,19 @@ public:
     bool settle(const std::function<void()>& standsStill) override;
     std::string say(const std::string& wire, const std::string& line) override;
     host::Picture picture() override;
-    std::string displayables() override;
-    void waitForFrame(std::chrono::milliseconds limit) override;
+    ScreenPtr screen() override;
+    std::optional<std::string> waitFor(const ScreenCondition& condition, std::chrono::milliseconds limit) override;
     bool isThere() override;
 
 private:
-    /// Asks the library on the GUI thread, between two messages: while they are handled the display is there, which a
-    /// call from the script's thread could not know. Who asks waits as long as the telephone is there, and no longer.
-    class Inquiry : public PegThing {
-    public:
-        explicit Inquiry(HostPhone& phone) : mPhone(phone) {}
-        int Message(const PegMessage& message) override;
-
-    private:
-        HostPhone& mPhone;
-    };
-
     bool becomeIdle(std::function<void()>& standsStill);
-    void moveClock(std::int64_t milliseconds, std::int64_t slice);
-    void sleep(std::chrono::milliseconds time);
     void waitForThreads();
-    void noteFrame();
 
     host::Lcd& mLcd;
-    std::mutex mMutex;
-    std::condition_variable mChanged;
-    bool mFrameIsNew = false;
-    bool mIsThere = true;
-    std::optional<std::string> mAnswer;
-    Inquiry mInquiry{*this};
+    OtherThreads mOtherThreads;
+    PhoneClock mClock;
+    ScreenReader mReader;
+    ScreenWatch mWatch{mReader};
 };
 
 } // namespace simulator

@@ -3,7 +3,7 @@
 #include "host/Phone.h"
 #include "host/lcd/Png.h"
 #include "host/toolkit/Loop.h"
-#include "simulator/screen/KeyRepeatRule.h"
+#include "simulator/core/HeldKey.h"
 #include "simulator/screen/ScreenJson.h"
 #include "simulator/screen/ScreenRows.h"
 #include "simulator/screen/ScreenText.h"
@@ -19,7 +19,8 @@ namespace simulator {
 namespace {
 
 using std::chrono::milliseconds;
-using std::chrono::steady_clock;
+
+constexpr auto CONTAINS = ScreenCondition::Match::CONTAINS;
 
 constexpr char STANDSTILL_NOTE[] = "the GUI thread stands still: for 2 seconds it has been at one thing";
 static_assert(host::Loop::STANDSTILL == std::chrono::seconds(2));
@@ -107,16 +108,10 @@ void ScriptRunner::pressAll(const Step& step)
 void ScriptRunner::hold(const Step& step)
 {
     const PegKey key = step.keys.front();
-    std::int64_t left = step.milliseconds;
-    down(key);
-    if (KeyRepeatRule::repeats(key)) {
-        for (auto pause = KeyRepeatRule::DELAY; left >= pause.count(); pause = KeyRepeatRule::INTERVAL) {
-            mPhone.pass(pause.count());
-            left -= pause.count();
-            down(key);
-        }
+    for (const std::int64_t pause : pausesOfHeld(key, step.milliseconds)) {
+        down(key);
+        mPhone.pass(pause);
     }
-    mPhone.pass(left);
     mKeysAreThrough = true;
     up(key);
     settle();
@@ -124,12 +119,11 @@ void ScriptRunner::hold(const Step& step)
 
 void ScriptRunner::expect(const Step& step, bool wanted)
 {
-    const auto deadline = steady_clock::now() + mPatience;
-    while (shows(rowsOf(mPhone.picture().texts), step.text) != wanted) {
-        if (!mPhone.isThere() || steady_clock::now() >= deadline)
-            fail((wanted ? "expected '" : "expected no '") + step.text + "'");
-        mPhone.waitForFrame(milliseconds(20));
-    }
+    using What = ScreenCondition::What;
+    const ScreenCondition condition{
+        .what = wanted ? What::TEXT : What::NO_TEXT, .match = CONTAINS, .text = step.text, .withVolatile = true};
+    if (mPhone.waitFor(condition, mPatience))
+        fail((wanted ? "expected '" : "expected no '") + step.text + "'");
 }
 
 void ScriptRunner::advance(const Step& step)
@@ -142,16 +136,9 @@ void ScriptRunner::compare(const Step& step)
 {
     if (updatesScreens())
         return update(step);
-    const std::string expected = read(step.text);
-    const auto deadline = steady_clock::now() + mPatience;
-    for (;;) {
-        const std::string difference = textDifference(expected, screen());
-        if (difference.empty())
-            return;
-        if (!mPhone.isThere() || steady_clock::now() >= deadline)
-            fail("the screen is not that of " + step.text + " (-), but another (+):\n" + difference);
-        mPhone.waitForFrame(milliseconds(20));
-    }
+    const ScreenCondition condition{.what = ScreenCondition::What::SCREEN, .text = read(step.text)};
+    if (const auto difference = mPhone.waitFor(condition, mPatience))
+        fail("the screen is not that of " + step.text + " (-), but another (+):\n" + *difference);
 }
 
 void ScriptRunner::update(const Step& step)
@@ -176,8 +163,8 @@ void ScriptRunner::writePicture(const std::filesystem::path& path)
 
 std::string ScriptRunner::screen()
 {
-    const std::string displayables = mPhone.displayables();
-    return screenText(displayables, mPhone.picture().texts);
+    const ScreenPtr screen = mPhone.screen();
+    return screen != nullptr ? screenText(screen->words.displayables, screen->picture.texts) : std::string();
 }
 
 std::string ScriptRunner::read(const std::filesystem::path& path)

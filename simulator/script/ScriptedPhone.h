@@ -1,11 +1,13 @@
 #pragma once
 
 #include "host/lcd/Lcd.h"
+#include "simulator/core/ScreenCondition.h"
 #include "toolkit/PegMessage.h"
 
 #include <chrono>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace simulator {
@@ -34,13 +36,15 @@ public:
     /// Says a line to the program. Returns the sentence that says why nothing comes of it; empty when all is well.
     virtual std::string say(const std::string& wire, const std::string& line) = 0;
 
+    /// The panel as it is now, whatever the GUI thread is about.
     virtual host::Picture picture() = 0;
 
-    /// What the library says of the displayables on the screen. Empty when it has no display.
-    virtual std::string displayables() = 0;
+    /// The screen between two messages; null where the GUI thread does not come to it, or the telephone has gone.
+    virtual ScreenPtr screen() = 0;
 
-    /// Returns at the next frame, or after `limit`.
-    virtual void waitForFrame(std::chrono::milliseconds limit) = 0;
+    /// Waits until the condition holds, judged at every screen, at most `limit` of real time. Returns what differs in
+    /// the last one; nothing where it has held.
+    virtual std::optional<std::string> waitFor(const ScreenCondition& condition, std::chrono::milliseconds limit) = 0;
 
     /// False once the telephone is going down.
     virtual bool isThere() = 0;

@@ -24,6 +24,8 @@ std::string_view withoutPort(std::string_view host)
     return hasPort ? host.substr(0, colon) : host;
 }
 
+} // namespace
+
 bool isThisMachine(std::string_view host)
 {
     static constexpr std::array<std::string_view, 3> NAMES = {"127.0.0.1", "localhost", "[::1]"};
@@ -39,8 +41,7 @@ std::string_view tokenIn(std::string_view query)
     return query.substr(0, query.find('&'));
 }
 
-/// Takes as long for a wrong token as for the right one, wherever they differ.
-bool isSame(std::string_view secret, std::string_view given)
+bool isSameSecret(std::string_view secret, std::string_view given)
 {
     unsigned char difference = secret.size() == given.size() ? 0 : 1;
     for (std::size_t i = 0; i < secret.size(); ++i)
@@ -48,16 +49,19 @@ bool isSame(std::string_view secret, std::string_view given)
     return difference == 0;
 }
 
-} // namespace
+bool isFromHere(const Caller& caller)
+{
+    return lowered(caller.origin) == "http://" + lowered(caller.host);
+}
 
 bool Admission::allowsPage(const Caller& caller) const
 {
-    return mToken.empty() ? isThisMachine(caller.host) : isSame(mToken, tokenIn(caller.query));
+    return mToken.empty() ? isThisMachine(caller.host) : isSameSecret(mToken, tokenIn(caller.query));
 }
 
 bool Admission::allowsSocket(const Caller& caller) const
 {
-    return allowsPage(caller) && lowered(caller.origin) == "http://" + lowered(caller.host);
+    return allowsPage(caller) && isFromHere(caller);
 }
 
 } // namespace simulator

@@ -43,8 +43,17 @@ std::string Endpoint::addressAndPort() const
 
 std::string Endpoint::url() const
 {
-    const Endpoint visible{address == "0.0.0.0" ? "127.0.0.1" : address, port, token};
-    return "http://" + visible.addressAndPort() + "/" + (token.empty() ? "" : "?token=" + token);
+    return "http://" + reachable() + "/" + (token.empty() ? "" : "?token=" + token);
+}
+
+std::string Endpoint::rpcUrl() const
+{
+    return "ws://" + reachable() + "/rpc";
+}
+
+std::string Endpoint::reachable() const
+{
+    return Endpoint{address == "0.0.0.0" ? "127.0.0.1" : address, port, {}}.addressAndPort();
 }
 
 std::string endpointError(const std::string& port, const std::optional<std::string>& listen,

@@ -16,6 +16,12 @@ struct Endpoint {
 
     /// What the user opens.
     std::string url() const;
+
+    /// Where the test interface is.
+    std::string rpcUrl() const;
+
+    /// "127.0.0.1:8080", as this machine reaches it.
+    std::string reachable() const;
 };
 
 /// A sentence when these make no endpoint; empty when they do.
@@ -29,5 +35,9 @@ Endpoint makeEndpoint(const std::string& port, const std::optional<std::string>&
 /// The environment variables that carry address and token to the front end.
 inline constexpr char LISTEN_VARIABLE[] = "DISPLAYAPI_LISTEN";
 inline constexpr char TOKEN_VARIABLE[] = "DISPLAYAPI_TOKEN";
+
+/// Those that carry the test interface's token, without which there is none, and that one may only look.
+inline constexpr char RPC_TOKEN_VARIABLE[] = "DISPLAYAPI_RPC_TOKEN";
+inline constexpr char RPC_READ_ONLY_VARIABLE[] = "DISPLAYAPI_RPC_READ_ONLY";
 
 } // namespace simulator

@@ -1,5 +1,6 @@
 #include "simulator/web/KeyPad.h"
 
+#include "host/clock/Clock.h"
 #include "host/input/Keyboard.h"
 #include "simulator/screen/KeyRepeatRule.h"
 
@@ -28,19 +29,27 @@ KeyPad::~KeyPad()
     mTimer.join();
 }
 
-void KeyPad::down(Page page, PegKey key)
+bool KeyPad::down(Page page, PegKey key)
 {
     std::lock_guard lock(mMutex);
     const bool wasHeld = isHeld(key);
     if (!wasHeld && !host::Keyboard::instance().press(key))
-        return;
+        return false;
     mHeld.insert({key, page});
     if (wasHeld)
-        return;
+        return true;
     mReleases.erase(key);
-    if (KeyRepeatRule::repeats(key))
+    if (KeyRepeatRule::repeats(key) && !host::Clock::instance().isVirtual())
         mRepeats[key] = steady_clock::now() + KeyRepeatRule::DELAY;
     mChanged.notify_all();
+    return true;
+}
+
+void KeyPad::again(PegKey key)
+{
+    std::lock_guard lock(mMutex);
+    if (isHeld(key))
+        host::Keyboard::instance().press(key);
 }
 
 void KeyPad::up(Page page, PegKey key)

@@ -25,7 +25,12 @@ public:
     KeyPad& operator=(const KeyPad&) = delete;
     ~KeyPad();
 
-    void down(Page page, PegKey key);
+    /// False when the telephone does not take the key.
+    bool down(Page page, PegKey key);
+
+    /// Presses once more what is down: on a virtual clock a key goes on when somebody says so.
+    void again(PegKey key);
+
     void up(Page page, PegKey key);
     void leave(Page page);
 

@@ -1,11 +1,13 @@
 #include "simulator/web/PeerSocket.h"
 
+#include <cerrno>
 #include <charconv>
 #include <civetweb.h>
 #include <fcntl.h>
 #include <filesystem>
 #include <netdb.h>
 #include <netinet/in.h>
+#include <poll.h>
 #include <string>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -76,6 +78,22 @@ PeerSocket::~PeerSocket()
 void PeerSocket::cut() const
 {
     shutdown(mDescriptor, SHUT_RDWR);
+}
+
+void PeerSocket::keepLittle() const
+{
+    constexpr int BYTES = 65'536;
+    setsockopt(mDescriptor, SOL_SOCKET, SO_SNDBUF, &BYTES, sizeof BYTES);
+}
+
+bool PeerSocket::waitUntilWritable() const
+{
+    constexpr int FOR_EVER = -1;
+    pollfd event{mDescriptor, POLLOUT, 0};
+    while (mDescriptor != NONE && poll(&event, 1, FOR_EVER) < 0)
+        if (errno != EINTR)
+            return false;
+    return (event.revents & (POLLERR | POLLHUP | POLLNVAL)) == 0;
 }
 
 } // namespace simulator

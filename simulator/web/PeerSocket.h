@@ -15,6 +15,12 @@ public:
     /// Ends the connection, whatever the server is waiting for on it. From any thread.
     void cut() const;
 
+    /// Has the system keep little of what the other side has not taken: it shall get what is new, not what is old.
+    void keepLittle() const;
+
+    /// Waits for ever, but not longer than the connection lives; returns whether it does.
+    bool waitUntilWritable() const;
+
 private:
     int mDescriptor = -1;
 };

@@ -1,5 +1,6 @@
 #include "simulator/web/ServerMessages.h"
 
+#include "simulator/screen/Json.h"
 #include "utilities/ICC.h"
 
 #include <algorithm>
@@ -9,9 +10,6 @@
 namespace simulator {
 
 namespace {
-
-/// Keeps its members in the order in which they are written down here.
-using Json = nlohmann::ordered_json;
 
 /// More of a row than anybody wants to hear.
 constexpr std::size_t LONGEST_TEXT = 400;

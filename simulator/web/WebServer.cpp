@@ -1,9 +1,11 @@
 #include "simulator/web/WebServer.h"
 
 #include "host/frontend/Wire.h"
+#include "simulator/rpc/RpcServer.h"
 #include "simulator/web/Page.h"
 #include "simulator/web/PageMessage.h"
 #include "simulator/web/PortCheck.h"
+#include "simulator/web/Request.h"
 #include "simulator/web/ServerMessages.h"
 
 #include <civetweb.h>
@@ -29,24 +31,15 @@ constexpr char PAGE_HEADERS[] =
     "X-Content-Type-Options: nosniff\r\n"
     "Connection: close\r\n";
 
-std::string_view orEmpty(const char* text)
-{
-    return text != nullptr ? text : std::string_view();
-}
-
-Caller callerOf(const mg_connection* connection)
-{
-    return {orEmpty(mg_get_header(connection, "Host")), orEmpty(mg_get_header(connection, "Origin")),
-            orEmpty(mg_get_request_info(connection)->query_string)};
-}
-
 /// A page is served by a thread of its own while it is open; some more turn pages away, and serve the document itself.
-std::vector<const char*> optionsFor(const std::string& addressAndPort)
+constexpr int THREADS = 24;
+
+std::vector<const char*> optionsFor(const std::string& addressAndPort, const std::string& threads)
 {
     return {"listening_ports",
             addressAndPort.c_str(),
             "num_threads",
-            "24",
+            threads.c_str(),
             "request_timeout_ms",
             "2000",
             "websocket_timeout_ms",
@@ -76,12 +69,13 @@ void visitUntil(const std::stop_token& stop, const Endpoint& endpoint)
 } // namespace
 
 WebServer::WebServer(const Endpoint& endpoint, std::string greeting, Broadcaster& broadcaster, KeyPad& keys,
-                     std::chrono::milliseconds heartbeat)
+                     std::chrono::milliseconds heartbeat, RpcServer* rpc)
     : mEndpoint(endpoint), mAdmission(endpoint), mGreeting(std::move(greeting)), mBroadcaster(broadcaster), mKeys(keys),
       mHeartbeat(heartbeat)
 {
     const std::string addressAndPort = endpoint.addressAndPort();
-    const auto options = optionsFor(addressAndPort);
+    const std::string threads = std::to_string(THREADS + (rpc != nullptr ? RpcServer::MOST_CLIENTS : 0));
+    const auto options = optionsFor(addressAndPort, threads);
     mg_callbacks callbacks{};
     callbacks.log_message = ignoreLog;
     mg_init_data start{&callbacks, this, const_cast<const char**>(options.data())};
@@ -95,6 +89,8 @@ WebServer::WebServer(const Endpoint& endpoint, std::string greeting, Broadcaster
     }
     mg_set_request_handler(mContext, "/", servePage, this);
     mg_set_websocket_handler(mContext, "/socket", connecting, connected, received, closed, this);
+    if (rpc != nullptr)
+        rpc->attachTo(mContext);
 }
 
 WebServer::~WebServer()

@@ -15,12 +15,15 @@ struct mg_context;
 
 namespace simulator {
 
+class RpcServer;
+
 /// Serves the page and its socket. The broadcaster and the key pad have to outlive it.
 class WebServer {
 public:
-    /// `greeting` is what each page is told first; `heartbeat` lies between two pings.
+    /// `greeting` is what each page is told first; `heartbeat` lies between two pings; `rpc`, where there is one, is
+    /// served beside the page and has to outlive the server as well.
     WebServer(const Endpoint& endpoint, std::string greeting, Broadcaster& broadcaster, KeyPad& keys,
-              std::chrono::milliseconds heartbeat = Heartbeat::PAUSE);
+              std::chrono::milliseconds heartbeat = Heartbeat::PAUSE, RpcServer* rpc = nullptr);
     WebServer(const WebServer&) = delete;
     WebServer& operator=(const WebServer&) = delete;
 

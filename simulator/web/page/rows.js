@@ -81,7 +81,9 @@ class Rows {
   /* Not a clock, a timer or a running text that goes on; on the same screen not what has only moved either. */
   newsOf() {
     const known = new Set(this.said.map((row) => row.lasting));
-    const isSameScreen = 2 * this.rows.filter((row) => known.has(row.lasting)).length > this.rows.length;
+    const kept = this.rows.filter((row) => known.has(row.lasting)).length;
+    // A screen that begins with its title alone, its rows to come, is another one, also where the title was a row before.
+    const isSameScreen = 2 * kept > Math.max(this.rows.length, this.said.length);
     return this.rows.filter((row, index) => {
       const old = this.said[index];
       if (row.lasting === "" || this.isCounting(old, row)) return false;

@@ -48,6 +48,15 @@ TEST(Options, PortMayBeAnyThatIsFree)
     EXPECT_THAT(parseOptions({"--port", "0", "--listen", "0.0.0.0", "app"}).error, HasSubstr("go together"));
 }
 
+TEST(Options, TestInterfaceIsOffUnlessItIsAskedFor)
+{
+    EXPECT_FALSE(parseOptions({"app"}).rpc);
+    const Options options = parseOptions({"--rpc", "--rpc-read-only", "--rpc-token", "t", "--virtual-clock", "app"});
+    EXPECT_EQ(options.error, "");
+    EXPECT_TRUE(options.rpc && options.rpcReadOnly && options.virtualClock);
+    EXPECT_EQ(options.rpcToken, "t");
+}
+
 TEST(Options, HelpAsksForNothingElse)
 {
     EXPECT_TRUE(parseOptions({"--help"}).wantsHelp);
@@ -65,6 +74,10 @@ TEST(Options, MistakesAreSentences)
         {{"--variant", "wide", "app"}, "There is no variant 'wide'"},
         {{"--port", "eighty", "app"}, "not 'eighty'"},
         {{"--listen", "0.0.0.0", "app"}, "go together"},
+        {{"--rpc-token", "t", "app"}, "go with --rpc"},
+        {{"--rpc-read-only", "app"}, "go with --rpc"},
+        {{"--rpc", "--script", "s", "app"}, "a script has none"},
+        {{"--rpc=yes", "app"}, "There is no option --rpc"},
     };
     for (const auto& [words, sentence] : mistakes)
         EXPECT_THAT(parseOptions(words).error, HasSubstr(sentence));

@@ -18,12 +18,14 @@ host::Picture panel(std::vector<host::TextRun> texts = {})
 TEST(ScreenJson, EmptyPanel)
 {
     EXPECT_EQ(screenJson(panel(), "wp1"), R"({
+  "version": 1,
   "panel": {
     "variant": "wp1",
     "width": 208,
     "height": 42
   },
   "focus": null,
+  "rows": [],
   "texts": []
 }
 )");
@@ -47,6 +49,27 @@ TEST(ScreenJson, TextHasAllThatIsKnownOfIt)
       "volatile": true,
       "widget": "systemWindow"
     }
+)"));
+}
+
+TEST(ScreenJson, RowsAreAsOneReadsThem)
+{
+    host::TextRun clock{{100, 0, 140, 12}, "09:41"};
+    clock.runs = true;
+    EXPECT_THAT(screenJson(panel({{{0, 0, 50, 12}, "Line 1"}, clock, {{0, 14, 50, 26}, "Ada", true}}), "wp1"),
+                HasSubstr(R"(
+  "rows": [
+    {
+      "text": "Line 1  09:41",
+      "selected": false,
+      "lasting": "Line 1"
+    },
+    {
+      "text": "Ada",
+      "selected": true,
+      "lasting": "Ada"
+    }
+  ],
 )"));
 }
 

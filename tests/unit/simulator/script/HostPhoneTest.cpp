@@ -23,6 +23,12 @@ using doubles::Recorder;
 using host::Clock;
 using simulator::HostPhone;
 
+/// Empty where there is no screen.
+std::string wordsOf(const simulator::ScreenPtr& screen)
+{
+    return screen != nullptr ? screen->words.displayables : std::string();
+}
+
 /// A telephone whose loop runs, on the virtual clock.
 class HostPhoneTest : public testing::Test {
 protected:
@@ -46,17 +52,17 @@ protected:
 TEST_F(HostPhoneTest, DisplayablesAreAskedForOnTheGuiThread)
 {
     auto display = std::make_unique<Display>(new DisplayPrivateDouble);
-    EXPECT_EQ(phone->displayables(), "1");
-    EXPECT_EQ(phone->displayables(), "2");
+    EXPECT_EQ(wordsOf(phone->screen()), "1");
+    EXPECT_EQ(wordsOf(phone->screen()), "2");
     gui.call([&] { display.reset(); });
     EXPECT_EQ(Recorder::instance().last("display: serialise").thread, gui.threadId());
 }
 
 TEST_F(HostPhoneTest, WithoutADisplayThereAreNoDisplayables)
 {
-    EXPECT_EQ(phone->displayables(), "");
+    EXPECT_EQ(wordsOf(phone->screen()), "");
     gui.call([] { const Display gone(new DisplayPrivateDouble); });
-    EXPECT_EQ(phone->displayables(), "");
+    EXPECT_EQ(wordsOf(phone->screen()), "");
 }
 
 TEST_F(HostPhoneTest, DisplayMayComeAndGoWhileItIsAskedFor)
@@ -64,7 +70,7 @@ TEST_F(HostPhoneTest, DisplayMayComeAndGoWhileItIsAskedFor)
     std::atomic<bool> isOver = false;
     test::Worker script([&] {
         while (!isOver)
-            phone->displayables();
+            wordsOf(phone->screen());
     });
     for (int round = 0; round < 200; ++round)
         gui.call([] { const Display display(new DisplayPrivateDouble); });
@@ -86,7 +92,7 @@ TEST_F(HostPhoneTest, WhoIsGoneIsNotAsked)
 {
     phone->leave();
     EXPECT_FALSE(phone->isThere());
-    EXPECT_EQ(phone->displayables(), "");
+    EXPECT_EQ(wordsOf(phone->screen()), "");
 }
 
 TEST_F(HostPhoneTest, AdvanceMovesTheClockByExactlyThat)
@@ -137,7 +143,7 @@ TEST_F(HostPhoneStopTest, WhoAsksALoopThatStandsStillIsLetGoWhenTheTelephoneGoes
 {
     HostPhone phone(*host::Lcd::current());
     std::string answer = "none";
-    test::Worker script([&] { answer = phone.displayables(); });
+    test::Worker script([&] { answer = wordsOf(phone.screen()); });
     gui.waitForQueued(1);
     EXPECT_TRUE(script.isBlocked());
     phone.leave();
@@ -149,7 +155,7 @@ TEST_F(HostPhoneStopTest, LateAnswerIsNobodys)
 {
     HostPhone phone(*host::Lcd::current());
     Display display(new DisplayPrivateDouble);
-    test::Worker script([&] { EXPECT_EQ(phone.displayables(), ""); });
+    test::Worker script([&] { EXPECT_EQ(wordsOf(phone.screen()), ""); });
     gui.waitForQueued(1);
     phone.leave();
     script.join();

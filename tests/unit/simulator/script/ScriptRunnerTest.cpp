@@ -26,7 +26,23 @@ public:
     bool release(PegKey key) override { return note("up " + std::to_string(key)), takesKeys && !isGone; }
     void pass(std::int64_t time) override { note("pass " + std::to_string(time)); }
     bool advance(std::int64_t time) override { return note("advance " + std::to_string(time)), hasVirtualClock; }
-    std::string displayables() override { return "object:\nname:List\nstring0:" + text + "\nend:\n"; }
+
+    ScreenPtr screen() override
+    {
+        return std::make_shared<Screen>(Screen{1, {"object:\nname:List\nstring0:" + text + "\nend:\n", {}}, picture()});
+    }
+
+    std::optional<std::string> waitFor(const ScreenCondition& condition, milliseconds limit) override
+    {
+        const auto end = std::chrono::steady_clock::now() + limit;
+        std::string difference = condition.differenceOf(*screen());
+        for (; !difference.empty() && !isGone && std::chrono::steady_clock::now() < end;
+             difference = condition.differenceOf(*screen()))
+            if (nextFrame)
+                nextFrame();
+        return difference.empty() ? std::nullopt : std::optional(difference);
+    }
+
     bool settle(const std::function<void()>& tell) override
     {
         return (standsStill ? tell() : void()), comesToRest && !isGone;
@@ -43,12 +59,6 @@ public:
         if (!text.empty())
             picture.texts.push_back({{0, 0, 7, 7}, text, true, false});
         return picture;
-    }
-
-    void waitForFrame(milliseconds) override
-    {
-        if (nextFrame)
-            nextFrame();
     }
 
     void note(const std::string& line)

@@ -54,6 +54,20 @@ TEST_F(KeyPadTest, KeyGoesDownAndUp)
     EXPECT_EQ(keys(), "+*-*");
 }
 
+TEST_F(KeyPadTest, KeyThatIsDownIsPressedAgain)
+{
+    pad.again(PK_STAR);
+    pad.down(&one, PK_STAR);
+    pad.again(PK_STAR);
+    EXPECT_EQ(keys(), "+*+*");
+}
+
+TEST_F(KeyPadTest, KeyThatIsNotTakenIsTold)
+{
+    toolkit.quit();
+    EXPECT_FALSE(pad.down(&one, PK_STAR));
+}
+
 TEST_F(KeyPadTest, KeyIsUpWhenTheLastPageLetsGo)
 {
     pad.down(&one, PK_STAR);

@@ -1,0 +1,74 @@
+#include "simulator/rpc/RpcPhone.h"
+
+#include "host/clock/Clock.h"
+#include "host/frontend/Wire.h"
+#include "simulator/core/HeldKey.h"
+#include "simulator/rpc/RpcError.h"
+
+namespace simulator {
+
+namespace {
+
+/// A GUI thread that does not come back by then stands still for good.
+constexpr std::chrono::seconds PATIENCE(10);
+
+} // namespace
+
+ScreenPtr RpcPhone::screen()
+{
+    if (ScreenPtr screen = mReader.read(PATIENCE))
+        return screen;
+    if (!mReader.isThere())
+        throw RpcError(RpcError::HAS_ENDED, "the application has ended");
+    throw RpcError(RpcError::NO_ANSWER, "the application does not answer: its GUI thread stands still");
+}
+
+void RpcPhone::press(Client client, PegKey key)
+{
+    down(client, key);
+    up(client, key);
+}
+
+void RpcPhone::down(Client client, PegKey key)
+{
+    if (!mKeys.down(client, key))
+        throw RpcError(RpcError::NOT_TAKEN, "the telephone does not take the key");
+}
+
+void RpcPhone::up(Client client, PegKey key)
+{
+    mKeys.up(client, key);
+}
+
+/// A real clock's keys are pressed again by the key pad.
+void RpcPhone::hold(Client client, PegKey key, std::int64_t milliseconds)
+{
+    const bool isVirtual = host::Clock::instance().isVirtual();
+    const auto pauses = isVirtual ? pausesOfHeld(key, milliseconds) : std::vector{milliseconds};
+    down(client, key);
+    pass(pauses.front());
+    for (std::size_t i = 1; i < pauses.size(); ++i) {
+        mKeys.again(key);
+        pass(pauses[i]);
+    }
+    up(client, key);
+}
+
+void RpcPhone::advance(std::int64_t milliseconds)
+{
+    if (!mClock.advance(milliseconds))
+        throw RpcError(RpcError::REAL_CLOCK, "the telephone's clock is not a virtual one");
+}
+
+void RpcPhone::say(const std::string& wire, const std::string& line)
+{
+    if (const std::string refusal = host::Wire::say(wire, line); !refusal.empty())
+        throw RpcError(RpcError::REFUSED, refusal);
+}
+
+void RpcPhone::pass(std::int64_t milliseconds)
+{
+    mClock.pass(milliseconds);
+}
+
+} // namespace simulator

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "simulator/core/PhoneClock.h"
+#include "simulator/core/ScreenReader.h"
+#include "simulator/web/KeyPad.h"
+
+namespace simulator {
+
+/// The telephone as clients have it: each operation waits until the GUI thread has come to it, and is an RpcError where
+/// nothing comes of it. Safe from any thread but the GUI thread.
+class RpcPhone {
+public:
+    /// Whatever tells one client from another: what it held is let go when it leaves.
+    using Client = KeyPad::Page;
+
+    /// They have to outlive it.
+    RpcPhone(ScreenReader& reader, PhoneClock& clock, KeyPad& keys) : mReader(reader), mClock(clock), mKeys(keys) {}
+
+    /// As it is when all that is queued by now has been handled.
+    ScreenPtr screen();
+
+    /// Presses a key and lets it go.
+    void press(Client client, PegKey key);
+
+    void down(Client client, PegKey key);
+    void up(Client client, PegKey key);
+
+    /// For so long on the telephone's clock.
+    void hold(Client client, PegKey key, std::int64_t milliseconds);
+
+    void pass(std::int64_t milliseconds);
+
+    /// Moves the virtual clock.
+    void advance(std::int64_t milliseconds);
+
+    /// Says a line to a wire of the program.
+    void say(const std::string& wire, const std::string& line);
+    void leave(Client client) { mKeys.leave(client); }
+
+private:
+    ScreenReader& mReader;
+    PhoneClock& mClock;
+    KeyPad& mKeys;
+};
+
+} // namespace simulator

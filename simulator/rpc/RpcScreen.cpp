@@ -1,0 +1,28 @@
+#include "simulator/rpc/RpcScreen.h"
+
+#include "host/Phone.h"
+#include "simulator/rpc/RpcDispatcher.h"
+#include "simulator/screen/ScreenText.h"
+
+#include <nlohmann/json.hpp>
+
+namespace simulator {
+
+Json screenAnswer(const Screen& screen)
+{
+    Json answer = {{"number", screen.number}, {"language", screen.words.language}};
+    answer.update(screenForm(screen.picture, nameOf(host::variant())));
+    answer["text"] = screenText(screen.words.displayables, screen.picture.texts);
+    return answer;
+}
+
+RpcRendering::Text RpcRendering::of(const ScreenPtr& screen)
+{
+    const std::lock_guard lock(mMutex);
+    if (mScreen != screen)
+        mText = std::make_shared<const std::string>(RpcDispatcher::toText(screenAnswer(*screen)));
+    mScreen = screen;
+    return mText;
+}
+
+} // namespace simulator

@@ -1,0 +1,154 @@
+#include "simulator/core/ScreenWatch.h"
+
+#include "host/toolkit/MessagePool.h"
+#include "unit/simulator/rpc/RpcTest.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using simulator::ScreenCondition;
+using simulator::ScreenWatch;
+using std::chrono::milliseconds;
+using testing::ElementsAre;
+using Verdict = ScreenWatch::Verdict;
+
+class ScreenWatchTest : public test::RpcTest {
+protected:
+    std::future<Verdict> waitFor(int count, std::uint64_t since, milliseconds limit)
+    {
+        const auto verdict = std::make_shared<std::promise<Verdict>>();
+        const ScreenCondition condition{ScreenCondition::What::SCREEN, ScreenCondition::Match::EQUAL, screenOf(count)};
+        EXPECT_TRUE(
+            watch->waitFor(this, condition, since, limit, [verdict](const Verdict& v) { verdict->set_value(v); }));
+        return verdict->get_future();
+    }
+
+    Verdict verdictOn(int count, std::uint64_t since, milliseconds limit = test::PATIENCE)
+    {
+        return waitFor(count, since, limit).get();
+    }
+};
+
+TEST_F(ScreenWatchTest, WhatHoldsAlreadyHolds)
+{
+    const Verdict verdict = verdictOn(0, 0);
+    EXPECT_EQ(verdict.end, ScreenWatch::End::HELD);
+    EXPECT_EQ(verdict.screen->number, 1u);
+}
+
+TEST_F(ScreenWatchTest, EveryChangeIsJudged)
+{
+    auto verdict = waitFor(1, 0, test::PATIENCE);
+    for (int i = 0; i < 20; ++i) {
+        change();
+        EXPECT_TRUE(toolkit.waitUntilIdle());
+    }
+    EXPECT_EQ(verdict.get().screen->words.displayables, screenOf(1));
+}
+
+TEST_F(ScreenWatchTest, WhatWasBeforeDoesNotCount)
+{
+    verdictOn(0, 0);
+    change();
+    EXPECT_EQ(verdictOn(0, 0, milliseconds(1)).end, ScreenWatch::End::LAPSED);
+    EXPECT_EQ(verdictOn(0, 2, milliseconds(1)).end, ScreenWatch::End::LAPSED);
+    EXPECT_EQ(verdictOn(0, 1).screen->number, 1u);
+}
+
+TEST_F(ScreenWatchTest, TimeOutTellsTheLastScreenAndWhatDiffers)
+{
+    const Verdict verdict = verdictOn(7, 0, milliseconds(1));
+    EXPECT_EQ(verdict.end, ScreenWatch::End::LAPSED);
+    ASSERT_NE(verdict.screen, nullptr);
+    EXPECT_EQ(verdict.screen->number, 1u);
+    EXPECT_EQ(verdict.difference, "- string0:7\n+ string0:0\n");
+}
+
+TEST_F(ScreenWatchTest, WhatHasChangedWithoutAFrameHoldsWhenTimeIsOver)
+{
+    EXPECT_TRUE(test::becomesTrue([this] { // a first look that comes late is the last one too
+        auto verdict = waitFor(thing->count + 1, 0, milliseconds(50));
+        reader->read(test::PATIENCE);
+        ++thing->count;
+        return verdict.get().end == ScreenWatch::End::HELD;
+    }));
+}
+
+TEST_F(ScreenWatchTest, WhoFindsNoRoomIsNotToldThatTheTelephoneHasGone)
+{
+    const host::MessagePool::Drained drained;
+    const Verdict verdict = verdictOn(0, 0);
+    EXPECT_EQ(verdict.end, ScreenWatch::End::LAPSED);
+    EXPECT_EQ(verdict.screen, nullptr);
+}
+
+TEST_F(ScreenWatchTest, WhoIsNotShownAScreenIsNotAnsweredWithAnOldOne)
+{
+    watch.reset();
+    watch.emplace(*reader, milliseconds(1));
+    change();
+    reader->read(test::PATIENCE);
+    test::Gate gate;
+    toolkit.post([&] { gate.wait(); });
+    EXPECT_EQ(verdictOn(7, 0, milliseconds(1)).screen, nullptr);
+    gate.open();
+    EXPECT_TRUE(toolkit.waitUntilIdle());
+}
+
+TEST_F(ScreenWatchTest, TimeOutNeedsNoGuiThread)
+{
+    watch.reset();
+    watch.emplace(*reader, milliseconds(1));
+    test::Gate gate;
+    toolkit.post([&] { gate.wait(); });
+    const Verdict verdict = verdictOn(0, 0, milliseconds(1));
+    EXPECT_EQ(verdict.end, ScreenWatch::End::LAPSED);
+    EXPECT_EQ(verdict.screen, nullptr);
+    gate.open();
+    EXPECT_TRUE(toolkit.waitUntilIdle());
+}
+
+TEST_F(ScreenWatchTest, ManyAreRemembered)
+{
+    for (std::size_t i = 0; i < ScreenWatch::REMEMBERED + 10; ++i) {
+        change();
+        reader->read(test::PATIENCE);
+    }
+    EXPECT_EQ(verdictOn(0, 1, milliseconds(1)).end, ScreenWatch::End::LAPSED);
+    EXPECT_EQ(verdictOn(20, 1).screen->words.displayables, screenOf(20));
+}
+
+TEST_F(ScreenWatchTest, EndIsTold)
+{
+    auto verdict = waitFor(7, 0, test::PATIENCE);
+    watch->end();
+    EXPECT_EQ(verdict.get().end, ScreenWatch::End::GONE);
+    EXPECT_EQ(verdictOn(0, 0).end, ScreenWatch::End::GONE);
+}
+
+TEST_F(ScreenWatchTest, ListenerHearsOfWhatHasBeenMeanwhile)
+{
+    const auto first = reader->read(test::PATIENCE)->number;
+    change();
+    verdictOn(1, 0);
+    std::vector<std::uint64_t> numbers;
+    watch->subscribe(this, first, [&](const auto& screen) { numbers.push_back(screen->number); });
+    change();
+    verdictOn(2, 0);
+    watch->leave(this);
+    change();
+    verdictOn(3, 0);
+    EXPECT_THAT(numbers, ElementsAre(2, 3));
+}
+
+TEST_F(ScreenWatchTest, WhoHasLeftIsNotCalled)
+{
+    auto verdict = waitFor(1, 0, test::PATIENCE);
+    watch->leave(this);
+    change();
+    verdictOn(1, 0);
+    EXPECT_THROW(verdict.get(), std::future_error);
+}
+
+} // namespace
