@@ -55,13 +55,14 @@ double posts(int producers)
 
 std::vector<Case> asioCases()
 {
-    return {{UNPINNED, "asio", "ns",
-             [] {
-                 Loop loop;
-                 return nanosecondsEach(ROUND_TRIPS, [&] { loop.call(); });
-             }},
-            {ONE_PRODUCER, "asio", "M/s", [] { return posts(1); }},
-            {TWO_PRODUCERS, "asio", "M/s", [] { return posts(2); }}};
+    std::vector<Case> cases{{UNPINNED, "asio", "ns",
+                             [] {
+                                 Loop loop;
+                                 return nanosecondsEach(ROUND_TRIPS, [&] { loop.call(); });
+                             }},
+                            {ONE_PRODUCER, "asio", "M/s", [] { return posts(1); }},
+                            {TWO_PRODUCERS, "asio", "M/s", [] { return posts(2); }}};
+    return cases + payloadCasesOf<Loop>("asio");
 }
 
 } // namespace bench

@@ -1,6 +1,7 @@
 #include "Cases.h"
 
 #include "apps/deskphone/Desk.h"
+#include "apps/deskphone/Memory.h"
 #include "apps/exchange/Exchange.h"
 #include "apps/exchange/HostClock.h"
 #include "host/clock/Clock.h"
@@ -35,7 +36,8 @@ public:
     {
         Used used;
         DisplayAPI::kit::Phone phone({.hardware = "plain"});
-        deskphone::Desk desk(phone.display(), mExchange, "en", {});
+        deskphone::Memory memory;
+        deskphone::Desk desk(phone.display(), mExchange, "en", memory);
         std::thread user([&] {
             const auto start = Clock::now();
             call(FIRST_CALLS);

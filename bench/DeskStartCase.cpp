@@ -2,6 +2,7 @@
 
 #include "apps/deskphone/CallStore.h"
 #include "apps/deskphone/Desk.h"
+#include "apps/deskphone/Memory.h"
 #include "apps/exchange/Exchange.h"
 #include "apps/exchange/HostClock.h"
 #include "host/input/Keyboard.h"
@@ -70,7 +71,8 @@ double untilLogIsShown()
     exchange::Exchange exchange(exchange::Numbers::parse("bench", ""), clock);
     DisplayAPI::kit::Phone phone({.hardware = "plain"});
     const auto start = Clock::now();
-    deskphone::Desk desk(phone.display(), exchange, "en", state.folder());
+    deskphone::Memory memory(state.folder());
+    deskphone::Desk desk(phone.display(), exchange, "en", memory);
     std::thread user([&] {
         waitUntilShows("Line 1");
         host::Keyboard::instance().press(PK_OK);

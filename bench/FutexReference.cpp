@@ -11,7 +11,10 @@ namespace bench {
 
 namespace {
 
-/// Two threads that hand one futex word to and fro: what a blocking round trip costs at the least.
+enum class Way { SLEEP, SPIN };
+
+/// Two threads that hand one word to and fro: what a round trip costs at the least, blocking or spinning.
+template <Way WAY>
 class PingPong {
 public:
     double run(Seats seats)
@@ -39,13 +42,15 @@ private:
     void hand(int value)
     {
         mWord.store(value, std::memory_order_release);
-        futex(FUTEX_WAKE_PRIVATE, 1);
+        if (WAY == Way::SLEEP)
+            futex(FUTEX_WAKE_PRIVATE, 1);
     }
 
     void waitFor(int value)
     {
         while (mWord.load(std::memory_order_acquire) != value)
-            futex(FUTEX_WAIT_PRIVATE, 1 - value);
+            if (WAY == Way::SLEEP)
+                futex(FUTEX_WAIT_PRIVATE, 1 - value);
     }
 
     std::atomic<int> mWord{0};
@@ -55,8 +60,13 @@ private:
 
 std::vector<Case> futexCases()
 {
-    return {{PINNED, "reference: one futex word", "ns", [] { return PingPong().run(ONE_CPU); }},
-            {UNPINNED, "reference: one futex word", "ns", [] { return PingPong().run(FREE); }}};
+    const auto blocking = [](Seats seats) { return [=] { return PingPong<Way::SLEEP>().run(seats); }; };
+    const auto spinning = [](Seats seats) { return [=] { return PingPong<Way::SPIN>().run(seats); }; };
+    return {{PINNED, FUTEX, "ns", blocking(ONE_CPU)},
+            {UNPINNED, FUTEX, "ns", blocking(FREE)},
+            {UNPINNED, SPINNING, "ns", spinning(FREE)},
+            {PINNED_APART, FUTEX, "ns", blocking(TWO_CPUS)},
+            {PINNED_APART, SPINNING, "ns", spinning(TWO_CPUS)}};
 }
 
 } // namespace bench

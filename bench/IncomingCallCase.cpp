@@ -2,6 +2,7 @@
 #include "Frames.h"
 
 #include "apps/deskphone/Desk.h"
+#include "apps/deskphone/Memory.h"
 #include "apps/exchange/Exchange.h"
 #include "apps/exchange/HostClock.h"
 #include "host/lcd/Lcd.h"
@@ -58,7 +59,8 @@ private:
     void run(std::promise<void>& ready)
     {
         DisplayAPI::kit::Phone phone({.hardware = "plain"});
-        deskphone::Desk desk(phone.display(), mExchange, "en", {});
+        deskphone::Memory memory;
+        deskphone::Desk desk(phone.display(), mExchange, "en", memory);
         mPhone = &phone;
         desk.open();
         ready.set_value();

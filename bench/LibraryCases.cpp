@@ -1,53 +1,14 @@
-#include "Cases.h"
+#include "Counter.h"
 #include "Phone.h"
 
 #include "DisplayAPI/Command.h"
 #include "DisplayAPI/CommandListener.h"
-#include "DisplayAPI/GuiRequestEvent.h"
 
 #include <atomic>
-#include <cstdio>
-#include <cstdlib>
 
 namespace bench {
 
 namespace {
-
-/// The smallest facade: a value to ask for and an event to post.
-class Counter : public DisplayAPI::Widget {
-public:
-    int value()
-    {
-        int result = -1;
-        auto* request = new DisplayAPI::GuiRequestEvent(this, VALUE);
-        request->returnValue3 = &result;
-        postEvent(request);
-        return result;
-    }
-
-    void count() { postEventAsync(COUNT); }
-
-    void processGuiRequest(DisplayAPI::GuiRequestEvent& request) override
-    {
-        if (request.getType() == VALUE)
-            *static_cast<int*>(request.returnValue3) = mCount;
-        else
-            ++mCount;
-        signalComplete(request);
-    }
-
-private:
-    enum { VALUE = 1, COUNT = 2 };
-    int mCount = 0;
-};
-
-void require(bool fact, const char* what)
-{
-    if (fact)
-        return;
-    std::fprintf(stderr, "benchmark broken: %s\n", what);
-    std::exit(1);
-}
 
 double posts(int producers)
 {
@@ -108,6 +69,7 @@ std::vector<Case> libraryCases()
 {
     return {{PINNED, "DisplayAPI", "ns", [] { return libraryCall(ONE_CPU, ROUND_TRIPS); }},
             {UNPINNED, "DisplayAPI", "ns", [] { return libraryCall(FREE, ROUND_TRIPS); }},
+            {PINNED_APART, "DisplayAPI", "ns", [] { return libraryCall(TWO_CPUS, ROUND_TRIPS); }},
             {ONE_PRODUCER, "DisplayAPI", "M/s", [] { return posts(1); }},
             {TWO_PRODUCERS, "DisplayAPI", "M/s", [] { return posts(2); }},
             {NOTIFICATIONS, "DisplayAPI", "M/s", [] { return notifications(); }}};

@@ -87,13 +87,14 @@ double posts(int producers)
 
 std::vector<Case> libuvCases()
 {
-    return {{UNPINNED, "libuv", "ns",
-             [] {
-                 Loop loop;
-                 return nanosecondsEach(ROUND_TRIPS, [&] { loop.call(); });
-             }},
-            {ONE_PRODUCER, "libuv", "M/s", [] { return posts(1); }},
-            {TWO_PRODUCERS, "libuv", "M/s", [] { return posts(2); }}};
+    std::vector<Case> cases{{UNPINNED, "libuv", "ns",
+                             [] {
+                                 Loop loop;
+                                 return nanosecondsEach(ROUND_TRIPS, [&] { loop.call(); });
+                             }},
+                            {ONE_PRODUCER, "libuv", "M/s", [] { return posts(1); }},
+                            {TWO_PRODUCERS, "libuv", "M/s", [] { return posts(2); }}};
+    return cases + payloadCasesOf<Loop>("libuv");
 }
 
 } // namespace bench

@@ -22,9 +22,20 @@ struct Case {
     std::function<double()> run;
 };
 
+/// A case of `group` in proportion to the best of its peers there, round by round.
+struct Goal {
+    enum Kind { AT_LEAST, AT_MOST };
+
+    std::string group;
+    std::string name;
+    std::vector<std::string> peers; ///< none: the figure itself
+    Kind kind;
+    double value;
+};
+
 /// Runs every case once per round, all cases in turn, so that what disturbs one disturbs its peers as well; then prints
-/// the minimum, median and maximum of each.
-void measure(const std::vector<Case>& cases, int rounds);
+/// the minimum, median and maximum of each, and of the goals whose cases have run.
+void measure(const std::vector<Case>& cases, const std::vector<Goal>& goals, int rounds);
 
 /// The figures that `program` prints, `count` of them; -1 in the place of those that it does not.
 std::vector<double> figuresOf(const std::string& program, std::size_t count);

@@ -14,7 +14,7 @@ namespace {
 /// The textbook loop: a mutex, a condition variable, a deque of functions.
 class Loop {
 public:
-    explicit Loop(Seats seats)
+    explicit Loop(Seats seats = FREE)
         : mThread([this, seats] {
               pinTo(seats.loop);
               run();
@@ -66,7 +66,7 @@ private:
 
 double posts(int producers)
 {
-    Loop loop(FREE);
+    Loop loop;
     std::atomic<int> done{0};
     const auto start = Clock::now();
     runProducers(producers, [&](int) {
@@ -89,10 +89,12 @@ double textbookCall(Seats seats, int calls)
 std::vector<Case> mutexLoopCases()
 {
     const char* const name = TEXTBOOK;
-    return {{PINNED, name, "ns", [] { return textbookCall(ONE_CPU, ROUND_TRIPS); }},
-            {UNPINNED, name, "ns", [] { return textbookCall(FREE, ROUND_TRIPS); }},
-            {ONE_PRODUCER, name, "M/s", [] { return posts(1); }},
-            {TWO_PRODUCERS, name, "M/s", [] { return posts(2); }}};
+    std::vector<Case> cases{{PINNED, name, "ns", [] { return textbookCall(ONE_CPU, ROUND_TRIPS); }},
+                            {PINNED_APART, name, "ns", [] { return textbookCall(TWO_CPUS, ROUND_TRIPS); }},
+                            {UNPINNED, name, "ns", [] { return textbookCall(FREE, ROUND_TRIPS); }},
+                            {ONE_PRODUCER, name, "M/s", [] { return posts(1); }},
+                            {TWO_PRODUCERS, name, "M/s", [] { return posts(2); }}};
+    return cases + payloadCasesOf<Loop>(name);
 }
 
 } // namespace bench

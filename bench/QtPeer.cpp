@@ -65,13 +65,14 @@ double posts(int producers)
 
 std::vector<Case> qtCases()
 {
-    return {{UNPINNED, "Qt, BlockingQueuedConnection", "ns",
-             [] {
-                 Loop loop;
-                 return nanosecondsEach(ROUND_TRIPS, [&] { loop.call(); });
-             }},
-            {ONE_PRODUCER, "Qt, queued invokeMethod", "M/s", [] { return posts(1); }},
-            {TWO_PRODUCERS, "Qt, queued invokeMethod", "M/s", [] { return posts(2); }}};
+    std::vector<Case> cases{{UNPINNED, "Qt, BlockingQueuedConnection", "ns",
+                             [] {
+                                 Loop loop;
+                                 return nanosecondsEach(ROUND_TRIPS, [&] { loop.call(); });
+                             }},
+                            {ONE_PRODUCER, "Qt, queued invokeMethod", "M/s", [] { return posts(1); }},
+                            {TWO_PRODUCERS, "Qt, queued invokeMethod", "M/s", [] { return posts(2); }}};
+    return cases + payloadCasesOf<Loop>("Qt, queued invokeMethod");
 }
 
 } // namespace bench

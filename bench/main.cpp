@@ -9,32 +9,17 @@ namespace {
 
 std::vector<bench::Case> allCases(const std::string& directory)
 {
-    std::vector<std::vector<bench::Case>> sources{bench::libraryCases(),
-                                                  bench::neighbourCases(),
-                                                  bench::listCases(),
-                                                  bench::menuCases(),
-                                                  bench::dialerCases(),
-                                                  bench::popupCases(),
-                                                  bench::formCases(),
-                                                  bench::callLogCases(),
-                                                  bench::tabCases(),
-                                                  bench::treeCases(),
-                                                  bench::idleCases(),
-                                                  bench::desktopCases(),
-                                                  bench::callCases(),
-                                                  bench::callRowsCases(),
-                                                  bench::incomingCallCases(),
-                                                  bench::deskStartCases(),
-                                                  bench::deskCallsCases(),
-                                                  bench::repaintCases(),
-                                                  bench::screenTextCases(),
-                                                  bench::languageCases(),
-                                                  bench::observerCases(),
-                                                  bench::destroyingCases(),
-                                                  bench::firstFrameCases(directory),
-                                                  bench::heapCases(directory),
-                                                  bench::futexCases(),
-                                                  bench::mutexLoopCases()};
+    std::vector<std::vector<bench::Case>> sources{
+        bench::libraryCases(),       bench::payloadCases(),    bench::amongPostersCases(),
+        bench::neighbourCases(),     bench::listCases(),       bench::menuCases(),
+        bench::dialerCases(),        bench::popupCases(),      bench::formCases(),
+        bench::callLogCases(),       bench::tabCases(),        bench::searchListCases(),
+        bench::treeCases(),          bench::idleCases(),       bench::desktopCases(),
+        bench::callCases(),          bench::callRowsCases(),   bench::contactSearchCases(),
+        bench::incomingCallCases(),  bench::deskStartCases(),  bench::deskCallsCases(),
+        bench::repaintCases(),       bench::screenTextCases(), bench::languageCases(),
+        bench::observerCases(),      bench::destroyingCases(), bench::firstFrameCases(directory),
+        bench::heapCases(directory), bench::futexCases(),      bench::mutexLoopCases()};
 #ifdef BENCH_LIBUV
     sources.push_back(bench::libuvCases());
 #endif
@@ -46,6 +31,9 @@ std::vector<bench::Case> allCases(const std::string& directory)
 #endif
 #ifdef BENCH_QT
     sources.push_back(bench::qtCases());
+#endif
+#ifdef BENCH_QT_WIDGETS
+    sources.push_back(bench::listWidgetCases(directory));
 #endif
     std::vector<bench::Case> cases;
     for (const auto& source : sources)
@@ -80,6 +68,6 @@ int main(int argc, char** argv)
         return c.group.find(filter) == std::string::npos && c.name.find(filter) == std::string::npos;
     });
     sortByGroup(cases);
-    bench::measure(cases, rounds);
+    bench::measure(cases, bench::goals(), rounds);
     return 0;
 }

@@ -5,12 +5,10 @@
 #include "kit/OnGuiThread.h"
 
 #include "DisplayAPI/List.h"
-#include "utilities/Semaphore.h"
-#include "utilities/Wait.h"
 
 #include <cstdio>
 #include <malloc.h>
-#include <memory>
+#include <optional>
 #include <vector>
 
 namespace {
@@ -51,18 +49,18 @@ double bytesPerRow()
     return (heapInUse() - before) / ROWS;
 }
 
+class BareWidget : public DisplayAPI::Widget {
+public:
+    void processGuiRequest(DisplayAPI::GuiRequestEvent& request) override { signalComplete(request); }
+};
+
 /// What each facade has of its own whatever it shows: the request lock, the Wait object, the record that holds them.
 double bytesPerFacadeSynchronisation()
 {
-    struct Record {
-        std::unique_ptr<Semaphore> lock = std::make_unique<Semaphore>(Semaphore::AVAILABLE, 1, false);
-        std::unique_ptr<Wait> wait = std::make_unique<Wait>();
-    };
-    static_assert(sizeof(Record) == 2 * sizeof(void*));
-    std::vector<std::unique_ptr<Record>> records(ROWS);
+    std::vector<std::optional<BareWidget>> widgets(ROWS);
     const double before = heapInUse();
-    for (auto& record : records)
-        record = std::make_unique<Record>();
+    for (auto& widget : widgets)
+        widget.emplace();
     return (heapInUse() - before) / ROWS;
 }
 
