@@ -21,8 +21,11 @@ const std::string NO_MESSAGE = "wait 3000\n";
 /// The menu of the home screen begins with its first row.
 const std::string MENU = "key ok\n";
 
-/// The first setting of the third row of the menu.
-const std::string LANGUAGES = MENU + "key down\nkey down\nkey ok\n" + FIRST_ROW + "key ok\n" + FIRST_ROW;
+/// The choices of the first field of the third row of the menu.
+const std::string LANGUAGES = MENU + "key down\nkey down\nkey ok\nkey ok\n" + FIRST_ROW;
+
+/// Above the first field of a form.
+const std::string SAVE = "key up\nkey ok\n";
 
 constexpr int OTHER_TABS = 5;
 
@@ -38,10 +41,10 @@ std::string repeated(int count, const std::string& line)
 
 std::string dump(const std::string& name)
 {
-    return "dump --json " + name + ".json\n";
+    return "dump --json " + name + ".json\ndump " + name + ".txt\n";
 }
 
-/// "=exchange.4711.calls"
+/// "=exchange.4711.calls", or with another mark in front.
 std::string toLine(std::string word)
 {
     std::ranges::replace(word, '.', ' ');
@@ -83,7 +86,7 @@ std::string visit(const Screen& screen, bool fromTheRight)
     for (int row = 1; row < screen.rows; ++row)
         script += "key down\n" + dump(screen.name + '.' + std::to_string(row));
     if (!screen.path.empty())
-        script += "key left\n" + dump("from-" + screen.name);
+        script += "key left\n" + dump("from-" + screen.name) + screen.wayBack;
     // Nobody is called any more, and nobody waits.
     const bool hasCalls = std::ranges::any_of(screen.path, [](const Step& step) { return !step.line.empty(); });
     script += "key hook\n" + (hasCalls ? dump("hung-up-" + screen.name) + repeated(3, "wait 300\nkey hook\n") : "");
@@ -103,7 +106,10 @@ std::vector<Screen> readScreens(const std::string& fileName)
         if (line.starts_with('#') || !(words >> screen.name >> screen.rows))
             continue;
         for (std::string word; words >> word;)
-            screen.path.push_back(toStep(word));
+            if (word.front() == '<')
+                screen.wayBack += toLine(word);
+            else
+                screen.path.push_back(toStep(word));
         screens.push_back(screen);
     }
     return screens;
@@ -111,8 +117,7 @@ std::vector<Screen> readScreens(const std::string& fileName)
 
 std::string scriptThrough(const std::vector<Screen>& screens, int language, bool fromTheRight)
 {
-    std::string script =
-        LANGUAGES + repeated(language, "key down\n") + "key ok\n" + dump("language-chosen") + "key left\n";
+    std::string script = LANGUAGES + repeated(language, "key down\n") + "key ok\n" + SAVE + dump("language-chosen");
     for (const Screen& screen : screens)
         script += visit(screen, fromTheRight);
     return script;

@@ -19,6 +19,7 @@ struct Screen {
     std::string name;
     int rows = 0;
     std::vector<Step> path;
+    std::string wayBack = {}; ///< lines of a script to where left leads further; empty where it does from the screen
 };
 
 /// Reads a list of screens: see the file `screens`. Throws where it cannot be read.

@@ -4,6 +4,7 @@
 #include "variants/form/FormPrivate.h"
 #include "variants/form/SelectionFieldPrivate.h"
 #include "variants/form/SliderItemPrivate.h"
+#include "variants/form/TextFieldPrivate.h"
 #include "widgets/CheckBoxListItem.h"
 
 namespace {
@@ -48,6 +49,12 @@ protected:
         auto slider = std::make_unique<DisplayAPI::SliderItemPrivate>(label);
         slider->setValue(value);
         append(std::move(slider));
+    }
+
+    void appendText(const std::string& label, const char* text, DisplayAPI::TextField::FieldType type)
+    {
+        using DisplayAPI::TextField;
+        append(std::make_unique<DisplayAPI::TextFieldPrivate>(label, TextField::ICON_NONE, text, type));
     }
 
     Command mSave{"Save", Command::SAVE}, mCancel{"Cancel", Command::BACK};
@@ -124,6 +131,32 @@ TEST_P(FormPictures, MoreThanFitWithLabelsAbove)
         appendSlider(label, "42.50");
     press({PK_DOWN, PK_DOWN});
     expectScreen("form-labels-above");
+}
+
+TEST_P(FormPictures, TextsAreTyped)
+{
+    using DisplayAPI::TextField;
+    auto& form = show(Form::SHORT_LABELS);
+    form.setTitle("Contact");
+    appendText("Name", "Zoë Ångström of Gamla stan", TextField::NAME);
+    appendText("Number", "+49 30 123", TextField::TELEPHONE_NUMBER);
+    appendText("PIN", "1234", TextField::PASSWORD);
+    expectScreen("form-text-cursor");
+    press({PK_DOWN, PK_DOWN, '5'});
+    expectScreen("form-password");
+    press({PK_UP, PK_UP, PK_LEFT, '5'});
+    expectScreen("form-text-candidate");
+}
+
+TEST_P(FormPictures, TextsReadFromTheRight)
+{
+    using DisplayAPI::TextField;
+    mApplication.setLocale(text("ar"));
+    show(Form::LABELS_ABOVE);
+    appendText("الاسم", "زوي", TextField::TEXT);
+    appendText("الرقم", "030 123", TextField::NUMBER);
+    press({PK_RIGHT});
+    expectScreen("form-text-arabic");
 }
 
 TEST_P(FormPictures, ReadFromTheRight)

@@ -100,6 +100,50 @@ TEST_P(PopupPictures, HiddenCharacters)
     expectScreen("edit-hidden");
 }
 
+TEST_P(PopupPictures, SymbolsToChooseFrom)
+{
+    PopupBox& box = showBox("Note", {}, {"Save"});
+    auto* const line = new EditLine;
+    line->setKind(host::EditKind::TEXT);
+    line->setText(text("Zoë"));
+    box.setField(line);
+    test::press(*line, "*>>");
+    expectScreen("edit-symbols");
+}
+
+TEST_P(PopupPictures, SymbolsFromTheRight)
+{
+    useLanguage("ar");
+    PopupBox& box = showBox("ملاحظة", {}, {"حفظ"});
+    auto* const line = new EditLine;
+    line->setKind(host::EditKind::TEXT);
+    box.setField(line);
+    test::press(*line, "**<");
+    expectScreen("edit-symbols-arabic");
+}
+
+TEST_P(PopupPictures, CursorBetweenDirections)
+{
+    PopupBox& box = showBox("Name", {}, {"Save"});
+    auto* const line = new EditLine;
+    line->setKind(host::EditKind::NAME);
+    line->setText(text("Zoë (زوي 12)"));
+    box.setField(line);
+    test::press(*line, "<<<");
+    expectScreen("edit-two-directions");
+}
+
+TEST_P(PopupPictures, RefusedKeyBlinks)
+{
+    PopupBox& box = showBox("Time", {}, {"Save"});
+    auto* const line = new EditLine;
+    line->setKind(host::EditKind::TIME);
+    box.setField(line);
+    test::press(*line, "2359"
+                       "9");
+    expectScreen("edit-blinks");
+}
+
 TEST_P(PopupPictures, ColumnOfLines)
 {
     auto* const column = new host::ScrollingColumn;

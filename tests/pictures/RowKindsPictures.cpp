@@ -136,7 +136,8 @@ TEST_P(ListRepaint, OfPartsLeavesWhatAFullOneWould)
 {
     host::Lcd& lcd = *host::Lcd::current();
     for (int step = 0; step < 300; ++step) {
-        change();
+        for (int changes = chance.below(3); changes >= 0; --changes)
+            change();
         lcd.paint();
         const host::Picture partly = lcd.picture();
         list->Resize(list->Area());

@@ -7,7 +7,7 @@
 namespace test {
 
 /// What somebody does with a telephone who does not know what he wants, as lines of a script: presses and holds any of
-/// its keys, types, and waits, now and then for so long that what runs out has run out.
+/// its keys, types, and waits, now and then for so long that what runs out has run out. Now and then somebody calls.
 class RandomKeys {
 public:
     explicit RandomKeys(unsigned int seed) : mRandom(seed) {}
@@ -17,6 +17,7 @@ public:
 private:
     std::size_t below(std::size_t limit);
     std::string number();
+    std::string caller();
 
     std::mt19937 mRandom;
 };

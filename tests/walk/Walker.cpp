@@ -3,10 +3,15 @@
 #include "DisplayAPI/Display.h"
 #include "DisplayAPI/Displayable.h"
 #include "host/lcd/Geometry.h"
+#include "host/lcd/Lcd.h"
 #include "kit/OnGuiThread.h"
+#include "presentation/PRESCPresentationManager.h"
 #include "simulator/script/ScriptParser.h"
 #include "simulator/script/ScriptReport.h"
 #include "simulator/script/ScriptRunner.h"
+#include "widgets/KestrelListBox.h"
+
+#include <algorithm>
 
 namespace test {
 
@@ -20,6 +25,22 @@ constexpr int STEPS_AT_HOME = 3;
 
 /// Where the telephone is when nobody uses it, besides the screen that it begins with.
 constexpr const char* OTHER_HOME = "Desktop";
+
+bool standsOnRow(const KestrelListBox& list)
+{
+    const int row = list.currentRow();
+    return row >= (list.numItems() == 0 ? -1 : 0) && row < std::max(list.numItems(), 1);
+}
+
+bool standsOnRows(PegThing& thing)
+{
+    if (const auto* const list = dynamic_cast<const KestrelListBox*>(&thing); list != nullptr && !standsOnRow(*list))
+        return false;
+    for (PegThing* child = thing.First(); child != nullptr; child = child->NextSibling())
+        if (!standsOnRows(*child))
+            return false;
+    return true;
+}
 
 /// Keeps what goes wrong.
 class Complaints final : public simulator::ScriptReport {
@@ -60,7 +81,8 @@ std::string Walker::goHome()
     for (int atHome = 0; atHome <= STEPS_AT_HOME; ++steps) {
         if (steps == MOST_STEPS_HOME)
             return "left does not lead home";
-        if (std::string wrong = step("key left"); !wrong.empty())
+        const bool isInFields = mSight.name == "Form" && steps % 2 == 0;
+        if (std::string wrong = step(isInFields ? "key up" : "key left"); !wrong.empty())
             return wrong;
         if (atHome > 0 && !isHome(mSight))
             return "left leads away from home";
@@ -103,7 +125,24 @@ std::string Walker::complaint() const
         return mSight.name + " shows nothing";
     if (host::isEmpty(mPhone.picture().focus))
         return "nothing has the focus on " + mSight.name;
+    if (!DisplayAPI::kit::onGuiThread([] { return standsOnRows(*gpPresent); }).value_or(false))
+        return "a list stands on a row that it does not have, on " + mSight.name;
+    if (hasGhosts())
+        return "something else is left on the panel than there is to see of " + mSight.name;
     return {};
+}
+
+bool Walker::hasGhosts() const
+{
+    return DisplayAPI::kit::onGuiThread([] {
+               host::Lcd& panel = *host::Lcd::current();
+               panel.paint();
+               const host::Picture before = panel.picture();
+               panel.invalidate(host::rectAt(0, 0, panel.width(), panel.height()));
+               panel.paint();
+               return panel.picture().pixels != before.pixels;
+           })
+        .value_or(true);
 }
 
 } // namespace test

@@ -13,7 +13,8 @@ class Display;
 namespace test {
 
 /// Walks through the screens of a telephone, and says what is wrong after a step: it does not come to rest, nothing is
-/// on the screen, or nothing has the focus. Its thread is none of the telephone's.
+/// on the screen, nothing has the focus, a list stands on a row that it does not have, or the panel shows something
+/// else than a panel that is painted anew. Its thread is none of the telephone's.
 class Walker {
 public:
     /// Where the telephone is now is its home; so is its desktop.
@@ -22,7 +23,8 @@ public:
     /// Carries out one line of a script. Returns a sentence where something is wrong, else nothing.
     std::string step(const std::string& line);
 
-    /// Leads home by nothing but the left key, and stays there.
+    /// Leads home by the left key, and stays there. Out of a form, whose fields have a use for it, up leads to the
+    /// commands first.
     std::string goHome();
 
     /// The steps since it was at home last, the last one included: a script that repeats them.
@@ -43,6 +45,7 @@ private:
     bool isHome(const Sight& sight) const;
     std::string run(const std::string& line);
     std::string complaint() const;
+    bool hasGhosts() const;
 
     simulator::ScriptedPhone& mPhone;
     DisplayAPI::Display& mDisplay;

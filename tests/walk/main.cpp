@@ -3,6 +3,7 @@
 // Ends with 0 where nothing has gone wrong and left has led home, else with the keys that repeat it, as a script.
 
 #include "apps/deskphone/Desk.h"
+#include "apps/deskphone/Memory.h"
 #include "apps/deskphone/Network.h"
 #include "host/Phone.h"
 #include "host/clock/Clock.h"
@@ -52,9 +53,10 @@ void run(const Arguments& arguments)
 {
     host::setVariant(arguments.panel);
     host::Clock::instance().makeVirtual();
-    deskphone::Network network(deskphone::USUAL_NUMBERS);
+    deskphone::Memory memory;
+    deskphone::Network network(deskphone::USUAL_NUMBERS, memory.contacts());
     DisplayAPI::kit::Phone phone({.hardware = host::hardwareName(), .narrow = host::isNarrow()});
-    deskphone::Desk desk(phone.display(), network.telephony(), "en", {});
+    deskphone::Desk desk(phone.display(), network.telephony(), "en", memory);
     simulator::HostPhone keys(*host::Lcd::current());
     desk.open();
     std::thread walker([&] {
