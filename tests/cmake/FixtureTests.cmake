@@ -1,10 +1,16 @@
 # displayapi_fixture_tests(NAME): one CTest entry for each fixture of a GoogleTest program, "NAME.FIXTURE". A process for
 # each case would cost more than the cases. ctest itself asks the program when it runs, so that building stays quick.
+# With sanitizers, whose processes begin and end slowly, one for eight: "NAME.FIXTURE+7".
 function(displayapi_fixture_tests name)
+    set(at_once 1)
+    if(NOT DISPLAYAPI_SANITIZE STREQUAL "")
+        set(at_once 8)
+    endif()
     set(list ${CMAKE_CURRENT_BINARY_DIR}/${name}-fixtures.cmake)
     file(GENERATE OUTPUT ${list} CONTENT
 "set(NAME ${name})
 set(PROGRAM [==[$<TARGET_FILE:${name}>]==])
+set(AT_ONCE ${at_once})
 set(ENVIRONMENT [==[${DISPLAYAPI_TEST_ENVIRONMENT}]==])
 include([==[${PROJECT_SOURCE_DIR}/tests/cmake/ListFixtures.cmake]==])
 ")

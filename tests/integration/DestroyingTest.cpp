@@ -63,6 +63,9 @@ private:
 
 } // namespace
 
+/// What is queued ahead of the requests: the loop takes over all that has been queued until it is through with it.
+enum class Ahead { THE_DELETION, SOMETHING_ELSE_AND_THE_DELETION };
+
 TEST_P(DestroyingTest, NothingRunsOnAWidgetThatTheGuiThreadHasDeleted)
 {
     Chance chance(seed(), 0);
@@ -70,8 +73,11 @@ TEST_P(DestroyingTest, NothingRunsOnAWidgetThatTheGuiThreadHasDeleted)
     TestWidget bystander;
     int expected = 0;
     for (int round = 0; round < 50; ++round) {
+        const Ahead ahead = chance.below(2) == 0 ? Ahead::THE_DELETION : Ahead::SOMETHING_ELSE_AND_THE_DELETION;
         auto* const doomed = new TestWidget([](GuiRequestEvent&) { FAIL() << "carried out after its widget's end"; });
         std::latch queued(1);
+        if (ahead == Ahead::SOMETHING_ELSE_AND_THE_DELETION)
+            gui.post([&] { queued.wait(); });
         gui.post([&] {
             queued.wait();
             delete doomed;

@@ -72,18 +72,21 @@ TEST(AuditWalk, VisitsEachScreenAndEachOfItsRows)
 {
     const auto screens = audit::readScreens(fileWith("# a comment\nlog 2 0 1 0\n"));
     ASSERT_EQ(screens.size(), 1u);
-    EXPECT_THAT(
-        audit::scriptThrough(screens, 2, false),
-        HasSubstr("key ok\nkey down\nkey ok\nhold up 1500\nkey ok\nhold up 1500\ndump --json log.json\nkey down\n"
-                  "dump --json log.1.json\nkey left\ndump --json from-log.json\nkey hook\nkey left\n"));
+    EXPECT_THAT(audit::scriptThrough(screens, 2, false),
+                HasSubstr("key ok\nkey down\nkey ok\nhold up 1500\nkey ok\nhold up 1500\ndump --json log.json\ndump "
+                          "log.txt\nkey down\n"
+                          "dump --json log.1.json\ndump log.1.txt\nkey left\ndump --json from-log.json\ndump "
+                          "from-log.txt\nkey hook\nkey left\n"));
 }
 
 TEST(AuditWalk, AnotherKeyThanOkLeavesTheSelectionAlone)
 {
     const auto screens = audit::readScreens(fileWith("menu 1 0 0 1:right\n"));
     ASSERT_EQ(screens.size(), 1u);
-    EXPECT_THAT(audit::scriptThrough(screens, 0, false),
-                HasSubstr("key ok\nkey ok\nhold up 1500\nkey down\nkey right\ndump --json menu.json\nkey left\n"));
+    EXPECT_THAT(
+        audit::scriptThrough(screens, 0, false),
+        HasSubstr(
+            "key ok\nkey ok\nhold up 1500\nkey down\nkey right\ndump --json menu.json\ndump menu.txt\nkey left\n"));
 }
 
 TEST(AuditWalk, LineOfAScriptIsTakenAsItIs)
@@ -91,8 +94,9 @@ TEST(AuditWalk, LineOfAScriptIsTakenAsItIs)
     const auto screens = audit::readScreens(fileWith("held 1 0 =exchange.4711.holds =wait.200\n"));
     ASSERT_EQ(screens.size(), 1u);
     EXPECT_THAT(audit::scriptThrough(screens, 0, false),
-                HasSubstr("key ok\nexchange 4711 holds\nwait 200\ndump --json held.json\nkey left\n"
-                          "dump --json from-held.json\nkey hook\ndump --json hung-up-held.json\n"));
+                HasSubstr("key ok\nexchange 4711 holds\nwait 200\ndump --json held.json\ndump held.txt\nkey left\n"
+                          "dump --json from-held.json\ndump from-held.txt\nkey hook\ndump --json "
+                          "hung-up-held.json\ndump hung-up-held.txt\n"));
 }
 
 TEST(AuditWalk, NextTabStandsWhereTheLanguageGoesOn)
