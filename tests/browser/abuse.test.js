@@ -9,7 +9,7 @@ import { after, afterEach, before, beforeEach, describe, test } from "node:test"
 import WebSocket from "ws";
 import { openBrowser, Tab } from "./support/browser.js";
 import { pause } from "./support/figures.js";
-import { LIMIT, Phone, SUITE_LIMIT, until } from "./support/phone.js";
+import { LIMIT, PATIENCE, Phone, SUITE_LIMIT, until } from "./support/phone.js";
 
 describe("the socket", SUITE_LIMIT, () => {
   let browser, phone, tab, sockets;
@@ -130,7 +130,7 @@ describe("the socket", SUITE_LIMIT, () => {
       const client = await opened();
       client.send(message);
       await Promise.race([once(client, "close"), new Promise((_, reject) => setTimeout(
-        () => reject(new Error(`not closed after ${String(message).slice(0, 20)}`)), 10_000).unref())]);
+        () => reject(new Error(`not closed after ${String(message).slice(0, 20)}`)), PATIENCE).unref())]);
     }
     await stillWorks();
   });
@@ -172,8 +172,7 @@ describe("the socket", SUITE_LIMIT, () => {
     const before = memory();
     await tab.button("down").hover();
     await tab.page.mouse.down();
-    const isFarAway = async () => !(await tab.rows()).some((row) => row.includes("Zoë Ångström, home"));
-    await until(isFarAway, "the rows go by");
+    await tab.hides("Zoë Ångström, home");
     await new Promise((resolve) => setTimeout(resolve, 2_000));
     await tab.page.mouse.up();
     clearInterval(lying);

@@ -92,9 +92,10 @@ describe("the exchange", SUITE_LIMIT, () => {
 
   test("has a field for all else, which is empty once a line has been heard", LIMIT, async (t) => {
     const tab = await open(t);
-    await say(tab, '4799 "Eve Holt" calls line 2 for 500 ms');
+    await say(tab, '4799 "Eve Holt" calls line 2');
     await tab.shows("Eve Holt: incoming");
     await until(async () => (await field(tab).inputValue()) === "", "there is room for the next line");
+    await say(tab, "4799 ends");
     await tab.shows("Eve Holt: ended");
   });
 

@@ -57,7 +57,7 @@ describe("a session", SUITE_LIMIT, () => {
     await other.button("ok").click();
     await other.selects("Zoë Ångström, home");
     await one.page.keyboard.down("ArrowDown");
-    await other.shows("Jürgen Ångström, home");
+    await other.hides("Zoë Ångström, home");
     await one.close();
     await until(async () => {
       const row = await other.selected();
@@ -109,7 +109,7 @@ describe("a session", SUITE_LIMIT, () => {
   });
 
   test("tells that the application stands still, and when it goes on", LIMIT, async (t) => {
-    const phone = await start(t, { app: [program("misbehaving"), "stall", "8"] });
+    const phone = await start(t, { app: [program("misbehaving"), "stall", "100"] });
     const tab = await open(t, phone);
     await tab.selects("Do it");
     await tab.button("ok").click();
@@ -117,10 +117,10 @@ describe("a session", SUITE_LIMIT, () => {
     await tab.says(STANDS);
     assert.ok(Date.now() - begun >= 1_500, "what takes no two seconds is nothing to tell");
     assert.equal(await tab.state(), "standing");
-    // There is time for another tab, on a busy machine too.
     const late = await Tab.open(browser, phone.url, { connects: false });
     t.after(() => late.close());
     await late.says(STANDS);
+    process.kill(phone.applicationPid, "SIGUSR1");
     for (const each of [tab, late]) {
       await each.isConnected();
       await each.shows("It took its time");

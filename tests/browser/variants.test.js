@@ -59,7 +59,7 @@ describe("the panels", SUITE_LIMIT, () => {
 
       const expected = await panelByScript(browser, shot);
       assert.deepEqual([expected.width, expected.height], shot.size);
-      await until(async () => (await tab.levels()) === expected.levels, "the canvas shows the panel's pixels", 10_000);
+      await until(async () => (await tab.levels()) === expected.levels, "the canvas shows the panel's pixels");
 
       const canvas = await tab.page.locator("#panel").boundingBox();
       const frame = await tab.page.locator(".phone").boundingBox();

@@ -1,5 +1,6 @@
 // An application that does one thing wrong when the user chooses the first row: `misbehaving
-// crash|exit|exit-at-once|leave|linger|quit|stall [SECONDS]`. `deaf` never runs its loop, `never` does all well.
+// crash|exit|exit-at-once|leave|linger|quit|stall [SECONDS]`. `deaf` never runs its loop, `never` does all well. SIGUSR1
+// ends a stall.
 
 #include "DisplayAPI/Display.h"
 #include "DisplayAPI/List.h"
@@ -9,8 +10,12 @@
 #include "utilities/TranslationInfo.h"
 #include "utilities/TranslatorIfc.h"
 
+#include <cerrno>
 #include <chrono>
+#include <csignal>
 #include <cstdlib>
+#include <ctime>
+#include <semaphore.h>
 #include <string_view>
 #include <thread>
 #include <unistd.h>
@@ -19,6 +24,17 @@ using namespace DisplayAPI;
 
 namespace {
 
+sem_t endOfStall; // the only thing that a signal may wake
+
+void wait(std::chrono::seconds time)
+{
+    timespec end{};
+    clock_gettime(CLOCK_REALTIME, &end);
+    end.tv_sec += time.count();
+    while (sem_timedwait(&endOfStall, &end) != 0 && errno == EINTR) {
+    }
+}
+
 /// Keeps the GUI thread, which asks it for a text, waiting for seconds.
 class SlowTranslator : public TranslatorIfc {
 public:
@@ -26,7 +42,7 @@ public:
 
     std::string translate(const std::string&) override
     {
-        std::this_thread::sleep_for(mTime);
+        wait(mTime);
         return "It took its time";
     }
 
@@ -72,6 +88,8 @@ private:
 int main(int count, char** words)
 {
     const std::string_view way = words[1];
+    sem_init(&endOfStall, 0, 0);
+    std::signal(SIGUSR1, [](int) { sem_post(&endOfStall); });
     Widget::setGuiThreadId();
     Display display(host::hardwareName(), "en_GB", "dd.mm.yyyy", "24h", host::isNarrow(), nullptr);
     Wrongdoer wrongdoer(way, std::chrono::seconds(count > 2 ? std::atoi(words[2]) : 3));

@@ -1,7 +1,7 @@
 // A browser with tabs on a telephone's page.
 
 import { chromium } from "playwright-core";
-import { until } from "./phone.js";
+import { PATIENCE, until } from "./phone.js";
 
 const ARGUMENTS = [
   "--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run", "--disable-background-networking",
@@ -17,7 +17,7 @@ export class Tab {
   static async open(browser, url, { connects = true, ...options } = {}) {
     const tab = new Tab();
     tab.context = await browser.newContext({ viewport: { width: 1280, height: 720 }, ...options });
-    tab.context.setDefaultTimeout(20_000);
+    tab.context.setDefaultTimeout(PATIENCE);
     tab.page = await tab.context.newPage();
     tab.requests = [];
     tab.errors = [];
@@ -62,6 +62,11 @@ export class Tab {
 
   shows(text) {
     return until(async () => (await this.rows()).some((row) => row.includes(text)), `a row has "${text}"`);
+  }
+
+  /** What has gone stays away; a row that goes by may be gone again before a busy machine looks. */
+  hides(text) {
+    return until(async () => !(await this.rows()).some((row) => row.includes(text)), `no row has "${text}"`);
   }
 
   button(key) {
