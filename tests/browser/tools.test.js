@@ -36,7 +36,7 @@ describe("the tools", SUITE_LIMIT, () => {
 
   /** As levels of the panel; fails unless each of its pixels is a square of one colour. */
   async function panelIn(png) {
-    const { width, height, levels } = await levelsOf(browser, png);
+    const { width, height, levels } = levelsOf(png);
     let panel = "";
     for (let y = 0; y < height; ++y) {
       for (let x = 0; x < width; ++x) {

@@ -33,7 +33,7 @@ async function panelByScript(browser, shot) {
   try {
     execFileSync(program("phone"), ["--variant", shot.variant, "--script", "it.script", program("deskphone")],
                  { cwd: folder, timeout: 60_000, stdio: "pipe" });
-    return await levelsOf(browser, readFileSync(path.join(folder, "panel.png")));
+    return levelsOf(readFileSync(path.join(folder, "panel.png")));
   } finally {
     rmSync(folder, { recursive: true });
   }
@@ -88,7 +88,7 @@ describe("the panels", SUITE_LIMIT, () => {
                      height: expected.height };
       const wanted = expected.levels.replace(/[12]/g, "?");
       for (const picture of [file, reference]) {
-        const found = await darkOrLight(browser, readFileSync(picture), area);
+        const found = darkOrLight(readFileSync(picture), area);
         const differing = [...wanted].filter((level, i) => level !== "?" && level !== found[i]).length;
         assert.equal(differing, 0, `${differing} pixels of the panel differ in ${picture}`);
       }
