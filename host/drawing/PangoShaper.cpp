@@ -63,11 +63,12 @@ void PangoShaper::Canvas::copyTo(TextMask& mask) const
     cairo_surface_flush(surface);
     const unsigned char* pixels = cairo_image_surface_get_data(surface);
     const int stride = cairo_image_surface_get_stride(surface);
-    mask.ink.resize(static_cast<std::size_t>(mask.width * TextMask::HEIGHT));
-    auto* out = mask.ink.data();
-    for (int y = 0; y < TextMask::HEIGHT; ++y) {
-        for (int x = 0; x < mask.width; ++x)
-            *out++ = pixels[y * stride + x] >> 7;
+    mask.clear();
+    for (int y = 0; y < TextMask::HEIGHT; ++y, pixels += stride) {
+        int x = 0;
+        for (TextMask::Word& word : mask.row(y))
+            for (int bit = 0; bit < TextMask::WORD_BITS && x < mask.width; ++bit, ++x)
+                word |= static_cast<TextMask::Word>(pixels[x] >> 7) << bit;
     }
 }
 

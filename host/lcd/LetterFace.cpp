@@ -8,17 +8,16 @@ namespace host {
 
 namespace {
 
-/// One bit per pixel in the face's own form, the leftmost the highest.
-std::vector<std::uint8_t> inkOf(const FT_Bitmap& bitmap)
+/// In the face's own form the leftmost pixel is the highest bit.
+std::vector<TextMask::Word> rowsOf(const FT_Bitmap& bitmap)
 {
-    std::vector<std::uint8_t> ink;
-    ink.reserve(std::size_t{bitmap.rows} * bitmap.width);
+    std::vector<TextMask::Word> rows(bitmap.rows);
     for (unsigned y = 0; y < bitmap.rows; ++y) {
         const unsigned char* row = bitmap.buffer + static_cast<std::ptrdiff_t>(y) * bitmap.pitch;
         for (unsigned x = 0; x < bitmap.width; ++x)
-            ink.push_back(row[x / 8] >> (7 - x % 8) & 1);
+            rows[y] |= static_cast<TextMask::Word>(row[x / 8] >> (7 - x % 8) & 1) << x;
     }
-    return ink;
+    return rows;
 }
 
 /// Of a pixel, in which Pango reckons before it goes to the nearest one.
@@ -80,7 +79,8 @@ Letter LetterFace::load(char16_t character) const
     if (glyph == 0 || FT_Load_Glyph(mFace.get(), glyph, FT_LOAD_RENDER | FT_LOAD_TARGET_MONO) != 0)
         return {};
     const FT_GlyphSlot slot = mFace->glyph;
-    if (slot->bitmap.width != 0 && slot->bitmap.pixel_mode != FT_PIXEL_MODE_MONO)
+    const bool isMono = slot->bitmap.width == 0 || slot->bitmap.pixel_mode == FT_PIXEL_MODE_MONO;
+    if (!isMono || slot->bitmap.width > TextMask::WORD_BITS)
         return {};
     const long parts = partsOf(glyph);
     return {.glyph = glyph,
@@ -90,9 +90,7 @@ Letter LetterFace::load(char16_t character) const
             .advance = pixels(parts),
             .left = slot->bitmap_left,
             .top = slot->bitmap_top,
-            .width = static_cast<int>(slot->bitmap.width),
-            .height = static_cast<int>(slot->bitmap.rows),
-            .ink = inkOf(slot->bitmap)};
+            .rows = rowsOf(slot->bitmap)};
 }
 
 /// As the letter was designed, and not as it is drawn in this size.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/lcd/Scripts.h"
+#include "host/lcd/TextMask.h"
 
 #include <cstdint>
 #include <memory>
@@ -13,7 +14,7 @@ struct FT_FaceRec_;
 
 namespace host {
 
-/// A letter's ink, one byte per pixel, from where it is written.
+/// A letter's ink, from where it is written.
 struct Letter {
     unsigned glyph = 0; ///< 0 where the face has none
     Script script = Script::OTHER;
@@ -22,9 +23,7 @@ struct Letter {
     int advance = 0; ///< in whole pixels
     int left = 0;    ///< of the ink
     int top = 0;     ///< rows of ink above the base line
-    int width = 0;
-    int height = 0;
-    std::vector<std::uint8_t> ink{};
+    std::vector<TextMask::Word> rows{};
 };
 
 struct EndLibrary {

@@ -7,6 +7,7 @@
 #include "toolkit/PegThing.h"
 #include "utilities/ICC.h"
 
+#include <bit>
 #include <cstring>
 
 using namespace host;
@@ -40,6 +41,22 @@ int startOf(Align align, const PegRect& cell, int width)
     case Align::RIGHT: return cell.left + spare;
     }
     return cell.left;
+}
+
+/// The row's pixels from the first one to the last one, at `to` and behind it.
+void stencilRow(std::span<const TextMask::Word> row, int first, int last, std::uint8_t* to, Level level)
+{
+    constexpr int BITS = TextMask::WORD_BITS;
+    for (int word = first / BITS; word <= last / BITS; ++word) {
+        const int left = word * BITS;
+        TextMask::Word ink = row[static_cast<std::size_t>(word)];
+        if (first > left)
+            ink &= ~TextMask::Word{0} << (first - left);
+        if (last - left < BITS - 1)
+            ink &= (TextMask::Word{1} << (last - left + 1)) - 1;
+        for (; ink != 0; ink &= ink - 1)
+            to[left + std::countr_zero(ink) - first] = static_cast<std::uint8_t>(level);
+    }
 }
 
 std::string wholeText(const PegString& text)
@@ -152,7 +169,7 @@ void PegPainter::text(const PegRect& cell, const PegString& text, const TextLook
     const PegRect visible = intersection(box, cell);
     if (isClippedOut(visible))
         return;
-    stencil(mask.ink.data(), box, inkOf(look), cell);
+    stencil(mask, box, inkOf(look), cell);
     note(runOf(visible, text, look, mask));
 }
 
@@ -171,7 +188,7 @@ void PegPainter::scrolledText(const PegRect& cell, const PegString& text, const 
     if (isClippedOut(visible))
         return;
     for (const PegRect& place : {box, again})
-        stencil(mask.ink.data(), place, inkOf(look), cell);
+        stencil(mask, place, inkOf(look), cell);
     note(runOf(visible, text, look, mask));
 }
 
@@ -191,15 +208,10 @@ void PegPainter::note(TextRun run)
     mTexts.add(std::move(run));
 }
 
-void PegPainter::stencil(const unsigned char* ink, const PegRect& box, Level level, const PegRect& limits)
+void PegPainter::stencil(const TextMask& mask, const PegRect& box, Level level, const PegRect& limits)
 {
     const PegRect part = intersection(intersection(box, limits), mClip);
-    for (int y = part.top; y <= part.bottom; ++y) {
-        const unsigned char* from = ink + (y - box.top) * widthOf(box) + (part.left - box.left);
-        std::uint8_t* to = mBuffer.at(part.left, y);
-        for (int x = part.left; x <= part.right; ++x, ++from, ++to) {
-            if (*from != 0)
-                *to = static_cast<std::uint8_t>(level);
-        }
-    }
+    const int first = part.left - box.left, last = part.right - box.left;
+    for (int y = part.top; first <= last && y <= part.bottom; ++y)
+        stencilRow(mask.row(y - box.top), first, last, mBuffer.at(part.left, y), level);
 }

@@ -10,6 +10,7 @@ namespace host {
 class TextMap;
 class TextRenderer;
 struct Picture;
+struct TextMask;
 struct TextRun;
 
 enum class Align { LEFT, CENTRE, RIGHT };
@@ -70,7 +71,7 @@ public:
 private:
     void fillClipped(const PegRect& area, host::Level level);
     void note(host::TextRun run);
-    void stencil(const unsigned char* ink, const PegRect& box, host::Level level, const PegRect& limits);
+    void stencil(const host::TextMask& mask, const PegRect& box, host::Level level, const PegRect& limits);
 
     host::FrameBuffer& mBuffer;
     host::TextMap& mTexts;

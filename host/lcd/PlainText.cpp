@@ -16,18 +16,32 @@ std::string pathOf(const char* file, const std::vector<std::string>& folders)
     return {};
 }
 
-/// What is beyond the stencil's edges is lost.
+/// What is beyond the stencil's edges is lost, but for what the last words of its rows have room for.
 void putInk(TextMask& mask, const Letter& letter, int x)
 {
-    const int left = x + letter.left, top = TextMask::ASCENT - letter.top;
-    const int firstRow = std::max(0, -top), lastRow = std::min(letter.height, TextMask::HEIGHT - top);
-    const int first = std::max(0, -left), last = std::min(letter.width, mask.width - left);
-    for (int row = firstRow; row < lastRow; ++row) {
-        const std::uint8_t* from = letter.ink.data() + row * letter.width;
-        std::uint8_t* to = mask.ink.data() + (top + row) * mask.width + left;
-        for (int column = first; column < last; ++column)
-            to[column] |= from[column];
+    constexpr int BITS = TextMask::WORD_BITS;
+    const int left = std::max(0, x + letter.left), gone = std::max(0, -(x + letter.left));
+    const auto stride = mask.wordsPerRow(), word = static_cast<std::size_t>(left / BITS);
+    if (gone >= BITS || word >= stride)
+        return;
+    const int shift = left % BITS;
+    const bool goesOn = shift > 0 && word + 1 < stride;
+    const int top = TextMask::ASCENT - letter.top;
+    const int last = std::min(static_cast<int>(letter.rows.size()), TextMask::HEIGHT - top);
+    for (int row = std::max(0, -top); row < last; ++row) {
+        const TextMask::Word ink = letter.rows[static_cast<std::size_t>(row)] >> gone;
+        TextMask::Word* const to = &mask.ink[static_cast<std::size_t>(top + row) * stride + word];
+        to[0] |= ink << shift;
+        if (goesOn)
+            to[1] |= ink >> (BITS - shift);
     }
+}
+
+void cutOffBehindTheEnd(TextMask& mask)
+{
+    const int used = mask.width % TextMask::WORD_BITS;
+    for (int y = 0; used != 0 && y < TextMask::HEIGHT; ++y)
+        mask.row(y).back() &= (TextMask::Word{1} << used) - 1;
 }
 
 } // namespace
@@ -58,53 +72,62 @@ std::optional<TextMask> PlainText::draw(Font font, std::u16string_view text, int
             return {};
     }
     TextMask mask{.width = std::min(whole, width), .cut = whole > width, .ink = {}};
-    mask.ink.resize(static_cast<std::size_t>(mask.width * TextMask::HEIGHT));
+    mask.clear();
     for (const Place& place : *line)
         putInk(mask, *place.letter, place.begin);
+    cutOffBehindTheEnd(mask);
     return mask;
 }
 
 const PlainText::Line* PlainText::lay(Font font, std::u16string_view text)
 {
     if (mLaid.font != font || mLaid.text != text) {
+        const bool goesOn = mLaid.isPlain && mLaid.font == font;
+        const auto same = std::ranges::mismatch(mLaid.text, text).in1 - mLaid.text.begin();
         mLaid.font = font;
         mLaid.text = text;
-        mLaid.isPlain = layAnew(mLaid.line, faceOf(font), text);
+        mLaid.isPlain = layFrom(goesOn ? static_cast<std::size_t>(same) : 0, mLaid.line, faceOf(font), text);
     }
     return mLaid.isPlain ? &mLaid.line : nullptr;
 }
 
-bool PlainText::layAnew(Line& line, LetterFace& face, std::u16string_view text)
+/// What stands before `at` is in the line already. How wide the last of these is depends on what follows it.
+bool PlainText::layFrom(std::size_t at, Line& line, LetterFace& face, std::u16string_view text)
 {
-    line.clear();
+    line.resize(at);
     line.reserve(text.size());
-    for (const char16_t character : text) {
+    for (const char16_t character : text.substr(at)) {
         const Letter* const letter = face.letter(character);
         if (letter == nullptr)
             return false;
-        line.push_back({letter, 0, 0});
+        line.push_back({.letter = letter});
     }
-    return place(line, face);
+    const bool knowsScript = at > 0 && line[at - 1].script != Script::COMMON;
+    placeFrom(knowsScript ? at - 1 : 0, line, face);
+    return !needsShaper(line);
 }
 
-/// Letters of two scripts stand apart. Which script a closing bracket between them is of depends on the opening one:
-/// such a line is not for here.
-bool PlainText::place(Line& line, const LetterFace& face)
+/// Letters of two scripts stand apart.
+void PlainText::placeFrom(std::size_t first, Line& line, const LetterFace& face)
 {
-    Script script = firstScriptOf(line);
-    bool isMixed = false, hasPairs = false;
-    int x = 0;
-    for (std::size_t at = 0; at < line.size(); ++at) {
+    Script script = first > 0 ? line[first].script : firstScriptOf(line);
+    int x = first > 0 ? line[first].begin : 0;
+    for (std::size_t at = first; at < line.size(); ++at) {
         const Letter& letter = *line[at].letter;
         const Letter* const next = at + 1 < line.size() ? line[at + 1].letter : nullptr;
         const bool isLast = next == nullptr || (next->script != Script::COMMON && next->script != script);
+        line[at].script = script;
         line[at].begin = x;
         line[at].end = x += isLast ? letter.advance : face.advanceBefore(letter, *next);
-        isMixed = isMixed || (isLast && next != nullptr);
-        hasPairs = hasPairs || letter.comesInPairs;
         script = isLast && next != nullptr ? next->script : script;
     }
-    return !isMixed || !hasPairs;
+}
+
+/// Which script a closing bracket between two of them is of depends on the opening one.
+bool PlainText::needsShaper(const Line& line)
+{
+    return std::ranges::any_of(line, [](const Place& place) { return place.letter->comesInPairs; }) &&
+           std::ranges::any_of(line, [&](const Place& place) { return place.script != line.front().script; });
 }
 
 Script PlainText::firstScriptOf(const Line& line)
@@ -128,7 +151,7 @@ bool PlainText::cut(Line& line, LetterFace& face, int width)
     do
         line.pop_back();
     while (!line.empty() && endOf(line) + dots->advance > width);
-    line.push_back({dots, endOf(line), endOf(line) + dots->advance});
+    line.push_back({dots, endOf(line), endOf(line) + dots->advance, dots->script});
     return true;
 }
 

@@ -29,12 +29,14 @@ private:
     /// Where a letter is written.
     struct Place {
         const Letter* letter;
-        int begin;
-        int end;
+        int begin = 0;
+        int end = 0;
+        Script script = Script::COMMON; ///< of the letters among which it stands
     };
     using Line = std::vector<Place>;
 
-    /// The text of before, whose edges and stencil are wanted one after the other.
+    /// The text of before: its edges and its stencil are wanted one after the other, and where somebody types the next
+    /// one begins as it does.
     struct Laid {
         Font font{};
         std::u16string text{};
@@ -44,8 +46,9 @@ private:
 
     LetterFace& faceOf(Font font);
     const Line* lay(Font font, std::u16string_view text);
-    static bool layAnew(Line& line, LetterFace& face, std::u16string_view text);
-    static bool place(Line& line, const LetterFace& face);
+    static bool layFrom(std::size_t at, Line& line, LetterFace& face, std::u16string_view text);
+    static void placeFrom(std::size_t at, Line& line, const LetterFace& face);
+    static bool needsShaper(const Line& line);
     static bool cut(Line& line, LetterFace& face, int width);
     static Script firstScriptOf(const Line& line);
     static int endOf(const Line& line);

@@ -35,12 +35,13 @@ TextMask boxes(std::size_t count, int width)
     mask.width = std::min(width, static_cast<int>(count) * STEP);
     mask.cut = static_cast<int>(count) * STEP > width;
     mask.lacksGlyph = true;
-    mask.ink.resize(static_cast<std::size_t>(mask.width * TextMask::HEIGHT));
+    mask.clear();
     for (int y = TOP; y < BOTTOM; ++y) {
         for (int x = 0; x < mask.width; ++x) {
             const int column = x % STEP;
             const bool edge = y == TOP || y == BOTTOM - 1 || column == 0 || column == SIDE - 1;
-            mask.ink[static_cast<std::size_t>(y * mask.width + x)] = column < SIDE && edge ? 1 : 0;
+            if (column < SIDE && edge)
+                mask.putInk(x, y);
         }
     }
     return mask;
@@ -66,7 +67,7 @@ std::size_t TextRenderer::KeyHash::operator()(const Key& key) const noexcept
 
 std::size_t TextRenderer::Entry::bytes() const
 {
-    return (mask ? mask->ink.size() : 0) + (edges ? edges->size() * sizeof(TextEdges) : 0);
+    return (mask ? mask->bytes() : 0) + (edges ? edges->size() * sizeof(TextEdges) : 0);
 }
 
 const TextMask& TextRenderer::mask(Font font, const PegString& text, int width)

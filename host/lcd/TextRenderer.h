@@ -29,7 +29,7 @@ public:
     /// visible. Valid until the next call.
     const std::vector<TextEdges>& edges(Font font, const PegString& text);
 
-    static constexpr std::size_t MAX_BYTES = 4 << 20;
+    static constexpr std::size_t MAX_BYTES = 1 << 20;
 
     /// What the stencils and edges of texts take that are kept: MAX_BYTES at most, but for a single text that is
     /// larger.

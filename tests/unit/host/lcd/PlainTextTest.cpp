@@ -135,6 +135,31 @@ TEST_F(PlainTextTest, WordsAreTheSameAsShaped)
             EXPECT_TRUE(isTheSame(font, words, TextMask::MAX_WIDTH)) << where(font, words, 0);
 }
 
+/// Each text begins as the one before it did, or ends earlier, or is another one.
+TEST_F(PlainTextTest, TextsThatAreTypedAreTheSameAsShaped)
+{
+    std::mt19937 random(815);
+    const std::u16string letters = u"AVTo. ,'f(j)1-\u0416\u0443\u0393\u03C9\u0627";
+    std::u16string text;
+    int counted = 0;
+    for (int i = 0; i < 1200; ++i) {
+        const std::size_t at = random() % 3 == 0 ? random() % (text.size() + 1) : text.size();
+        const auto what = random() % 8;
+        if (what == 0)
+            text.resize(at);
+        else if (what == 1 && at < text.size())
+            text.erase(at, 1);
+        else
+            text.insert(at, 1, letters[random() % (what < 6 ? 8 : letters.size())]);
+        const Font font = i % 50 == 0 ? Font::TEXT_BOLD : Font::TEXT;
+        if (text.empty() || !isTheSame(font, text, TextMask::MAX_WIDTH))
+            continue;
+        expectSameEdges(font, text);
+        ++counted;
+    }
+    EXPECT_GT(counted, 300);
+}
+
 TEST_F(PlainTextTest, EveryWidthCutsAsShaped)
 {
     for (const Font font : FONTS)
