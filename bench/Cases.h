@@ -15,6 +15,7 @@ constexpr const char* TWO_PRODUCERS = "Asynchronous posts until carried out, two
 constexpr const char* ONE_WITH_PAYLOAD = "Posts with a text and a number, one producer";
 constexpr const char* TWO_WITH_PAYLOAD = "Posts with a text and a number, two producers";
 constexpr const char* SCALE = "Posts with a text and a number, a facade for each producer";
+constexpr const char* TRACED = "Requests that are traced, what that adds to each";
 constexpr const char* AMONG_POSTERS = "Waiting caller among 8 posters of 0.4 M/s in all";
 constexpr const char* LABELLED_NOTIFICATIONS = "Notifications with a text and a number, in order";
 constexpr const char* FILLING = "List of 10,000 rows";
@@ -36,6 +37,7 @@ double textbookCall(Seats seats, int calls);
 // Each gives its cases; `directory` is where the benchmark's programs are.
 std::vector<Case> libraryCases();
 std::vector<Case> payloadCases();
+std::vector<Case> traceCases();
 std::vector<Case> amongPostersCases();
 std::vector<Case> neighbourCases();
 std::vector<Case> listCases();

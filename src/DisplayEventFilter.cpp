@@ -4,6 +4,7 @@
 #include "DisplayAPI/DisplayRequestEvent.h"
 #include "DisplayAPI/GuiRequestEvent.h"
 #include "DisplayAPI/Widget.h"
+#include "RequestHook.h"
 #include "RequestQueue.h"
 #include "WidgetSync.h"
 #include "presentation/PRESCPresentationManager.h"
@@ -90,11 +91,14 @@ void DisplayEventFilter::uninstall()
 
 int DisplayEventFilter::Message(const PegMessage& message)
 {
-    switch (message.wType) {
-    case PM_DISPLAY_REQUEST: carryOut(static_cast<DisplayRequestEvent*>(message.pData)); return 0;
-    case PM_WIDGET_REQUEST: carryOut(static_cast<GuiRequestEvent*>(message.pData)); return 0;
-    default: return PegThing::Message(message);
-    }
+    if (message.wType != PM_DISPLAY_REQUEST && message.wType != PM_WIDGET_REQUEST)
+        return PegThing::Message(message);
+    const RequestRun run(message.iData);
+    if (message.wType == PM_DISPLAY_REQUEST)
+        carryOut(static_cast<DisplayRequestEvent*>(message.pData));
+    else
+        carryOut(static_cast<GuiRequestEvent*>(message.pData));
+    return 0;
 }
 
 std::string DisplayEventFilter::eventInfo(const PegMessage*) const

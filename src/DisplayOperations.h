@@ -121,6 +121,7 @@ struct DisplayOperations {
     template <int CODE, typename... Args>
     static auto call(const Display& display, DisplayPrivateIfc* side, Args&&... args)
     {
+        CodeNamesOf<Display, Rows...>::areKnown();
         using Row = RowOf<CODE, Rows...>;
         if (Widget::isGuiThread())
             return Row::run(display, side, std::forward<Args>(args)...);

@@ -1,8 +1,10 @@
 #include "DisplayPrivate.h"
 
+#include "DisplayAPI/Display.h"
 #include "DisplayAPI/DisplayRequestEvent.h"
 #include "DisplayEventFilter.h"
 #include "DisplayPrivateLog.h"
+#include "RequestHook.h"
 #include "RequestQueue.h"
 #include "WidgetSync.h"
 #include "utilities/Semaphore.h"
@@ -29,7 +31,8 @@ void postEventHelper(DisplayRequestEvent* request, DisplayEventFilter* filter, b
         return;
     }
     message->wType = PM_DISPLAY_REQUEST;
-    message->iData = 0;
+    const auto facade = []() -> const std::type_info& { return typeid(Display); };
+    message->iData = request != nullptr ? tellQueued(facade, request->getType(), wait) : 0;
     message->pTarget = filter;
     message->pSource = filter;
     message->pData = request;
@@ -54,6 +57,7 @@ void DisplayPrivate::completeQueuedRequests()
                    [](PegMessage* message) {
                        if (message->wType == PM_DISPLAY_REQUEST && message->pData != nullptr) {
                            auto* request = static_cast<DisplayRequestEvent*>(message->pData);
+                           tellPurged(message->iData);
                            request->requestCompleted();
                            delete request;
                        } else if (message->wType == PM_WIDGET_REQUEST) {
@@ -85,6 +89,7 @@ void DisplayPrivate::purgeOwnMessage(Display* display, int code, int otherCode, 
     removeMessages(matches, [](PegMessage* message) {
         auto* request = static_cast<DisplayRequestEvent*>(message->pData);
         message->pData = nullptr;
+        tellPurged(message->iData);
         request->requestCompleted();
         delete request;
         giveBackMessage(message);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CodeNames.h"
 #include "DisplayAPI/Widget.h"
 #include "RecordFields.h"
 
@@ -37,13 +38,14 @@ struct Signature<Result (Owner::*)(Args...) const> : Signature<Result (*)(Owner&
 
 /// One operation. It answers NEUTRAL when there is no private side, and when its request is purged or lost. A record
 /// has the address of the caller's variable in ANSWER_FIELD.
-template <int NUMBER, bool MUST_WAIT, auto FUNCTION, auto NEUTRAL, auto ANSWER_FIELD>
+template <auto NUMBER, bool MUST_WAIT, auto FUNCTION, auto NEUTRAL, auto ANSWER_FIELD>
 struct Operation {
     using Owner = typename Signature<decltype(FUNCTION)>::Owner;
     using Answer = typename Signature<decltype(FUNCTION)>::Answer;
     using Fields = typename Signature<decltype(FUNCTION)>::Fields;
     using Record = typename Signature<decltype(FUNCTION)>::Record;
 
+    using Code = decltype(NUMBER);
     static constexpr int CODE = NUMBER;
     static constexpr bool WAITS = MUST_WAIT;
     static constexpr auto RUNS = FUNCTION;
@@ -117,11 +119,11 @@ private:
 };
 
 /// The caller goes on at once. Where the function has an answer, the row names what such a caller gets.
-template <int CODE, auto FUNCTION, auto NEUTRAL = NOTHING>
+template <auto CODE, auto FUNCTION, auto NEUTRAL = NOTHING>
 using Posts = Operation<CODE, false, FUNCTION, NEUTRAL, &GuiRequestEvent::returnValue3>;
 
 /// The caller waits until the function has run.
-template <int CODE, auto FUNCTION, auto NEUTRAL = NOTHING, auto ANSWER_FIELD = &GuiRequestEvent::returnValue3>
+template <auto CODE, auto FUNCTION, auto NEUTRAL = NOTHING, auto ANSWER_FIELD = &GuiRequestEvent::returnValue3>
 using Waits = Operation<CODE, true, FUNCTION, NEUTRAL, ANSWER_FIELD>;
 
 /// A row that purges what is queued of these codes before it is posted; its own code where none is named.
@@ -198,5 +200,10 @@ struct FindRow {
 
 template <int CODE, typename... Rows>
 using RowOf = typename FindRow<CODE, Rows...>::Row;
+
+/// Names the codes of a facade that has these rows.
+template <typename Facade, typename... Rows>
+using CodeNamesOf =
+    CodeNames<Facade, typename std::tuple_element_t<0, std::tuple<Rows...>>::Code, std::max({0, Rows::CODE...})>;
 
 } // namespace DisplayAPI

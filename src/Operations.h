@@ -65,6 +65,7 @@ struct OperationTable {
     template <int CODE, typename Facade, typename Side, typename... Args>
     static auto call(Facade& facade, Side& side, Args&&... args)
     {
+        CodeNamesOf<std::remove_const_t<Facade>, Rows...>::areKnown();
         auto& caller = const_cast<std::remove_const_t<Facade>&>(facade);
         return Way::template call<RowOf<CODE, Rows...>>(caller, side, std::forward<Args>(args)...);
     }

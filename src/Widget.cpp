@@ -4,6 +4,7 @@
 #include "DisplayEventFilter.h"
 #include "GuiThread.h"
 #include "Log.h"
+#include "RequestHook.h"
 #include "RequestQueue.h"
 #include "WidgetSync.h"
 #include "toolkit/PegThing.h"
@@ -99,6 +100,8 @@ bool handOver(const Post& post, Widget& widget, GuiRequestEvent* request, const 
         return false;
     if (condition != nullptr)
         request->setWaitCondition(condition);
+    const auto facade = [&]() -> const std::type_info& { return typeid(widget); };
+    message->iData = tellQueued(facade, request->getType(), operation.answer == Answer::AWAITED);
     const auto admit = [&] {
         const bool admitted = !post.hasEnded() && addressToFilter(*message);
         if (admitted)
@@ -108,6 +111,7 @@ bool handOver(const Post& post, Widget& widget, GuiRequestEvent* request, const 
     if (enqueue(message, operation.place, operation.answer, admit))
         return true;
     message->pData = nullptr;
+    tellPurged(message->iData);
     giveBackMessage(message);
     handleRefused(post, widget, request);
     return false;
@@ -155,6 +159,7 @@ GuiRequestEvent* takeRequest(PegMessage& message)
 {
     auto* const request = static_cast<GuiRequestEvent*>(message.pData);
     message.pData = nullptr;
+    tellPurged(message.iData);
     Widget::Sync::left(*request);
     return request;
 }

@@ -10,8 +10,8 @@ enum PegMessageType : std::uint16_t {
     PM_TIMER = 31,                   ///< a timer ran out; `iData` is its id
     PM_KEY = 40,                     ///< a key went down; `iData` is its PegKey
     PM_KEYRELEASE = 41,              ///< a key went up; `iData` is its PegKey
-    PM_DISPLAY_REQUEST = 0x4000,     ///< `pData` is a display-level request record
-    PM_WIDGET_REQUEST = 0x4001,      ///< `pData` is a widget-level request record
+    PM_DISPLAY_REQUEST = 0x4000,     ///< `pData` is a display-level request record; `iData` as below
+    PM_WIDGET_REQUEST = 0x4001,      ///< `pData` is a widget-level request record; `iData` its RequestObserver's number
     PM_CURRENT_CHANGED = 0x4008,     ///< a list's current row changed; `iData` is the row
     PM_CLICKED = 0x400A,             ///< a row was chosen; `iData` is the row
     PM_LEFT = 0x400B,                ///< left was pressed on a list

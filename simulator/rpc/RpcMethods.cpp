@@ -4,9 +4,11 @@
 #include "host/clock/Clock.h"
 #include "host/frontend/Wire.h"
 #include "host/input/Keyboard.h"
+#include "host/inspection/RequestTrace.h"
 #include "host/lcd/Png.h"
 #include "simulator/rpc/Base64.h"
 #include "simulator/rpc/RpcCondition.h"
+#include "simulator/rpc/RpcInspection.h"
 #include "simulator/rpc/RpcScreen.h"
 
 #include <nlohmann/json.hpp>
@@ -105,6 +107,7 @@ RpcMethods::RpcMethods(RpcPhone& phone, ScreenWatch& watch, RpcAbout about, Chan
     addChanging("setLanguage", &RpcMethods::setLanguage);
     addChanging("exchange", &RpcMethods::exchange);
     addChanging("act", &RpcMethods::act);
+    add("trace", &RpcMethods::trace);
     add("unsubscribe", &RpcMethods::unsubscribe);
     mDispatcher.addSlow("subscribe", [this](RpcParams& params, const RpcAnswer& answer) { subscribe(params, answer); });
     mDispatcher.addSlow("waitFor", [this](RpcParams& params, const RpcAnswer& answer) { waitFor(params, answer); });
@@ -199,6 +202,16 @@ Json RpcMethods::say(const std::string& wire, const std::string& line)
 {
     mPhone.say(wire, line);
     return numberOf(mPhone.screen());
+}
+
+/// The GUI thread has no part in it: it may stand still.
+Json RpcMethods::trace(RpcParams& params)
+{
+    host::RequestTrace& trace = host::RequestTrace::instance();
+    const bool enable = params.flag("enable", trace.isEnabled());
+    params.end();
+    trace.enable(enable);
+    return traceJson(enable, trace.take());
 }
 
 void RpcMethods::waitFor(RpcParams& params, const RpcAnswer& answer)

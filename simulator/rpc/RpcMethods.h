@@ -52,6 +52,7 @@ private:
     Json exchange(RpcParams& params);
     Json act(RpcParams& params);
     Json say(const std::string& wire, const std::string& line);
+    Json trace(RpcParams& params);
     Json unsubscribe(RpcParams& params);
     void subscribe(RpcParams& params, const RpcAnswer& answer);
     void waitFor(RpcParams& params, const RpcAnswer& answer);

@@ -3,6 +3,7 @@
 #include "host/clock/Clock.h"
 #include "host/frontend/Wire.h"
 #include "host/input/Keyboard.h"
+#include "host/inspection/RequestTrace.h"
 #include "host/lcd/Png.h"
 #include "simulator/rpc/Base64.h"
 #include "unit/simulator/rpc/RpcTest.h"
@@ -166,6 +167,26 @@ TEST_F(RpcMethodsTest, ScreenshotIsAPng)
     EXPECT_EQ(answer["number"], 1);
     EXPECT_EQ(answer["png"], simulator::toBase64(host::pngOf(host::Lcd::current()->picture(), 2)));
     EXPECT_THAT(answer["png"], testing::StartsWith("iVBORw0KGgo"));
+}
+
+TEST_F(RpcMethodsTest, TraceIsOffUntilItIsSwitchedOn)
+{
+    EXPECT_EQ(result("trace"), Json::parse(R"({"enabled":false,"records":[],"lost":0})"));
+    EXPECT_EQ(result("trace", R"({"enable":true})")["enabled"], true);
+    host::RequestTrace& trace = host::RequestTrace::instance();
+    trace.purged(trace.queued(typeid(test::CountingThing), 3, true));
+    const Json record = result("trace")["records"].at(0);
+    EXPECT_EQ(record["facade"], "test::CountingThing");
+    EXPECT_EQ(record["code"], "3");
+    EXPECT_EQ(record["number"], 3);
+    EXPECT_EQ(record["thread"], gettid());
+    EXPECT_TRUE(record["threadName"].is_string());
+    EXPECT_TRUE(record["queued"].is_number_integer());
+    EXPECT_TRUE(record["run"].is_null());
+    EXPECT_TRUE(record["done"].is_null());
+    EXPECT_EQ(record["waits"], true);
+    EXPECT_TRUE(record["purgedBy"].is_string());
+    EXPECT_EQ(result("trace", R"({"enable":false})"), Json::parse(R"({"enabled":false,"records":[],"lost":0})"));
 }
 
 TEST_F(RpcMethodsTest, ActionsAreThoseOfTheProgram)

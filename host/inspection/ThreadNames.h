@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+namespace host {
+
+/// As the kernel has it; empty where there is no such thread in this process any more.
+std::string threadName(int thread);
+
+/// "worker-1 (4711)".
+std::string nameAndNumber(const std::string& name, int thread);
+
+} // namespace host
