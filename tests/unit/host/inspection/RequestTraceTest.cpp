@@ -13,7 +13,7 @@
 #include <gmock/gmock.h>
 
 using host::RequestTrace;
-using host::TracedRequest;
+using Told = host::TracedRequest;
 using test::TestWidget;
 using test::Worker;
 using testing::HasSubstr;
@@ -42,11 +42,11 @@ protected:
         test::onOtherThread([&] { widget.postEventAsync(code); });
     }
 
-    TracedRequest onlyOne()
+    Told onlyOne()
     {
         const auto records = trace.take().records;
         EXPECT_THAT(records, SizeIs(1));
-        return records.empty() ? TracedRequest() : records.front();
+        return records.empty() ? Told() : records.front();
     }
 
     RequestTrace& trace = RequestTrace::instance();
@@ -62,7 +62,7 @@ TEST_F(RequestTraceTest, RequestIsToldWithItsTimesInOrder)
     gui.waitForQueued(1);
     gui.runAll();
     worker.join();
-    const TracedRequest request = onlyOne();
+    const Told request = onlyOne();
     EXPECT_EQ(request.facade, "test::TestWidget");
     EXPECT_EQ(request.code, "7");
     EXPECT_EQ(request.number, 7);
@@ -86,7 +86,7 @@ TEST_F(RequestTraceTest, CodesHaveTheirNamesInWhateverIsDerived)
     gui.waitForQueued(1);
     gui.runAll();
     worker.join();
-    const TracedRequest request = onlyOne();
+    const Told request = onlyOne();
     EXPECT_EQ(request.facade, "List");
     EXPECT_EQ(request.code, "SIZE");
 }
@@ -106,7 +106,7 @@ TEST_F(RequestTraceTest, DisplaysRequestIsOneOfTheDisplay)
     using DisplayAPI::DisplayRequestEvent;
     postEventHelper(new DisplayRequestEvent(nullptr, DisplayRequestEvent::SERIALISE, nullptr, false), gui.filter(),
                     false);
-    const TracedRequest request = onlyOne();
+    const Told request = onlyOne();
     EXPECT_EQ(request.facade, "Display");
     EXPECT_EQ(request.code, "SERIALISE");
     EXPECT_FALSE(request.isAwaited);
@@ -127,7 +127,7 @@ TEST_F(RequestTraceTest, PurgedRequestSaysByWhom)
 {
     post(1);
     widget.purgeOwnMessage(nullptr);
-    const TracedRequest request = onlyOne();
+    const Told request = onlyOne();
     EXPECT_THAT(request.purgedBy, HasSubstr("(" + std::to_string(gettid()) + ")"));
     EXPECT_EQ(request.run, std::nullopt);
     EXPECT_THAT(trace.take().records, IsEmpty());
@@ -187,7 +187,7 @@ TEST(RequestTraceThreadsTest, EveryRequestOfManyThreadsIsToldOnceItIsDone)
     constexpr int POSTS = 500;
     std::size_t ended = 0;
     const auto take = [&] {
-        for (const TracedRequest& request : trace.take().records)
+        for (const Told& request : trace.take().records)
             ended += request.done ? 1 : 0;
     };
     {
