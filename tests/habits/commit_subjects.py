@@ -13,7 +13,7 @@ import sys
 import project
 
 AREAS = ("Core", "Display", "Lists", "Popups", "Forms", "Telephony", "Commands", "Host", "Widgets", "Languages",
-         "Simulator", "Page", "Kit", "Apps", "Tests", "Docs", "Build", "Bench")
+         "Simulator", "Page", "Kit", "Apps", "Clients", "Tests", "Docs", "Build", "Bench")
 MOST = 72
 SUBJECT = re.compile(rf"({'|'.join(AREAS)}): ([A-Z][\w'-]*)( .*)?(?<![.\s])")
 GENERATED = re.compile(r"(Merge|Revert|fixup!|squash!|amend!) ?")
