@@ -1,0 +1,63 @@
+"""A trace as records, for people and for the viewer."""
+
+from __future__ import annotations
+
+from typing import Any, Dict, List
+
+from displayapi import Trace
+
+POSTED = {"facade": "List", "code": "APPEND", "number": 3, "thread": 17, "threadName": "worker", "queued": 1_000_000,
+          "run": 1_500_000, "done": 1_700_000, "waits": False}
+WAITS = {"facade": "Form", "code": "GET_VALUE", "number": 9, "thread": 18, "threadName": "asker", "queued": 1_200_000,
+         "run": 1_700_000, "done": 1_800_000, "waits": True}
+PURGED = {"facade": "List", "code": "SET_TITLE", "number": 4, "thread": 17, "threadName": "worker", "queued": 1_300_000,
+          "run": None, "done": None, "waits": False, "purgedBy": "List.CLEAR"}
+
+
+def trace(*records: Dict[str, Any]) -> Trace:
+    return Trace.of({"enabled": True, "records": list(records), "lost": 2})
+
+
+def events(kind: str, *records: Dict[str, Any]) -> List[Dict[str, Any]]:
+    return [event for event in trace(*records).to_perfetto()["traceEvents"] if event["ph"] == kind]
+
+
+def test_records_read_as_they_are_said() -> None:
+    posted, purged = trace(POSTED, PURGED).records
+    assert (posted.name, posted.thread_name, posted.done) == ("List.APPEND", "worker", 1_700_000)
+    assert (purged.run, purged.purged_by) == (None, "List.CLEAR")
+
+
+def test_people_read_how_long_it_took() -> None:
+    posted, waits, purged = map(str, trace(POSTED, WAITS, PURGED).records)
+    assert posted == "0.001000  worker (17)  List.APPEND: waited 500.0 us, ran 200.0 us"
+    assert waits.endswith("Form.GET_VALUE: waited 500.0 us, ran 100.0 us, its caller waits")
+    assert purged.endswith("List.SET_TITLE: purged by List.CLEAR")
+
+
+def test_each_thread_has_a_track_and_the_gui_thread_another() -> None:
+    names = {event["tid"]: event["args"]["name"] for event in events("M", POSTED, WAITS, PURGED)}
+    assert names == {0: "GUI thread", 17: "worker", 18: "asker"}
+
+
+def test_a_request_is_queued_on_its_thread_and_runs_on_the_gui_thread() -> None:
+    queued, ran = events("X", POSTED)
+    assert (queued["tid"], queued["ts"], queued["dur"]) == (17, 1000, 0)
+    assert (ran["tid"], ran["ts"], ran["dur"]) == (0, 1500, 200)
+
+
+def test_who_waits_is_busy_until_it_is_done() -> None:
+    queued, _ = events("X", WAITS)
+    assert (queued["ts"], queued["dur"]) == (1200, 600)
+
+
+def test_an_arrow_leads_from_queueing_to_running() -> None:
+    (begin, other), (end, another) = events("s", POSTED, WAITS), events("f", POSTED, WAITS)
+    assert begin["id"] == end["id"] != other["id"] == another["id"]
+    assert (begin["tid"], begin["ts"], end["tid"], end["ts"]) == (17, 1000, 0, 1500)
+
+
+def test_what_was_purged_never_runs() -> None:
+    (queued,) = events("X", PURGED)
+    assert queued["args"]["purgedBy"] == "List.CLEAR"
+    assert not events("s", PURGED)
