@@ -34,6 +34,14 @@ install(FILES ${PROJECT_SOURCE_DIR}/host/languages/Languages.h DESTINATION ${HEA
 install(DIRECTORY ${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/displayapi-${PROJECT_VERSION_MAJOR}
     DESTINATION ${CMAKE_INSTALL_LIBDIR})
 
+# phonectl looks for its package in PREFIX/share.
+set(PYTHON_CLIENT ${PROJECT_SOURCE_DIR}/clients/python)
+install(DIRECTORY ${PYTHON_CLIENT}/displayapi DESTINATION share/displayapi-${PROJECT_VERSION_MAJOR}/python
+    FILES_MATCHING PATTERN *.py PATTERN py.typed PATTERN __pycache__ EXCLUDE)
+install(PROGRAMS ${PYTHON_CLIENT}/bin/phonectl DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(FILES ${PYTHON_CLIENT}/completion/phonectl DESTINATION share/bash-completion/completions)
+install(FILES ${PYTHON_CLIENT}/man/phonectl.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+
 install(FILES ${PROJECT_SOURCE_DIR}/THIRD-PARTY-NOTICES.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 install(EXPORT DisplayAPI NAMESPACE DisplayAPI:: DESTINATION ${PACKAGE} FILE DisplayAPITargets.cmake)
