@@ -3,7 +3,7 @@
 #include "simulator/core/Regex.h"
 #include "simulator/screen/ScreenRows.h"
 #include "simulator/screen/ScreenText.h"
-#include "simulator/script/TextDifference.h"
+#include "simulator/core/TextDifference.h"
 #include "toolkit/PegThing.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 
 #include "simulator/core/PhoneClock.h"
 #include "simulator/core/ScreenReader.h"
-#include "simulator/web/KeyPad.h"
+#include "simulator/core/KeyPad.h"
 
 namespace simulator {
 

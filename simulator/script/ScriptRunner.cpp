@@ -8,7 +8,7 @@
 #include "simulator/screen/ScreenRows.h"
 #include "simulator/screen/ScreenText.h"
 #include "simulator/script/ExpectedScreen.h"
-#include "simulator/script/TextDifference.h"
+#include "simulator/core/TextDifference.h"
 
 #include <fstream>
 #include <sstream>

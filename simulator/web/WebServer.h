@@ -4,7 +4,7 @@
 #include "simulator/web/Broadcaster.h"
 #include "simulator/web/Endpoint.h"
 #include "simulator/web/Heartbeat.h"
-#include "simulator/web/KeyPad.h"
+#include "simulator/core/KeyPad.h"
 #include "simulator/web/MotionWishes.h"
 
 #include <atomic>

@@ -1,4 +1,4 @@
-#include "simulator/web/KeyPad.h"
+#include "simulator/core/KeyPad.h"
 
 #include "host/input/Keyboard.h"
 #include "simulator/screen/KeyRepeatRule.h"

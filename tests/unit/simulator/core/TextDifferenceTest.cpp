@@ -1,4 +1,4 @@
-#include "simulator/script/TextDifference.h"
+#include "simulator/core/TextDifference.h"
 
 #include <gtest/gtest.h>
 
