@@ -162,6 +162,12 @@ Picture Lcd::picture() const
     return {mWidth, mHeight, mImpl->buffer.pixels(), mImpl->texts.sorted(), mImpl->frame, mImpl->focus};
 }
 
+Picture Lcd::reading() const
+{
+    std::lock_guard lock(mImpl->mutex);
+    return {mWidth, mHeight, {}, mImpl->texts.sorted(), mImpl->frame, mImpl->focus};
+}
+
 void Lcd::setFrameListener(std::function<void()> listener)
 {
     auto held = listener ? std::make_shared<const std::function<void()>>(std::move(listener)) : nullptr;

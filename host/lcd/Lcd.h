@@ -45,7 +45,7 @@ struct Picture {
 
 /// The panel: a buffer of four grey levels, the area that has to be painted again, and the texts that stand on it.
 ///
-/// Invalidating and painting are the GUI thread's; picture() and the frame listener are for any thread.
+/// Invalidating and painting are the GUI thread's; picture(), reading() and the frame listener are for any thread.
 /// Lock: one mutex guards pixels, texts and the listener; it is held while a frame is painted and while it is copied,
 /// and is a leaf: the frame listener is called without it.
 class Lcd final : public PegScreen {
@@ -80,6 +80,9 @@ public:
     const std::vector<TextEdges>& textEdges(Font font, const PegString& text);
 
     Picture picture() const;
+
+    /// The same without the pixels.
+    Picture reading() const;
 
     /// Called on the GUI thread after each frame; must not block. An empty function removes it.
     void setFrameListener(std::function<void()> listener);

@@ -32,6 +32,24 @@ KeyPad::~KeyPad()
 bool KeyPad::down(Page page, PegKey key)
 {
     std::lock_guard lock(mMutex);
+    return take(page, key);
+}
+
+KeyPad::Press KeyPad::press(Page page, PegKey key)
+{
+    std::lock_guard lock(mMutex);
+    if (isHeld(key))
+        return Press::HELD;
+    if (!host::Keyboard::instance().press(key))
+        return Press::REFUSED;
+    mHeld.insert({key, page});
+    letGo(page, key);
+    return Press::TAKEN;
+}
+
+/// REQUIRES: the lock is held.
+bool KeyPad::take(Page page, PegKey key)
+{
     const bool wasHeld = isHeld(key);
     if (!wasHeld && !host::Keyboard::instance().press(key))
         return false;
@@ -39,9 +57,10 @@ bool KeyPad::down(Page page, PegKey key)
     if (wasHeld)
         return true;
     mReleases.erase(key);
-    if (KeyRepeatRule::repeats(key) && !host::Clock::instance().isVirtual())
+    if (KeyRepeatRule::repeats(key) && !host::Clock::instance().isVirtual()) {
         mRepeats[key] = steady_clock::now() + KeyRepeatRule::DELAY;
-    mChanged.notify_all();
+        mChanged.notify_all();
+    }
     return true;
 }
 
@@ -74,7 +93,8 @@ void KeyPad::letGo(Page page, PegKey key)
     mRepeats.erase(key);
     mReleases[key] = steady_clock::now();
     releaseWhatIsUp(steady_clock::now());
-    mChanged.notify_all();
+    if (!mReleases.empty())
+        mChanged.notify_all();
 }
 
 bool KeyPad::isHeld(PegKey key) const

@@ -28,6 +28,11 @@ public:
     /// False when the telephone does not take the key.
     bool down(Page page, PegKey key);
 
+    enum class Press { TAKEN, HELD, REFUSED };
+
+    /// Down and up. Nothing happens where somebody holds the key, and where the telephone does not take it.
+    Press press(Page page, PegKey key);
+
     /// Presses once more what is down: on a virtual clock a key goes on when somebody says so.
     void again(PegKey key);
 
@@ -42,6 +47,7 @@ private:
     void releaseWhatIsUp(Time now);
     Time nextTime() const;
     bool isHeld(PegKey key) const;
+    bool take(Page page, PegKey key);
     void letGo(Page page, PegKey key);
 
     std::mutex mMutex;

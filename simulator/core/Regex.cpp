@@ -1,46 +1,36 @@
 #include "simulator/core/Regex.h"
 
-#include <unicode/regex.h>
+#include <re2/re2.h>
 
 namespace simulator {
 
 namespace {
 
-constexpr int LONGEST_SEARCH = 20;       // steps of ICU's, each about a millisecond
-constexpr int LARGEST_STACK = 1'000'000; // bytes
+/// A pattern that needs more when it is compiled is refused: a search goes through all of it.
+constexpr int MOST_MEMORY = 512 * 1024;
+
+re2::RE2::Options options()
+{
+    re2::RE2::Options options;
+    options.set_log_errors(false);
+    options.set_max_mem(MOST_MEMORY);
+    return options;
+}
 
 } // namespace
 
-struct Regex::Impl {
-    explicit Impl(const std::string& text)
-        : pattern(icu::RegexPattern::compile(icu::UnicodeString::fromUTF8(text), 0, status))
-    {
-    }
-
-    UErrorCode status = U_ZERO_ERROR;
-    std::unique_ptr<icu::RegexPattern> pattern;
-};
-
-Regex::Regex(const std::string& pattern) : mImpl(std::make_unique<Impl>(pattern)) {}
+Regex::Regex(const std::string& pattern) : mPattern(std::make_unique<const re2::RE2>(pattern, options())) {}
 
 Regex::~Regex() = default;
 
 std::string Regex::error() const
 {
-    return U_FAILURE(mImpl->status) ? u_errorName(mImpl->status) : std::string();
+    return mPattern->ok() ? std::string() : mPattern->error();
 }
 
-bool Regex::isIn(const std::string& text) const
+bool Regex::isIn(std::string_view text) const
 {
-    UErrorCode status = mImpl->status;
-    const icu::UnicodeString input = icu::UnicodeString::fromUTF8(text);
-    const std::unique_ptr<icu::RegexMatcher> matcher(U_SUCCESS(status) ? mImpl->pattern->matcher(input, status)
-                                                                       : nullptr);
-    if (matcher == nullptr || U_FAILURE(status))
-        return false;
-    matcher->setTimeLimit(LONGEST_SEARCH, status);
-    matcher->setStackLimit(LARGEST_STACK, status);
-    return matcher->find(status) != 0 && U_SUCCESS(status) != 0;
+    return mPattern->ok() && re2::RE2::PartialMatch({text.data(), text.size()}, *mPattern);
 }
 
 } // namespace simulator

@@ -22,13 +22,16 @@ struct Screen {
     /// that moves, make no other screen.
     std::uint64_t number = 0;
     ScreenWords words;
-    host::Picture picture;
+    host::Picture picture; ///< its pixels only where they have been asked for
 
     bool readsAs(const Screen& other) const
     {
         return words == other.words && picture.texts == other.picture.texts && picture.focus == other.picture.focus;
     }
 };
+
+/// The screen as text, as docs/screen-formats.md tells it.
+std::string textOf(const Screen& screen);
 
 using ScreenPtr = std::shared_ptr<const Screen>;
 

@@ -1,9 +1,7 @@
 #include "simulator/core/ScreenCondition.h"
 
-#include "simulator/core/Regex.h"
-#include "simulator/screen/ScreenRows.h"
-#include "simulator/screen/ScreenText.h"
 #include "simulator/core/TextDifference.h"
+#include "simulator/screen/ScreenRows.h"
 #include "toolkit/PegThing.h"
 
 #include <algorithm>
@@ -24,86 +22,92 @@ std::string withoutVolatileLines(const std::string& text)
     return lasting;
 }
 
-std::string onLines(const std::vector<std::string>& rows)
+std::string onLines(const std::vector<std::string>& texts)
 {
-    std::string text;
-    for (const std::string& row : rows)
-        text += row + '\n';
-    return text;
-}
-
-std::vector<std::string> rowsShown(const Screen& screen, bool withVolatile)
-{
-    std::vector<std::string> rows;
-    for (const ScreenRow& row : rowsOf(screen.picture.texts))
-        rows.push_back(withVolatile ? row.text : row.lasting);
-    return rows;
+    std::string lines;
+    for (const std::string& text : texts)
+        lines += text + '\n';
+    return lines;
 }
 
 } // namespace
 
-std::vector<ShownText> shownTexts(const Screen& screen, bool withVolatile)
+ScreenCondition::ScreenCondition(What what, Match match, std::string text, std::vector<std::string> rows,
+                                 bool withVolatile)
+    : mWhat(what), mMatch(match), mText(std::move(text)), mRows(std::move(rows)), mWithVolatile(withVolatile),
+      mRegex(match == Match::REGEX ? std::make_shared<const Regex>(mText) : nullptr)
 {
-    std::vector<ShownText> shown;
-    for (const ScreenRow& row : rowsOf(screen.picture.texts))
-        shown.push_back({withVolatile ? row.text : row.lasting, row.selected});
-    for (const host::TextRun& run : screen.picture.texts)
-        if (withVolatile || !run.runs || run.widget == TYPE_TICKER)
-            shown.push_back({run.text, run.inverted});
-    return shown;
 }
 
 std::string ScreenCondition::error() const
 {
-    return match == Match::REGEX ? Regex(text).error() : std::string();
+    return mRegex != nullptr ? mRegex->error() : std::string();
+}
+
+bool ScreenCondition::holdsFor(const Screen& screen) const
+{
+    switch (mWhat) {
+    case What::SCREEN: return isScreen(textOf(screen));
+    case What::ROWS: return areAlike(onLines(mRows), rowsShown(screen), VolatileLines::COUNT);
+    default: return shows(screen) != (mWhat == What::NO_TEXT);
+    }
 }
 
 std::string ScreenCondition::differenceOf(const Screen& screen) const
 {
-    switch (what) {
-    case What::SCREEN: return differenceOfScreen(screen);
-    case What::ROWS: return differenceOfRows(screen);
-    default: return differenceOfTexts(screen);
+    switch (mWhat) {
+    case What::SCREEN:
+        if (mMatch == Match::EQUAL)
+            return textDifference(mText, textOf(screen),
+                                  mWithVolatile ? VolatileLines::COUNT : VolatileLines::MAY_DIFFER);
+        return "the screen has no '" + mText + "', it is:\n" + textOf(screen);
+    case What::ROWS: return textDifference(onLines(mRows), rowsShown(screen), VolatileLines::COUNT);
+    default: break;
     }
+    const std::string subject = mWhat == What::NO_TEXT    ? "there is '"
+                                : mWhat == What::SELECTED ? "no selected row is '"
+                                                          : "there is no '";
+    return subject + mText + "'\nthe screen shows:\n" + describe(rowsOf(screen.picture.texts));
 }
 
 bool ScreenCondition::matches(const std::string& shown) const
 {
-    switch (match) {
-    case Match::EQUAL: return shown == text;
-    case Match::CONTAINS: return shown.find(text) != std::string::npos;
-    case Match::REGEX: return Regex(text).isIn(shown);
+    switch (mMatch) {
+    case Match::EQUAL: return shown == mText;
+    case Match::CONTAINS: return shown.find(mText) != std::string::npos;
+    case Match::REGEX: return mRegex->isIn(shown);
     }
     return false;
 }
 
-std::string ScreenCondition::differenceOfTexts(const Screen& screen) const
+/// A row or a text, and a selected one where it has to be.
+bool ScreenCondition::shows(const Screen& screen) const
 {
-    const std::vector<ShownText> shown = shownTexts(screen, withVolatile);
-    const bool isThere = std::ranges::any_of(shown, [this](const ShownText& each) {
-        return (each.selected || what != What::SELECTED) && matches(each.text);
-    });
-    if (isThere != (what == What::NO_TEXT))
-        return {};
-    const std::string subject = what == What::NO_TEXT    ? "there is '"
-                                : what == What::SELECTED ? "no selected row is '"
-                                                         : "there is no '";
-    return subject + text + "'\nthe screen shows:\n" + describe(rowsOf(screen.picture.texts));
+    const bool anyone = mWhat != What::SELECTED;
+    const auto isRow = [&](const ScreenRow& row) {
+        return (anyone || row.selected) && matches(mWithVolatile ? row.text : row.lasting);
+    };
+    const auto isText = [&](const host::TextRun& run) {
+        const bool counts = mWithVolatile || !run.runs || run.widget == TYPE_TICKER;
+        return counts && (anyone || run.inverted) && matches(run.text);
+    };
+    return std::ranges::any_of(screen.picture.texts, isText) ||
+           std::ranges::any_of(rowsOf(screen.picture.texts), isRow);
 }
 
-std::string ScreenCondition::differenceOfScreen(const Screen& screen) const
+bool ScreenCondition::isScreen(const std::string& shown) const
 {
-    const std::string shown = screenText(screen.words.displayables, screen.picture.texts);
-    if (match == Match::EQUAL)
-        return withVolatile && shown == text ? std::string() : textDifference(text, shown);
-    if (matches(withVolatile ? shown : withoutVolatileLines(shown)))
-        return {};
-    return "the screen has no '" + text + "', it is:\n" + shown;
+    if (mMatch == Match::EQUAL)
+        return areAlike(mText, shown, mWithVolatile ? VolatileLines::COUNT : VolatileLines::MAY_DIFFER);
+    return matches(mWithVolatile ? shown : withoutVolatileLines(shown));
 }
 
-std::string ScreenCondition::differenceOfRows(const Screen& screen) const
+std::string ScreenCondition::rowsShown(const Screen& screen) const
 {
-    return textDifference(onLines(rows), onLines(rowsShown(screen, withVolatile)));
+    std::vector<std::string> rows;
+    for (const ScreenRow& row : rowsOf(screen.picture.texts))
+        rows.push_back(mWithVolatile ? row.text : row.lasting);
+    return onLines(rows);
 }
 
 } // namespace simulator

@@ -11,6 +11,7 @@ namespace {
 
 constexpr std::uint16_t READ = 0x5C01;
 constexpr std::uint16_t LOOK = 0x5C02;
+constexpr std::uint16_t PHOTOGRAPH = 0x5C03;
 
 } // namespace
 
@@ -18,20 +19,35 @@ ScreenReader::ScreenReader(host::Lcd& lcd, std::function<ScreenWords()> ask) : m
 
 void ScreenReader::read(Then then)
 {
+    ask(READ, std::move(then));
+}
+
+ScreenPtr ScreenReader::read(std::chrono::milliseconds limit)
+{
+    return waitFor(READ, limit);
+}
+
+ScreenPtr ScreenReader::photograph(std::chrono::milliseconds limit)
+{
+    return waitFor(PHOTOGRAPH, limit);
+}
+
+void ScreenReader::ask(std::uint16_t message, Then then)
+{
     std::int32_t ticket = 0;
     if (!want(ticket, then))
         return then(nullptr);
-    if (host::MainQueue::push({READ, ticket, this}))
+    if (host::MainQueue::push({message, ticket, this}))
         return;
     if (const Then unheard = take(ticket))
         unheard(nullptr);
 }
 
-ScreenPtr ScreenReader::read(std::chrono::milliseconds limit)
+ScreenPtr ScreenReader::waitFor(std::uint16_t message, std::chrono::milliseconds limit)
 {
     const auto answer = std::make_shared<std::promise<ScreenPtr>>();
     std::future<ScreenPtr> screen = answer->get_future();
-    read([answer](ScreenPtr read) { answer->set_value(std::move(read)); });
+    ask(message, [answer](ScreenPtr read) { answer->set_value(std::move(read)); });
     return screen.wait_for(limit) == std::future_status::ready ? screen.get() : nullptr;
 }
 
@@ -75,11 +91,12 @@ bool ScreenReader::isThere() const
 
 int ScreenReader::Message(const PegMessage& message)
 {
-    if (message.wType != READ && message.wType != LOOK)
+    const bool isAskedFor = message.wType == READ || message.wType == PHOTOGRAPH;
+    if (!isAskedFor && message.wType != LOOK)
         return PegThing::Message(message);
     const ScreenPtr screen = look();
-    if (const Then then = message.wType == READ ? take(message.iData) : Then())
-        then(screen);
+    if (const Then then = isAskedFor ? take(message.iData) : Then())
+        then(message.wType == PHOTOGRAPH ? withPixels(screen) : screen);
     return 0;
 }
 
@@ -107,7 +124,13 @@ ScreenPtr ScreenReader::look()
     lookIsQueued(true); // the frame that is painted now is looked at below
     mLcd.paint();
     lookIsQueued(false);
-    return numbered({0, mAsk(), mLcd.picture()});
+    return numbered({0, mAsk(), mLcd.reading()});
+}
+
+/// Nothing has changed since: this is the GUI thread.
+ScreenPtr ScreenReader::withPixels(const ScreenPtr& screen)
+{
+    return std::make_shared<const Screen>(Screen{screen->number, screen->words, mLcd.picture()});
 }
 
 void ScreenReader::lookIsQueued(bool queued)
@@ -120,11 +143,12 @@ ScreenPtr ScreenReader::numbered(Screen screen)
 {
     const std::lock_guard telling(mTelling);
     std::unique_lock lock(mMutex);
-    const bool isOther = mLast == nullptr || !screen.readsAs(*mLast);
-    screen.number = (mLast != nullptr ? mLast->number : 0) + (isOther ? 1 : 0);
+    if (mLast != nullptr && screen.readsAs(*mLast))
+        return mLast;
+    screen.number = mLast != nullptr ? mLast->number + 1 : 1;
     mLast = std::make_shared<const Screen>(std::move(screen));
     const ScreenPtr read = mLast;
-    const Then listener = isOther ? mListener : Then();
+    const Then listener = mListener;
     lock.unlock();
     if (listener)
         listener(read);

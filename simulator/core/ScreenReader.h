@@ -29,6 +29,9 @@ public:
     /// The same for who can wait. Null as well where the GUI thread does not come to it within `limit`.
     ScreenPtr read(std::chrono::milliseconds limit);
 
+    /// The same with the pixels.
+    ScreenPtr photograph(std::chrono::milliseconds limit);
+
     /// There is a frame: looks whether it is another screen, where somebody listens. For the front end, on the GUI
     /// thread, in the middle of a message or not.
     void frameReady();
@@ -45,9 +48,12 @@ public:
 private:
     using Wanted = std::map<std::int32_t, Then>;
 
+    void ask(std::uint16_t message, Then then);
+    ScreenPtr waitFor(std::uint16_t message, std::chrono::milliseconds limit);
     bool want(std::int32_t& ticket, Then& then);
     Then take(std::int32_t ticket);
     ScreenPtr look();
+    ScreenPtr withPixels(const ScreenPtr& screen);
     void lookIsQueued(bool queued);
     ScreenPtr numbered(Screen screen);
 

@@ -7,6 +7,8 @@
 #include <deque>
 #include <map>
 #include <memory>
+#include <mutex>
+#include <optional>
 #include <thread>
 #include <vector>
 
@@ -17,12 +19,13 @@ class LoopAttention;
 namespace simulator {
 
 /// Looks at each screen that there is, in order, on a thread of its own: for those who wait for something, and for
-/// those who want to hear of every change. It remembers the last screens, so that nobody misses what has come between
-/// his key and his waiting. The GUI thread waits for none of them.
-/// Safe from any thread but the GUI thread.
+/// those who want to hear of every change. While somebody is there it remembers the last screens, so that nobody misses
+/// what has come between his key and his waiting; else the screen is not read. The GUI thread waits for none of them,
+/// and they wait for each other no longer than one condition takes for one screen. Safe from any thread but the GUI
+/// thread.
 ///
-/// Locks: one is held while it judges and tells, and is taken before the reader's; the other guards what the GUI thread
-/// brings, a leaf.
+/// Locks: one guards who is there, and is held while it tells, but not while a condition is judged; it is taken before
+/// the reader's. The other guards what the GUI thread brings, a leaf.
 class ScreenWatch {
 public:
     enum class End { HELD, LAPSED, GONE };
@@ -52,9 +55,13 @@ public:
     ScreenWatch& operator=(const ScreenWatch&) = delete;
     ~ScreenWatch();
 
+    /// Somebody is there until leave(): what he may ask for later is remembered from now on.
+    void join(Owner owner);
+
     /// Judges the screens from number `since` on that it remembers, and from now on every one, for so long in real
-    /// time; `since` 0 begins with the screen as it is when all that is queued by now has been handled. False where
-    /// this owner waits for too much already.
+    /// time; `since` 0 begins with the screen as it is when all that is queued by now has been handled. What holds
+    /// already is judged here, and `then` called before this returns. False where this owner waits for too much
+    /// already. An owner calls it on one thread at a time.
     bool waitFor(Owner owner, ScreenCondition condition, std::uint64_t since, std::chrono::milliseconds limit,
                  Then then);
 
@@ -73,19 +80,30 @@ private:
     using Time = std::chrono::steady_clock::time_point;
     using Lock = std::unique_lock<std::mutex>;
 
+    class Reading;
+
     struct Wait {
         Owner owner;
         ScreenCondition condition;
-        std::uint64_t since;
+        std::uint64_t next; ///< the number of the first screen that it has not been judged for
         Time deadline;
-        Time patience; ///< until then the screen may come that has been asked for
         Then then;
+        Time patience{};   ///< until then the screen may come that has been asked for
+        ScreenPtr shown{}; ///< the one that has been asked for
+        bool isAsking = false;
+        bool isLast = false; ///< the screen that has been asked for is the last one
+        bool isBehind = false;
+        bool isOver = false;
     };
     using WaitPtr = std::shared_ptr<Wait>;
 
-    struct Subscriber {
-        std::uint64_t after;
-        Listener listener;
+    /// Somebody who is there.
+    struct Party {
+        bool hasJoined = false;
+        std::vector<WaitPtr> waits{};
+        std::deque<WaitPtr> behind{}; ///< those of them that have a screen before them, in turn
+        std::uint64_t after = 0;
+        Listener listener{};
     };
 
     /// Another screen, or one that somebody has asked for.
@@ -96,31 +114,45 @@ private:
 
     void run();
     void bring(News news);
-    void waitForNews(Lock& lock);
+    bool waitForWork();
+    std::deque<News> takeNews();
     void handle(const News& news);
     void changed(const ScreenPtr& screen);
-    void begin(const WaitPtr& wait, const ScreenPtr& screen);
-    bool judge(const Wait& wait, const ScreenPtr& screen) const;
+    void shown(const WaitPtr& wait, const ScreenPtr& screen);
+
+    bool isFull(Owner owner) const;
+    std::optional<Verdict> judgeRemembered(Wait& wait, Lock& lock) const;
+    std::optional<Verdict> judgeNow(const WaitPtr& wait, ScreenPtr screen) const;
+    void add(const WaitPtr& wait);
+    void addAsking(const WaitPtr& wait);
     void ask(const WaitPtr& wait);
+    ScreenPtr nextFor(const Wait& wait) const;
+    void queueWhereBehind(const WaitPtr& wait);
+    WaitPtr takeTurn();
+    void judgeNext(Lock& lock);
+    void conclude(const WaitPtr& wait, const Verdict& verdict);
     void dropLapsed();
-    void publishDeadline();
+    void dropEmpty(Owner owner);
     void attend();
+    void publish();
 
     ScreenReader& mReader;
     const std::chrono::milliseconds mPatience;
 
-    std::mutex mJudging; ///< guards what follows, up to the other one
+    std::mutex mMutex; ///< guards what follows, up to the other one
     std::deque<ScreenPtr> mRemembered;
-    std::vector<WaitPtr> mWaits;   ///< those that every screen is judged for
-    std::vector<WaitPtr> mPending; ///< those that wait for their first screen, or for their last one
-    std::map<Owner, Subscriber> mSubscribers;
+    std::map<Owner, Party> mParties;
+    std::deque<Owner> mTurns; ///< whose conditions are behind, each once; some have left
+    Time mNextLapse = Time::max();
+    bool mIsListening = false;
     std::unique_ptr<host::LoopAttention> mAttention;
     bool mHasEnded = false;
 
-    std::mutex mMutex;
+    std::mutex mBringing;
     std::condition_variable mBrought;
     std::deque<News> mNews;
-    Time mNextDeadline = Time::max();
+    Time mAlarm = Time::max();
+    bool mHasTurns = false;
     bool mStopping = false;
     std::thread mThread;
 };

@@ -61,16 +61,20 @@ What whatIn(RpcParams& params, const std::string& subject)
 ScreenCondition conditionIn(RpcParams& params)
 {
     const std::string subject = subjectIn(params);
-    ScreenCondition condition{whatIn(params, subject), matchIn(params)};
-    condition.withVolatile = params.flag("volatile", false);
-    if (condition.what == What::ROWS)
-        condition.rows = params.texts(subject);
+    const What what = whatIn(params, subject);
+    const Match match = matchIn(params);
+    const bool withVolatile = params.flag("volatile", false);
+    std::vector<std::string> rows;
+    std::string text;
+    if (what == What::ROWS)
+        rows = params.texts(subject);
     else
-        condition.text = params.text(subject);
-    if (condition.what == What::ROWS && condition.match != Match::EQUAL)
+        text = params.text(subject);
+    if (what == What::ROWS && match != Match::EQUAL)
         throw badCondition("'rows' are only to be equal");
-    if (condition.match == Match::REGEX && condition.text.size() > LONGEST_PATTERN)
+    if (match == Match::REGEX && text.size() > LONGEST_PATTERN)
         throw badCondition("a regular expression has at most " + std::to_string(LONGEST_PATTERN) + " bytes");
+    ScreenCondition condition(what, match, std::move(text), std::move(rows), withVolatile);
     if (const std::string error = condition.error(); !error.empty())
         throw badCondition("this is no regular expression: " + error);
     return condition;

@@ -26,8 +26,10 @@ constexpr std::int64_t LONGEST_REST = 60 * 1000;
 
 void refuseLongRest(std::int64_t milliseconds)
 {
-    if (!host::Clock::instance().isVirtual() && milliseconds > LONGEST_REST)
-        throw RpcError(RpcError::BAD_PARAMS, "that takes more than a minute of real time");
+    const bool isVirtual = host::Clock::instance().isVirtual();
+    if (milliseconds > (isVirtual ? DAY : LONGEST_REST))
+        throw RpcError(RpcError::BAD_PARAMS,
+                       isVirtual ? "that takes more than a day" : "that takes more than a minute of real time");
 }
 
 PegKey keyIn(RpcParams& params)
@@ -95,6 +97,7 @@ Json numberOf(const ScreenPtr& screen)
 RpcMethods::RpcMethods(RpcPhone& phone, ScreenWatch& watch, RpcAbout about, Changed changed)
     : mPhone(phone), mWatch(watch), mChanged(std::move(changed)), mAbout(std::move(about))
 {
+    mWatch.join(this);
     add("hello", &RpcMethods::hello);
     add("screen", &RpcMethods::screen);
     addChanging("press", &RpcMethods::press);
@@ -172,7 +175,7 @@ Json RpcMethods::screenshot(RpcParams& params)
 {
     const auto scale = static_cast<int>(params.number("scale", 1, 1, 8));
     params.end();
-    const ScreenPtr screen = mPhone.screen();
+    const ScreenPtr screen = mPhone.photograph();
     return {{"number", screen->number}, {"png", toBase64(host::pngOf(screen->picture, scale))}};
 }
 

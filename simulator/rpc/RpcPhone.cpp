@@ -12,11 +12,23 @@ namespace {
 /// A GUI thread that does not come back by then stands still for good.
 constexpr std::chrono::seconds PATIENCE(10);
 
+constexpr char NOT_TAKEN[] = "the telephone does not take the key";
+
 } // namespace
 
 ScreenPtr RpcPhone::screen()
 {
-    if (ScreenPtr screen = mReader.read(PATIENCE))
+    return orComplaint(mReader.read(PATIENCE));
+}
+
+ScreenPtr RpcPhone::photograph()
+{
+    return orComplaint(mReader.photograph(PATIENCE));
+}
+
+ScreenPtr RpcPhone::orComplaint(ScreenPtr screen) const
+{
+    if (screen != nullptr)
         return screen;
     if (!mReader.isThere())
         throw RpcError(RpcError::HAS_ENDED, "the application has ended");
@@ -25,14 +37,17 @@ ScreenPtr RpcPhone::screen()
 
 void RpcPhone::press(Client client, PegKey key)
 {
-    down(client, key);
-    up(client, key);
+    switch (mKeys.press(client, key)) {
+    case KeyPad::Press::TAKEN: return;
+    case KeyPad::Press::HELD: throw RpcError(RpcError::NOT_TAKEN, "the key is held down already");
+    case KeyPad::Press::REFUSED: throw RpcError(RpcError::NOT_TAKEN, NOT_TAKEN);
+    }
 }
 
 void RpcPhone::down(Client client, PegKey key)
 {
     if (!mKeys.down(client, key))
-        throw RpcError(RpcError::NOT_TAKEN, "the telephone does not take the key");
+        throw RpcError(RpcError::NOT_TAKEN, NOT_TAKEN);
 }
 
 void RpcPhone::up(Client client, PegKey key)

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "simulator/core/KeyPad.h"
 #include "simulator/core/PhoneClock.h"
 #include "simulator/core/ScreenReader.h"
-#include "simulator/core/KeyPad.h"
 
 namespace simulator {
 
@@ -19,7 +19,10 @@ public:
     /// As it is when all that is queued by now has been handled.
     ScreenPtr screen();
 
-    /// Presses a key and lets it go.
+    /// With the pixels.
+    ScreenPtr photograph();
+
+    /// Presses a key and lets it go. Refused where somebody holds it.
     void press(Client client, PegKey key);
 
     void down(Client client, PegKey key);
@@ -38,6 +41,8 @@ public:
     void leave(Client client) { mKeys.leave(client); }
 
 private:
+    ScreenPtr orComplaint(ScreenPtr screen) const;
+
     ScreenReader& mReader;
     PhoneClock& mClock;
     KeyPad& mKeys;

@@ -2,7 +2,6 @@
 
 #include "host/Phone.h"
 #include "simulator/rpc/RpcDispatcher.h"
-#include "simulator/screen/ScreenText.h"
 
 #include <nlohmann/json.hpp>
 
@@ -12,7 +11,7 @@ Json screenAnswer(const Screen& screen)
 {
     Json answer = {{"number", screen.number}, {"language", screen.words.language}};
     answer.update(screenForm(screen.picture, nameOf(host::variant())));
-    answer["text"] = screenText(screen.words.displayables, screen.picture.texts);
+    answer["text"] = textOf(screen);
     return answer;
 }
 

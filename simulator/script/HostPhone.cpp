@@ -1,9 +1,9 @@
 #include "simulator/script/HostPhone.h"
 
-#include "DisplayAPI/Display.h"
 #include "host/frontend/Wire.h"
 #include "host/input/Keyboard.h"
 #include "host/toolkit/Loop.h"
+#include "simulator/core/DisplayedWords.h"
 
 #include <future>
 #include <thread>
@@ -27,13 +27,6 @@ constexpr milliseconds GLANCE(200);
 
 /// How long an idle loop may take to notice that it has something to do again.
 constexpr milliseconds PAUSE(5);
-
-/// The display is there while it is asked: on the GUI thread, between two messages.
-ScreenWords displayedWords()
-{
-    DisplayAPI::Display* const display = DisplayAPI::Display::latest();
-    return {display != nullptr ? display->serialise() : std::string(), {}};
-}
 
 } // namespace
 

@@ -4,11 +4,11 @@
 #include "host/lcd/Png.h"
 #include "host/toolkit/Loop.h"
 #include "simulator/core/HeldKey.h"
+#include "simulator/core/TextDifference.h"
 #include "simulator/screen/ScreenJson.h"
 #include "simulator/screen/ScreenRows.h"
 #include "simulator/screen/ScreenText.h"
 #include "simulator/script/ExpectedScreen.h"
-#include "simulator/core/TextDifference.h"
 
 #include <fstream>
 #include <sstream>
@@ -120,9 +120,9 @@ void ScriptRunner::hold(const Step& step)
 void ScriptRunner::expect(const Step& step, bool wanted)
 {
     using What = ScreenCondition::What;
-    const ScreenCondition condition{
-        .what = wanted ? What::TEXT : What::NO_TEXT, .match = CONTAINS, .text = step.text, .withVolatile = true};
-    if (mPhone.waitFor(condition, mPatience))
+    constexpr bool WITH_VOLATILE = true;
+    const What what = wanted ? What::TEXT : What::NO_TEXT;
+    if (mPhone.waitFor({what, CONTAINS, step.text, {}, WITH_VOLATILE}, mPatience))
         fail((wanted ? "expected '" : "expected no '") + step.text + "'");
 }
 
@@ -136,8 +136,8 @@ void ScriptRunner::compare(const Step& step)
 {
     if (updatesScreens())
         return update(step);
-    const ScreenCondition condition{.what = ScreenCondition::What::SCREEN, .text = read(step.text)};
-    if (const auto difference = mPhone.waitFor(condition, mPatience))
+    using enum ScreenCondition::What;
+    if (const auto difference = mPhone.waitFor({SCREEN, ScreenCondition::Match::EQUAL, read(step.text)}, mPatience))
         fail("the screen is not that of " + step.text + " (-), but another (+):\n" + *difference);
 }
 
@@ -164,7 +164,7 @@ void ScriptRunner::writePicture(const std::filesystem::path& path)
 std::string ScriptRunner::screen()
 {
     const ScreenPtr screen = mPhone.screen();
-    return screen != nullptr ? screenText(screen->words.displayables, screen->picture.texts) : std::string();
+    return screen != nullptr ? textOf(*screen) : std::string();
 }
 
 std::string ScriptRunner::read(const std::filesystem::path& path)

@@ -66,6 +66,17 @@ TEST_F(KeyPadTest, KeyThatIsNotTakenIsTold)
 {
     toolkit.quit();
     EXPECT_FALSE(pad.down(&one, PK_STAR));
+    EXPECT_EQ(pad.press(&one, PK_STAR), KeyPad::Press::REFUSED);
+}
+
+TEST_F(KeyPadTest, KeyThatIsHeldIsNotPressed)
+{
+    pad.down(&other, PK_STAR);
+    EXPECT_EQ(pad.press(&one, PK_STAR), KeyPad::Press::HELD);
+    EXPECT_EQ(pad.press(&one, PK_9), KeyPad::Press::TAKEN);
+    pad.up(&other, PK_STAR);
+    EXPECT_EQ(pad.press(&one, PK_STAR), KeyPad::Press::TAKEN);
+    EXPECT_EQ(keys(), "+*+9-9-*+*-*");
 }
 
 TEST_F(KeyPadTest, KeyIsUpWhenTheLastPageLetsGo)

@@ -28,7 +28,10 @@ Screen screen()
     return screen;
 }
 
+/// With another time than it shows.
 const std::string SCREEN = "object:\nname:List\nstring0:Ada\nend:\nobject:\nname:RunningTexts\nvolatile:10:00\nend:\n";
+
+const std::string SHOWN = "object:\nname:List\nstring0:Ada\nend:\nobject:\nname:RunningTexts\nvolatile:09:41\nend:\n";
 
 TEST(ScreenCondition, EachHoldsOrNot)
 {
@@ -53,6 +56,8 @@ TEST(ScreenCondition, EachHoldsOrNot)
         {{What::TEXT, Match::EQUAL, "Line 1"}, true},
         {{What::SCREEN, Match::EQUAL, SCREEN}, true},
         {{What::SCREEN, Match::EQUAL, "object:\nname:List\nstring0:Ada\nend:\n"}, false},
+        {{What::SCREEN, Match::EQUAL, SCREEN, {}, true}, false},
+        {{What::SCREEN, Match::EQUAL, SHOWN, {}, true}, true},
         {{What::SCREEN, Match::CONTAINS, "string0:Ada\n"}, true},
         {{What::SCREEN, Match::CONTAINS, "09:41"}, false},
         {{What::SCREEN, Match::CONTAINS, "09:41", {}, true}, true},
@@ -62,8 +67,7 @@ TEST(ScreenCondition, EachHoldsOrNot)
         {{What::ROWS, Match::EQUAL, "", {"Line 1  09:41", "Ada", "Zoë  4711"}, true}, true},
     };
     for (const Case& each : cases)
-        EXPECT_EQ(each.condition.differenceOf(screen()).empty(), each.holds)
-            << static_cast<int>(each.condition.what) << ' ' << each.condition.text;
+        EXPECT_EQ(each.condition.holdsFor(screen()), each.holds) << each.condition.differenceOf(screen());
 }
 
 TEST(ScreenCondition, DifferenceIsForPeople)

@@ -18,10 +18,14 @@ protected:
     std::future<Verdict> waitFor(int count, std::uint64_t since, milliseconds limit)
     {
         const auto verdict = std::make_shared<std::promise<Verdict>>();
-        const ScreenCondition condition{ScreenCondition::What::SCREEN, ScreenCondition::Match::EQUAL, screenOf(count)};
-        EXPECT_TRUE(
-            watch->waitFor(this, condition, since, limit, [verdict](const Verdict& v) { verdict->set_value(v); }));
+        EXPECT_TRUE(watch->waitFor(this, conditionOf(count), since, limit,
+                                   [verdict](const Verdict& v) { verdict->set_value(v); }));
         return verdict->get_future();
+    }
+
+    static ScreenCondition conditionOf(int count)
+    {
+        return {ScreenCondition::What::SCREEN, ScreenCondition::Match::EQUAL, screenOf(count)};
     }
 
     Verdict verdictOn(int count, std::uint64_t since, milliseconds limit = test::PATIENCE)
@@ -49,6 +53,7 @@ TEST_F(ScreenWatchTest, EveryChangeIsJudged)
 
 TEST_F(ScreenWatchTest, WhatWasBeforeDoesNotCount)
 {
+    watch->join(this);
     verdictOn(0, 0);
     change();
     EXPECT_EQ(verdictOn(0, 0, milliseconds(1)).end, ScreenWatch::End::LAPSED);
@@ -111,6 +116,7 @@ TEST_F(ScreenWatchTest, TimeOutNeedsNoGuiThread)
 
 TEST_F(ScreenWatchTest, ManyAreRemembered)
 {
+    watch->join(this);
     for (std::size_t i = 0; i < ScreenWatch::REMEMBERED + 10; ++i) {
         change();
         reader->read(test::PATIENCE);
@@ -129,6 +135,7 @@ TEST_F(ScreenWatchTest, EndIsTold)
 
 TEST_F(ScreenWatchTest, ListenerHearsOfWhatHasBeenMeanwhile)
 {
+    watch->join(this);
     const auto first = reader->read(test::PATIENCE)->number;
     change();
     verdictOn(1, 0);
@@ -140,6 +147,64 @@ TEST_F(ScreenWatchTest, ListenerHearsOfWhatHasBeenMeanwhile)
     change();
     verdictOn(3, 0);
     EXPECT_THAT(numbers, ElementsAre(2, 3));
+}
+
+TEST_F(ScreenWatchTest, NobodyReadsFramesThatNobodyLooksAt)
+{
+    const auto frame = [this] {
+        change();
+        EXPECT_TRUE(toolkit.waitUntilIdle());
+    };
+    frame();
+    const int before = asked;
+    frame();
+    EXPECT_EQ(asked, before);
+    watch->join(this);
+    frame();
+    EXPECT_EQ(asked, before + 1);
+    watch->leave(this);
+    frame();
+    EXPECT_EQ(asked, before + 1);
+}
+
+TEST_F(ScreenWatchTest, RememberedScreensHaveNoPixels)
+{
+    EXPECT_TRUE(verdictOn(0, 0).screen->picture.pixels.empty());
+    EXPECT_EQ(reader->photograph(test::PATIENCE)->picture.pixels, host::Lcd::current()->picture().pixels);
+}
+
+TEST_F(ScreenWatchTest, WhoWaitsForMuchTakesTurnsWithTheOthers)
+{
+    constexpr int MANY = 20;
+    const int other = 0;
+    std::vector<std::string> order;
+    test::Gate last;
+    const auto wait = [&](ScreenWatch::Owner owner, const char* name) {
+        EXPECT_TRUE(watch->waitFor(owner, conditionOf(1), 0, test::PATIENCE, [&, name](const Verdict&) {
+            order.emplace_back(name);
+            if (order.size() == MANY + 1)
+                last.open();
+        }));
+    };
+    for (int i = 0; i < MANY; ++i)
+        wait(this, "many");
+    wait(&other, "one");
+    change();
+    EXPECT_TRUE(last.wait());
+    EXPECT_LE(std::ranges::find(order, "one") - order.begin(), 1);
+}
+
+TEST_F(ScreenWatchTest, WhatHasBeenIsJudgedWithoutTheGuiThread)
+{
+    watch->join(this);
+    verdictOn(0, 0);
+    change();
+    verdictOn(1, 0);
+    test::Gate gate;
+    toolkit.post([&] { gate.wait(); });
+    EXPECT_EQ(verdictOn(1, 1).screen->number, 2u);
+    gate.open();
+    EXPECT_TRUE(toolkit.waitUntilIdle());
 }
 
 TEST_F(ScreenWatchTest, WhoHasLeftIsNotCalled)

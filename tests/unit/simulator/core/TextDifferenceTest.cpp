@@ -4,6 +4,7 @@
 
 namespace {
 
+using simulator::areAlike;
 using simulator::textDifference;
 
 TEST(TextDifference, SameTextsDoNotDiffer)
@@ -56,6 +57,15 @@ TEST(TextDifference, VolatileTextHasToBeOnBothSides)
     EXPECT_EQ(textDifference("volatile:09:12\n", ""), "- volatile:09:12\n");
     EXPECT_EQ(textDifference("volatile:09:12\n", "string0:09:12\n"), "- volatile:09:12\n+ string0:09:12\n");
     EXPECT_EQ(textDifference("string0:09:12\n", "volatile:09:12\n"), "- string0:09:12\n+ volatile:09:12\n");
+}
+
+TEST(TextDifference, VolatileTextsCountWhereTheyAreAskedFor)
+{
+    using enum simulator::VolatileLines;
+    EXPECT_EQ(textDifference("volatile:1\n", "volatile:2\n", COUNT), "- volatile:1\n+ volatile:2\n");
+    EXPECT_FALSE(areAlike("a\nvolatile:1\n", "a\nvolatile:2\n", COUNT));
+    EXPECT_TRUE(areAlike("a\r\nvolatile:1\n", "a\nvolatile:2", MAY_DIFFER));
+    EXPECT_FALSE(areAlike("a\nb\n", "a\n", MAY_DIFFER));
 }
 
 } // namespace

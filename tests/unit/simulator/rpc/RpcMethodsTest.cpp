@@ -91,6 +91,7 @@ TEST_F(RpcMethodsTest, IntervalLiesBetweenPresses)
     const auto start = host::Clock::instance().now();
     result("press", R"({"key":"ok","times":3,"interval":200})");
     EXPECT_EQ(host::Clock::instance().now() - start, 400);
+    EXPECT_EQ(errorCode("press", R"({"key":"ok","times":1000,"interval":86400000})"), -32602);
     host::Clock::instance().makeReal();
 }
 
@@ -102,6 +103,14 @@ TEST_F(RpcMethodsTest, ClientThatGoesLetsGo)
         EXPECT_EQ(handledKeys(), "+49");
     }
     EXPECT_EQ(handledKeys(), "+49-49");
+}
+
+TEST_F(RpcMethodsTest, KeyThatAnotherHoldsIsNotPressed)
+{
+    const RpcMethods other(*phone, *watch, {"counter"}, {});
+    answerTo(other, "hold", R"({"key":"down"})");
+    EXPECT_EQ(errorCode("press", R"({"key":"down"})"), -32001);
+    EXPECT_EQ(handledKeys(), "+257");
 }
 
 TEST_F(RpcMethodsTest, WhatHoldsAlreadyIsAnsweredAtOnce)

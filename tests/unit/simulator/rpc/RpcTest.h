@@ -50,7 +50,11 @@ protected:
         toolkit.run([this] { reader.reset(); });
     }
 
-    simulator::ScreenWords words() const { return {screenOf(thing->count), "en-GB"}; }
+    simulator::ScreenWords words()
+    {
+        ++asked;
+        return {screenOf(thing->count), "en-GB"};
+    }
 
     /// Another screen, and a frame of it.
     void change()
@@ -80,6 +84,7 @@ protected:
 
     RunningToolkit toolkit;
     CountingThing* thing = new CountingThing;
+    std::atomic<int> asked = 0; ///< how often the screen has been read
     simulator::PhoneClock clock;
     simulator::KeyPad keys;
     std::optional<simulator::ScreenReader> reader;

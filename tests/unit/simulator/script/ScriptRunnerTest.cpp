@@ -35,12 +35,13 @@ public:
     std::optional<std::string> waitFor(const ScreenCondition& condition, milliseconds limit) override
     {
         const auto end = std::chrono::steady_clock::now() + limit;
-        std::string difference = condition.differenceOf(*screen());
-        for (; !difference.empty() && !isGone && std::chrono::steady_clock::now() < end;
-             difference = condition.differenceOf(*screen()))
+        while (!condition.holdsFor(*screen())) {
+            if (isGone || std::chrono::steady_clock::now() >= end)
+                return condition.differenceOf(*screen());
             if (nextFrame)
                 nextFrame();
-        return difference.empty() ? std::nullopt : std::optional(difference);
+        }
+        return {};
     }
 
     bool settle(const std::function<void()>& tell) override

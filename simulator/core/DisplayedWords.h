@@ -1,0 +1,13 @@
+#pragma once
+
+#include "simulator/core/Screen.h"
+
+namespace simulator {
+
+/// What the program says of its screen, by the library's display. On the GUI thread, between two messages.
+ScreenWords displayedWords();
+
+/// The program's language, as the web names it; empty where it names none. On the GUI thread.
+std::string displayedLanguage();
+
+} // namespace simulator
