@@ -4,6 +4,7 @@
 #include "simulator/rpc/RpcMethods.h"
 #include "simulator/rpc/RpcScreen.h"
 
+#include <chrono>
 #include <memory>
 #include <mutex>
 #include <set>
@@ -13,13 +14,19 @@ struct mg_context;
 
 namespace simulator {
 
+class RpcConnection;
+
 /// The test interface's socket, on a server of somebody else's. Has to outlive that one.
 class RpcServer {
 public:
     static constexpr int MOST_CLIENTS = 32;
 
-    /// Phone and watch have to outlive it.
-    RpcServer(RpcPhone& phone, ScreenWatch& watch, RpcAbout about, RpcAdmission admission);
+    /// Who says nothing whole for some of these is gone; a minute, because a client may stand in a debugger.
+    static constexpr std::chrono::milliseconds HEARTBEAT{20'000};
+
+    /// Phone and watch have to outlive it. `heartbeat` lies between two pings.
+    RpcServer(RpcPhone& phone, ScreenWatch& watch, RpcAbout about, RpcAdmission admission,
+              std::chrono::milliseconds heartbeat = HEARTBEAT);
     RpcServer(const RpcServer&) = delete;
     RpcServer& operator=(const RpcServer&) = delete;
     ~RpcServer();
@@ -31,23 +38,21 @@ public:
     void end();
 
 private:
-    class Client;
-
     static int connecting(const mg_connection* connection, void* self);
     static void connected(mg_connection* connection, void* self);
     static int received(mg_connection* connection, int bits, char* data, std::size_t size, void* self);
-    static void closed(const mg_connection* connection, void* self);
 
-    bool add(const std::shared_ptr<Client>& client);
-    void remove(const Client* client);
+    bool add(const std::shared_ptr<RpcConnection>& client);
+    void remove(const std::shared_ptr<RpcConnection>& client);
 
     RpcPhone& mPhone;
     ScreenWatch& mWatch;
     RpcRendering mRendering;
     const RpcAbout mAbout;
     const RpcAdmission mAdmission;
+    const std::chrono::milliseconds mHeartbeat;
     std::mutex mMutex;
-    std::set<std::shared_ptr<Client>> mClients;
+    std::set<std::shared_ptr<RpcConnection>> mClients;
     bool mHasEnded = false;
 };
 

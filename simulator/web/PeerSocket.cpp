@@ -86,6 +86,43 @@ void PeerSocket::keepLittle() const
     setsockopt(mDescriptor, SOL_SOCKET, SO_SNDBUF, &BYTES, sizeof BYTES);
 }
 
+void PeerSocket::end() const
+{
+    shutdown(mDescriptor, SHUT_WR);
+}
+
+std::optional<std::size_t> PeerSocket::write(std::string_view bytes) const
+{
+    for (;;) {
+        const ssize_t count = send(mDescriptor, bytes.data(), bytes.size(), MSG_DONTWAIT | MSG_NOSIGNAL);
+        if (count >= 0)
+            return static_cast<std::size_t>(count);
+        if (errno == EAGAIN || errno == EWOULDBLOCK)
+            return 0;
+        if (errno != EINTR)
+            return {};
+    }
+}
+
+bool PeerSocket::waitUntilReadable(std::chrono::milliseconds limit) const
+{
+    pollfd event{mDescriptor, POLLIN, 0};
+    return poll(&event, 1, static_cast<int>(limit.count())) > 0;
+}
+
+std::size_t PeerSocket::read(char* buffer, std::size_t size) const
+{
+    for (;;) {
+        const ssize_t count = recv(mDescriptor, buffer, size, 0);
+        if (count >= 0)
+            return static_cast<std::size_t>(count);
+        if (errno == EAGAIN || errno == EWOULDBLOCK)
+            waitUntilReadable(std::chrono::hours(1));
+        else if (errno != EINTR)
+            return 0;
+    }
+}
+
 bool PeerSocket::waitUntilWritable() const
 {
     constexpr int FOR_EVER = -1;

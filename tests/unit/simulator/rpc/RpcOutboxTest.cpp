@@ -3,127 +3,166 @@
 #include "support/Gate.h"
 #include "support/Worker.h"
 
-#include <atomic>
 #include <gmock/gmock.h>
 
 namespace {
 
 using simulator::RpcOutbox;
-using testing::ElementsAre;
 
-/// Somebody who reads when the test says so.
+/// Somebody who takes so many bytes.
 class RpcOutboxTest : public testing::Test {
 protected:
-    bool write(const RpcOutbox::Message& message)
+    void take(std::size_t bytes)
     {
-        reading.wait();
-        if (cut.isOpen())
-            return false;
         const std::lock_guard lock(mutex);
-        written.push_back(message.data);
-        return true;
+        room += bytes;
+        changed.notify_all();
+    }
+
+    std::optional<std::size_t> write(std::string_view bytes)
+    {
+        const std::lock_guard lock(mutex);
+        if (isCut)
+            return {};
+        const std::size_t count = std::min(room, bytes.size());
+        written.append(bytes.substr(0, count));
+        room -= count;
+        return count;
+    }
+
+    bool waitForRoom()
+    {
+        std::unique_lock lock(mutex);
+        changed.wait(lock, [this] { return room > 0 || isCut; });
+        return !isCut;
     }
 
     void onCut()
     {
-        cut.open();
-        reading.open();
+        const std::lock_guard lock(mutex);
+        isCut = true;
+        changed.notify_all();
     }
 
-    bool hasWritten(std::size_t count)
+    bool hasBeenCut()
     {
         const std::lock_guard lock(mutex);
-        return written.size() == count;
+        return isCut;
     }
 
+    std::string all()
+    {
+        const std::lock_guard lock(mutex);
+        return written;
+    }
+
+    static constexpr std::size_t PLENTY = 100;
+
     std::mutex mutex;
-    std::vector<std::string> written;
-    test::Gate reading;
-    test::Gate cut;
-    RpcOutbox outbox{[this](const auto& message) { return write(message); }, [this] { onCut(); }};
+    std::condition_variable changed;
+    std::size_t room = 0;
+    std::string written;
+    bool isCut = false;
+    test::Gate ended;
+    RpcOutbox outbox{{[this](auto bytes) { return write(bytes); }, [this] { return waitForRoom(); },
+                      [this] { ended.open(); }, [this] { onCut(); }}};
 };
 
-TEST_F(RpcOutboxTest, MessagesGoInOrder)
+TEST_F(RpcOutboxTest, WhoSendsWritesHimselfWhatIsTaken)
 {
-    reading.open();
-    for (const char* text : {"a", "b", "c"})
-        outbox.send({1, text});
-    test::waitUntil([this] { return hasWritten(3); });
-    EXPECT_THAT(written, ElementsAre("a", "b", "c"));
+    take(PLENTY);
+    outbox.send("abc");
+    EXPECT_EQ(all(), "abc");
+}
+
+TEST_F(RpcOutboxTest, FramesGoInOrderInWhateverPieces)
+{
+    take(2);
+    for (const char* text : {"abc", "def", "ghi"})
+        outbox.send(text);
+    EXPECT_EQ(all(), "ab");
+    for (std::size_t i = 3; i <= 9; ++i) {
+        take(1);
+        test::waitUntil([&] { return all().size() == i; });
+    }
+    EXPECT_EQ(all(), "abcdefghi");
 }
 
 TEST_F(RpcOutboxTest, NobodyWaitsForWhoDoesNotRead)
 {
     for (std::size_t i = 0; i < RpcOutbox::MOST_WAITING; ++i)
-        outbox.send({1, "a"});
-    EXPECT_FALSE(cut.isOpen());
+        outbox.send("a");
+    EXPECT_FALSE(hasBeenCut());
+    EXPECT_TRUE(outbox.isOpen());
 }
 
 TEST_F(RpcOutboxTest, WhoLetsTooManyLieIsCutOff)
 {
-    for (std::size_t i = 0; i < RpcOutbox::MOST_WAITING + 2; ++i)
-        outbox.send({1, "a"});
-    EXPECT_TRUE(cut.isOpen());
+    for (std::size_t i = 0; i < RpcOutbox::MOST_WAITING + 1; ++i)
+        outbox.send("a");
+    EXPECT_TRUE(hasBeenCut());
+    EXPECT_FALSE(outbox.isOpen());
 }
 
 TEST_F(RpcOutboxTest, WhoLetsTooMuchLieIsCutOff)
 {
-    for (int i = 0; i < 3; ++i)
-        outbox.send({1, std::string(RpcOutbox::MOST_BYTES / 2 + 1, 'a')});
-    EXPECT_TRUE(cut.isOpen());
+    for (int i = 0; i < 2; ++i)
+        outbox.send(std::string(RpcOutbox::MOST_BYTES / 2 + 1, 'a'));
+    EXPECT_TRUE(hasBeenCut());
 }
 
 TEST_F(RpcOutboxTest, WhoIsSlowGetsTheLatest)
 {
-    const auto said = [](const char* text) { return [text] { return RpcOutbox::Message{1, text}; }; };
-    outbox.send({1, "a"});
-    outbox.send({1, "b"});
+    const auto said = [](const char* text) { return [text] { return std::string(text); }; };
+    outbox.send("a");
+    outbox.send("b");
     for (const char* text : {"1", "2", "3"})
         outbox.offer(said(text));
-    reading.open();
-    test::waitUntil([this] { return hasWritten(3); });
-    EXPECT_THAT(written, ElementsAre("a", "b", "3"));
+    take(PLENTY);
+    test::waitUntil([this] { return all().size() == 3; });
+    outbox.offer(said("4"));
+    EXPECT_EQ(all(), "ab34");
 }
 
 TEST_F(RpcOutboxTest, WhatIsWaitingIsWrittenBeforeTheEnd)
 {
-    outbox.send({1, "a"});
-    outbox.send({8, "end"});
+    outbox.send("a");
+    outbox.send("end");
     outbox.finish();
-    outbox.send({1, "late"});
-    reading.open();
-    EXPECT_TRUE(cut.wait());
-    EXPECT_THAT(written, ElementsAre("a", "end"));
+    EXPECT_FALSE(outbox.isOpen());
+    outbox.send("late");
+    take(PLENTY);
+    EXPECT_TRUE(ended.wait());
+    EXPECT_EQ(all(), "aend");
+    EXPECT_FALSE(hasBeenCut());
 }
 
 TEST_F(RpcOutboxTest, NothingIsOfferedBehindTheEnd)
 {
-    const auto latest = [] { return RpcOutbox::Message{1, "latest"}; };
-    outbox.send({8, "end"});
+    const auto latest = [] { return std::string("latest"); };
+    outbox.send("end");
     outbox.offer(latest);
     outbox.finish();
     outbox.offer(latest);
-    reading.open();
-    EXPECT_TRUE(cut.wait());
-    EXPECT_THAT(written, ElementsAre("end"));
+    take(PLENTY);
+    EXPECT_TRUE(ended.wait());
+    EXPECT_EQ(all(), "end");
 }
 
 TEST_F(RpcOutboxTest, WhatIsFinishedIsWrittenBeforeItGoes)
 {
-    std::atomic<bool> isCut = false;
-    std::size_t count = 0;
-    const auto writeSlowly = [&](const auto&) {
-        std::this_thread::sleep_for(std::chrono::milliseconds(1));
-        count += isCut ? 0 : 1;
-        return !isCut;
-    };
+    std::string text;
     {
-        RpcOutbox leaving(writeSlowly, [&] { isCut = true; });
-        for (int i = 0; i < 10; ++i)
-            leaving.send({1, "a"});
+        const auto writeOne = [&](std::string_view bytes) {
+            text += bytes[0];
+            return std::optional<std::size_t>(1);
+        };
+        RpcOutbox leaving({writeOne, [] { return true; }, [] {}, [] {}});
+        for (const char* frame : {"abc", "def"})
+            leaving.send(frame);
         leaving.finish();
     }
-    EXPECT_EQ(count, 10u);
+    EXPECT_EQ(text, "abcdef");
 }
 
 } // namespace

@@ -1,6 +1,5 @@
 #include "simulator/rpc/RpcServer.h"
 
-#include "simulator/web/PortCheck.h"
 #include "simulator/web/WebServer.h"
 #include "unit/simulator/rpc/RpcTest.h"
 #include "unit/simulator/web/WebClient.h"
@@ -28,13 +27,6 @@ protected:
         broadcaster.end();
     }
 
-    static simulator::Endpoint freeEndpoint()
-    {
-        simulator::Endpoint endpoint;
-        endpoint.port = simulator::freePort(endpoint);
-        return endpoint;
-    }
-
     void askForSocket(const WebClient& client, const std::string& token, const std::string& more = "") const
     {
         client.send("GET /rpc HTTP/1.1\r\nHost: " + endpoint.addressAndPort() + "\r\nAuthorization: Bearer " + token +
@@ -50,35 +42,32 @@ protected:
         client.receiveUntil("\r\n\r\n");
     }
 
-    /// Until then, or until it is refused.
+    /// False where it is refused.
     bool isAnswered(WebClient& client) const
     {
         askForSocket(client, "secret");
-        client.send(masked(TEXT, HELLO));
         std::string all;
-        while (client.isOpen() && all.find("\"id\":1}") == std::string::npos)
-            all += client.receive(test::PATIENCE);
+        const auto receiveUntil = [&](const char* text) {
+            while (client.isOpen() && all.find(text) == std::string::npos)
+                all += client.receive(test::PATIENCE);
+        };
+        receiveUntil("\r\n\r\n");
+        client.send(masked(TEXT, HELLO));
+        receiveUntil("\"id\":1}");
         return client.isOpen();
     }
 
-    /// Another process may take the port before the server does.
     void SetUp() override
     {
-        constexpr int ATTEMPTS = 5;
-        for (int i = 0; i < ATTEMPTS && (!server || !server->error().empty()); ++i)
-            serve();
-        ASSERT_EQ(server->error(), "");
-    }
-
-    void serve()
-    {
-        server.reset();
-        endpoint = freeEndpoint();
-        rpc.emplace(*phone, *watch, simulator::RpcAbout{"counter"}, simulator::RpcAdmission{endpoint, "secret"});
+        rpc.emplace(*phone, *watch, simulator::RpcAbout{"counter"}, simulator::RpcAdmission{endpoint, "secret"},
+                    heartbeat);
         server.emplace(endpoint, "", broadcaster, keys, simulator::Heartbeat::PAUSE, &*rpc);
+        ASSERT_EQ(server->error(), "");
+        endpoint.port = server->port();
     }
 
-    simulator::Endpoint endpoint;
+    std::chrono::milliseconds heartbeat = RpcServer::HEARTBEAT;
+    simulator::Endpoint endpoint = simulator::makeEndpoint(simulator::ANY_PORT, {}, {});
     simulator::Broadcaster broadcaster{[] { return host::Picture(); }, [] { return false; }};
     std::optional<RpcServer> rpc;
     std::optional<simulator::WebServer> server;
@@ -138,12 +127,21 @@ TEST_F(RpcServerTest, WrongTokenOpensNothing)
     EXPECT_THAT(client.receiveAll(), Not(HasSubstr("HTTP/1.1 101 ")));
 }
 
-TEST_F(RpcServerTest, HugeMessageEndsTheConnection)
+TEST_F(RpcServerTest, HugeMessageIsRefusedBeforeItHasCome)
 {
     WebClient client(endpoint.port);
     open(client);
-    client.send(std::string("\x81\xFF\0\0\0\0\0\x01\0\x01\0\0\0\0", 14) + std::string(65'537, ' '));
-    EXPECT_THAT(client.receiveAll(), HasSubstr("\x88\x02\x03\xF1"));
+    client.send(std::string("\x81\xFF\0\0\0\0\0\x01\0\x01\0\0\0\0", 14));
+    EXPECT_THAT(client.receiveUntil("\x88\x02\x03\xF1"), HasSubstr("\x88"));
+}
+
+TEST_F(RpcServerTest, NothingIsCarriedOutBehindTheEnd)
+{
+    WebClient client(endpoint.port);
+    open(client);
+    client.send(masked('\x80', "alone") + masked(TEXT, R"({"jsonrpc":"2.0","method":"press","params":{"key":"5"}})"));
+    EXPECT_THAT(client.receiveAll(), HasSubstr("\x88\x02\x03\xEA"));
+    EXPECT_EQ(handledKeys(), "");
 }
 
 TEST_F(RpcServerTest, BinaryMessageEndsTheConnection)
@@ -152,6 +150,19 @@ TEST_F(RpcServerTest, BinaryMessageEndsTheConnection)
     open(client);
     client.send(masked('\x82', HELLO));
     client.receiveAll();
+    EXPECT_FALSE(client.isOpen());
+}
+
+class RpcHeartbeatTest : public RpcServerTest {
+protected:
+    RpcHeartbeatTest() { heartbeat = std::chrono::milliseconds(1); }
+};
+
+TEST_F(RpcHeartbeatTest, WhoIsGoneWithoutAWordLosesHisPlace)
+{
+    WebClient client(endpoint.port);
+    open(client);
+    EXPECT_THAT(client.receiveAll(), HasSubstr(std::string("\x89\0", 2)));
     EXPECT_FALSE(client.isOpen());
 }
 
