@@ -1,13 +1,12 @@
 #pragma once
 
+#include "simulator/web/Endpoint.h"
+
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace simulator {
-
-/// The option that leaves the choice of the port to the launcher.
-inline constexpr char ANY_PORT[] = "0";
 
 /// What the user asks the launcher for.
 struct Options {

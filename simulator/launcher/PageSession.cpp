@@ -2,9 +2,11 @@
 
 #include "simulator/launcher/ApplicationRun.h"
 #include "simulator/launcher/DisplayReminder.h"
+#include "simulator/launcher/ReportPipe.h"
 #include "simulator/launcher/TokenFile.h"
 #include "simulator/web/PortCheck.h"
 
+#include <cstdlib>
 #include <iostream>
 
 namespace simulator {
@@ -13,9 +15,10 @@ namespace {
 
 using std::chrono::milliseconds;
 
-Child::Environment environmentFor(const Options& options, const Endpoint& endpoint, const std::string& rpcToken)
+Child::Environment environmentFor(const Options& options, int portDescriptor, const std::string& rpcToken)
 {
-    Child::Environment added = {{"DISPLAYAPI_HOST", "web:" + std::to_string(endpoint.port)},
+    Child::Environment added = {{"DISPLAYAPI_HOST", "web:" + options.port},
+                                {PORT_REPORT_VARIABLE, std::to_string(portDescriptor)},
                                 {"DISPLAYAPI_VARIANT", options.variant},
                                 {LISTEN_VARIABLE, options.listen.value_or("")},
                                 {TOKEN_VARIABLE, options.token.value_or("")},
@@ -26,15 +29,16 @@ Child::Environment environmentFor(const Options& options, const Endpoint& endpoi
     return added;
 }
 
-/// The address is worth printing once somebody answers there.
-std::optional<Ending> waitUntilServed(ApplicationRun& run, const Endpoint& endpoint, const TokenFile* rpc)
+/// The address is worth printing once somebody answers there, on the port that he says.
+std::optional<Ending> waitUntilServed(ApplicationRun& run, ReportPipe& port, Endpoint endpoint, const TokenFile* rpc)
 {
     DisplayReminder reminder;
-    while (!isServed(endpoint)) {
-        if (const auto ending = run.wait(milliseconds(20)))
+    while (!port.readAvailable()) {
+        if (const auto ending = run.wait(milliseconds::max(), port.descriptor()))
             return ending;
         reminder.stillWaiting();
     }
+    endpoint.port = std::atoi(port.text().c_str());
     if (rpc != nullptr)
         std::cout << "The test interface is at " << endpoint.rpcUrl() << ", its token in " << rpc->path() << std::endl;
     std::cout << "The telephone is at " << endpoint.url() << " (Ctrl-C ends it)" << std::endl;
@@ -58,18 +62,19 @@ int complain(const std::string& sentence)
 
 int runBehindPage(const Options& options)
 {
-    Endpoint endpoint = makeEndpoint(options.port, options.listen, options.token);
-    if (options.port == ANY_PORT)
-        endpoint.port = freePort(endpoint);
+    const Endpoint endpoint = makeEndpoint(options.port, options.listen, options.token);
     if (const std::string problem = portProblem(endpoint); !problem.empty())
         return complain(problem);
     std::optional<TokenFile> rpc;
     if (options.rpc && !rpc.emplace(options.rpcToken).error().empty())
         return complain(rpc->error());
-    ApplicationRun run(options.application, environmentFor(options, endpoint, rpc ? rpc->token() : std::string()));
+    ReportPipe port;
+    ApplicationRun run(options.application,
+                       environmentFor(options, port.writeEnd(), rpc ? rpc->token() : std::string()), port.writeEnd());
     if (!run.error().empty())
         return complain(run.error());
-    const auto early = waitUntilServed(run, endpoint, rpc ? &*rpc : nullptr);
+    port.closeWriteEnd();
+    const auto early = waitUntilServed(run, port, endpoint, rpc ? &*rpc : nullptr);
     const Ending ending = early ? *early : waitForEnd(run);
     std::cout << "The application " << ending.description() << '.' << std::endl;
     return ending.status();

@@ -24,6 +24,9 @@ struct Endpoint {
     std::string reachable() const;
 };
 
+/// The port that leaves the choice to the system.
+inline constexpr char ANY_PORT[] = "0";
+
 /// A sentence when these make no endpoint; empty when they do.
 std::string endpointError(const std::string& port, const std::optional<std::string>& listen,
                           const std::optional<std::string>& token);
@@ -35,6 +38,9 @@ Endpoint makeEndpoint(const std::string& port, const std::optional<std::string>&
 /// The environment variables that carry address and token to the front end.
 inline constexpr char LISTEN_VARIABLE[] = "DISPLAYAPI_LISTEN";
 inline constexpr char TOKEN_VARIABLE[] = "DISPLAYAPI_TOKEN";
+
+/// The descriptor to which the front end writes the port, in a line, once it serves.
+inline constexpr char PORT_REPORT_VARIABLE[] = "DISPLAYAPI_PORT_FD";
 
 /// Those that carry the test interface's token, without which there is none, and that one may only look.
 inline constexpr char RPC_TOKEN_VARIABLE[] = "DISPLAYAPI_RPC_TOKEN";

@@ -44,15 +44,6 @@ public:
         return works ? 0 : errno;
     }
 
-    /// The port that it listens on.
-    int port() const
-    {
-        sockaddr_in own{};
-        socklen_t size = sizeof own;
-        getsockname(mSocket, reinterpret_cast<sockaddr*>(&own), &size);
-        return ntohs(own.sin_port);
-    }
-
     bool tryToConnect() { return mSocket >= 0 && connect(mSocket, mAddress->ai_addr, mAddress->ai_addrlen) == 0; }
 
 private:
@@ -72,14 +63,6 @@ std::string portProblem(const Endpoint& endpoint)
     case EADDRNOTAVAIL: return "This machine does not have the address " + endpoint.address + ".";
     default: return "Cannot listen on " + endpoint.addressAndPort() + ": " + std::strerror(error) + ".";
     }
-}
-
-int freePort(const Endpoint& endpoint)
-{
-    Endpoint any = endpoint;
-    any.port = 0;
-    EndpointSocket socket(any);
-    return socket.tryToListen() == 0 ? socket.port() : 0;
 }
 
 bool isServed(const Endpoint& endpoint)

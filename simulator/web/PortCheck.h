@@ -9,9 +9,6 @@ namespace simulator {
 /// Whether the page could be served there. A sentence for the user when not; empty when all is well.
 std::string portProblem(const Endpoint& endpoint);
 
-/// A port of that address on which nobody listens now; 0 where there is none.
-int freePort(const Endpoint& endpoint);
-
 /// Whether somebody serves there now.
 bool isServed(const Endpoint& endpoint);
 

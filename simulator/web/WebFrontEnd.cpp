@@ -1,21 +1,21 @@
 #include "simulator/web/WebFrontEnd.h"
 
-#include "DisplayAPI/Display.h"
 #include "host/Phone.h"
 #include "host/frontend/Wire.h"
 #include "host/input/CallSigns.h"
 #include "host/input/KeyLamps.h"
 #include "host/lcd/Lcd.h"
 #include "host/toolkit/Loop.h"
+#include "simulator/core/DisplayedWords.h"
 #include "simulator/rpc/RpcServer.h"
 #include "simulator/web/QuitOnSignal.h"
 #include "simulator/web/ServerMessages.h"
 #include "simulator/web/WebServer.h"
-#include "utilities/ICC.h"
-#include "widgets/KestrelApplication.h"
 
 #include <cerrno>
 #include <cstdlib>
+#include <iostream>
+#include <unistd.h>
 
 namespace simulator {
 
@@ -41,24 +41,25 @@ std::optional<std::vector<host::Wire::Offer>> exchangeOffers()
     return host::Wire::offers("exchange");
 }
 
-/// GUI thread only.
-std::string language()
+/// To the launcher, or to the user where there is none.
+void report(const Endpoint& endpoint)
 {
-    const auto* application = KestrelApplication::getCurrentApplication();
-    return application != nullptr ? languageTag(ICC::fromUNICODEtoUTF8(application->getLocale())) : std::string();
-}
-
-/// GUI thread only.
-ScreenWords screenWords()
-{
-    DisplayAPI::Display* const display = DisplayAPI::Display::latest();
-    return {display != nullptr ? display->serialise() : std::string(), language()};
+    const auto descriptor = fromEnvironment(PORT_REPORT_VARIABLE);
+    if (!descriptor) {
+        std::cerr << "The telephone is at " << endpoint.url() << std::endl;
+        return;
+    }
+    const std::string line = std::to_string(endpoint.port) + '\n';
+    const int pipe = std::atoi(descriptor->c_str());
+    while (write(pipe, line.data(), line.size()) < 0 && errno == EINTR) {
+    }
+    close(pipe);
 }
 
 /// What a test interface needs, where there is one.
 struct TestInterface {
     TestInterface(host::Lcd& lcd, KeyPad& keys, const Endpoint& endpoint, std::string token)
-        : reader(lcd, screenWords), watch(reader), phone(reader, clock, keys),
+        : reader(lcd, displayedWords), watch(reader), phone(reader, clock, keys),
           server(phone, watch, {program_invocation_short_name, fromEnvironment(RPC_READ_ONLY_VARIABLE).has_value()},
                  {endpoint, std::move(token)})
     {
@@ -108,7 +109,7 @@ struct WebFrontEnd::Session {
 
     void frameReady()
     {
-        broadcaster.frameReady(language());
+        broadcaster.frameReady(displayedLanguage());
         if (rpc != nullptr)
             rpc->reader.frameReady();
     }
@@ -128,14 +129,18 @@ std::string WebFrontEnd::start(const std::string& port)
 {
     const auto listen = fromEnvironment(LISTEN_VARIABLE);
     const auto token = fromEnvironment(TOKEN_VARIABLE);
-    if (const std::string error = endpointError(port, listen, token); !error.empty())
+    if (const std::string error = endpointError(port, listen, token); port != ANY_PORT && !error.empty())
         return error;
-    mSession = std::make_unique<Session>(*host::Lcd::current(), makeEndpoint(port, listen, token),
-                                         fromEnvironment(RPC_TOKEN_VARIABLE));
+    Endpoint endpoint = makeEndpoint(port, listen, token);
+    mSession = std::make_unique<Session>(*host::Lcd::current(), endpoint, fromEnvironment(RPC_TOKEN_VARIABLE));
     const std::string error = mSession->server.error();
-    if (!error.empty())
+    if (!error.empty()) {
         mSession.reset();
-    return error;
+        return error;
+    }
+    endpoint.port = mSession->server.port();
+    report(endpoint);
+    return {};
 }
 
 void WebFrontEnd::stop()

@@ -87,10 +87,18 @@ WebServer::WebServer(const Endpoint& endpoint, std::string greeting, Broadcaster
         mError = "Cannot serve the page on " + addressAndPort + ": " + reason + ".";
         return;
     }
+    findPort();
     mg_set_request_handler(mContext, "/", servePage, this);
     mg_set_websocket_handler(mContext, "/socket", connecting, connected, received, closed, this);
     if (rpc != nullptr)
         rpc->attachTo(mContext);
+}
+
+void WebServer::findPort()
+{
+    mg_server_port ports[1];
+    if (mg_get_server_ports(mContext, 1, ports) == 1)
+        mEndpoint.port = ports[0].port;
 }
 
 WebServer::~WebServer()

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "simulator/core/KeyPad.h"
 #include "simulator/web/Admission.h"
 #include "simulator/web/Broadcaster.h"
 #include "simulator/web/Endpoint.h"
 #include "simulator/web/Heartbeat.h"
-#include "simulator/core/KeyPad.h"
 #include "simulator/web/MotionWishes.h"
 
 #include <atomic>
@@ -33,6 +33,9 @@ public:
     /// Why it does not serve; empty when it does.
     const std::string& error() const { return mError; }
 
+    /// On which it serves: the endpoint's, or the one that the system has chosen.
+    int port() const { return mEndpoint.port; }
+
 private:
     static int servePage(mg_connection* connection, void* self);
     static int connecting(const mg_connection* connection, void* self);
@@ -40,6 +43,7 @@ private:
     static int received(mg_connection* connection, int bits, char* data, std::size_t size, void* self);
     static void closed(const mg_connection* connection, void* self);
 
+    void findPort();
     void turnAway(PageConnection& page);
     bool handle(PageConnection& page, std::string_view text);
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "simulator/web/PortCheck.h"
 #include "simulator/web/WebServer.h"
 #include "support/Gate.h"
 #include "unit/simulator/web/WebClient.h"
@@ -16,6 +15,7 @@ protected:
         : server(endpoint, "Good morning", broadcaster, keys, heartbeat)
     {
         EXPECT_EQ(server.error(), "");
+        endpoint.port = server.port();
     }
     ~ServerTest() override { broadcaster.end(); }
 
@@ -48,14 +48,7 @@ protected:
         return {8, 8, std::vector<std::uint8_t>(64), {}, 1};
     }
 
-    static simulator::Endpoint freeEndpoint()
-    {
-        simulator::Endpoint endpoint;
-        endpoint.port = simulator::freePort(endpoint);
-        return endpoint;
-    }
-
-    const simulator::Endpoint endpoint = freeEndpoint();
+    simulator::Endpoint endpoint = simulator::makeEndpoint(simulator::ANY_PORT, {}, {});
     simulator::KeyPad keys;
     std::atomic<bool> standsStill{false};
     std::atomic<Gate*> painted{nullptr}; ///< a picture waits for it, where there is one
