@@ -140,9 +140,14 @@ TEST_F(ScreenWatchTest, ListenerHearsOfWhatHasBeenMeanwhile)
     change();
     verdictOn(1, 0);
     std::vector<std::uint64_t> numbers;
-    watch->subscribe(this, first, [&](const auto& screen) { numbers.push_back(screen->number); });
+    test::Gate third;
+    watch->subscribe(this, first, [&](const auto& screen) {
+        numbers.push_back(screen->number);
+        if (screen->number == 3)
+            third.open();
+    });
     change();
-    verdictOn(2, 0);
+    EXPECT_TRUE(third.wait());
     watch->leave(this);
     change();
     verdictOn(3, 0);
