@@ -31,13 +31,16 @@ std::optional<std::uint32_t> wordAt(std::string_view bytes, std::size_t offset)
     return word;
 }
 
-/// Ends at its first null: behind it are the other forms of a plural.
-std::optional<std::string> stringAt(std::string_view bytes, std::size_t entry)
+/// Ends at its first null: behind it are the other forms of a plural. Takes its length off `room`: strings that lie in
+/// each other would be more, all together, than the file they come from.
+std::optional<std::string> stringAt(std::string_view bytes, std::size_t entry, std::size_t& room)
 {
     const auto length = wordAt(bytes, entry);
     const auto offset = wordAt(bytes, entry + sizeof(std::uint32_t));
-    if (!length || !offset || std::size_t{*offset} + *length >= bytes.size() || bytes[*offset + *length] != '\0')
+    if (!length || !offset || std::size_t{*offset} + *length >= bytes.size() || bytes[*offset + *length] != '\0' ||
+        *length > room)
         return {};
+    room -= *length;
     return bytes.data() + *offset;
 }
 
@@ -54,9 +57,10 @@ std::optional<Texts> readCompiledTexts(std::string_view bytes)
     if (wordAt(bytes, 0) != MAGIC || !translations || *revision >> 16 > NEWEST_REVISION)
         return {};
     Texts texts;
+    std::size_t room = bytes.size();
     for (std::size_t i = 0; i < *count; ++i) {
-        auto key = stringAt(bytes, *keys + i * ENTRY);
-        auto text = stringAt(bytes, *translations + i * ENTRY);
+        auto key = stringAt(bytes, *keys + i * ENTRY, room);
+        auto text = stringAt(bytes, *translations + i * ENTRY, room);
         if (!key || !text)
             return {};
         texts.emplace(std::move(*key), std::move(*text));

@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 #include <memory>
 #include <random>
+#include <vector>
 
 namespace {
 
@@ -78,6 +79,19 @@ TEST(CompiledTextsTest, MoreTextsThanThereAreEndAtTheFilesEnd)
 {
     std::string bytes = compiled(TWO_TEXTS);
     bytes.replace(8, 4, "\xFF\xFF\xFF\xFF");
+    EXPECT_FALSE(textsOf(bytes));
+}
+
+TEST(CompiledTextsTest, TextsThatLieInEachOtherAreNoCatalogue)
+{
+    constexpr std::uint32_t COUNT = 40;
+    constexpr std::uint32_t LENGTH = 200;
+    constexpr std::uint32_t TABLE = 28;
+    std::vector<std::uint32_t> words = {0x950412DE, 0, COUNT, TABLE, TABLE, 0, 0};
+    for (std::uint32_t i = 0; i < COUNT; ++i)
+        words.insert(words.end(), {LENGTH - i, TABLE + COUNT * 8 + i});
+    std::string bytes(reinterpret_cast<const char*>(words.data()), words.size() * sizeof words[0]);
+    bytes += std::string(LENGTH, 'k') + '\0';
     EXPECT_FALSE(textsOf(bytes));
 }
 
