@@ -1,6 +1,6 @@
 // An application that does one thing wrong when the user chooses the first row: `misbehaving
-// crash|exit|exit-at-once|leave|linger|quit|stall [SECONDS]`. `deaf` never runs its loop, `never` does all well. SIGUSR1
-// ends a stall.
+// crash|exit|exit-at-once|leave|linger|quit|stall [SECONDS]`. `deaf` never runs its loop, `never` does all well.
+// SIGUSR1 ends a stall.
 
 #include "DisplayAPI/Display.h"
 #include "DisplayAPI/List.h"
