@@ -354,6 +354,7 @@ TEST_F(PresentationManagerLoopTest, FiresTimersWhileMessagesKeepComing)
         keepsTheQueueFilled(keepsTheQueueFilled);
     });
     EXPECT_TRUE(becomesTrue([&] { return fired.load(); }));
+    toolkit.run([] {}); // behind the last of them
 }
 
 TEST(Execute, EndsOnExitThatWasPushedBefore)
