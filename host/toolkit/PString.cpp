@@ -1,6 +1,7 @@
 #include "toolkit/PString.h"
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 namespace {
@@ -32,10 +33,10 @@ _template_PString<Char>::_template_PString(const Char* text, std::size_t length)
 {
     if (!text || length == 0)
         return;
-    mText.reset(new Char[length + 1]);
-    mLength = length;
-    std::copy_n(text, length, mText.get());
-    mText[length] = 0;
+    mLength = static_cast<std::uint32_t>(std::min<std::size_t>(length, std::numeric_limits<std::uint32_t>::max()));
+    mText.reset(new Char[std::size_t{mLength} + 1]);
+    std::copy_n(text, mLength, mText.get());
+    mText[mLength] = 0;
 }
 
 template <typename Char>

@@ -23,6 +23,9 @@ public:
 
     bool isTranslated() const { return mTranslation != nullptr; }
 
+    /// Null where it is not translated.
+    const TranslationInfo* translation() const { return mTranslation; }
+
     /// In the language of the moment: UTF-8, and as the toolkit wants it.
     std::string text() const;
     PegString shown() const;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 
 /// The toolkit's string: a length and a zero-terminated array of characters. Only the UCS-2 form is instantiated.
@@ -25,7 +26,7 @@ public:
 
 private:
     std::unique_ptr<Char[]> mText;
-    std::size_t mLength = 0;
+    std::uint32_t mLength = 0; ///< leaves room for what stands behind the string
 };
 
 /// One UCS-2 unit: a code point up to U+FFFF.

@@ -86,8 +86,8 @@ protected:
 private:
     friend class KestrelListBox;
 
-    PegString mText;
     KestrelListBox* mList = nullptr;
-    void* mPlace = nullptr; ///< the list's own note of where it stands
+    void* mPlace = nullptr;                ///< the list's own note of where it stands
+    [[no_unique_address]] PegString mText; ///< with the mark in the room that it leaves: rows come by the thousand
     bool mMarked = false;
 };

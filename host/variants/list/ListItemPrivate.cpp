@@ -1,22 +1,38 @@
 #include "variants/list/ListItemPrivate.h"
 
-#include "DisplayAPI/OwnershipDelegate.h"
 #include "widgets/KestrelListBoxItem.h"
 
 #include <utility>
 
 namespace DisplayAPI {
 
-struct ListItemSide::Impl {
-    TranslatedText text;
-    KestrelListBoxItem* item = new KestrelListBoxItem(text.shown());
-    OwnershipDelegate<KestrelListBoxItem> ownership{&item, true};
+/// The toolkit row itself, so that there is one thing less for each row. Where somebody else deletes it, the side does
+/// not know it any more.
+struct ListItemSide::Impl final : KestrelListBoxItem {
+    Impl(ListItemSide& itsSide, const TranslatedText& text)
+        : KestrelListBoxItem(text.shown()), side(&itsSide), translation(text.translation())
+    {
+    }
+
+    ~Impl() override
+    {
+        if (!isOwned && side != nullptr)
+            static_cast<void>(side->mImpl.release());
+    }
+
+    bool isOwned = true;
+    ListItemSide* side;
+    const TranslationInfo* translation; ///< null where there is none
 };
 
 /// Text rows look alike on both panels; what differs is the list's.
-ListItemSide::ListItemSide(TranslatedText text, Panel) : mImpl(new Impl{.text = std::move(text)}) {}
+ListItemSide::ListItemSide(TranslatedText text, Panel) : mImpl(new Impl(*this, text)) {}
 
-ListItemSide::~ListItemSide() = default;
+ListItemSide::~ListItemSide()
+{
+    if (mImpl != nullptr && !mImpl->isOwned)
+        mImpl.release()->side = nullptr;
+}
 
 ListItemPrivate::ListItemPrivate(std::string text, bool) : ListItemSide(TranslatedText(std::move(text)), Panel::FULL) {}
 
@@ -33,23 +49,25 @@ ListItemPrivateWP1::ListItemPrivateWP1(TranslationInfo* text, bool) : ListItemSi
 
 void ListItemSide::localeChanged(std::string)
 {
-    if (mImpl->text.isTranslated())
-        mImpl->item->DataSet(mImpl->text.shown());
+    if (mImpl != nullptr && mImpl->translation != nullptr)
+        mImpl->DataSet(TranslatedText(mImpl->translation).shown());
 }
 
 void ListItemSide::releaseOwnership()
 {
-    mImpl->ownership.releaseOwnership();
+    if (mImpl != nullptr)
+        mImpl->isOwned = false;
 }
 
 void ListItemSide::gainOwnership()
 {
-    mImpl->ownership.gainOwnership();
+    if (mImpl != nullptr)
+        mImpl->isOwned = true;
 }
 
 KestrelListBoxItem* ListItemSide::getKestrelListItem()
 {
-    return mImpl->item;
+    return mImpl.get();
 }
 
 } // namespace DisplayAPI

@@ -62,6 +62,16 @@ TYPED_TEST(ListItemPrivateTest, ReleasedToolkitRowIsNotDeletedWithIt)
     EXPECT_EQ(textOf(item.get()), "a");
 }
 
+TYPED_TEST(ListItemPrivateTest, ReleasedToolkitRowMayGoFirst)
+{
+    TranslationInfo text("Calls", nullptr);
+    typename TypeParam::Row row(&text, true);
+    row.releaseOwnership();
+    delete row.getKestrelListItem();
+    row.localeChanged("de");
+    row.gainOwnership();
+}
+
 TYPED_TEST(ListItemPrivateTest, ToolkitRowTakenBackIsDeletedAgain)
 {
     typename TypeParam::Row row(std::string("a"), true);
