@@ -1,5 +1,6 @@
 #pragma once
 
+#include "toolkit/MessageSift.h"
 #include "toolkit/PegMessageQueue.h"
 
 #include <pthread.h>
@@ -67,41 +68,14 @@ bool enqueue(PegMessage* message, Place place, Answer answer, Admit admit)
     return true;
 }
 
-/// Unlinks what `matches` from the messages that begin with `first`, and hands it to `take`, which owns it, until
-/// `take` says that it is enough. `last` is the last of them, before and after. Returns whether it was enough. Under
-/// the part's mutex.
-template <typename Matches, typename Take>
-bool sift(PegMessage*& first, PegMessage*& last, std::atomic<int>& count, Matches matches, Take take)
-{
-    PegMessage* previous = nullptr;
-    for (PegMessage** link = &first; *link != nullptr;) {
-        PegMessage* const message = *link;
-        if (!matches(*message)) {
-            previous = message;
-            link = &message->Next;
-            continue;
-        }
-        *link = message->Next;
-        if (last == message)
-            last = previous;
-        addTo(count, -1);
-        if (take(message))
-            return true;
-    }
-    return false;
-}
-
-/// The same for the whole queue, in the order in which it runs. Does nothing where there is none.
+/// Sifts the whole queue, in the order in which it runs: siftMessages(). Does nothing where there is none.
 template <typename Matches, typename Take>
 void siftQueue(Matches matches, Take take)
 {
     if (gtPegMainQueue == nullptr)
         return;
-    PegMainQueue& queue = *gtPegMainQueue;
-    const WholeQueueLock lock(queue);
-    PegMessage* noTail = nullptr;
-    if (!sift(queue.taken, noTail, queue.takenCount, matches, take))
-        sift(queue.head, queue.tail, queue.waiting, matches, take);
+    const WholeQueueLock lock(*gtPegMainQueue);
+    siftMessages(*gtPegMainQueue, matches, take);
 }
 
 /// Unlinks every message that `matches` and hands it to `take`, which owns it. Under the queue's mutexes.

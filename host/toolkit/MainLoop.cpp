@@ -51,7 +51,6 @@ MainLoop::MainLoop()
 MainLoop::~MainLoop()
 {
     gRun = nullptr;
-    MainQueue::giveBackTaken();
     publish(0);
 }
 

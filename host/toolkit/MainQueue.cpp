@@ -2,6 +2,7 @@
 
 #include "host/toolkit/MessagePool.h"
 #include "host/utilities/Spin.h"
+#include "toolkit/MessageSift.h"
 #include "utilities/Logging.h"
 #include "utilities/Prefetch.h"
 
@@ -47,8 +48,7 @@ void append(PegMessage* message)
 /// A run of many costs little more than one of one, and while it is worked through nobody competes for the queue.
 void letMessagesGather()
 {
-    constexpr std::int64_t LONG_ENOUGH_NS = 25'000;
-    Spin::rest(LONG_ENOUGH_NS, [] { return gtPegMainQueue->awaited.load(std::memory_order_relaxed); });
+    Spin::rest(MainQueue::GATHERING_NS, [] { return gtPegMainQueue->awaited.load(std::memory_order_relaxed); });
 }
 
 /// The messages that come next were written by other CPUs: ask for their lines while this one is being handled.
@@ -66,25 +66,6 @@ bool isRequest(const PegMessage& message)
     return message.wType == PM_DISPLAY_REQUEST || message.wType == PM_WIDGET_REQUEST;
 }
 
-/// Moves the messages that `unwanted` names out of one part of the queue; returns the last one that stays.
-template <typename Unwanted>
-PegMessage* removeIf(PegMessage*& first, std::atomic<int>& count, Unwanted unwanted, DoneMessages& removed)
-{
-    PegMessage* last = nullptr;
-    for (PegMessage** link = &first; *link != nullptr;) {
-        PegMessage* const message = *link;
-        if (!unwanted(*message)) {
-            last = message;
-            link = &message->Next;
-            continue;
-        }
-        *link = message->Next;
-        add(count, -1);
-        removed.add(message);
-    }
-    return last;
-}
-
 /// Takes the messages that `unwanted` names out of both parts.
 template <typename Unwanted>
 void removeIf(Unwanted unwanted)
@@ -94,9 +75,10 @@ void removeIf(Unwanted unwanted)
     std::lock_guard lock(mutex);
     TakenMutex takenMutex;
     std::lock_guard takenLock(takenMutex);
-    PegMainQueue& queue = *gtPegMainQueue;
-    removeIf(queue.taken, queue.takenCount, unwanted, removed);
-    queue.tail = removeIf(queue.head, queue.waiting, unwanted, removed);
+    siftMessages(*gtPegMainQueue, unwanted, [&removed](PegMessage* message) {
+        removed.add(message);
+        return false;
+    });
 }
 
 /// The first message of those that have been taken over, or null.
@@ -173,25 +155,6 @@ void MainQueue::takeOver()
     queue.takenCount.store(queue.waiting.load(std::memory_order_relaxed), std::memory_order_relaxed);
     queue.waiting.store(0, std::memory_order_release);
     queue.awaited.store(false, std::memory_order_relaxed);
-}
-
-void MainQueue::giveBackTaken()
-{
-    QueueMutex mutex;
-    std::lock_guard lock(mutex);
-    TakenMutex takenMutex;
-    std::lock_guard takenLock(takenMutex);
-    PegMainQueue& queue = *gtPegMainQueue;
-    if (queue.taken == nullptr)
-        return;
-    PegMessage* last = queue.taken;
-    while (last->Next != nullptr)
-        last = last->Next;
-    last->Next = queue.head;
-    if (queue.tail == nullptr)
-        queue.tail = last;
-    queue.head = std::exchange(queue.taken, nullptr);
-    add(queue.waiting, queue.takenCount.exchange(0, std::memory_order_relaxed));
 }
 
 void MainQueue::dropMessagesTo(const PegThing* thing)

@@ -2,6 +2,7 @@
 
 #include "toolkit/PegMessageQueue.h"
 
+#include <cstdint>
 #include <mutex>
 
 namespace host {
@@ -31,15 +32,13 @@ public:
 
     /// In a burst the loop lets messages gather before it takes them over, unless somebody waits for one of them.
     enum class Pace { PROMPT, BURST };
+    static constexpr std::int64_t GATHERING_NS = 25'000;
 
     /// The first message, which is the caller's from now on; null where there is none. The loop's thread only.
     static PegMessage* take(Pace pace);
 
     /// Takes over all that waits, where nothing taken over is left. The loop's thread only.
     static void takeOver();
-
-    /// When the loop ends: what it has taken over and not begun waits again, ahead of everything.
-    static void giveBackTaken();
 
     /// Takes out what waits for `thing`, which is about to be gone. Requests stay, without a target: their records are
     /// the library's to complete and delete.

@@ -1,11 +1,17 @@
 #include "RequestQueue.h"
 
+#include "host/toolkit/MainQueue.h"
 #include "host/toolkit/MessagePool.h"
 #include "support/Replaced.h"
 #include "support/SteppedLoop.h"
 #include "support/Worker.h"
 
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <functional>
 #include <gmock/gmock.h>
+#include <vector>
 
 using DisplayAPI::Answer;
 using DisplayAPI::enqueue;
@@ -351,6 +357,109 @@ TEST_F(RequestQueueTest, AnAwaitedMessageIsToldToTheLoopUntilItIsTakenOver)
     EXPECT_FALSE(gtPegMainQueue->awaited);
     gui.takeMessage();
     gui.takeMessage();
+}
+
+namespace {
+
+/// Two threads post and two take back, while the calling one takes messages as the loop does, at both paces. A message
+/// has its poster's number and its own.
+class Scramble {
+public:
+    static constexpr int MESSAGES = 10'000;
+
+    void run()
+    {
+        test::Worker purging([this] { takeBackUntilTheEnd([this] { purge(); }); });
+        test::Worker dequeuing([this] { takeBackUntilTheEnd([this] { dequeue(); }); });
+        test::Worker first([] { postAll(0); });
+        test::Worker second([] { postAll(1); });
+        while (!first.hasReturned() || !second.hasReturned() || !host::MainQueue::isEmpty())
+            takeOne();
+        mIsOver = true;
+    }
+
+    int goneOnce() const
+    {
+        int once = 0;
+        for (const Counts& gone : mGone)
+            once += static_cast<int>(std::ranges::count_if(gone, [](const auto& times) { return times == 1; }));
+        return once;
+    }
+
+    bool isInOrder() const { return mIsInOrder; }
+
+private:
+    /// Goes ahead of everything.
+    static bool isUrgent(int number) { return number % 7 == 0; }
+
+    static void postAll(std::uint16_t poster)
+    {
+        for (int number = 0; number < MESSAGES; ++number) {
+            PegMessage* const message = DisplayAPI::takeMessage();
+            *message = {poster, number};
+            enqueue(message, isUrgent(number) ? Place::HEAD : Place::TAIL,
+                    number % 3 == 0 ? Answer::AWAITED : Answer::NOT_AWAITED, [] { return true; });
+        }
+    }
+
+    void takeBackUntilTheEnd(const std::function<void()>& takeBack)
+    {
+        while (!mIsOver)
+            takeBack();
+    }
+
+    void purge()
+    {
+        DisplayAPI::removeMessages([](const PegMessage& message) { return message.iData % 5 == 1; },
+                                   [this](PegMessage* message) { end(message); });
+    }
+
+    void dequeue()
+    {
+        if (PegMessage* const message =
+                DisplayAPI::removeFirstMessage([](const PegMessage& queued) { return queued.iData % 11 == 3; }))
+            end(message);
+    }
+
+    void takeOne()
+    {
+        using enum host::MainQueue::Pace;
+        PegMessage* const message = host::MainQueue::take(mTakes++ % 64 == 0 ? BURST : PROMPT);
+        if (message == nullptr)
+            return;
+        int& last = mLast.at(message->wType);
+        mIsInOrder = mIsInOrder && (isUrgent(message->iData) || message->iData > last);
+        last = isUrgent(message->iData) ? last : message->iData;
+        end(message);
+    }
+
+    void end(PegMessage* message)
+    {
+        ++mGone.at(message->wType).at(static_cast<std::size_t>(message->iData));
+        giveBackMessage(message);
+    }
+
+    using Counts = std::vector<std::atomic<int>>;
+    std::array<Counts, 2> mGone{Counts(MESSAGES), Counts(MESSAGES)};
+    std::array<int, 2> mLast{-1, -1};
+    int mTakes = 0;
+    bool mIsInOrder = true;
+    std::atomic<bool> mIsOver{false};
+};
+
+} // namespace
+
+TEST_F(RequestQueueTest, MessagesArePostedTakenAndTakenBackAtTheSameTime)
+{
+    Scramble scramble;
+    scramble.run();
+
+    EXPECT_EQ(scramble.goneOnce(), 2 * Scramble::MESSAGES);
+    EXPECT_TRUE(scramble.isInOrder());
+    EXPECT_EQ(gtPegMainQueue->count(), 0);
+    EXPECT_EQ(gtPegMainQueue->taken, nullptr);
+    EXPECT_EQ(gtPegMainQueue->head, nullptr);
+    EXPECT_EQ(gtPegMainQueue->tail, nullptr);
 }
 
 TEST_F(RequestQueueTest, AMissingQueueHasNothingToRemove)
