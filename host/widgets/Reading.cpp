@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <span>
 #include <string_view>
 
@@ -11,9 +12,31 @@ namespace host {
 
 namespace {
 
+/// Two or three letters in a number, capitals as small ones: each text on the panel asks. 0 for everything else.
+template <typename Letters>
+constexpr std::uint32_t codeOf(const Letters& letters)
+{
+    constexpr int MOST = 3, BITS = 8, UPPER_TO_LOWER = 'a' - 'A';
+    std::uint32_t code = 0;
+    if (letters.size() > MOST)
+        return 0;
+    for (const int letter : letters) {
+        if (letter < 'A' || letter > 'z')
+            return 0;
+        const bool isUpper = letter >= 'A' && letter <= 'Z';
+        code = code << BITS | static_cast<std::uint32_t>(isUpper ? letter + UPPER_TO_LOWER : letter);
+    }
+    return code;
+}
+
 /// Former and three-letter names as well: locales are the application's.
-constexpr std::array<std::string_view, 16> LANGUAGES{"ar", "dv", "fa", "he",  "iw",  "ji",  "ps",  "sd",
-                                                     "ug", "ur", "yi", "ara", "fas", "heb", "per", "urd"};
+constexpr std::array LANGUAGES = [] {
+    std::array<std::uint32_t, 16> codes{};
+    std::ranges::transform(std::to_array<std::string_view>({"ar", "dv", "fa", "he", "iw", "ji", "ps", "sd", "ug", "ur",
+                                                            "yi", "ara", "fas", "heb", "per", "urd"}),
+                           codes.begin(), [](std::string_view language) { return codeOf(language); });
+    return codes;
+}();
 
 /// The locale up to its country, its script or its encoding.
 std::span<const PegChar> languageOf(const PegString& locale)
@@ -23,13 +46,6 @@ std::span<const PegChar> languageOf(const PegString& locale)
     return {text.begin(), std::ranges::find_first_of(text, SEPARATORS)};
 }
 
-bool isSameLetter(PegChar one, char other)
-{
-    constexpr int UPPER_TO_LOWER = 'a' - 'A';
-    const bool isUpper = one >= 'A' && one <= 'Z';
-    return (isUpper ? one + UPPER_TO_LOWER : one) == other;
-}
-
 } // namespace
 
 bool isReadFromTheRight()
@@ -37,9 +53,7 @@ bool isReadFromTheRight()
     const auto* application = KestrelApplication::getCurrentApplication();
     if (application == nullptr)
         return false;
-    return std::ranges::any_of(LANGUAGES, [spoken = languageOf(application->getLocale())](std::string_view language) {
-        return std::ranges::equal(spoken, language, isSameLetter);
-    });
+    return std::ranges::find(LANGUAGES, codeOf(languageOf(application->getLocale()))) != LANGUAGES.end();
 }
 
 Align startAlign()
