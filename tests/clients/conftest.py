@@ -23,5 +23,5 @@ def programs(request: pytest.FixtureRequest) -> Path:
 
 @pytest.fixture
 def deskphone(programs: Path) -> Iterator[Phone]:
-    with Phone(programs / "deskphone") as started:
+    with Phone(programs / "deskphone", wait_timeout=60) as started:
         yield started

@@ -4,6 +4,8 @@ from __future__ import annotations
 
 import os
 import shutil
+import subprocess
+import sys
 from pathlib import Path
 
 import pytest
@@ -186,6 +188,13 @@ def test_the_failure_of_a_test_is_not_hidden_by_the_phones_end(programs: Path) -
         with Phone(programs / "misbehaving", "never") as phone:
             os.kill(phone.pid, 9)
             raise ZeroDivisionError
+
+
+def test_a_phone_that_is_forgotten_ends_with_its_user(programs: Path) -> None:
+    script = f"import displayapi; phone = displayapi.Phone({str(programs / 'hello')!r}); print(phone.pid)"
+    user = subprocess.run([sys.executable, "-c", script], capture_output=True, text=True, timeout=120)
+    with pytest.raises(ProcessLookupError):
+        os.kill(int(user.stdout), 0)
 
 
 def test_nothing_starts_without_a_program_or_a_launcher(programs: Path, tmp_path: Path,

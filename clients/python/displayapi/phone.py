@@ -4,6 +4,7 @@ from __future__ import annotations
 
 import base64
 import os
+import weakref
 from dataclasses import dataclass
 from pathlib import Path
 from types import TracebackType
@@ -17,7 +18,7 @@ from displayapi.process import PathLike, PhoneProcess, command_line, find_launch
 from displayapi.screen import Panel, Screen
 from displayapi.trace import Trace
 
-TIME_TO_DIE = 5.0
+TIME_TO_DIE = 15.0
 
 
 @dataclass(frozen=True)
@@ -104,6 +105,8 @@ class Phone:
             if process is not None:
                 process.kill()
             raise
+        if process is not None:
+            weakref.finalize(self, process.end)  # whoever forgets it leaves no phone behind
 
     def close(self) -> None:
         """Ends the phone if it is our own, else the connection. Once more does nothing. Raises PhoneEnded where the
