@@ -5,7 +5,7 @@ from __future__ import annotations
 import json
 import socket
 import threading
-from typing import Any, Callable, Iterator
+from typing import Any, Callable, Iterator, List
 
 import pytest
 from websockets.frames import OP_CONT, OP_TEXT, Frame
@@ -23,18 +23,19 @@ class Server:
     def __init__(self, listener: socket.socket) -> None:
         self._socket, _ = listener.accept()
         self._protocol = ServerConnection()
+        self._events: List[Any] = []
         self._protocol.send_response(self._protocol.accept(self.receive()))
         self._flush()
 
     def receive(self) -> Any:
         """The next request, or None at the end."""
-        while True:
+        while not self._events:
             data = self._socket.recv(1 << 16)
             if not data:
                 return None
             self._protocol.receive_data(data)
-            for event in self._protocol.events_received():
-                return event
+            self._events += self._protocol.events_received()
+        return self._events.pop(0)
 
     def number(self) -> int:
         return int(json.loads(self.receive().data)["id"])

@@ -115,7 +115,8 @@ class PhonePool:
 
 
 def _is_language(locale: str, language: str) -> bool:
-    return re.split("[-_]", locale)[0] == re.split("[-_]", language)[0] if language else not locale
+    """en-GB is en-GB, and en."""
+    return f"{locale}-".replace("_", "-").startswith(f"{language}-".replace("_", "-"))
 
 
 def close_quietly(phone: Phone) -> None:
