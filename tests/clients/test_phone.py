@@ -142,6 +142,19 @@ def test_a_refusal_has_the_phones_sentence(deskphone: Phone) -> None:
     assert refusal.value.code == ErrorCode.NO_METHOD
 
 
+def test_a_trace_tells_what_a_key_has_led_to(programs: Path) -> None:
+    with Phone(programs / "hello", wait_timeout=60) as phone:
+        phone.wait_for("Ada")
+        assert phone.trace(enable=True).enabled
+        phone.press("ok")
+        phone.wait_for("Hello, Ada!")
+        trace = phone.trace(enable=False)
+        title = next(record for record in trace.records if record.name == "List.SET_TITLE")
+        assert not trace.enabled and title.done is not None and title.run is not None
+        assert title.queued <= title.run <= title.done
+        assert [each.name for each in trace.records if each.waits][0] == "List.GET_SELECTED"
+
+
 def test_the_last_fifty_requests_are_kept(deskphone: Phone) -> None:
     for _ in range(60):
         deskphone.press("volume-up")

@@ -11,7 +11,7 @@ POSTED = {"facade": "List", "code": "APPEND", "number": 3, "thread": 17, "thread
 WAITS = {"facade": "Form", "code": "GET_VALUE", "number": 9, "thread": 18, "threadName": "asker", "queued": 1_200_000,
          "run": 1_700_000, "done": 1_800_000, "waits": True}
 PURGED = {"facade": "List", "code": "SET_TITLE", "number": 4, "thread": 17, "threadName": "worker", "queued": 1_300_000,
-          "run": None, "done": None, "waits": False, "purgedBy": "List.CLEAR"}
+          "run": None, "done": None, "waits": False, "purgedBy": "worker-2 (19)"}
 
 
 def trace(*records: Dict[str, Any]) -> Trace:
@@ -25,14 +25,14 @@ def events(kind: str, *records: Dict[str, Any]) -> List[Dict[str, Any]]:
 def test_records_read_as_they_are_said() -> None:
     posted, purged = trace(POSTED, PURGED).records
     assert (posted.name, posted.thread_name, posted.done) == ("List.APPEND", "worker", 1_700_000)
-    assert (purged.run, purged.purged_by) == (None, "List.CLEAR")
+    assert (purged.run, purged.purged_by) == (None, "worker-2 (19)")
 
 
 def test_people_read_how_long_it_took() -> None:
     posted, waits, purged = map(str, trace(POSTED, WAITS, PURGED).records)
     assert posted == "0.001000  worker (17)  List.APPEND: waited 500.0 us, ran 200.0 us"
     assert waits.endswith("Form.GET_VALUE: waited 500.0 us, ran 100.0 us, its caller waits")
-    assert purged.endswith("List.SET_TITLE: purged by List.CLEAR")
+    assert purged.endswith("List.SET_TITLE: purged by worker-2 (19)")
 
 
 def test_each_thread_has_a_track_and_the_gui_thread_another() -> None:
@@ -59,5 +59,5 @@ def test_an_arrow_leads_from_queueing_to_running() -> None:
 
 def test_what_was_purged_never_runs() -> None:
     (queued,) = events("X", PURGED)
-    assert queued["args"]["purgedBy"] == "List.CLEAR"
+    assert queued["args"]["purgedBy"] == "worker-2 (19)"
     assert not events("s", PURGED)

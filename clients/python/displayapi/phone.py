@@ -271,8 +271,8 @@ class Phone:
     # Looking inside.
 
     def trace(self, enable: Optional[bool] = None) -> Trace:
-        """The requests that the facades have posted to the GUI thread, as far as they are kept, after turning the trace
-        on or off."""
+        """The requests of the facades to the GUI thread since the last trace(), whoever asked, as far as they are kept;
+        and turns the trace on or off, which is off at first."""
         return Trace.of(self.request("trace", {"enable": enable}))
 
     def _change(self, method: str, params: Mapping[str, Any], lasts: float = 0) -> int:

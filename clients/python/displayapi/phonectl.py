@@ -136,7 +136,7 @@ def parser() -> argparse.ArgumentParser:
     each.add_argument("file", help="- is standard output")
     each.add_argument("--scale", type=_count, default=1, help="width and height of a pixel")
 
-    each = command("trace", trace, "print the requests of the application that are kept")
+    each = command("trace", trace, "print the requests of the application since the last trace")
     switch = each.add_mutually_exclusive_group()
     switch.add_argument("--enable", action="store_true", default=None, help="keep them from now on")
     switch.add_argument("--disable", dest="enable", action="store_false", help="keep no more")

@@ -28,7 +28,7 @@ class TraceRecord:
     waits: bool
     """The caller waits for it."""
     purged_by: Optional[str]
-    """What has taken it out of the queue."""
+    """The thread that has taken it out of the queue."""
 
     @classmethod
     def of(cls, json: Mapping[str, Any]) -> TraceRecord:
