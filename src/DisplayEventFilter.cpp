@@ -16,8 +16,9 @@ namespace DisplayAPI {
 
 namespace {
 
-void carryOut(DisplayRequestEvent* request)
+void carryOut(DisplayRequestEvent* request, std::int32_t number)
 {
+    const RequestRun run(typeid(Display), request->getType(), number);
     request->requesterDisplay()->processDisplayRequest(request);
     delete request;
 }
@@ -30,10 +31,12 @@ void repaintPending()
     PegThing::mpScreen->Update();
 }
 
-void carryOut(GuiRequestEvent* request)
+void carryOut(GuiRequestEvent* request, std::int32_t number)
 {
+    Widget& facade = *request->requesterWidget();
+    const RequestRun run(typeid(facade), request->getType(), number);
     Widget::Sync::left(*request);
-    request->requesterWidget()->processGuiRequest(*request);
+    facade.processGuiRequest(*request);
     repaintPending();
     delete request;
 }
@@ -91,14 +94,11 @@ void DisplayEventFilter::uninstall()
 
 int DisplayEventFilter::Message(const PegMessage& message)
 {
-    if (message.wType != PM_DISPLAY_REQUEST && message.wType != PM_WIDGET_REQUEST)
-        return PegThing::Message(message);
-    const RequestRun run(message.iData);
-    if (message.wType == PM_DISPLAY_REQUEST)
-        carryOut(static_cast<DisplayRequestEvent*>(message.pData));
-    else
-        carryOut(static_cast<GuiRequestEvent*>(message.pData));
-    return 0;
+    switch (message.wType) {
+    case PM_DISPLAY_REQUEST: carryOut(static_cast<DisplayRequestEvent*>(message.pData), message.iData); return 0;
+    case PM_WIDGET_REQUEST: carryOut(static_cast<GuiRequestEvent*>(message.pData), message.iData); return 0;
+    default: return PegThing::Message(message);
+    }
 }
 
 std::string DisplayEventFilter::eventInfo(const PegMessage*) const

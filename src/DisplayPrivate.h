@@ -3,6 +3,7 @@
 #include "DisplayAPI/DisplayPrivateIfc.h"
 #include "DisplaySystemWindow.h"
 #include "VisibleRectMonitor.h"
+#include "presentation/DisplayStack.h"
 #include "utilities/CriticalSection.h"
 
 #include <atomic>
@@ -112,6 +113,9 @@ public:
     /// For a displayable that is about to be gone: drops the pointers to it. Does nothing off the GUI thread, where the
     /// displayable's destroy request has dismissed it already.
     static void forgetEverywhere(Displayable* displayable);
+
+    /// What the latest display has on its stack, the top first.
+    static std::vector<StackedDisplayable> latestStack();
 
 private:
     static std::vector<DisplayPrivate*>& living();

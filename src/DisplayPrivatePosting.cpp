@@ -27,6 +27,7 @@ void postEventHelper(DisplayRequestEvent* request, DisplayEventFilter* filter, b
     PegMessage* const message = takeMessage();
     if (message == nullptr) {
         gDisplayLog(LOST, 1270, "postEvent() no more PegMessage objects in the pool, this one will be lost!");
+        tellLost();
         delete request;
         return;
     }
@@ -39,12 +40,16 @@ void postEventHelper(DisplayRequestEvent* request, DisplayEventFilter* filter, b
 
     // Once the mutex is released the GUI thread may have deleted the request: read what to wait for before.
     Semaphore* semaphore = nullptr;
+    int code = 0;
     enqueue(message, Place::TAIL, wait ? Answer::AWAITED : Answer::NOT_AWAITED, [&] {
         semaphore = request != nullptr ? request->getSemaphore() : nullptr;
+        code = request != nullptr ? request->getType() : 0;
         return true;
     });
-    if (wait && semaphore != nullptr)
-        semaphore->take(-1);
+    if (!wait || semaphore == nullptr)
+        return;
+    const RequestWait waiting(typeid(Display), code);
+    semaphore->take(-1);
 }
 
 /// Nobody will carry out what is still queued for this display's filter: let those who wait go on.

@@ -9,6 +9,26 @@
 
 namespace DisplayAPI {
 
+namespace {
+
+[[maybe_unused]] const bool gCanBeAsked = [] {
+    gpDisplayStack = DisplayPrivate::latestStack;
+    return true;
+}();
+
+} // namespace
+
+std::vector<StackedDisplayable> DisplayPrivate::latestStack()
+{
+    if (living().empty())
+        return {};
+    std::vector<StackedDisplayable> stack;
+    for (Displayable* entry : living().back()->mItemList)
+        stack.push_back({&typeid(*entry), widgetOf(entry)});
+    std::ranges::reverse(stack);
+    return stack;
+}
+
 void DisplayPrivate::setCurrent(Displayable* displayable)
 {
     if (displayable == nullptr)

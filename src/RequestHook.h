@@ -1,12 +1,14 @@
 #pragma once
 
 #include "utilities/RequestObserver.h"
+#include "utilities/RequestStatus.h"
 
 #include <cstdint>
 #include <typeinfo>
 
 /// Where the library's requests are looked at from outside: see docs/looking-inside.md. While nobody does, a request
-/// costs one look at a pointer when it is queued, and one at its message when it is carried out or purged.
+/// costs one look at a pointer when it is queued and one at its message when it is carried out; what runs and who waits
+/// is written down always, with some stores that nobody else's follow.
 namespace DisplayAPI {
 
 /// The number that goes into the request's message; 0 while nobody listens. `facade` is asked for its class then only.
@@ -17,20 +19,31 @@ std::int32_t tellQueued(ClassOf facade, int code, bool isAwaited)
     return observer != nullptr ? observer->queued(facade(), code, isAwaited) : 0;
 }
 
+/// Nobody carries it out.
 inline void tellPurged(std::int32_t number)
 {
+    gPurgedRequests.fetch_add(1, std::memory_order_relaxed);
     if (number == 0)
         return;
     if (RequestObserver* const observer = gpRequestObserver.load(std::memory_order_acquire))
         observer->purged(number);
 }
 
-/// Stands around the handling of a request. GUI thread only.
+/// There was no message for it.
+inline void tellLost()
+{
+    gLostRequests.fetch_add(1, std::memory_order_relaxed);
+}
+
+/// Stands around the handling of a request, maybe within that of another one. GUI thread only.
 class RequestRun {
 public:
-    explicit RequestRun(std::int32_t number)
-        : mNumber(number), mObserver(number != 0 ? gpRequestObserver.load(std::memory_order_acquire) : nullptr)
+    RequestRun(const std::type_info& facade, int code, std::int32_t number)
+        : mFormer{gRunningRequest.facade.load(std::memory_order_relaxed),
+                  gRunningRequest.code.load(std::memory_order_relaxed)},
+          mNumber(number), mObserver(number != 0 ? gpRequestObserver.load(std::memory_order_acquire) : nullptr)
     {
+        publish({&facade, code});
         if (mObserver != nullptr)
             mObserver->begun(mNumber);
     }
@@ -39,14 +52,47 @@ public:
     {
         if (mObserver != nullptr)
             mObserver->done(mNumber);
+        publish(mFormer);
     }
 
     RequestRun(const RequestRun&) = delete;
     RequestRun& operator=(const RequestRun&) = delete;
 
 private:
+    struct What {
+        const std::type_info* facade;
+        int code;
+    };
+
+    static void publish(What what)
+    {
+        gRunningRequest.turns.store(gRunningRequest.turns.load(std::memory_order_relaxed) + 1,
+                                    std::memory_order_relaxed);
+        gRunningRequest.facade.store(what.facade, std::memory_order_release);
+        gRunningRequest.code.store(what.code, std::memory_order_release);
+    }
+
+    const What mFormer;
     const std::int32_t mNumber;
     RequestObserver* const mObserver;
+};
+
+/// Stands around the wait for a request, or for one's turn to post it.
+class RequestWait {
+public:
+    RequestWait(const std::type_info& facade, int code) : mRequest{&facade, code}, mFormer(gpAwaitedRequest)
+    {
+        gpAwaitedRequest = &mRequest;
+    }
+
+    ~RequestWait() { gpAwaitedRequest = mFormer; }
+
+    RequestWait(const RequestWait&) = delete;
+    RequestWait& operator=(const RequestWait&) = delete;
+
+private:
+    const AwaitedRequest mRequest;
+    const AwaitedRequest* const mFormer;
 };
 
 } // namespace DisplayAPI

@@ -52,6 +52,7 @@ PegMessage* wrap(GuiRequestEvent* request, const Operation& operation)
     PegMessage* message = takeMessage();
     if (message == nullptr) {
         gLog(LOST, operation.logLine, operation.lost);
+        tellLost();
         delete request;
         return nullptr;
     }
@@ -119,8 +120,9 @@ bool handOver(const Post& post, Widget& widget, GuiRequestEvent* request, const 
 
 void postAndWait(Widget& widget, GuiRequestEvent* request, const Operation& operation)
 {
-    Post post(widget);
     request = orEmptyRequest(widget, request);
+    const RequestWait waiting(typeid(widget), request->getType());
+    Post post(widget, request->getType());
     Wait* const callers = request->waitCondition();
     Wait own;
     if (!handOver(post, widget, request, operation, callers == nullptr ? &own : nullptr))
@@ -226,8 +228,9 @@ void Widget::postTopEvent(GuiRequestEvent* request)
 
 void Widget::postEventAsync(GuiRequestEvent* request)
 {
-    const Post post(*this);
-    handOver(post, *this, orEmptyRequest(*this, request), POST_ASYNC, nullptr);
+    request = orEmptyRequest(*this, request);
+    const Post post(*this, request->getType());
+    handOver(post, *this, request, POST_ASYNC, nullptr);
 }
 
 void Widget::postEvent(int code)

@@ -2,6 +2,7 @@
 
 #include "DisplayAPI/GuiRequestEvent.h"
 #include "DisplayAPI/Widget.h"
+#include "RequestHook.h"
 #include "utilities/Semaphore.h"
 #include "utilities/Wait.h"
 
@@ -87,9 +88,13 @@ private:
 /// One post on a widget: holds the request lock, and what the widget shares, until its end.
 class Post {
 public:
-    explicit Post(Widget& widget) : mSync(Widget::Sync::of(widget))
+    /// `code` says what for.
+    Post(Widget& widget, int code) : mSync(Widget::Sync::of(widget))
     {
         mSync.hold();
+        if (mSync.requestLock->take(0))
+            return;
+        const RequestWait waiting(typeid(widget), code);
         mSync.requestLock->take(-1);
     }
 

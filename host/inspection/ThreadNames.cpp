@@ -1,8 +1,19 @@
 #include "host/inspection/ThreadNames.h"
 
+#include <algorithm>
+#include <filesystem>
 #include <fstream>
 
 namespace host {
+
+std::vector<int> allThreads()
+{
+    std::vector<int> threads;
+    for (const auto& thread : std::filesystem::directory_iterator("/proc/self/task"))
+        threads.push_back(std::stoi(thread.path().filename()));
+    std::ranges::sort(threads);
+    return threads;
+}
 
 std::string threadName(int thread)
 {

@@ -36,6 +36,16 @@ std::chrono::milliseconds Loop::busyFor()
     return LoopStatus::instance().busyFor();
 }
 
+bool Loop::isBusy()
+{
+    return LoopStatus::instance().isBusy();
+}
+
+unsigned int Loop::guiThread()
+{
+    return LoopStatus::instance().guiThread;
+}
+
 void Loop::quit()
 {
     LoopStatus::instance().askForExit();

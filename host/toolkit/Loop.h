@@ -19,6 +19,12 @@ public:
     /// and without a toolkit. In real time, to some milliseconds.
     static std::chrono::milliseconds busyFor();
 
+    /// Whether it is at something.
+    static bool isBusy();
+
+    /// The GUI thread's number; 0 while the toolkit is not up.
+    static unsigned int guiThread();
+
     /// Who is busy for that long stands still: nothing is shown, and no key is taken.
     static constexpr std::chrono::milliseconds STANDSTILL{2000};
     static bool standsStill() { return busyFor() >= STANDSTILL; }

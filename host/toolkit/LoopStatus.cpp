@@ -2,6 +2,7 @@
 
 #include "host/clock/Clock.h"
 #include "host/toolkit/MainQueue.h"
+#include "utilities/Threadable.h"
 
 #include <time.h>
 
@@ -57,8 +58,14 @@ std::chrono::milliseconds LoopStatus::busyFor() const
     return std::chrono::milliseconds(since == RESTS ? 0 : coarseNow() - since);
 }
 
+bool LoopStatus::isBusy() const
+{
+    return mBusySince.load(std::memory_order_relaxed) != RESTS;
+}
+
 void LoopStatus::setRoot(PegThing* root)
 {
+    guiThread = root != nullptr ? Threadable::currentThreadId() : 0;
     root != nullptr ? beginWork() : beginRest();
     std::lock_guard lock(mRootMutex);
     mRoot = root;

@@ -17,8 +17,9 @@ struct LoopStatus {
     bool isIdle() const;
 
     pthread_cond_t becameIdle;
-    std::atomic<unsigned int> threadId{0}; ///< 0 while no loop runs
-    std::atomic<int> watchers{0};          ///< who wants to hear of becameIdle, or looks when it comes
+    std::atomic<unsigned int> threadId{0};  ///< 0 while no loop runs
+    std::atomic<unsigned int> guiThread{0}; ///< who has started the toolkit; 0 while that does not run
+    std::atomic<int> watchers{0};           ///< who wants to hear of becameIdle, or looks when it comes
     bool restsWithoutWork = false;
 
     /// The GUI thread begins with something new, or waits for it. GUI thread only.
@@ -27,6 +28,7 @@ struct LoopStatus {
 
     /// How long ago it has begun; zero while it rests.
     std::chrono::milliseconds busyFor() const;
+    bool isBusy() const;
 
     /// Who ends the loop; null while the toolkit does not run.
     void setRoot(PegThing* root);

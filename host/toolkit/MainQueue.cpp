@@ -14,6 +14,9 @@ namespace host {
 
 namespace {
 
+/// The loop's.
+constinit std::atomic<int> gMostWaiting{0};
+
 void initialise(pthread_cond_t& condition)
 {
     pthread_condattr_t attributes;
@@ -152,9 +155,17 @@ void MainQueue::takeOver()
         return;
     queue.taken = std::exchange(queue.head, nullptr);
     queue.tail = nullptr;
-    queue.takenCount.store(queue.waiting.load(std::memory_order_relaxed), std::memory_order_relaxed);
+    const int waiting = queue.waiting.load(std::memory_order_relaxed);
+    if (waiting > gMostWaiting.load(std::memory_order_relaxed))
+        gMostWaiting.store(waiting, std::memory_order_relaxed);
+    queue.takenCount.store(waiting, std::memory_order_relaxed);
     queue.waiting.store(0, std::memory_order_release);
     queue.awaited.store(false, std::memory_order_relaxed);
+}
+
+int MainQueue::mostWaiting()
+{
+    return gMostWaiting.load(std::memory_order_relaxed);
 }
 
 void MainQueue::dropMessagesTo(const PegThing* thing)

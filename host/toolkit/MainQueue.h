@@ -47,6 +47,10 @@ public:
     /// Takes out everything but requests.
     static void dropMessages();
 
+    /// The most that the loop has found waiting since the process started.
+    static int mostWaiting();
+
+    static bool isThere() { return gtPegMainQueue != nullptr; }
     static bool isEmpty() { return gtPegMainQueue->count() == 0; }
 };
 

@@ -3,6 +3,7 @@
 #include "host/Phone.h"
 #include "host/frontend/FrontEnd.h"
 #include "host/input/Keyboard.h"
+#include "host/inspection/Watchdog.h"
 #include "host/lcd/Lcd.h"
 #include "host/toolkit/LoopStatus.h"
 #include "host/toolkit/MainQueue.h"
@@ -35,12 +36,14 @@ void pegInit()
     host::LoopStatus::instance().setRoot(gpPresent);
     host::Keyboard::instance().connect();
     host::startFrontEnd();
+    host::Watchdog::start();
 }
 
 void pegCleanUp()
 {
     if (gStarts == 0 || --gStarts > 0)
         return;
+    host::Watchdog::stop();
     host::stopFrontEnd();
     host::Keyboard::instance().disconnect();
     host::LoopStatus::instance().setRoot(nullptr);

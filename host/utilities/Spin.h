@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/inspection/BlockedCalls.h"
+
 #include <atomic>
 #include <cstdint>
 
@@ -88,13 +90,14 @@ public:
     /// anew where he runs.
     class Sleep {
     public:
-        Sleep() : mStart(nanoseconds()) {}
+        Sleep() : mStart(nanoseconds()), mNote(gpAwaitedRequest, mStart) {}
         ~Sleep();
         Sleep(const Sleep&) = delete;
         Sleep& operator=(const Sleep&) = delete;
 
     private:
-        std::int64_t mStart;
+        const std::int64_t mStart;
+        const BlockedCallNote mNote;
     };
 
 private:

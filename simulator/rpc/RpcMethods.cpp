@@ -111,6 +111,7 @@ RpcMethods::RpcMethods(RpcPhone& phone, ScreenWatch& watch, RpcAbout about, Chan
     addChanging("exchange", &RpcMethods::exchange);
     addChanging("act", &RpcMethods::act);
     add("trace", &RpcMethods::trace);
+    add("inspect", &RpcMethods::inspect);
     add("unsubscribe", &RpcMethods::unsubscribe);
     mDispatcher.addSlow("subscribe", [this](RpcParams& params, const RpcAnswer& answer) { subscribe(params, answer); });
     mDispatcher.addSlow("waitFor", [this](RpcParams& params, const RpcAnswer& answer) { waitFor(params, answer); });
@@ -215,6 +216,15 @@ Json RpcMethods::trace(RpcParams& params)
     params.end();
     trace.enable(enable);
     return traceJson(enable, trace.take());
+}
+
+/// What the GUI thread has no part in is looked at first: it is as it is when somebody asks, not when that has waited.
+Json RpcMethods::inspect(RpcParams& params)
+{
+    params.end();
+    Json result = statusJson();
+    addWidgets(result, mPhone.widgets());
+    return result;
 }
 
 void RpcMethods::waitFor(RpcParams& params, const RpcAnswer& answer)

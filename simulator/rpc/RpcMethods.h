@@ -53,6 +53,7 @@ private:
     Json act(RpcParams& params);
     Json say(const std::string& wire, const std::string& line);
     Json trace(RpcParams& params);
+    Json inspect(RpcParams& params);
     Json unsubscribe(RpcParams& params);
     void subscribe(RpcParams& params, const RpcAnswer& answer);
     void waitFor(RpcParams& params, const RpcAnswer& answer);

@@ -2,8 +2,11 @@
 
 #include "host/clock/Clock.h"
 #include "host/frontend/Wire.h"
+#include "host/toolkit/Loop.h"
 #include "simulator/core/HeldKey.h"
 #include "simulator/rpc/RpcError.h"
+
+#include <future>
 
 namespace simulator {
 
@@ -33,6 +36,19 @@ ScreenPtr RpcPhone::orComplaint(ScreenPtr screen) const
     if (!mReader.isThere())
         throw RpcError(RpcError::HAS_ENDED, "the application has ended");
     throw RpcError(RpcError::NO_ANSWER, "the application does not answer: its GUI thread stands still");
+}
+
+std::optional<host::WidgetTree> RpcPhone::widgets()
+{
+    if (host::Loop::standsStill())
+        return {};
+    using Answer = std::promise<std::optional<host::WidgetTree>>;
+    const auto answer = std::make_shared<Answer>(); // the GUI thread may come to it when nobody waits any more
+    auto tree = answer->get_future();
+    mReader.read([answer](const ScreenPtr& screen) {
+        answer->set_value(screen != nullptr ? std::optional(host::WidgetTree::read()) : std::nullopt);
+    });
+    return tree.wait_for(host::Loop::STANDSTILL) == std::future_status::ready ? tree.get() : std::nullopt;
 }
 
 void RpcPhone::press(Client client, PegKey key)

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "host/inspection/WidgetTree.h"
 #include "simulator/core/KeyPad.h"
 #include "simulator/core/PhoneClock.h"
 #include "simulator/core/ScreenReader.h"
+
+#include <optional>
 
 namespace simulator {
 
@@ -21,6 +24,10 @@ public:
 
     /// With the pixels.
     ScreenPtr photograph();
+
+    /// What the screen consists of, when all that is queued by now has been handled. Nothing where the GUI thread
+    /// stands still, or is gone.
+    std::optional<host::WidgetTree> widgets();
 
     /// Presses a key and lets it go. Refused where somebody holds it.
     void press(Client client, PegKey key);

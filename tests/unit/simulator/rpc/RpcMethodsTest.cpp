@@ -207,6 +207,44 @@ TEST_F(RpcMethodsTest, TraceIsOffUntilItIsSwitchedOn)
     EXPECT_EQ(result("trace", R"({"enable":false})"), Json::parse(R"({"enabled":false,"records":[],"lost":0})"));
 }
 
+TEST_F(RpcMethodsTest, InspectTellsWhatTheScreenConsistsOf)
+{
+    const Json inspected = result("inspect");
+    EXPECT_EQ(inspected["complete"], true);
+    EXPECT_EQ(inspected["gui"]["doing"], Json());
+    EXPECT_EQ(inspected["waiting"], Json::array());
+    EXPECT_EQ(inspected["displayables"], Json::array());
+    EXPECT_GE(inspected["threads"].size(), 2U);
+    EXPECT_TRUE(inspected["counters"]["carriedOut"].is_number_unsigned());
+    const Json& root = inspected["widgets"];
+    EXPECT_EQ(root["class"], "PRESCPresentationManager");
+    EXPECT_EQ(root["rectangle"], Json({0, 0, host::Lcd::current()->width() - 1, host::Lcd::current()->height() - 1}));
+    const Json& child = root["children"].at(0);
+    EXPECT_EQ(child["class"], "test::CountingThing");
+    EXPECT_EQ(child["focus"], true);
+    EXPECT_EQ(child["owner"], "");
+}
+
+TEST_F(RpcMethodsTest, InspectAnswersWhileTheGuiThreadStands)
+{
+    std::promise<void> go;
+    std::promise<void> stands;
+    std::thread standing([&] {
+        toolkit.run([&] {
+            stands.set_value();
+            go.get_future().wait();
+        });
+    });
+    stands.get_future().wait();
+    const Json inspected = result("inspect");
+    go.set_value();
+    standing.join();
+    EXPECT_EQ(inspected["complete"], false);
+    EXPECT_EQ(inspected["widgets"], Json());
+    EXPECT_THAT(inspected["gui"]["state"], testing::AnyOf("busy", "standing"));
+    EXPECT_GT(inspected["threads"].size(), 1U);
+}
+
 TEST_F(RpcMethodsTest, ActionsAreThoseOfTheProgram)
 {
     std::string heard;
