@@ -29,11 +29,12 @@ struct BlockedCalls::Slots {
 /// A thread's slot, until it ends.
 class BlockedCalls::Tenancy {
 public:
-    Tenancy()
+    /// `slot` becomes null where it ends.
+    explicit Tenancy(Slot*& slot) : mSlot(slot)
     {
         const std::lock_guard lock(slots().mutex);
         auto& all = slots().all;
-        auto free = std::ranges::find_if(all, [](const auto& slot) { return slot->thread == 0; });
+        auto free = std::ranges::find_if(all, [](const auto& each) { return each->thread == 0; });
         if (free == all.end())
             free = all.insert(free, std::make_unique<Slot>());
         mSlot = free->get();
@@ -44,15 +45,14 @@ public:
     {
         const std::lock_guard lock(slots().mutex);
         mSlot->thread = 0;
+        mSlot = nullptr;
     }
 
     Tenancy(const Tenancy&) = delete;
     Tenancy& operator=(const Tenancy&) = delete;
 
-    Slot* slot() const { return mSlot; }
-
 private:
-    Slot* mSlot;
+    Slot*& mSlot;
 };
 
 BlockedCalls::Slots& BlockedCalls::slots()
@@ -61,10 +61,12 @@ BlockedCalls::Slots& BlockedCalls::slots()
     return *all;
 }
 
+/// Null where the thread is about to end.
 BlockedCalls::Slot* BlockedCalls::slot()
 {
-    thread_local const Tenancy tenancy;
-    return tenancy.slot();
+    [[gnu::tls_model("initial-exec")]] thread_local constinit Slot* mine = nullptr;
+    thread_local const Tenancy tenancy(mine);
+    return mine;
 }
 
 std::vector<BlockedCall> BlockedCalls::all()
@@ -93,6 +95,8 @@ std::vector<BlockedCall> BlockedCalls::longest()
 void BlockedCallNote::begin(const AwaitedRequest& request, std::int64_t now)
 {
     mSlot = BlockedCalls::slot();
+    if (mSlot == nullptr)
+        return;
     mSlot->facade.store(request.facade, std::memory_order_release);
     mSlot->code.store(request.code, std::memory_order_release);
     mSlot->since.store(now, std::memory_order_release);

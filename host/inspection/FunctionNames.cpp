@@ -6,7 +6,6 @@
 #include <cxxabi.h>
 #include <dlfcn.h>
 #include <fstream>
-#include <iterator>
 #include <link.h>
 #include <memory>
 #include <sstream>
@@ -35,8 +34,11 @@ std::string_view lastPart(std::string_view path)
 /// Empty where it cannot be read.
 std::string contentOf(const std::string& path)
 {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    std::ifstream file(path, std::ios::binary | std::ios::ate);
+    const std::streamoff size = file.tellg();
+    std::string content(static_cast<std::size_t>(std::max<std::streamoff>(size, 0)), '\0');
+    file.seekg(0);
+    return file.read(content.data(), size) ? content : std::string();
 }
 
 /// What lies there in a file; false where the file ends before.

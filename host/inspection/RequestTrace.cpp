@@ -185,18 +185,19 @@ void RequestTrace::Ring::read(std::vector<Event>& events, std::uint64_t& lost, s
 /// A thread's ring, until the thread ends.
 class RequestTrace::Tenancy {
 public:
-    explicit Tenancy(Ring* ring) : mRing(ring) {}
+    /// `ring` becomes null where it ends.
+    explicit Tenancy(Ring*& ring) : mRing(ring) {}
     Tenancy(const Tenancy&) = delete;
     Tenancy& operator=(const Tenancy&) = delete;
 
     ~Tenancy()
     {
-        if (mRing != nullptr)
-            RequestTrace::instance().giveBack(*mRing);
+        if (Ring* const ring = std::exchange(mRing, nullptr))
+            RequestTrace::instance().giveBack(*ring);
     }
 
 private:
-    Ring* const mRing;
+    Ring*& mRing;
 };
 
 RequestTrace& RequestTrace::instance()

@@ -111,7 +111,7 @@ bool send(int thread, int number, int ticket)
 bool waitForSample()
 {
     using namespace std::chrono_literals;
-    constexpr int TRIES = 500;
+    constexpr int TRIES = 250;
     for (int i = 0; i < TRIES && gSample.state != Sample::WRITTEN; ++i)
         std::this_thread::sleep_for(1ms);
     auto expected = Sample::ASKED;

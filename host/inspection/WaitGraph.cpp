@@ -34,18 +34,27 @@ bool sleeps(int thread)
     return end != std::string::npos && line.substr(end).starts_with(") S");
 }
 
-/// The word that the thread sleeps at; 0 where it does not, or where the kernel does not tell.
-std::uintptr_t futexOf(int thread)
-{
-    std::ifstream file(fileOf(thread, "syscall"));
-    long number = -1;
+/// The word that a thread sleeps at, and how; no word where it does not, or where the kernel does not tell.
+struct FutexSleep {
     std::uintptr_t word = 0;
     std::uintptr_t operation = 0;
-    if (!(file >> number) || number != SYS_futex || !(file >> std::hex >> word >> operation))
-        return 0;
-    const auto command = operation & FUTEX_CMD_MASK;
-    return command == FUTEX_WAIT || command == FUTEX_WAIT_BITSET ? word : 0;
-}
+
+    explicit FutexSleep(int thread)
+    {
+        std::ifstream file(fileOf(thread, "syscall"));
+        long number = -1;
+        if (!(file >> number) || number != SYS_futex || !(file >> std::hex >> word >> operation))
+            word = 0;
+    }
+
+    bool isInMutex() const { return word != 0 && operation == FUTEX_WAIT_PRIVATE; }
+
+    /// The kernel itself clears that word, so it is no private one.
+    bool isInJoin() const
+    {
+        return word != 0 && (operation & FUTEX_PRIVATE_FLAG) == 0 && (operation & FUTEX_CMD_MASK) == FUTEX_WAIT_BITSET;
+    }
+};
 
 /// A copy of what lies there, zeros where nothing does any more.
 std::array<int, 3> wordsAt(std::uintptr_t address)
@@ -62,13 +71,11 @@ std::array<int, 3> wordsAt(std::uintptr_t address)
 int holderFor(int thread)
 {
     constexpr int WAITED_FOR = 2;
-    const std::uintptr_t futex = futexOf(thread);
-    if (futex == 0)
-        return 0;
-    const auto [state, count, holder] = wordsAt(futex);
-    if (state == WAITED_FOR && isThread(holder))
+    const FutexSleep sleep(thread);
+    const auto [state, count, holder] = wordsAt(sleep.word);
+    if (sleep.isInMutex() && state == WAITED_FOR && isThread(holder))
         return holder;
-    return state != thread && isThread(state) ? state : 0;
+    return sleep.isInJoin() && isThread(state) ? state : 0;
 }
 
 } // namespace

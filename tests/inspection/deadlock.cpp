@@ -1,4 +1,4 @@
-// An application whose GUI thread waits for a thread that waits for the GUI thread: `deadlock listener|join`.
+// An application whose GUI thread waits for a thread that waits for the GUI thread: `deadlock listener|join|mutex`.
 
 #include "DisplayAPI/Command.h"
 #include "DisplayAPI/CommandListener.h"
@@ -7,6 +7,7 @@
 #include "DisplayAPI/List.h"
 
 #include <future>
+#include <mutex>
 #include <string_view>
 #include <thread>
 
@@ -33,11 +34,16 @@ private:
 /// Has the GUI thread wait for what waits for it.
 class WaitingFacade : public Widget {
 public:
-    WaitingFacade(List& list, bool joins) : mList(list), mJoins(joins) {}
+    WaitingFacade(List& list, std::string_view way) : mList(list), mWay(way) {}
 
     void processGuiRequest(GuiRequestEvent& request) override
     {
-        mJoins ? joinAsker() : waitForListener();
+        if (mWay == "listener")
+            waitForListener();
+        if (mWay == "join")
+            joinAsker();
+        if (mWay == "mutex")
+            lockAskersMutex();
         signalComplete(request);
     }
 
@@ -45,6 +51,20 @@ private:
     void joinAsker()
     {
         std::thread asker([this] { mList.size(); });
+        asker.join();
+    }
+
+    void lockAskersMutex()
+    {
+        std::mutex mutex;
+        std::promise<void> isLocked;
+        std::thread asker([&] {
+            const std::lock_guard lock(mutex);
+            isLocked.set_value();
+            mList.size();
+        });
+        isLocked.get_future().wait();
+        const std::lock_guard lock(mutex);
         asker.join();
     }
 
@@ -57,16 +77,15 @@ private:
     }
 
     List& mList;
-    const bool mJoins;
+    const std::string_view mWay;
 };
 
 int main(int argc, char** argv)
 {
-    const bool joins = argc > 1 && std::string_view(argv[1]) == "join";
     Widget::setGuiThreadId();
     Display display("plain", "en_GB", "dd.mm.yyyy", "24h", false, nullptr);
     List list(0);
-    WaitingFacade facade(list, joins);
+    WaitingFacade facade(list, argc > 1 ? argv[1] : "listener");
     std::thread([&facade] { facade.postEventAsync(7); }).join();
     display.exec();
 }
