@@ -32,8 +32,7 @@ void postEventHelper(DisplayRequestEvent* request, DisplayEventFilter* filter, b
         return;
     }
     message->wType = PM_DISPLAY_REQUEST;
-    const auto facade = []() -> const std::type_info& { return typeid(Display); };
-    message->iData = request != nullptr ? tellQueued(facade, request->getType(), wait) : 0;
+    message->iData = request != nullptr ? tellQueued(typeid(Display), request->getType(), wait) : 0;
     message->pTarget = filter;
     message->pSource = filter;
     message->pData = request;

@@ -11,12 +11,11 @@
 /// is written down always, with some stores that nobody else's follow.
 namespace DisplayAPI {
 
-/// The number that goes into the request's message; 0 while nobody listens. `facade` is asked for its class then only.
-template <typename ClassOf>
-std::int32_t tellQueued(ClassOf facade, int code, bool isAwaited)
+/// The number that goes into the request's message; 0 while nobody listens.
+inline std::int32_t tellQueued(const std::type_info& facade, int code, bool isAwaited)
 {
     RequestObserver* const observer = gpRequestObserver.load(std::memory_order_acquire);
-    return observer != nullptr ? observer->queued(facade(), code, isAwaited) : 0;
+    return observer != nullptr ? observer->queued(facade, code, isAwaited) : 0;
 }
 
 /// Nobody carries it out.

@@ -101,8 +101,7 @@ bool handOver(const Post& post, Widget& widget, GuiRequestEvent* request, const 
         return false;
     if (condition != nullptr)
         request->setWaitCondition(condition);
-    const auto facade = [&]() -> const std::type_info& { return typeid(widget); };
-    message->iData = tellQueued(facade, request->getType(), operation.answer == Answer::AWAITED);
+    message->iData = tellQueued(post.facade(), request->getType(), operation.answer == Answer::AWAITED);
     const auto admit = [&] {
         const bool admitted = !post.hasEnded() && addressToFilter(*message);
         if (admitted)
@@ -121,8 +120,8 @@ bool handOver(const Post& post, Widget& widget, GuiRequestEvent* request, const 
 void postAndWait(Widget& widget, GuiRequestEvent* request, const Operation& operation)
 {
     request = orEmptyRequest(widget, request);
-    const RequestWait waiting(typeid(widget), request->getType());
-    Post post(widget, request->getType());
+    const int code = request->getType();
+    Post post(widget, code);
     Wait* const callers = request->waitCondition();
     Wait own;
     if (!handOver(post, widget, request, operation, callers == nullptr ? &own : nullptr))
@@ -130,6 +129,7 @@ void postAndWait(Widget& widget, GuiRequestEvent* request, const Operation& oper
     // Whoever waits on a condition of his own does not keep others from posting meanwhile.
     if (callers != nullptr)
         post.giveBackLock();
+    const RequestWait waiting(post.facade(), code);
     (callers != nullptr ? *callers : own).wait();
 }
 

@@ -133,6 +133,20 @@ TEST_F(RequestTraceTest, PurgedRequestSaysByWhom)
     EXPECT_THAT(trace.take().records, IsEmpty());
 }
 
+TEST_F(RequestTraceTest, FacadeMayGoWhileCallersWaitForTheirTurn)
+{
+    auto doomed = std::make_unique<TestWidget>();
+    Worker first([&facade = *doomed] { facade.postEvent(1); });
+    gui.waitForQueued(1);
+    Worker second([&facade = *doomed] { facade.postEvent(2); });
+    EXPECT_TRUE(second.isBlocked());
+    doomed.reset();
+    first.join();
+    second.join();
+    for (const Told& request : trace.take().records)
+        EXPECT_NE(request.purgedBy, "") << request.number;
+}
+
 TEST_F(RequestTraceTest, NothingIsKeptWhileItIsOff)
 {
     trace.enable(false);

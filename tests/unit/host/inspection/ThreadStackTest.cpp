@@ -32,13 +32,6 @@ void waitHere(std::future<void> until)
 
 namespace {
 
-std::atomic<int> gHeard{0};
-
-void hear(int)
-{
-    ++gHeard;
-}
-
 class ThreadStackTest : public testing::Test {
 protected:
     ThreadStackTest() : worker([this] { waitHere(end.get_future()); }) {}
@@ -52,6 +45,13 @@ protected:
 };
 
 #ifdef STACKS_ARE_TOLD
+
+std::atomic<int> gHeard{0};
+
+void hear(int)
+{
+    ++gHeard;
+}
 
 TEST_F(ThreadStackTest, FunctionsOfAnotherThreadAreNamed)
 {
