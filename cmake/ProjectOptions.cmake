@@ -54,7 +54,7 @@ endif()
 
 # For folders whose code is seldom the busy part: with sanitizers, optimizing it takes the compiler two thirds of its time.
 macro(displayapi_compile_quickly)
-    if(NOT DISPLAYAPI_SANITIZE STREQUAL "")
+    if(NOT DISPLAYAPI_SANITIZE STREQUAL "" AND NOT DISPLAYAPI_FUZZ)
         add_compile_options(-O0)
     endif()
 endmacro()
