@@ -37,7 +37,7 @@ std::string stepIn(test::Bytes& bytes)
     if (what < 235)
         return "wait " + std::to_string(bytes.next() * 20);
     if (what < 240)
-        return "advance " + std::to_string(bytes.next() * 60'000);
+        return "advance " + std::to_string(bytes.next() * 2'000);
     return std::string("exchange ") + CALLERS[what % CALLERS.size()] + LINES[bytes.below(LINES.size())];
 }
 
