@@ -15,6 +15,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <iostream>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace simulator {
@@ -41,16 +42,22 @@ std::optional<std::vector<host::Wire::Offer>> exchangeOffers()
     return host::Wire::offers("exchange");
 }
 
+/// What a program has inherited may be another one's, and long closed.
+bool isPipe(int descriptor)
+{
+    struct stat status {};
+    return fstat(descriptor, &status) == 0 && S_ISFIFO(status.st_mode);
+}
+
 /// To the launcher, or to the user where there is none.
 void report(const Endpoint& endpoint)
 {
-    const auto descriptor = fromEnvironment(PORT_REPORT_VARIABLE);
-    if (!descriptor) {
+    const int pipe = std::atoi(fromEnvironment(PORT_REPORT_VARIABLE).value_or("-1").c_str());
+    if (!isPipe(pipe)) {
         std::cerr << "The telephone is at " << endpoint.url() << std::endl;
         return;
     }
     const std::string line = std::to_string(endpoint.port) + '\n';
-    const int pipe = std::atoi(descriptor->c_str());
     while (write(pipe, line.data(), line.size()) < 0 && errno == EINTR) {
     }
     close(pipe);
