@@ -209,9 +209,11 @@ bool EditField::staysAfterTyping(bool right)
     return !right && std::exchange(mHasTyped, false) && cursor() > 0;
 }
 
-/// The character that is being chosen is set, and no symbols are offered.
+/// The character that is being chosen is set, and no symbols are offered: that is seen, whatever else a key does.
 void EditField::endTimers()
 {
+    if (mEdit.isChoosing() || mSymbols.isOpen())
+        Invalidate();
     KillTimer(CANDIDATE);
     endHold();
     mEdit.endCandidate();

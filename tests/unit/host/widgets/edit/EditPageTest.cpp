@@ -1,6 +1,7 @@
 #include "host/widgets/edit/EditPage.h"
 
 #include "host/lcd/Geometry.h"
+#include "host/lcd/Lcd.h"
 #include "support/Keys.h"
 #include "support/RunningToolkit.h"
 #include "support/VirtualTime.h"
@@ -77,6 +78,19 @@ TEST_F(EditPageTest, UpAndDownMoveBetweenLinesAndBelongToTheHolderAtTheEnds)
     EXPECT_FALSE(press(page, "^"));
     EXPECT_TRUE(press(page, "<v"));
     EXPECT_EQ(page.cursor(), 6);
+}
+
+TEST_F(EditPageTest, CharacterThatIsNoLongerBeingChosenIsPaintedSo)
+{
+    page.setKind(host::EditKind::NAME);
+    gpPresent->Add(&page);
+    for (const char* key : {"^", "v", ">"}) {
+        press(page, "2");
+        host::Lcd::current()->paint();
+        press(page, key);
+        EXPECT_TRUE(host::Lcd::current()->isDirty()) << key;
+    }
+    gpPresent->Remove(&page);
 }
 
 TEST_F(EditPageTest, IsOnlyReadWhereSaidSo)
