@@ -19,7 +19,7 @@ std::vector<Goal> goals()
             {AMONG_POSTERS, "median", {}, MOST, 2},
             {AMONG_POSTERS, "99 %", {}, MOST, 60},
             {TRACED, "Three entries, on one thread", {}, MOST, 40},
-            {TRACED, "Asynchronous posts, one producer", {}, MOST, 40},
+            {TRACED, "Post and its handling, both threads on one CPU", {}, MOST, 40},
             {FILLING, "DisplayAPI, on the GUI thread", {LIST_WIDGET}, MOST, 0.95},
             {FILLING, "DisplayAPI, by a worker, until shown", {LIST_WIDGET}, MOST, 0.7},
             {FILLING, "DisplayAPI, on the GUI thread", {LIST_WIDGET_OF_ONE_HEIGHT}, MOST, 0.95},
