@@ -48,7 +48,7 @@ public:
     /// What has been since it was taken last, the newest requests of it; the others count as lost. Those that are under
     /// way are told each time until they have ended.
     Taken take(std::size_t most = MOST_TAKEN);
-    static constexpr std::size_t MOST_TAKEN = 8192;
+    static constexpr std::size_t MOST_TAKEN = 4000; ///< as JSON less than the 1 MiB that clients take
 
     std::int32_t queued(const std::type_info& facade, int code, bool isAwaited) override;
     void begun(std::int32_t number) override;
