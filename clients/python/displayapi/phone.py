@@ -275,6 +275,12 @@ class Phone:
         and turns the trace on or off, which is off at first."""
         return Trace.of(self.request("trace", {"enable": enable}))
 
+    def inspect(self) -> Mapping[str, Any]:
+        """Who waits for whom and since when, what the GUI thread is doing, and whatever else the phone tells of its
+        inside, as JSON."""
+        result: Mapping[str, Any] = self.request("inspect")
+        return result
+
     def _change(self, method: str, params: Mapping[str, Any], lasts: float = 0) -> int:
         """A request that changes something, and lasts that many seconds on a real clock."""
         result = self.request(method, params, self.timeout + max(lasts, 0))
