@@ -5,6 +5,8 @@
 #include "host/lcd/Utf8.h"
 
 #include <algorithm>
+#include <bit>
+#include <cstring>
 #include <pango/pangocairo.h>
 
 namespace host {
@@ -18,6 +20,15 @@ PangoLayoutLine* onOneBaseLine(PangoLayoutLine* line)
     for (GSList* run = line->runs; run != nullptr; run = run->next)
         static_cast<PangoLayoutRun*>(run->data)->y_offset = 0;
     return line;
+}
+
+/// The highest bits of eight bytes side by side, that of the first one the lowest.
+TextMask::Word eightPixels(const unsigned char* pixels)
+{
+    static_assert(std::endian::native == std::endian::little, "the first pixel is the lowest byte");
+    std::uint64_t bytes = 0;
+    std::memcpy(&bytes, pixels, sizeof bytes);
+    return ((bytes >> 7 & 0x0101010101010101) * 0x0102040810204080) >> 56;
 }
 
 } // namespace
@@ -65,10 +76,14 @@ void PangoShaper::Canvas::copyTo(TextMask& mask) const
     const int stride = cairo_image_surface_get_stride(surface);
     mask.clear();
     for (int y = 0; y < TextMask::HEIGHT; ++y, pixels += stride) {
+        const auto row = mask.row(y);
         int x = 0;
-        for (TextMask::Word& word : mask.row(y))
-            for (int bit = 0; bit < TextMask::WORD_BITS && x < mask.width; ++bit, ++x)
-                word |= static_cast<TextMask::Word>(pixels[x] >> 7) << bit;
+        for (; x + 8 <= mask.width; x += 8)
+            row[static_cast<std::size_t>(x / TextMask::WORD_BITS)] |= eightPixels(pixels + x)
+                                                                      << (x % TextMask::WORD_BITS);
+        for (; x < mask.width; ++x)
+            if (pixels[x] >> 7 != 0)
+                mask.putInk(x, y);
     }
 }
 
