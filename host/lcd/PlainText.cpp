@@ -91,7 +91,8 @@ const PlainText::Line* PlainText::lay(Font font, std::u16string_view text)
     return mLaid.isPlain ? &mLaid.line : nullptr;
 }
 
-/// What stands before `at` is in the line already. How wide the last of these is depends on what follows it.
+/// What stands before `at` is in the line already. How wide the last of these is depends on what follows it, and which
+/// script those in front of the first letter are of depends on that letter.
 bool PlainText::layFrom(std::size_t at, Line& line, LetterFace& face, std::u16string_view text)
 {
     line.resize(at);
@@ -102,7 +103,7 @@ bool PlainText::layFrom(std::size_t at, Line& line, LetterFace& face, std::u16st
             return false;
         line.push_back({.letter = letter});
     }
-    const bool knowsScript = at > 0 && line[at - 1].script != Script::COMMON;
+    const bool knowsScript = firstScriptOf(std::span(line).first(at)) != Script::COMMON;
     placeFrom(knowsScript ? at - 1 : 0, line, face);
     return !needsShaper(line);
 }
@@ -130,7 +131,7 @@ bool PlainText::needsShaper(const Line& line)
            std::ranges::any_of(line, [&](const Place& place) { return place.script != line.front().script; });
 }
 
-Script PlainText::firstScriptOf(const Line& line)
+Script PlainText::firstScriptOf(std::span<const Place> line)
 {
     const auto first =
         std::ranges::find_if(line, [](const Place& place) { return place.letter->script != Script::COMMON; });

@@ -7,6 +7,7 @@
 #include <array>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -50,7 +51,7 @@ private:
     static void placeFrom(std::size_t at, Line& line, const LetterFace& face);
     static bool needsShaper(const Line& line);
     static bool cut(Line& line, LetterFace& face, int width);
-    static Script firstScriptOf(const Line& line);
+    static Script firstScriptOf(std::span<const Place> line);
     static int endOf(const Line& line);
 
     std::vector<std::string> mFolders;

@@ -160,6 +160,12 @@ TEST_F(PlainTextTest, TextsThatAreTypedAreTheSameAsShaped)
     EXPECT_GT(counted, 300);
 }
 
+TEST_F(PlainTextTest, WhatALineBeginsWithTakesTheScriptOfItsOwnLetters)
+{
+    EXPECT_TRUE(isTheSame(Font::TEXT, u"1 (Anna)", TextMask::MAX_WIDTH));
+    EXPECT_TRUE(isTheSame(Font::TEXT, u"1 (\u0411\u043E\u0440\u0438\u0441)", TextMask::MAX_WIDTH));
+}
+
 TEST_F(PlainTextTest, EveryWidthCutsAsShaped)
 {
     for (const Font font : FONTS)
