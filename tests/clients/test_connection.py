@@ -112,6 +112,16 @@ def test_a_connection_that_breaks_is_told_now_and_later(connect: Callable[[Serve
             connection.call("hello", {}, 30)
 
 
+def test_half_a_request_ends_the_connection(connect: Callable[[Serve], Connection]) -> None:
+    may_end = threading.Event()
+    connection = connect(lambda server: None if may_end.wait(30) else server.hang_up())
+    with pytest.raises(PhoneTimeout, match="the phone takes no requests"):
+        connection.call("type", {"keys": "1" * 50_000_000}, 0.01)
+    with pytest.raises(PhoneEnded):
+        connection.call("hello", {}, 0.01)
+    may_end.set()
+
+
 def test_changes_that_nobody_fetches_are_missed(connect: Callable[[Serve], Connection]) -> None:
     def serve(server: Server) -> None:
         number = server.number()

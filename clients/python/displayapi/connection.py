@@ -114,6 +114,8 @@ class Connection:
                 if data:
                     self._socket.sendall(data)
         except TimeoutError as error:
+            self._is_open = False  # after a part of a frame nothing else can be said
+            self._socket.close()
             raise PhoneTimeout("the phone takes no requests") from error
         except OSError:
             pass  # what it has sent before may still be read

@@ -103,7 +103,7 @@ class Phone:
             self._connection = Connection(url, token, timeout)
         except BaseException:
             if process is not None:
-                process.kill()
+                process.end()
             raise
         if process is not None:
             weakref.finalize(self, process.end)  # whoever forgets it leaves no phone behind

@@ -53,7 +53,7 @@ class PhoneProcess:
         try:
             self._learn(timeout)
         except BaseException:
-            self.kill()
+            self.end()
             raise
 
     @property
