@@ -1,7 +1,5 @@
 "use strict";
 
-const phone = document.querySelector(".phone");
-const canvas = document.getElementById("panel");
 const byId = (id) => document.getElementById(id);
 
 /* What the user has chosen on this page, where the browser keeps it. */

@@ -13,6 +13,8 @@ const LAYOUTS = {
   tall: { largest: 1.5, smallest: 0.64, fillsWidth: true }, // its keys are 24 pixels and more
 };
 
+const phone = document.querySelector(".phone");
+const canvas = byId("panel");
 const root = document.documentElement;
 const desk = document.querySelector(".desk");
 const screenPlace = document.querySelector(".screen");
