@@ -8,6 +8,7 @@
 
 #include <cstdlib>
 #include <iostream>
+#include <unistd.h>
 
 namespace simulator {
 
@@ -29,6 +30,12 @@ Child::Environment environmentFor(const Options& options, int portDescriptor, co
     return added;
 }
 
+/// With the token for who sits at a terminal; what is no terminal may be a log that others read.
+std::string inspectorLink(const Endpoint& endpoint, const std::string& token)
+{
+    return endpoint.inspectorUrl(isatty(STDOUT_FILENO) == 1 ? token : std::string());
+}
+
 /// The address is worth printing once somebody answers there, on the port that he says.
 std::optional<Ending> waitUntilServed(ApplicationRun& run, ReportPipe& port, Endpoint endpoint, const TokenFile* rpc)
 {
@@ -42,6 +49,8 @@ std::optional<Ending> waitUntilServed(ApplicationRun& run, ReportPipe& port, End
     if (rpc != nullptr)
         std::cout << "The test interface is at " << endpoint.rpcUrl() << ", its token in " << rpc->path() << std::endl;
     std::cout << "The telephone is at " << endpoint.url() << " (Ctrl-C ends it)" << std::endl;
+    if (rpc != nullptr)
+        std::cout << "The inspector is at " << inspectorLink(endpoint, rpc->token()) << std::endl;
     return {};
 }
 

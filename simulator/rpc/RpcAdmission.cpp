@@ -17,8 +17,17 @@ std::string_view tokenOf(const Caller& caller)
 bool RpcAdmission::allows(const Caller& caller) const
 {
     const bool comesFromHere = caller.origin.empty() || isFromHere(caller);
-    const bool isNamedRight = mIsForOthers || isThisMachine(caller.host);
-    return comesFromHere && isNamedRight && !mToken.empty() && isSameSecret(mToken, tokenOf(caller));
+    return comesFromHere && isNamedRight(caller) && !mToken.empty() && isSameSecret(mToken, tokenOf(caller));
+}
+
+bool RpcAdmission::allowsPage(const Caller& caller) const
+{
+    return caller.query.empty() ? isNamedRight(caller) : allows(caller);
+}
+
+bool RpcAdmission::isNamedRight(const Caller& caller) const
+{
+    return mIsForOthers || isThisMachine(caller.host);
 }
 
 } // namespace simulator

@@ -17,7 +17,13 @@ public:
 
     bool allows(const Caller& caller) const;
 
+    /// Whether he may have the document of the inspector, which holds no secret: it asks for the token where the
+    /// address has none.
+    bool allowsPage(const Caller& caller) const;
+
 private:
+    bool isNamedRight(const Caller& caller) const;
+
     bool mIsForOthers;
     std::string mToken;
 };

@@ -33,6 +33,8 @@ public:
 
     void attachTo(mg_context* server);
 
+    const RpcAdmission& admission() const { return mAdmission; }
+
     /// Tells all clients that the application has ended, and takes no further ones. Waits until they have been told, as
     /// the server writes nothing once it stops; a second at most for who does not read. May be called again.
     void end();

@@ -51,6 +51,11 @@ std::string Endpoint::rpcUrl() const
     return "ws://" + reachable() + "/rpc";
 }
 
+std::string Endpoint::inspectorUrl(const std::string& rpcToken) const
+{
+    return "http://" + reachable() + "/inspect" + (rpcToken.empty() ? "" : "?token=" + rpcToken);
+}
+
 std::string Endpoint::reachable() const
 {
     return Endpoint{address == "0.0.0.0" ? "127.0.0.1" : address, port, {}}.addressAndPort();

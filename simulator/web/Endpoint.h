@@ -20,6 +20,9 @@ struct Endpoint {
     /// Where the test interface is.
     std::string rpcUrl() const;
 
+    /// Where the inspector is, which asks for the test interface's token where none is given.
+    std::string inspectorUrl(const std::string& rpcToken) const;
+
     /// "127.0.0.1:8080", as this machine reaches it.
     std::string reachable() const;
 };

@@ -57,6 +57,19 @@ int ignoreLog(const mg_connection*, const char*)
     return 1;
 }
 
+int refuse(mg_connection* connection, int status, const char* sentence)
+{
+    mg_send_http_error(connection, status, "%s", sentence);
+    return status;
+}
+
+int send(mg_connection* connection, std::string_view document)
+{
+    mg_printf(connection, "%sContent-Length: %zu\r\n\r\n", PAGE_HEADERS, document.size());
+    mg_write(connection, document.data(), document.size());
+    return 200;
+}
+
 /// The server notices that it shall stop when somebody comes; else it takes its time.
 void visitUntil(const std::stop_token& stop, const Endpoint& endpoint)
 {
@@ -71,7 +84,7 @@ void visitUntil(const std::stop_token& stop, const Endpoint& endpoint)
 WebServer::WebServer(const Endpoint& endpoint, std::string greeting, Broadcaster& broadcaster, KeyPad& keys,
                      std::chrono::milliseconds heartbeat, RpcServer* rpc)
     : mEndpoint(endpoint), mAdmission(endpoint), mGreeting(std::move(greeting)), mBroadcaster(broadcaster), mKeys(keys),
-      mHeartbeat(heartbeat)
+      mHeartbeat(heartbeat), mRpc(rpc)
 {
     const std::string addressAndPort = endpoint.addressAndPort();
     const std::string threads = std::to_string(THREADS + (rpc != nullptr ? RpcServer::MOST_CLIENTS : 0));
@@ -89,6 +102,7 @@ WebServer::WebServer(const Endpoint& endpoint, std::string greeting, Broadcaster
     }
     findPort();
     mg_set_request_handler(mContext, "/", servePage, this);
+    mg_set_request_handler(mContext, "/inspect", serveInspector, this);
     mg_set_websocket_handler(mContext, "/socket", connecting, connected, received, closed, this);
     if (rpc != nullptr)
         rpc->attachTo(mContext);
@@ -114,15 +128,27 @@ int WebServer::servePage(mg_connection* connection, void* self)
 {
     const mg_request_info* request = mg_get_request_info(connection);
     if (orEmpty(request->local_uri) != "/")
-        return mg_send_http_error(connection, 404, "There is only the page."), 404;
+        return refuse(connection, 404, "There is only the page.");
     if (orEmpty(request->request_method) != "GET")
-        return mg_send_http_error(connection, 405, "The page can only be read."), 405;
+        return refuse(connection, 405, "The page can only be read.");
     if (!static_cast<WebServer*>(self)->mAdmission.allowsPage(callerOf(connection)))
-        return mg_send_http_error(connection, 403, "This telephone is not for you: open the address it printed."), 403;
-    const std::string_view document = page();
-    mg_printf(connection, "%sContent-Length: %zu\r\n\r\n", PAGE_HEADERS, document.size());
-    mg_write(connection, document.data(), document.size());
-    return 200;
+        return refuse(connection, 403, "This telephone is not for you: open the address it printed.");
+    return send(connection, page());
+}
+
+int WebServer::serveInspector(mg_connection* connection, void* self)
+{
+    const mg_request_info* request = mg_get_request_info(connection);
+    if (orEmpty(request->local_uri) != "/inspect")
+        return refuse(connection, 404, "There is only the inspector.");
+    const RpcServer* rpc = static_cast<WebServer*>(self)->mRpc;
+    if (rpc == nullptr)
+        return refuse(connection, 404, "There is no inspector without the test interface: start it with phone --rpc.");
+    if (orEmpty(request->request_method) != "GET")
+        return refuse(connection, 405, "The inspector can only be read.");
+    if (!rpc->admission().allowsPage(callerOf(connection)))
+        return refuse(connection, 403, "The inspector is not for you: open the address that phone printed.");
+    return send(connection, inspectorPage());
 }
 
 int WebServer::connecting(const mg_connection* connection, void* self)

@@ -38,6 +38,7 @@ public:
 
 private:
     static int servePage(mg_connection* connection, void* self);
+    static int serveInspector(mg_connection* connection, void* self);
     static int connecting(const mg_connection* connection, void* self);
     static void connected(mg_connection* connection, void* self);
     static int received(mg_connection* connection, int bits, char* data, std::size_t size, void* self);
@@ -54,6 +55,7 @@ private:
     KeyPad& mKeys;
     Heartbeat mHeartbeat;
     MotionWishes mMotion;
+    const RpcServer* mRpc;
     std::atomic<int> mTurnedAway{0}; ///< connections that hear that there is no room, and have not closed yet
     mg_context* mContext = nullptr;
     std::string mError;

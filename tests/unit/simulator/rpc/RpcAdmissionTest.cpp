@@ -41,6 +41,16 @@ TEST(RpcAdmission, OthersAreRefused)
         EXPECT_FALSE(HERE.allows(other)) << other.host << other.origin << other.query << other.authorization;
 }
 
+TEST(RpcAdmission, PageThatAsksForTheTokenIsForThisMachine)
+{
+    EXPECT_TRUE(HERE.allowsPage({"localhost:8080", "", ""}));
+    EXPECT_TRUE(HERE.allowsPage({"localhost:8080", "", "token=secret"}));
+    EXPECT_FALSE(HERE.allowsPage({"localhost:8080", "", "token=wrong"}));
+    EXPECT_FALSE(HERE.allowsPage({"evil.example:8080", "", ""}));
+    EXPECT_FALSE(HERE.allowsPage({"evil.example:8080", "", "token=secret"}));
+    EXPECT_TRUE(OPEN.allowsPage({"desk.example:8080", "", ""}));
+}
+
 TEST(RpcAdmission, PagesTokenAndOriginDoNotReplaceIt)
 {
     EXPECT_FALSE(OPEN.allows({"desk.example", "", "token=page_token"}));

@@ -81,6 +81,21 @@ TEST_F(RpcServerTest, RequestIsAnswered)
     EXPECT_THAT(client.receiveUntil("\"id\":1}"), HasSubstr(R"("result":{"version":1)"));
 }
 
+TEST_F(RpcServerTest, InspectorIsServedBesideIt)
+{
+    const auto statusOf = [&](const std::string& method, const std::string& query, const std::string& host) {
+        WebClient client(endpoint.port);
+        client.send(method + " /inspect" + query + " HTTP/1.1\r\nHost: " + host + "\r\n\r\n");
+        return client.receiveAll().substr(0, 12);
+    };
+    EXPECT_EQ(statusOf("GET", "", "localhost"), "HTTP/1.1 200");
+    EXPECT_EQ(statusOf("GET", "?token=secret", "localhost"), "HTTP/1.1 200");
+    EXPECT_EQ(statusOf("GET", "?token=wrong", "localhost"), "HTTP/1.1 403");
+    EXPECT_EQ(statusOf("GET", "", "evil.example"), "HTTP/1.1 403");
+    EXPECT_EQ(statusOf("GET", "/more", "localhost"), "HTTP/1.1 404");
+    EXPECT_EQ(statusOf("POST", "", "localhost"), "HTTP/1.1 405");
+}
+
 TEST_F(RpcServerTest, MessageMayComeInPieces)
 {
     WebClient client(endpoint.port);

@@ -41,6 +41,13 @@ TEST_F(WebServerTest, PageIsServedUnderNamesOfThisMachine)
     EXPECT_THAT(answerTo("GET / HTTP/1.1\r\nHost: example.org"), StartsWith("HTTP/1.1 403 "));
 }
 
+TEST_F(WebServerTest, InspectorIsNotThereWithoutATestInterface)
+{
+    const std::string answer = answerTo("GET /inspect HTTP/1.1\r\nHost: localhost");
+    EXPECT_THAT(answer, StartsWith("HTTP/1.1 404 "));
+    EXPECT_THAT(answer, HasSubstr("phone --rpc"));
+}
+
 TEST_F(WebServerTest, NobodyElsesPageIsAllowedToRead)
 {
     for (const char* method : {"GET", "OPTIONS", "POST"})
