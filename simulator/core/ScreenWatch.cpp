@@ -160,8 +160,10 @@ std::optional<ScreenWatch::Verdict> ScreenWatch::judgeNow(const WaitPtr& wait, S
 
 void ScreenWatch::add(const WaitPtr& wait)
 {
-    if (mHasEnded)
+    if (mHasEnded) {
+        wait->isOver = true; // its screen may still come
         return wait->then({});
+    }
     mParties[wait->owner].waits.push_back(wait);
     queueWhereBehind(wait);
     mNextLapse = std::min(mNextLapse, wait->isAsking ? wait->patience : wait->deadline);

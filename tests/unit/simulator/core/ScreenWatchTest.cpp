@@ -1,6 +1,8 @@
 #include "simulator/core/ScreenWatch.h"
 
+#include "host/toolkit/MainQueue.h"
 #include "host/toolkit/MessagePool.h"
+#include "support/Worker.h"
 #include "unit/simulator/rpc/RpcTest.h"
 
 #include <gmock/gmock.h>
@@ -131,6 +133,30 @@ TEST_F(ScreenWatchTest, EndIsTold)
     watch->end();
     EXPECT_EQ(verdict.get().end, ScreenWatch::End::GONE);
     EXPECT_EQ(verdictOn(0, 0).end, ScreenWatch::End::GONE);
+}
+
+TEST_F(ScreenWatchTest, WhoAsksForHisFirstScreenWhenAllEndsIsToldOnce)
+{
+    test::Gate gate;
+    test::Gate stands;
+    toolkit.post([&] {
+        stands.open();
+        gate.wait();
+    });
+    EXPECT_TRUE(stands.wait());
+    std::atomic<int> told = 0;
+    auto waits = std::make_shared<int>(); // as long as the watch knows of him
+    const std::weak_ptr<int> known = waits;
+    test::Worker client([&, waits = std::move(waits)]() mutable {
+        EXPECT_TRUE(watch->waitFor(this, conditionOf(0), 0, test::PATIENCE,
+                                   [&told, waits = std::move(waits)](const Verdict&) { ++told; }));
+    });
+    test::waitUntil([] { return !host::MainQueue::isEmpty(); });
+    watch->end();
+    client.join();
+    gate.open();
+    EXPECT_TRUE(test::becomesTrue([&] { return known.expired(); }));
+    EXPECT_EQ(told, 1);
 }
 
 TEST_F(ScreenWatchTest, ListenerHearsOfWhatHasBeenMeanwhile)
