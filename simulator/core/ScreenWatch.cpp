@@ -99,28 +99,21 @@ bool ScreenWatch::waitFor(Owner owner, ScreenCondition condition, std::uint64_t 
     if (since != 0) {
         if (const auto verdict = judgeRemembered(*wait, lock))
             return wait->then(*verdict), true;
-        addAsking(wait);
+        add(wait);
         ask(wait);
         return true;
     }
+    add(wait); // what comes behind the first screen is remembered from here on
     lock.unlock();
     const auto reading = std::make_shared<Reading>();
     mReader.read([this, wait, reading](const ScreenPtr& screen) {
         if (!reading->give(screen))
             bring({screen, wait});
     });
-    if (const auto screen = reading->wait(AT_HAND)) {
-        if (const auto verdict = judgeNow(wait, *screen))
-            return wait->then(*verdict), true;
-        lock.lock();
-        add(wait);
-        return true;
-    }
-    lock.lock();
-    addAsking(wait);
-    lock.unlock();
-    if (const auto screen = reading->letGo())
-        bring({*screen, wait});
+    if (const auto screen = reading->wait(AT_HAND))
+        begin(wait, *screen);
+    else if (const auto late = reading->letGo())
+        bring({*late, wait});
     return true;
 }
 
@@ -144,38 +137,32 @@ std::optional<ScreenWatch::Verdict> ScreenWatch::judgeRemembered(Wait& wait, Loc
     return {};
 }
 
-/// The screen as it is.
-std::optional<ScreenWatch::Verdict> ScreenWatch::judgeNow(const WaitPtr& wait, ScreenPtr screen) const
+/// With the screen as it is. The lock is free while it is judged: nobody else judges before there is a first screen.
+void ScreenWatch::begin(const WaitPtr& wait, const ScreenPtr& screen)
 {
-    if (screen == nullptr)
-        return Verdict{mReader.isThere() ? End::LAPSED : End::GONE, nullptr, UNREAD};
-    if (wait->condition.holdsFor(*screen))
-        return Verdict{End::HELD, std::move(screen), {}};
-    if (wait->deadline <= steady_clock::now())
-        return Verdict{End::LAPSED, screen, wait->condition.differenceOf(*screen)};
-    wait->next = screen->number + 1;
-    wait->shown = std::move(screen);
-    return {};
+    const bool holds = screen != nullptr && wait->condition.holdsFor(*screen);
+    const std::lock_guard lock(mMutex);
+    if (holds && !wait->isOver)
+        return conclude(wait, {End::HELD, screen, {}});
+    if (screen != nullptr)
+        wait->next = screen->number + 1;
+    shown(wait, screen);
+    publish();
 }
 
+/// It is asking from here on, which the caller does for it.
 void ScreenWatch::add(const WaitPtr& wait)
 {
     if (mHasEnded) {
         wait->isOver = true; // its screen may still come
         return wait->then({});
     }
-    mParties[wait->owner].waits.push_back(wait);
-    queueWhereBehind(wait);
-    mNextLapse = std::min(mNextLapse, wait->isAsking ? wait->patience : wait->deadline);
-    attend();
-    publish();
-}
-
-void ScreenWatch::addAsking(const WaitPtr& wait)
-{
     wait->isAsking = true;
     wait->patience = steady_clock::now() + mPatience;
-    add(wait);
+    mParties[wait->owner].waits.push_back(wait);
+    mNextLapse = std::min(mNextLapse, wait->patience);
+    attend();
+    publish();
 }
 
 /// Has the screen read for it.
@@ -430,9 +417,11 @@ void ScreenWatch::attend()
 void ScreenWatch::publish()
 {
     const std::lock_guard lock(mBringing);
+    const bool isSooner = mNextLapse < mAlarm;
     mAlarm = mNextLapse;
     mHasTurns = !mTurns.empty();
-    mBrought.notify_all();
+    if (isSooner || mHasTurns)
+        mBrought.notify_all();
 }
 
 } // namespace simulator

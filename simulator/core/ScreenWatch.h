@@ -122,9 +122,8 @@ private:
 
     bool isFull(Owner owner) const;
     std::optional<Verdict> judgeRemembered(Wait& wait, Lock& lock) const;
-    std::optional<Verdict> judgeNow(const WaitPtr& wait, ScreenPtr screen) const;
+    void begin(const WaitPtr& wait, const ScreenPtr& screen);
     void add(const WaitPtr& wait);
-    void addAsking(const WaitPtr& wait);
     void ask(const WaitPtr& wait);
     ScreenPtr nextFor(const Wait& wait) const;
     void queueWhereBehind(const WaitPtr& wait);

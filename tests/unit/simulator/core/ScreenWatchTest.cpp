@@ -53,6 +53,18 @@ TEST_F(ScreenWatchTest, EveryChangeIsJudged)
     EXPECT_EQ(verdict.get().screen->words.displayables, screenOf(1));
 }
 
+TEST_F(ScreenWatchTest, WhatComesRightBehindTheFirstScreenIsJudged)
+{
+    toolkit.run([this] {
+        whenRead = [this] {
+            ++thing->count;
+            reader->frameReady();
+            toolkit.post([this] { ++thing->count; }); // it does not stay
+        };
+    });
+    EXPECT_EQ(verdictOn(1, 0, std::chrono::seconds(10)).end, ScreenWatch::End::HELD);
+}
+
 TEST_F(ScreenWatchTest, WhatWasBeforeDoesNotCount)
 {
     watch->join(this);

@@ -4,11 +4,13 @@
 #include "support/RunningToolkit.h"
 
 #include <atomic>
+#include <functional>
 #include <future>
 #include <gtest/gtest.h>
 #include <memory>
 #include <nlohmann/json.hpp>
 #include <optional>
+#include <utility>
 
 namespace test {
 
@@ -53,7 +55,10 @@ protected:
     simulator::ScreenWords words()
     {
         ++asked;
-        return {screenOf(thing->count), "en-GB"};
+        simulator::ScreenWords read{screenOf(thing->count), "en-GB"};
+        if (const auto behind = std::exchange(whenRead, {}))
+            behind();
+        return read;
     }
 
     /// Another screen, and a frame of it.
@@ -84,7 +89,8 @@ protected:
 
     RunningToolkit toolkit;
     CountingThing* thing = new CountingThing;
-    std::atomic<int> asked = 0; ///< how often the screen has been read
+    std::atomic<int> asked = 0;     ///< how often the screen has been read
+    std::function<void()> whenRead; ///< happens on the GUI thread behind the next reading
     simulator::PhoneClock clock;
     simulator::KeyPad keys;
     std::optional<simulator::ScreenReader> reader;
