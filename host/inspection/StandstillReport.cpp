@@ -13,7 +13,7 @@ namespace host {
 
 namespace {
 
-/// Callers whose stacks are told; the others wait for the same.
+/// Callers whose stacks are told; the others wait for the same, unless they are in the cycle.
 constexpr std::size_t MOST_STACKS = 8;
 
 std::string named(int thread)
@@ -79,15 +79,20 @@ std::string standstillReport(const WaitGraph& graph)
     tellGui(report, graph.gui());
     std::set<std::vector<int>> told;
     std::size_t stacks = 0;
+    std::size_t others = 0;
     for (const BlockedCall& call : graph.calls()) {
-        if (++stacks > MOST_STACKS)
-            break;
+        const auto cycle = graph.cycleOf(call);
+        if (stacks >= MOST_STACKS && !(cycle && cycle->isCertain)) {
+            ++others;
+            continue;
+        }
+        ++stacks;
         tellCall(report, call);
-        if (const auto cycle = graph.cycleOf(call); cycle && told.insert(cycle->threads).second)
+        if (cycle && told.insert(cycle->threads).second)
             tellCycle(report, *cycle);
     }
-    if (graph.calls().size() > MOST_STACKS)
-        report << "\nand " << graph.calls().size() - MOST_STACKS << " others wait for it";
+    if (others > 0)
+        report << "\nand " << others << " others wait for it";
     return report.str();
 }
 

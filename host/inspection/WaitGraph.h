@@ -41,6 +41,9 @@ public:
     const GuiStatus& gui() const { return mGui; }
     const std::vector<BlockedCall>& calls() const { return mCalls; } ///< the longest first
 
+    /// The one through the GUI thread that is certain; empty where there is none.
+    const std::vector<int>& cycle() const { return mCycle; }
+
     /// The cycle that the caller is in, if he is in one.
     std::optional<WaitCycle> cycleOf(const BlockedCall& call) const;
 
@@ -51,7 +54,7 @@ private:
 
     GuiStatus mGui;
     std::vector<BlockedCall> mCalls;
-    std::vector<int> mCycle;        ///< through the GUI thread
+    std::vector<int> mCycle;
     bool mWaitsForSomebody = false; ///< the GUI thread, and nobody knows for whom
 };
 

@@ -88,7 +88,9 @@ bool Watchdog::isNew(const WaitGraph& graph)
 {
     const std::int64_t tooLong = std::chrono::nanoseconds(mLimit).count();
     const bool guiStands = graph.gui().busyFor >= tooLong;
-    bool isNew = guiStands && !mToldOfGui;
+    // It may close long after the report of what the GUI thread is at, among those who are told of.
+    const bool isClosed = guiStands && !graph.cycle().empty() && graph.cycle() != mToldCycle;
+    bool isNew = isClosed || (guiStands && !mToldOfGui);
     const std::int64_t now = monotonicNow();
     std::set<std::pair<int, std::int64_t>> calls;
     for (const BlockedCall& call : graph.calls()) {
@@ -97,6 +99,10 @@ bool Watchdog::isNew(const WaitGraph& graph)
     }
     // All that is told of, those who have not waited for too long yet as well.
     mToldOfGui = guiStands && (mToldOfGui || isNew);
+    if (isClosed)
+        mToldCycle = graph.cycle();
+    else if (!guiStands)
+        mToldCycle.clear();
     if (isNew)
         mToldOfCalls = std::move(calls);
     else

@@ -7,6 +7,7 @@
 #include <set>
 #include <thread>
 #include <utility>
+#include <vector>
 
 namespace host {
 
@@ -42,6 +43,7 @@ private:
     bool mEnding = false;
     bool mToldOfGui = false;                             ///< of what it is at
     std::set<std::pair<int, std::int64_t>> mToldOfCalls; ///< by thread and since when
+    std::vector<int> mToldCycle;                         ///< a certain one, within what the GUI thread is at
     std::thread mThread;
 };
 
