@@ -85,15 +85,26 @@ int signalNumber()
     return number = 0;
 }
 
+/// Whether the signal is in one of the thread's sets. What has ended says of each one what `ifGone` says.
+bool has(int thread, std::string_view set, int number, bool ifGone)
+{
+    std::ifstream status("/proc/self/task/" + std::to_string(thread) + "/status");
+    for (std::string line; std::getline(status, line);)
+        if (line.starts_with(set))
+            return (std::stoull(line.substr(set.size()), nullptr, 16) >> (number - 1) & 1) != 0;
+    return ifGone;
+}
+
 /// What blocks a signal waits for it, or would get it at some other time.
 bool blocks(int thread, int number)
 {
-    std::ifstream status("/proc/self/task/" + std::to_string(thread) + "/status");
-    constexpr std::string_view BLOCKED = "SigBlk:\t";
-    for (std::string line; std::getline(status, line);)
-        if (line.starts_with(BLOCKED))
-            return (std::stoull(line.substr(BLOCKED.size()), nullptr, 16) >> (number - 1) & 1) != 0;
-    return true;
+    return has(thread, "SigBlk:\t", number, true);
+}
+
+/// On a busy machine it may be long before the thread gets to run.
+bool isUnderWay(int thread, int number)
+{
+    return has(thread, "SigPnd:\t", number, false);
 }
 
 bool send(int thread, int number, int ticket)
@@ -107,13 +118,17 @@ bool send(int thread, int number, int ticket)
     return syscall(SYS_rt_tgsigqueueinfo, getpid(), thread, number, &information) == 0;
 }
 
-/// Waits until the sample is there, not for long where its thread does not begin with it.
-bool waitForSample()
+/// Waits until the sample is there, not for long where its thread has had the signal and does not begin with it.
+bool waitForSample(int thread, int number)
 {
     using namespace std::chrono_literals;
-    constexpr int TRIES = 250;
-    for (int i = 0; i < TRIES && gSample.state != Sample::WRITTEN; ++i)
+    constexpr int TRIES = 2000;
+    constexpr int TRIES_ONCE_HAD = 250;
+    for (int left = TRIES; left > 0 && gSample.state != Sample::WRITTEN; --left) {
         std::this_thread::sleep_for(1ms);
+        if (left > TRIES_ONCE_HAD && !isUnderWay(thread, number))
+            left = TRIES_ONCE_HAD;
+    }
     auto expected = Sample::ASKED;
     if (gSample.state.compare_exchange_strong(expected, Sample::IDLE))
         return false;
@@ -137,7 +152,7 @@ std::vector<std::string> stackOf(int thread)
         gSample.state = Sample::IDLE;
         return {"it has ended"};
     }
-    if (!waitForSample())
+    if (!waitForSample(thread, number))
         return {"it does not answer a signal"};
     std::vector<std::string> functions;
     FunctionNames names;
