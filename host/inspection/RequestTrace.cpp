@@ -31,9 +31,24 @@ std::uint64_t packed(std::uint64_t kind, std::int32_t number)
     return static_cast<std::uint64_t>(static_cast<std::uint32_t>(number)) << 32 | kind;
 }
 
+/// What a request's second line says of whose it is.
+constexpr int PAIR_SHIFT = 9;
+constexpr std::uint64_t PAIR = 0x7F'FFFF;
+
+std::uint64_t classKind(std::uint32_t count)
+{
+    return CLASS | (count & PAIR) << PAIR_SHIFT;
+}
+
 std::int32_t upperHalf(std::uint64_t word)
 {
     return static_cast<std::int32_t>(word >> 32);
+}
+
+/// Whether a request's first line is followed by its second one.
+bool isPair(std::uint64_t first, std::uint64_t second)
+{
+    return static_cast<std::uint32_t>(second) == classKind(static_cast<std::uint32_t>(upperHalf(first)));
 }
 
 } // namespace
@@ -65,7 +80,7 @@ public:
         const auto number = static_cast<std::int32_t>(mNumber << COUNT_BITS | count);
         const std::uint64_t at = mEnd.load(std::memory_order_relaxed);
         put(at, packed(QUEUED | (isAwaited ? AWAITED : 0), number), static_cast<std::uint64_t>(time));
-        put(at + 1, packed(CLASS, code), reinterpret_cast<std::uintptr_t>(&facade));
+        put(at + 1, packed(classKind(count), code), reinterpret_cast<std::uintptr_t>(&facade));
         mEnd.store(at + 2, std::memory_order_release);
         return number;
     }
@@ -118,7 +133,13 @@ private:
         slot.value.store(value, std::memory_order_relaxed);
     }
 
-    std::uint64_t skipTo(std::uint32_t count) { return (count - std::exchange(mNext, count)) & COUNTS; }
+    /// Returns how many have been left out. Those that were on their way into the ring when the others were dropped
+    /// have been counted before their lines are there, and are none.
+    std::uint64_t skipTo(std::uint32_t count)
+    {
+        const std::uint32_t skipped = (count - std::exchange(mNext, count)) & COUNTS;
+        return skipped > COUNTS - SLOTS ? 0 : skipped;
+    }
 
     std::uint64_t firstLeft(std::uint64_t margin) const
     {
@@ -150,7 +171,8 @@ void RequestTrace::Ring::read(std::vector<Event>& events, std::uint64_t& lost, s
         const std::uint64_t word = slot.word.load(std::memory_order_acquire);
         lines.emplace_back(word, slot.value.load(std::memory_order_acquire));
     }
-    const bool isOverrun = end - mRead > SLOTS - MARGIN;
+    // Behind the copying: the writer may have come round meanwhile.
+    const bool isOverrun = mEnd.load(std::memory_order_acquire) - mRead >= SLOTS - MARGIN;
     const std::size_t skipped = std::min<std::uint64_t>(firstLeft(isOverrun ? MARGIN : 0) - begin, lines.size());
     mRead = end;
     const int thread = mThread != 0 ? mThread : mFormerThread;
@@ -169,6 +191,8 @@ void RequestTrace::Ring::read(std::vector<Event>& events, std::uint64_t& lost, s
             oldest = event.time;
         hasEnds = hasEnds || kind != QUEUED;
         if (kind == QUEUED) {
+            if (i + 1 == lines.size() || !isPair(word, lines[i + 1].first))
+                continue;
             event.facade = reinterpret_cast<const std::type_info*>(lines[i + 1].second);
             event.code = upperHalf(lines[i + 1].first);
             event.isAwaited = (word & AWAITED) != 0;
@@ -305,7 +329,12 @@ RequestTrace::Taken RequestTrace::take(std::size_t most)
     Taken taken{{}, std::exchange(mLost, 0)};
     for (const auto& [number, request] : mOpen)
         taken.records.push_back(request);
-    std::erase_if(mOpen, [](const auto& entry) { return entry.second.done || !entry.second.purgedBy.empty(); });
+    if (isEnabled()) {
+        std::erase_if(mOpen, [](const auto& entry) { return entry.second.done || !entry.second.purgedBy.empty(); });
+    } else { // nobody tells what becomes of them
+        mOpen.clear();
+        mUnmatched.clear();
+    }
     std::ranges::stable_sort(taken.records, {}, &TracedRequest::queued);
     if (taken.records.size() > most) {
         const std::size_t tooMany = taken.records.size() - most;

@@ -156,6 +156,14 @@ TEST_F(RequestTraceTest, NothingIsKeptWhileItIsOff)
     EXPECT_THAT(trace.take().records, IsEmpty());
 }
 
+TEST_F(RequestTraceTest, RequestUnderWayIsToldOnceMoreWhenItIsOff)
+{
+    post(1);
+    trace.enable(false);
+    EXPECT_THAT(trace.take().records, SizeIs(1));
+    EXPECT_THAT(trace.take().records, IsEmpty());
+}
+
 TEST_F(RequestTraceTest, WhatWasQueuedBeforeItWasOnIsNotTold)
 {
     trace.enable(false);
