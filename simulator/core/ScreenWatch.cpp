@@ -284,7 +284,7 @@ void ScreenWatch::shown(const WaitPtr& wait, const ScreenPtr& screen)
     queueWhereBehind(wait);
 }
 
-/// Null where it has been judged for all.
+/// Null where it has been judged for all, which ends with its last one, however fast others come.
 ScreenPtr ScreenWatch::nextFor(const Wait& wait) const
 {
     const auto number = [](const ScreenPtr& screen) { return screen->number; };
@@ -292,7 +292,10 @@ ScreenPtr ScreenWatch::nextFor(const Wait& wait) const
     const ScreenPtr next = found != mRemembered.end() ? *found : nullptr;
     const bool isShownNext = wait.shown != nullptr && wait.shown->number >= wait.next &&
                              (next == nullptr || wait.shown->number < next->number);
-    return isShownNext ? wait.shown : next;
+    if (isShownNext)
+        return wait.shown;
+    const bool isTooLate = wait.isLast && !wait.isAsking && next != nullptr && next->number > wait.shown->number;
+    return isTooLate ? nullptr : next;
 }
 
 /// One that is to end gets its turn as well.

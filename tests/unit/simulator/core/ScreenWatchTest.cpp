@@ -84,6 +84,35 @@ TEST_F(ScreenWatchTest, TimeOutTellsTheLastScreenAndWhatDiffers)
     EXPECT_EQ(verdict.difference, "- string0:7\n+ string0:0\n");
 }
 
+TEST_F(ScreenWatchTest, TimeOutIsKeptWhileEachScreenIsFollowedByAnother)
+{
+    constexpr int MOST = 100;
+    const int other = 0;
+    watch->join(this);
+    const auto first = reader->read(test::PATIENCE)->number;
+    bool isOver = false;
+    int followed = 0;
+    watch->subscribe(&other, first, [&](const auto&) {
+        if (isOver || followed == MOST)
+            return;
+        ++followed;
+        ++thing->count;
+        reader->read(test::PATIENCE);
+    });
+    test::Gate gate;
+    toolkit.post([&] { gate.wait(); });
+    ++thing->count;
+    std::promise<Verdict> verdict;
+    EXPECT_TRUE(watch->waitFor(this, conditionOf(-1), first + 1, milliseconds(0), [&](const Verdict& reached) {
+        isOver = true;
+        verdict.set_value(reached);
+    }));
+    gate.open();
+    EXPECT_EQ(verdict.get_future().get().screen->number, first + 1);
+    EXPECT_LT(followed, MOST);
+    watch->unsubscribe(&other);
+}
+
 TEST_F(ScreenWatchTest, WhatHasChangedWithoutAFrameHoldsWhenTimeIsOver)
 {
     EXPECT_TRUE(test::becomesTrue([this] { // a first look that comes late is the last one too
