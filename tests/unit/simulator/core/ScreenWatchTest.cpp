@@ -30,6 +30,17 @@ protected:
         return {ScreenCondition::What::SCREEN, ScreenCondition::Match::EQUAL, screenOf(count)};
     }
 
+    /// The GUI thread has handled what was queued, and stands until the gate is opened.
+    void stopAt(test::Gate& gate)
+    {
+        test::Gate stands;
+        toolkit.post([&] {
+            stands.open();
+            gate.wait();
+        });
+        EXPECT_TRUE(stands.wait());
+    }
+
     Verdict verdictOn(int count, std::uint64_t since, milliseconds limit = test::PATIENCE)
     {
         return waitFor(count, since, limit).get();
@@ -55,6 +66,7 @@ TEST_F(ScreenWatchTest, EveryChangeIsJudged)
 
 TEST_F(ScreenWatchTest, WhatComesRightBehindTheFirstScreenIsJudged)
 {
+    reader->read(test::PATIENCE); // the first frame has been painted
     toolkit.run([this] {
         whenRead = [this] {
             ++thing->count;
@@ -100,7 +112,7 @@ TEST_F(ScreenWatchTest, TimeOutIsKeptWhileEachScreenIsFollowedByAnother)
         reader->read(test::PATIENCE);
     });
     test::Gate gate;
-    toolkit.post([&] { gate.wait(); });
+    stopAt(gate);
     ++thing->count;
     std::promise<Verdict> verdict;
     EXPECT_TRUE(watch->waitFor(this, conditionOf(-1), first + 1, milliseconds(0), [&](const Verdict& reached) {
@@ -179,12 +191,7 @@ TEST_F(ScreenWatchTest, EndIsTold)
 TEST_F(ScreenWatchTest, WhoAsksForHisFirstScreenWhenAllEndsIsToldOnce)
 {
     test::Gate gate;
-    test::Gate stands;
-    toolkit.post([&] {
-        stands.open();
-        gate.wait();
-    });
-    EXPECT_TRUE(stands.wait());
+    stopAt(gate);
     std::atomic<int> told = 0;
     auto waits = std::make_shared<int>(); // as long as the watch knows of him
     const std::weak_ptr<int> known = waits;
