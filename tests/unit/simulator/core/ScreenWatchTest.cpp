@@ -137,6 +137,7 @@ TEST_F(ScreenWatchTest, WhatHasChangedWithoutAFrameHoldsWhenTimeIsOver)
 
 TEST_F(ScreenWatchTest, WhoFindsNoRoomIsNotToldThatTheTelephoneHasGone)
 {
+    EXPECT_TRUE(toolkit.waitUntilIdle()); // gives no record back any more
     const host::MessagePool::Drained drained;
     const Verdict verdict = verdictOn(0, 0);
     EXPECT_EQ(verdict.end, ScreenWatch::End::LAPSED);
