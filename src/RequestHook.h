@@ -34,25 +34,41 @@ inline void tellLost()
     gLostRequests.fetch_add(1, std::memory_order_relaxed);
 }
 
-/// Stands around the handling of a request, maybe within that of another one. GUI thread only.
-class RequestRun {
+/// Stands around the handling of a request that has been told as queued, on whatever thread.
+class RequestHandling {
 public:
-    RequestRun(const std::type_info& facade, int code, std::int32_t number)
-        : mFormer{gRunningRequest.facade.load(std::memory_order_relaxed),
-                  gRunningRequest.code.load(std::memory_order_relaxed)},
-          mNumber(number), mObserver(number != 0 ? gpRequestObserver.load(std::memory_order_acquire) : nullptr)
+    explicit RequestHandling(std::int32_t number)
+        : mNumber(number), mObserver(number != 0 ? gpRequestObserver.load(std::memory_order_acquire) : nullptr)
     {
-        publish({&facade, code});
         if (mObserver != nullptr)
             mObserver->begun(mNumber);
     }
 
-    ~RequestRun()
+    ~RequestHandling()
     {
         if (mObserver != nullptr)
             mObserver->done(mNumber);
-        publish(mFormer);
     }
+
+    RequestHandling(const RequestHandling&) = delete;
+    RequestHandling& operator=(const RequestHandling&) = delete;
+
+private:
+    const std::int32_t mNumber;
+    RequestObserver* const mObserver;
+};
+
+/// Stands around the handling of a request, maybe within that of another one. GUI thread only.
+class RequestRun {
+public:
+    RequestRun(const std::type_info& facade, int code, std::int32_t number)
+        : mHandling(number), mFormer{gRunningRequest.facade.load(std::memory_order_relaxed),
+                                     gRunningRequest.code.load(std::memory_order_relaxed)}
+    {
+        publish({&facade, code});
+    }
+
+    ~RequestRun() { publish(mFormer); }
 
     RequestRun(const RequestRun&) = delete;
     RequestRun& operator=(const RequestRun&) = delete;
@@ -71,9 +87,8 @@ private:
         gRunningRequest.code.store(what.code, std::memory_order_release);
     }
 
+    const RequestHandling mHandling;
     const What mFormer;
-    const std::int32_t mNumber;
-    RequestObserver* const mObserver;
 };
 
 /// Stands around the wait for a request, or for one's turn to post it.

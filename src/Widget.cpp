@@ -11,6 +11,7 @@
 #include "utilities/Threadable.h"
 
 #include <atomic>
+#include <cstdint>
 
 namespace DisplayAPI {
 
@@ -78,13 +79,17 @@ void carryOutHere(Widget& widget, GuiRequestEvent* request)
     delete request;
 }
 
-/// What becomes of a request for which there is no filter or no widget any more.
-void handleRefused(const Post& post, Widget& widget, GuiRequestEvent* request)
+/// What becomes of a request for which there is no filter or no widget any more. `number` is what it goes by where it
+/// has been told as queued, else 0.
+void handleRefused(const Post& post, Widget& widget, GuiRequestEvent* request, std::int32_t number)
 {
-    if (post.hasEnded())
+    if (post.hasEnded()) {
+        tellPurged(number);
         completeUnserved(request);
-    else
+    } else {
+        const RequestHandling handling(number);
         carryOutHere(widget, request);
+    }
 }
 
 /// Queues the request for the installed filter, with `condition` as its wait condition unless that is null. Returns
@@ -93,7 +98,7 @@ void handleRefused(const Post& post, Widget& widget, GuiRequestEvent* request)
 bool handOver(const Post& post, Widget& widget, GuiRequestEvent* request, const Operation& operation, Wait* condition)
 {
     if (DisplayEventFilter::getFilterPointer() == nullptr || gtPegMainQueue == nullptr) {
-        handleRefused(post, widget, request);
+        handleRefused(post, widget, request, 0);
         return false;
     }
     PegMessage* const message = wrap(request, operation);
@@ -110,10 +115,10 @@ bool handOver(const Post& post, Widget& widget, GuiRequestEvent* request, const 
     };
     if (enqueue(message, operation.place, operation.answer, admit))
         return true;
+    const std::int32_t number = message->iData;
     message->pData = nullptr;
-    tellPurged(message->iData);
     giveBackMessage(message);
-    handleRefused(post, widget, request);
+    handleRefused(post, widget, request, number);
     return false;
 }
 

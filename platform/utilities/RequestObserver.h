@@ -15,7 +15,7 @@ public:
     /// nothing more is to be told.
     virtual std::int32_t queued(const std::type_info& facade, int code, bool isAwaited) = 0;
 
-    /// The GUI thread begins with it, and is through with it.
+    /// The GUI thread begins with it, and is through with it; the poster's own where there is no filter any more.
     virtual void begun(std::int32_t number) = 0;
     virtual void done(std::int32_t number) = 0;
 

@@ -3,12 +3,15 @@
 #include "DisplayAPI/Display.h"
 #include "DisplayAPI/DisplayRequestEvent.h"
 #include "DisplayAPI/List.h"
+#include "DisplayEventFilter.h"
 #include "DisplayPrivate.h"
 #include "doubles/Answers.h"
 #include "support/GuiLoop.h"
 #include "support/SteppedLoop.h"
 #include "support/TestWidget.h"
 #include "support/Worker.h"
+#include "toolkit/PegMessageQueue.h"
+#include "utilities/RequestStatus.h"
 
 #include <gmock/gmock.h>
 
@@ -131,6 +134,22 @@ TEST_F(RequestTraceTest, PurgedRequestSaysByWhom)
     EXPECT_THAT(request.purgedBy, HasSubstr("(" + std::to_string(gettid()) + ")"));
     EXPECT_EQ(request.run, std::nullopt);
     EXPECT_THAT(trace.take().records, IsEmpty());
+}
+
+TEST_F(RequestTraceTest, WhatItsPosterCarriesOutIsDoneAndNotPurged)
+{
+    const std::uint64_t purged = gPurgedRequests;
+    LockMessageQueue();
+    Worker worker([&] { widget.postEvent(1); });
+    EXPECT_TRUE(worker.isBlocked());
+    gui.filter()->uninstall();
+    UnlockMessageQueue();
+    worker.join();
+    const Told request = onlyOne();
+    EXPECT_EQ(request.purgedBy, "");
+    EXPECT_NE(request.run, std::nullopt);
+    EXPECT_NE(request.done, std::nullopt);
+    EXPECT_EQ(gPurgedRequests, purged);
 }
 
 TEST_F(RequestTraceTest, FacadeMayGoWhileCallersWaitForTheirTurn)
