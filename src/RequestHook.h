@@ -81,10 +81,11 @@ private:
 
     static void publish(What what)
     {
-        gRunningRequest.turns.store(gRunningRequest.turns.load(std::memory_order_relaxed) + 1,
-                                    std::memory_order_relaxed);
+        const std::uint64_t turns = gRunningRequest.turns.load(std::memory_order_relaxed);
+        gRunningRequest.turns.store(turns + 1, std::memory_order_relaxed);
         gRunningRequest.facade.store(what.facade, std::memory_order_release);
         gRunningRequest.code.store(what.code, std::memory_order_release);
+        gRunningRequest.turns.store(turns + 2, std::memory_order_release);
     }
 
     const RequestHandling mHandling;

@@ -94,7 +94,7 @@ GuiStatus GuiStatus::now()
         turns = gRunningRequest.turns.load(std::memory_order_acquire);
         status.facade = gRunningRequest.facade.load(std::memory_order_acquire);
         status.code = gRunningRequest.code.load(std::memory_order_acquire);
-    } while (turns != gRunningRequest.turns.load(std::memory_order_relaxed));
+    } while (turns % 2 != 0 || turns != gRunningRequest.turns.load(std::memory_order_relaxed));
     return status;
 }
 

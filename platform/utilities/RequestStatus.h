@@ -14,10 +14,10 @@ struct AwaitedRequest {
 /// may look at it.
 [[gnu::tls_model("initial-exec")]] extern thread_local constinit const AwaitedRequest* gpAwaitedRequest;
 
-/// What the GUI thread is carrying out, for other threads to look at. The GUI thread alone writes it, `turns` first:
-/// what somebody reads between two equal numbers belongs together.
+/// What the GUI thread is carrying out, for other threads to look at. The GUI thread alone writes it, `turns` before
+/// and behind the rest: what somebody reads between two equal even numbers belongs together.
 struct RunningRequest {
-    alignas(64) std::atomic<std::uint64_t> turns{0};    ///< grows by one where a request begins, and where it ends
+    alignas(64) std::atomic<std::uint64_t> turns{0};    ///< grows by two where a request begins, and where it ends
     std::atomic<const std::type_info*> facade{nullptr}; ///< null between requests
     std::atomic<int> code{0};
 };

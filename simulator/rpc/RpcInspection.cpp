@@ -81,7 +81,7 @@ Json waitingJson(const host::WaitGraph& graph, std::int64_t now)
 Json countersJson()
 {
     const host::MessagePool::Counters pool = host::MessagePool::counters();
-    constexpr std::uint64_t TURNS_OF_A_REQUEST = 2;
+    constexpr std::uint64_t TURNS_OF_A_REQUEST = 4;
     return {{"queued", host::MainQueue::isThere() ? gtPegMainQueue->count() : 0},
             {"mostQueued", host::MainQueue::mostWaiting()},
             {"carriedOut", gRunningRequest.turns.load() / TURNS_OF_A_REQUEST},
