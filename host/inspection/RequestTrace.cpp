@@ -141,11 +141,7 @@ private:
         return skipped > COUNTS - SLOTS ? 0 : skipped;
     }
 
-    std::uint64_t firstLeft(std::uint64_t margin) const
-    {
-        const std::uint64_t end = mEnd.load(std::memory_order_acquire) + margin;
-        return std::max(mRead, end > SLOTS ? end - SLOTS : 0);
-    }
+    std::uint64_t firstLeft(std::uint64_t end) const { return std::max(mRead, end > SLOTS ? end - SLOTS : 0); }
 
     alignas(64) std::atomic<std::uint64_t> mEnd{0};
     std::atomic<std::uint32_t> mCount{0};
@@ -164,7 +160,7 @@ void RequestTrace::Ring::read(std::vector<Event>& events, std::uint64_t& lost, s
     // What the writer may just be at, and what of it other processors may see before the count of it.
     constexpr std::uint64_t MARGIN = 64;
     const std::uint64_t end = mEnd.load(std::memory_order_acquire);
-    const std::uint64_t begin = firstLeft(0);
+    const std::uint64_t begin = firstLeft(end);
     std::vector<std::pair<std::uint64_t, std::uint64_t>> lines;
     for (std::uint64_t at = begin; at < end; ++at) {
         const Slot& slot = mSlots[at % SLOTS];
@@ -172,8 +168,9 @@ void RequestTrace::Ring::read(std::vector<Event>& events, std::uint64_t& lost, s
         lines.emplace_back(word, slot.value.load(std::memory_order_acquire));
     }
     // Behind the copying: the writer may have come round meanwhile.
-    const bool isOverrun = mEnd.load(std::memory_order_acquire) - mRead >= SLOTS - MARGIN;
-    const std::size_t skipped = std::min<std::uint64_t>(firstLeft(isOverrun ? MARGIN : 0) - begin, lines.size());
+    const std::uint64_t written = mEnd.load(std::memory_order_acquire) + MARGIN;
+    const bool isOverrun = written - mRead >= SLOTS;
+    const std::size_t skipped = std::min<std::uint64_t>(firstLeft(written) - begin, lines.size());
     mRead = end;
     const int thread = mThread != 0 ? mThread : mFormerThread;
     if (mThread != 0)
