@@ -4,6 +4,7 @@
 #include "DisplayAPI/ListItemPrivateIfc.h"
 #include "DisplayAPI/Sequence.h"
 #include "Log.h"
+#include "Survival.h"
 #include "widgets/KestrelListBoxItem.h"
 
 #include <algorithm>
@@ -13,6 +14,9 @@ namespace DisplayAPI {
 
 /// What the screens of list items do with their rows: the facade keeps them in its order, and its private side, which
 /// may be null, shows them. Made for one change or question. GUI thread only.
+///
+/// Whoever observes the screen may delete it when the side tells of a change. It deletes what is in the list then; a
+/// row that is not in it yet is deleted here.
 template <typename Side>
 class ListRows {
 public:
@@ -29,9 +33,8 @@ public:
         ListItemPrivateIfc* const row = item != nullptr ? item->getPrivateImplemetation() : nullptr;
         if (row == nullptr)
             return;
-        if (mSide != nullptr)
-            mSide->append(row);
-        mItems.append(item);
+        if (lives([&] { mSide->append(row); }, item))
+            mItems.append(item);
     }
 
     void insertAt(ListItem* item, int index)
@@ -39,9 +42,8 @@ public:
         mLog(TRACE, 508, "DAPI::%s::privateInsertAt() this: %p\n", mName, mScreen);
         if (item == nullptr)
             return;
-        if (mSide != nullptr)
-            mSide->insertAt(item->getPrivateImplemetation(), index);
-        mItems.insert(item, std::clamp(index, 0, mItems.size()));
+        if (lives([&] { mSide->insertAt(item->getPrivateImplemetation(), index); }, item))
+            mItems.insert(item, std::clamp(index, 0, mItems.size()));
     }
 
     ListItem* removeAt(int index)
@@ -53,8 +55,8 @@ public:
             mLog(REFUSED, 540, "DAPI::%s::removeAt() this %p, cannot remove item at index %d", mName, mScreen, index);
             return nullptr;
         }
-        if (mSide != nullptr)
-            mSide->removeAt(index, item->getPrivateImplemetation());
+        if (!lives([&] { mSide->removeAt(index, item->getPrivateImplemetation()); }))
+            return nullptr;
         mItems.erase(position);
         return item;
     }
@@ -65,18 +67,19 @@ public:
         if (item == nullptr)
             return;
         const int position = positionOf(item);
-        if (mSide != nullptr)
-            mSide->remove(item->getPrivateImplemetation());
-        if (position >= 0)
+        if (lives([&] { mSide->remove(item->getPrivateImplemetation()); }) && position >= 0)
             mItems.erase(position);
     }
 
     void removeAll()
     {
-        mItems.forEach([this](ListItem* item) {
+        const Survival survival(mScreen);
+        for (ListItem* item : mItems.copy()) {
             if (mSide != nullptr)
                 mSide->remove(item->getPrivateImplemetation());
-        });
+            if (!survival)
+                return;
+        }
         mItems.clear();
     }
 
@@ -87,21 +90,19 @@ public:
         if (oldItem == nullptr)
             return append(newItem);
         const int position = positionOf(oldItem);
-        if (mSide != nullptr)
-            mSide->remove(oldItem->getPrivateImplemetation());
+        if (!lives([&] { mSide->remove(oldItem->getPrivateImplemetation()); }, newItem))
+            return;
         if (position < 0)
             return append(newItem);
-        if (mSide != nullptr)
-            mSide->insertAt(newItem->getPrivateImplemetation(), position);
-        mItems.replace(newItem, position);
+        if (lives([&] { mSide->insertAt(newItem->getPrivateImplemetation(), position); }, newItem))
+            mItems.replace(newItem, position);
     }
 
     /// Deletes them.
     void clear()
     {
-        if (mSide != nullptr)
-            mSide->clear();
-        deleteItems();
+        if (lives([&] { mSide->clear(); }))
+            deleteItems();
     }
 
     void deleteItems()
@@ -131,6 +132,18 @@ public:
     }
 
 private:
+    /// Whether the screen does after `change`, which is left out where there is no side; otherwise deletes `newItem`.
+    template <typename Change>
+    bool lives(Change change, ListItem* newItem = nullptr)
+    {
+        const Survival survival(mScreen);
+        if (mSide != nullptr)
+            change();
+        if (!survival)
+            delete newItem;
+        return static_cast<bool>(survival);
+    }
+
     /// A row's widget knows its place, which is mostly the item's; otherwise the items are looked through.
     int positionOf(ListItem* item) const
     {

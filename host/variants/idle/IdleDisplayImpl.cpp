@@ -84,10 +84,11 @@ void IdleDisplaySide::Impl::key(int key)
         openDialer(key);
 }
 
-/// The facade makes a dialer where there is none.
+/// The facade makes a dialer where there is none. Whoever observes what comes up may delete the idle screen.
 void IdleDisplaySide::Impl::openDialer(int key)
 {
-    if (openWithInitialKey(dialer != nullptr ? dialer : owner->getDialer(), key, self))
+    const std::weak_ptr<void> life = mLife;
+    if (openWithInitialKey(dialer != nullptr ? dialer : owner->getDialer(), key, self) && !life.expired())
         change([](host::IdleScreen& idle) { idle.closeMenu(); });
 }
 

@@ -7,6 +7,7 @@
 #include "variants/idle/IdleDisplayPrivate.h"
 #include "widgets/ApplicationWatch.h"
 
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -76,6 +77,8 @@ private:
     void key(int key);
     void openDialer(int key);
     host::IdleContents contents() const;
+
+    const std::shared_ptr<void> mLife = std::make_shared<int>();
 };
 
 } // namespace DisplayAPI

@@ -31,6 +31,9 @@ struct PopupSide::Popup : public PegThing {
     void connected(bool isUp);
     virtual void arrived();
 
+    /// Whether it is there still, for those by whose calls it may go.
+    std::weak_ptr<void> life() const { return mLife; }
+
     /// Raises a command; false where the popup has gone by that.
     bool raise(Command* command);
 

@@ -151,10 +151,12 @@ bool PopupDialerSide::openWith(int key, DisplayablePrivate& below)
 {
     if (mImpl->box == nullptr || !mImpl->field->types(key))
         return false;
+    const std::weak_ptr<void> life = mImpl->life();
     join(&below);
     mImpl->setEdited(OwnedText());
-    show();
-    return mImpl->box != nullptr && mImpl->field->key(key);
+    if (!life.expired())
+        show();
+    return !life.expired() && mImpl->box != nullptr && mImpl->field->key(key);
 }
 
 void PopupDialerSide::dismiss()

@@ -56,18 +56,19 @@ int TabScreenSide::Impl::Message(const PegMessage& message)
 void TabScreenSide::Impl::moveTo(int tab)
 {
     const bool forward = tab > current;
-    choose(tab);
+    if (!choose(tab))
+        return;
     self.postCommand(forward ? TabScreen::TABFWD_COMMAND() : TabScreen::TABBACK_COMMAND(), owner);
 }
 
 /// A page hands the focus on to its field when it is shown.
 void TabScreenSide::Impl::enter()
 {
-    if (!isPageIn())
-        putPageIn();
+    if (!isPageIn() && !putPageIn())
+        return;
     window->setPlace(host::TabWindow::PAGE);
-    if (window->place() == host::TabWindow::PAGE)
-        showPage();
+    if (window->place() == host::TabWindow::PAGE && !showPage())
+        return;
     self.postCommand(TabScreen::OK(), owner);
 }
 
@@ -76,8 +77,8 @@ void TabScreenSide::Impl::add(TranslatedText title, DisplayablePrivateIfc* page,
     if (window != nullptr)
         window->bar().append(title.shown());
     tabs.push_back({std::move(title), page});
-    if (makeCurrent || current < 0)
-        choose(size() - 1);
+    if ((makeCurrent || current < 0) && !choose(size() - 1))
+        return;
     changed();
 }
 
@@ -87,39 +88,39 @@ void TabScreenSide::Impl::remove(int tab)
     if (!isTab(tab))
         return;
     const bool wasCurrent = tab == current;
-    if (wasCurrent)
-        takePageOut();
+    if (wasCurrent && !takePageOut())
+        return;
     tabs.erase(tabs.begin() + tab);
     if (window != nullptr)
         window->bar().remove(tab);
     if (tab < current || current == size())
         --current;
-    if (wasCurrent)
-        putPageIn();
+    if (wasCurrent && !putPageIn())
+        return;
     changed();
 }
 
-void TabScreenSide::Impl::choose(int tab)
+bool TabScreenSide::Impl::choose(int tab)
 {
     if (!isTab(tab))
-        return;
-    if (tab != current)
-        takePageOut();
+        return true;
+    if (tab != current && !takePageOut())
+        return false;
     current = tab;
-    if (!isPageIn())
-        putPageIn();
-    changed();
+    if (!isPageIn() && !putPageIn())
+        return false;
+    return changed();
 }
 
 void TabScreenSide::Impl::setPage(int tab, DisplayablePrivateIfc* page)
 {
     if (!isTab(tab))
         return;
-    if (tab == current)
-        takePageOut();
+    if (tab == current && !takePageOut())
+        return;
     tabs[static_cast<std::size_t>(tab)].page = page;
-    if (tab == current)
-        putPageIn();
+    if (tab == current && !putPageIn())
+        return;
     changed();
 }
 
@@ -161,45 +162,57 @@ bool TabScreenSide::Impl::isPageIn() const
 }
 
 /// While nobody sees the tab screen, its page may be on the screen by itself.
-void TabScreenSide::Impl::putPageIn()
+bool TabScreenSide::Impl::putPageIn()
 {
     if (window == nullptr)
-        return;
+        return true;
     window->bar().setCurrent(current);
     if (!isOnScreen() && self.display() == nullptr)
-        return;
+        return true;
     DisplayablePrivateIfc* const page = currentPage();
     PegThing* const widget = page != nullptr ? page->getWidget() : nullptr;
-    if (widget == nullptr)
-        return window->placeFocus();
+    if (widget == nullptr) {
+        window->placeFocus();
+        return true;
+    }
     page->connectDisplayChangedSignal(self.display());
     window->setPage(widget);
     page->releaseOwnership();
-    showPage();
+    return showPage();
 }
 
-void TabScreenSide::Impl::takePageOut()
+bool TabScreenSide::Impl::takePageOut()
 {
     if (!isPageIn())
-        return;
-    DisplayablePrivateIfc* const page = currentPage();
+        return true;
+    const std::weak_ptr<void> life = mLife;
     if (isOnScreen())
-        page->lostFocus();
+        currentPage()->lostFocus();
+    if (life.expired())
+        return false;
+    if (!isPageIn())
+        return true;
+    DisplayablePrivateIfc* const page = currentPage();
     page->connectDisplayChangedSignal(nullptr);
     page->gainOwnership();
     if (isPageIn())
         window->setPage(nullptr);
+    return true;
 }
 
 /// A page takes the focus where it is shown, and would do so from the bar.
-void TabScreenSide::Impl::showPage()
+bool TabScreenSide::Impl::showPage()
 {
     if (!isOnScreen())
-        return;
+        return true;
+    const std::weak_ptr<void> life = mLife;
     window->placeFocus();
     currentPage()->show();
-    if (window->place() == host::TabWindow::BAR)
+    if (life.expired())
+        return false;
+    if (window != nullptr && window->place() == host::TabWindow::BAR)
         window->placeFocus();
+    return true;
 }
 
 void TabScreenSide::Impl::connectPage(DisplayPrivateIfc* display)
@@ -214,19 +227,17 @@ void TabScreenSide::Impl::pageLostFocus()
         currentPage()->lostFocus();
 }
 
-void TabScreenSide::Impl::shown()
+bool TabScreenSide::Impl::shown()
 {
-    if (!isPageIn())
-        putPageIn();
-    else
-        showPage();
-    changed();
+    return (isPageIn() ? showPage() : putPageIn()) && changed();
 }
 
-void TabScreenSide::Impl::changed()
+bool TabScreenSide::Impl::changed()
 {
+    const std::weak_ptr<void> life = mLife;
     if (isOnScreen())
         self.generateDisplayChangedEvent();
+    return !life.expired();
 }
 
 std::string TabScreenSide::Impl::asText() const

@@ -7,12 +7,14 @@
 #include "variants/tab/TabScreenPrivate.h"
 #include "widgets/ApplicationWatch.h"
 
+#include <memory>
 #include <vector>
 
 namespace DisplayAPI {
 
 /// A tab screen's data, and what hears its window and the language. The page of the current tab stands in the window,
-/// which owns its widget meanwhile; the others keep their own.
+/// which owns its widget meanwhile; the others keep their own. What is told on the way may delete the tab screen: where
+/// more follows, an operation returns false at that.
 struct TabScreenSide::Impl : public PegThing {
     Impl(TabScreenSide& screen, TabScreen* facade, TabScreen::IconType icon, bool leftGoesBack, Panel panelOfScreen);
     ~Impl() override;
@@ -25,7 +27,7 @@ struct TabScreenSide::Impl : public PegThing {
 
     void add(TranslatedText title, DisplayablePrivateIfc* page, bool makeCurrent);
     void remove(int tab);
-    void choose(int tab);
+    bool choose(int tab);
     void setPage(int tab, DisplayablePrivateIfc* page);
     void setTitle(int tab, TranslatedText title);
     void showTitles();
@@ -37,10 +39,10 @@ struct TabScreenSide::Impl : public PegThing {
     DisplayablePrivateIfc* currentPage() const;
     void connectPage(DisplayPrivateIfc* display);
     void pageLostFocus();
-    void shown();
+    bool shown();
 
     /// Tells the display when a tab screen on screen looks different.
-    void changed();
+    bool changed();
 
     /// Of the bar, and of the page behind it.
     std::string asText() const;
@@ -64,10 +66,12 @@ private:
     void moveTo(int tab);
     void enter();
     bool isPageIn() const;
-    void putPageIn();
-    void takePageOut();
-    void showPage();
+    bool putPageIn();
+    bool takePageOut();
+    bool showPage();
     std::string barAsText(const std::vector<DisplayAPIUtils::Rect>& visible) const;
+
+    const std::shared_ptr<void> mLife = std::make_shared<int>();
 };
 
 } // namespace DisplayAPI

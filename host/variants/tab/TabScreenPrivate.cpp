@@ -42,8 +42,8 @@ void TabScreenSide::gainOwnership()
 /// Also when what lay above has gone: the focus is the window's then, and an observer learns of it here.
 void TabScreenSide::show()
 {
-    mImpl->shown();
-    generateDisplayChangedEvent();
+    if (mImpl->shown())
+        generateDisplayChangedEvent();
 }
 
 void TabScreenSide::lostFocus()
