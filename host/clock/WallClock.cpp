@@ -2,6 +2,7 @@
 
 #include "host/clock/Clock.h"
 
+#include <chrono>
 #include <cstdio>
 
 namespace host {
@@ -10,6 +11,16 @@ namespace {
 
 constexpr std::time_t VIRTUAL_START = 1773049260; // 2026-03-09 09:41:00 UTC
 constexpr std::int64_t SECOND = 1000;
+
+/// Milliseconds since 1970.
+std::int64_t sinceEpoch()
+{
+    using namespace std::chrono;
+    static const std::int64_t start = Clock::instance().now();
+    if (!Clock::instance().isVirtual())
+        return duration_cast<milliseconds>(system_clock::now().time_since_epoch()).count();
+    return VIRTUAL_START * SECOND + Clock::instance().now() - start;
+}
 
 std::string digits(int number, int width)
 {
@@ -28,10 +39,7 @@ void replace(std::string& text, const char* mark, const std::string& by)
 
 std::time_t WallClock::now()
 {
-    static const std::int64_t start = Clock::instance().now();
-    if (!Clock::instance().isVirtual())
-        return std::time(nullptr);
-    return VIRTUAL_START + (Clock::instance().now() - start) / SECOND;
+    return sinceEpoch() / SECOND;
 }
 
 std::tm WallClock::local(std::time_t moment)
@@ -46,8 +54,9 @@ std::tm WallClock::local(std::time_t moment)
 
 int WallClock::timeOfDay()
 {
-    const std::tm parts = local(now());
-    return (parts.tm_hour * 60 + parts.tm_min) * 60 + parts.tm_sec;
+    const std::int64_t now = sinceEpoch();
+    const std::tm parts = local(now / SECOND);
+    return ((parts.tm_hour * 60 + parts.tm_min) * 60 + parts.tm_sec) * SECOND + static_cast<int>(now % SECOND);
 }
 
 std::string WallClock::date(std::time_t moment, std::string format)

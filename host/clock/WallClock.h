@@ -14,7 +14,7 @@ public:
     /// Hours, minutes and seconds of a moment, and its date.
     static std::tm local(std::time_t moment);
 
-    /// The seconds since midnight.
+    /// The milliseconds since midnight.
     static int timeOfDay();
 
     /// `format` is "dd.mm.yyyy" or the like.

@@ -58,7 +58,7 @@ void IdleClock::run(bool on)
 PegString IdleClock::time() const
 {
     const StatusTime* const shown = statusTime();
-    return ICC::fromUTF8toUNICODE(shown != nullptr ? shown->text() : clockText(WallClock::timeOfDay() * SECOND));
+    return ICC::fromUTF8toUNICODE(shown != nullptr ? shown->text() : clockText(WallClock::timeOfDay()));
 }
 
 PegString IdleClock::date(bool isShort) const
@@ -78,8 +78,7 @@ int IdleClock::Message(const PegMessage& message)
 
 void IdleClock::schedule()
 {
-    const std::int64_t intoMinute = WallClock::timeOfDay() * SECOND % MINUTE;
-    SetTimer(TICK, static_cast<int>(MINUTE - intoMinute), false);
+    SetTimer(TICK, static_cast<int>(MINUTE - WallClock::timeOfDay() % MINUTE), false);
 }
 
 } // namespace host

@@ -29,6 +29,17 @@ public:
     std::string language = "en ";
 };
 
+/// Whether the panel shows what it would show if all of it were painted now.
+bool isPaintedAnew()
+{
+    host::Lcd& lcd = *host::Lcd::current();
+    lcd.paint();
+    const auto before = lcd.picture();
+    lcd.invalidate(host::rectAt(0, 0, lcd.width(), lcd.height()));
+    lcd.paint();
+    return before.pixels == lcd.picture().pixels;
+}
+
 TEST_P(IdleDisplayPrivateTest, SaysItsNameAndItsTexts)
 {
     idle->setCurrentPhoneNumber("4711");
@@ -183,27 +194,17 @@ TEST_P(IdleDisplayPrivateTest, LanguageChangesTexts)
 
 TEST_P(IdleDisplayPrivateTest, ReadingDirectionTurnsPlainTextsRound)
 {
-    host::Lcd& lcd = *host::Lcd::current();
     idle->setCurrentPhoneNumber("4711");
-    lcd.paint();
+    host::Lcd::current()->paint();
     display.localeChanged("ar_EG");
-    lcd.paint();
-    const auto turned = lcd.picture();
-    idle->getPrivateImpl()->getWidget()->Invalidate();
-    lcd.paint();
-    EXPECT_TRUE(turned.pixels == lcd.picture().pixels);
+    EXPECT_TRUE(isPaintedAnew());
 }
 
 TEST_P(IdleDisplayPrivateTest, NewFormatOfDatesIsPainted)
 {
-    host::Lcd& lcd = *host::Lcd::current();
-    lcd.paint();
+    host::Lcd::current()->paint();
     display.dateFormatChanged("yyyy-mm-dd");
-    lcd.paint();
-    const auto changed = lcd.picture();
-    idle->getPrivateImpl()->getWidget()->Invalidate();
-    lcd.paint();
-    EXPECT_TRUE(changed.pixels == lcd.picture().pixels);
+    EXPECT_TRUE(isPaintedAnew());
 }
 
 TEST_P(IdleDisplayPrivateTest, FormatsAreThoseOfTheTelephone)
@@ -233,6 +234,23 @@ TEST_P(IdleDisplayPrivateTest, HasAClockOfItsOwnWhereTheStatusLinesHaveNone)
 {
     display.showTimeInSystemWindow(false);
     EXPECT_TRUE(shows("name:Time"));
+}
+
+TEST_P(IdleDisplayPrivateTest, ItsOwnClockTurnsWithTheMinuteWhereverInASecondItBegan)
+{
+    constexpr int STEP = 100;
+    display.showTimeInSystemWindow(false);
+    for (int begun = 0; begun < 2; ++begun) {
+        idle->hide();
+        time.pass(500); // in one of the two it does not begin with a second
+        display.setCurrent(idle.get());
+        int late = 0;
+        for (int passed = 0; passed <= MINUTE; passed += STEP) {
+            time.pass(STEP);
+            late += isPaintedAnew() ? 0 : STEP;
+        }
+        EXPECT_EQ(late, 0);
+    }
 }
 
 TEST_P(IdleDisplayPrivateTest, NothingButTheClockIsPaintedAtRest)
