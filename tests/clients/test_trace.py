@@ -2,9 +2,10 @@
 
 from __future__ import annotations
 
-from typing import Any, Dict, List
+from itertools import groupby
+from typing import Any, Dict, Iterator, List
 
-from displayapi import Trace
+from displayapi import Phone, Trace
 
 POSTED = {"facade": "List", "code": "APPEND", "number": 3, "thread": 17, "threadName": "worker", "queued": 1_000_000,
           "run": 1_500_000, "done": 1_700_000, "waits": False}
@@ -20,6 +21,38 @@ def trace(*records: Dict[str, Any]) -> Trace:
 
 def events(kind: str, *records: Dict[str, Any]) -> List[Dict[str, Any]]:
     return [event for event in trace(*records).to_perfetto()["traceEvents"] if event["ph"] == kind]
+
+
+def complaints(written: Dict[str, Any]) -> Iterator[str]:
+    """What the viewer would drop, or show elsewhere."""
+    all_events = written["traceEvents"]
+    named = {(each["pid"], each["tid"]) for each in all_events if (each["ph"], each["name"]) == ("M", "thread_name")}
+    slices = sorted((each for each in all_events if each["ph"] == "X"),
+                    key=lambda each: (each["tid"], each["ts"], -each["dur"]))
+
+    def end_of(each: Dict[str, Any]) -> int:
+        return round(each["ts"] * 1000) + round(each["dur"] * 1000)
+
+    starts = {(each["tid"], each["ts"]) for each in slices}
+    begun = {each["id"]: each["ts"] for each in all_events if each["ph"] == "s"}
+    ended = {each["id"]: each["ts"] for each in all_events if each["ph"] == "f" and each["bp"] == "e"}
+    for each in all_events:
+        if each["ph"] not in "MXsf" or (each["pid"], each["tid"]) not in named:
+            yield f"of no kind or track: {each}"
+        if each["ph"] != "M" and not each["ts"] >= 0:
+            yield f"at no time: {each}"
+        if each["ph"] in "sf" and (each["tid"], each["ts"]) not in starts:
+            yield f"an arrow at no slice: {each}"
+    if begun.keys() != ended.keys() or any(ended[arrow] < begun[arrow] for arrow in begun):
+        yield "an arrow without an end, or back in time"
+    for _, track in groupby(slices, key=lambda each: each["tid"]):
+        ends: List[int] = []
+        for each in track:
+            while ends and ends[-1] <= round(each["ts"] * 1000):
+                ends.pop()
+            if each["dur"] < 0 or (ends and end_of(each) > ends[-1]):
+                yield f"reaches out of another one: {each}"
+            ends.append(end_of(each))
 
 
 def test_records_read_as_they_are_said() -> None:
@@ -61,3 +94,18 @@ def test_what_was_purged_never_runs() -> None:
     (queued,) = events("X", PURGED)
     assert queued["args"]["purgedBy"] == "worker-2 (19)"
     assert not events("s", PURGED)
+
+
+def test_who_goes_on_before_it_is_done_is_busy_until_then() -> None:
+    next_one = {**WAITS, "queued": 1_799_000, "run": 1_900_000, "done": 1_950_000}
+    assert not list(complaints(trace(next_one, WAITS).to_perfetto()))
+    assert [event["dur"] for event in events("X", next_one, WAITS) if event["ts"] == 1200] == [599]
+
+
+def test_what_a_telephone_has_traced_is_shown_whole(deskphone: Phone) -> None:
+    deskphone.trace(enable=True)
+    for key in ("ok", "ok", "left", "left") * 5:
+        deskphone.press(key)
+    written = deskphone.trace(enable=False).to_perfetto()
+    assert sum(event["ph"] == "s" for event in written["traceEvents"]) > 20
+    assert not list(complaints(written))
