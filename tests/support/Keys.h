@@ -9,21 +9,25 @@
 
 namespace test {
 
-/// Presses keys on a field: '<', '>', '^', 'v' and '!' are the arrows and OK, all others themselves. Returns whether
-/// the field has used the last one.
+/// '<', '>', '^', 'v' and '!' are the arrows and OK, all others themselves.
+inline int keyCode(char key)
+{
+    switch (key) {
+    case '<': return PK_LEFT;
+    case '>': return PK_RIGHT;
+    case '^': return PK_UP;
+    case 'v': return PK_DOWN;
+    case '!': return PK_OK;
+    default: return key;
+    }
+}
+
+/// Presses keys on a field, as keyCode() has them. Returns whether the field has used the last one.
 inline bool press(host::Field& field, const std::string& keys)
 {
     bool used = false;
-    for (const char key : keys) {
-        switch (key) {
-        case '<': used = field.key(PK_LEFT); break;
-        case '>': used = field.key(PK_RIGHT); break;
-        case '^': used = field.key(PK_UP); break;
-        case 'v': used = field.key(PK_DOWN); break;
-        case '!': used = field.key(PK_OK); break;
-        default: used = field.key(key); break;
-        }
-    }
+    for (const char key : keys)
+        used = field.key(keyCode(key));
     return used;
 }
 

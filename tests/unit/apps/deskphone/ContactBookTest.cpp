@@ -14,6 +14,7 @@ using deskphone::ContactStore;
 using deskphone::PhoneBook;
 using deskphone::StateFile;
 using testing::ElementsAre;
+using testing::HasSubstr;
 
 namespace {
 
@@ -97,7 +98,7 @@ TEST(ContactBookTest, WorksWithoutItsFile)
     const Contact ada = reading.keep({.name = "Ada"});
     EXPECT_EQ(reading.all().front(), ada);
     EXPECT_EQ(reading.find(eve.id), eve);
-    testing::internal::GetCapturedStderr();
+    EXPECT_THAT(testing::internal::GetCapturedStderr(), HasSubstr("nothing is kept"));
 }
 
 TEST(ContactBookTest, TellsOfWhoComesChangesAndGoes)

@@ -14,6 +14,7 @@ using deskphone::Contact;
 using deskphone::ContactStore;
 using deskphone::StateFile;
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
 
 namespace {
@@ -131,7 +132,7 @@ TEST_F(ContactStoreTest, ShowsTheContactsOfAFileThatCannotBeWritten)
     reading.add(eve);
     EXPECT_EQ(eve.id, 0);
     EXPECT_THAT(names(), ElementsAre("Zoë", "Lady Ada"));
-    testing::internal::GetCapturedStderr();
+    EXPECT_THAT(testing::internal::GetCapturedStderr(), HasSubstr("nothing is kept"));
 }
 
 TEST_F(ContactStoreTest, BeginsAnewWhereAFileWithoutContactsCannotBeWritten)
@@ -140,7 +141,7 @@ TEST_F(ContactStoreTest, BeginsAnewWhereAFileWithoutContactsCannotBeWritten)
     const test::ReadOnly readOnly(folder.path());
     testing::internal::CaptureStderr();
     EXPECT_THAT(names(), ElementsAre("Zoë", "Ada"));
-    testing::internal::GetCapturedStderr();
+    EXPECT_THAT(testing::internal::GetCapturedStderr(), HasSubstr("nothing is kept"));
 }
 
 TEST_F(ContactStoreTest, TelephonesThatBeginAtOnceBeginWithTheSame)

@@ -5,7 +5,7 @@
 #include "unit/apps/deskphone/StateFolder.h"
 
 #include <SQLiteCpp/Database.h>
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <thread>
 #include <vector>
@@ -14,6 +14,7 @@ using deskphone::CallStore;
 using deskphone::PastCall;
 using deskphone::Preferences;
 using deskphone::StateFile;
+using testing::HasSubstr;
 
 namespace {
 
@@ -77,7 +78,7 @@ TEST_F(PreferencesTest, ReadsAFileThatCannotBeWritten)
     testing::internal::CaptureStderr();
     Preferences(file()).set("language", "fr");
     EXPECT_EQ(kept("language"), "de");
-    testing::internal::GetCapturedStderr();
+    EXPECT_THAT(testing::internal::GetCapturedStderr(), HasSubstr("nothing is kept"));
 }
 
 TEST_F(PreferencesTest, BeginsAnewWhereAFileWithoutPreferencesCannotBeWritten)
@@ -86,7 +87,7 @@ TEST_F(PreferencesTest, BeginsAnewWhereAFileWithoutPreferencesCannotBeWritten)
     const test::ReadOnly readOnly(folder.path());
     testing::internal::CaptureStderr();
     EXPECT_EQ(kept("language"), "never set");
-    testing::internal::GetCapturedStderr();
+    EXPECT_THAT(testing::internal::GetCapturedStderr(), HasSubstr("nothing is kept"));
 }
 
 TEST_F(PreferencesTest, SeveralThreadsSetAtOnce)

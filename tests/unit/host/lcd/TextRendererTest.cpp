@@ -203,7 +203,7 @@ TEST_F(TextRendererTest, TextThatIsLargerThanTheBoundIsShown)
     EXPECT_GT(bare.bytes(), TextRenderer::MAX_BYTES);
     bare.mask(Font::TEXT, text("abc"), 100);
     EXPECT_LT(bare.bytes(), TextRenderer::MAX_BYTES);
-    testing::internal::GetCapturedStderr();
+    EXPECT_THAT(testing::internal::GetCapturedStderr(), HasSubstr("fonts-unifont"));
 }
 
 TEST_F(TextRendererTest, TextsUsedLastAreKept)
@@ -250,7 +250,7 @@ TEST_F(TextRendererTest, EdgesWithoutFontsAreThoseOfTheBoxes)
     testing::internal::CaptureStderr();
     TextRenderer bare(NOWHERE);
     const auto edges = bare.edges(Font::TEXT, text("a b"));
-    testing::internal::GetCapturedStderr();
+    EXPECT_THAT(testing::internal::GetCapturedStderr(), HasSubstr("fonts-unifont"));
     ASSERT_EQ(edges.size(), 3u);
     EXPECT_EQ(edges[2].end, bare.mask(Font::TEXT, text("a b"), TextMask::MAX_WIDTH).width);
 }

@@ -26,6 +26,12 @@ public:
     }
 };
 
+/// A command as a screen's text has it, in a bar or below a form.
+inline std::string inBar(const std::string& command)
+{
+    return "subitem:\nname:MenuCommand\nstring0:" + command + "\nendsubitem:\n";
+}
+
 } // namespace test
 
 #define INSTANTIATE_ON_PANELS(suite)                                                                                   \

@@ -11,6 +11,7 @@
 #include "utilities/TranslationInfo.h"
 
 using namespace DisplayAPI;
+using test::inBar;
 using test::TestFormField;
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -61,7 +62,7 @@ TEST_P(FormPrivateTest, ShowsTitleFieldsAndCommands)
     form->addCommand(&save);
     open();
     EXPECT_EQ(shown(),
-              asText("caption:Entry\n" + item("One", "0") + (isSmall() ? "" : item("Two", "0") + command("Save"))));
+              asText("caption:Entry\n" + item("One", "0") + (isSmall() ? "" : item("Two", "0") + inBar("Save"))));
     form->clearCommands();
     EXPECT_EQ(shown(), asText("caption:Entry\n" + item("One", "0") + (isSmall() ? "" : item("Two", "0"))));
 }
@@ -123,7 +124,7 @@ TEST_P(FormPrivateTest, ChosenCommandIsRaisedUnlessItIsGone)
     save.reset();
     press(PK_OK);
     EXPECT_EQ(raised.size(), 1u);
-    EXPECT_EQ(shown(), asText(item("One", "0") + command("Save")));
+    EXPECT_EQ(shown(), asText(item("One", "0") + inBar("Save")));
 }
 
 TEST_P(FormPrivateTest, ClipboardTellsWhenItChanges)
@@ -192,7 +193,7 @@ TEST_P(FormPrivateTest, TranslationsFollowTheLanguage)
     open();
     changeLanguage("de");
     EXPECT_EQ(form->title(), "de:title");
-    EXPECT_EQ(shown(), asText("caption:de:title\n" + command("de:save")));
+    EXPECT_EQ(shown(), asText("caption:de:title\n" + inBar("de:save")));
     form->setTitle(static_cast<TranslationInfo*>(nullptr));
     EXPECT_EQ(form->title(), "");
 }

@@ -125,11 +125,6 @@ protected:
         return "subitem:\nname:FormItem\nstring0:" + label + "\nstring1:" + value + "\nendsubitem:\n";
     }
 
-    static std::string command(const std::string& label)
-    {
-        return "subitem:\nname:MenuCommand\nstring0:" + label + "\nendsubitem:\n";
-    }
-
     static std::string asText(const std::string& contents) { return "object:\nname:Form\n" + contents + "end:\n"; }
 
     VirtualTime time;

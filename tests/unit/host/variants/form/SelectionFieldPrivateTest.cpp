@@ -9,6 +9,7 @@
 #include "utilities/TranslationInfo.h"
 
 using namespace DisplayAPI;
+using test::inBar;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -39,7 +40,7 @@ protected:
     static std::unique_ptr<MenuCommand> choice(const char* text) { return std::make_unique<MenuCommand>(text, 0); }
 
     /// The three choices over the form: as many as there is room for.
-    static std::string choices() { return command("Home") + command("Work") + (isSmall() ? "" : command("Mobile")); }
+    static std::string choices() { return inBar("Home") + inBar("Work") + (isSmall() ? "" : inBar("Mobile")); }
 
     /// On two lines the choices leave nothing.
     static std::string besideChoices(const std::string& items) { return isSmall() ? "" : items; }
@@ -212,7 +213,7 @@ TEST_P(SelectionFieldPrivateTest, TextsFollowTheLanguage)
     changeLanguage("de");
     EXPECT_EQ(shown(), asText(item("Sort", "de:other")));
     press(PK_OK);
-    EXPECT_EQ(shown(), asText(besideChoices(item("Sort", "de:other")) + command("de:other")));
+    EXPECT_EQ(shown(), asText(besideChoices(item("Sort", "de:other")) + inBar("de:other")));
 }
 
 TEST_P(SelectionFieldPrivateTest, EndOfTheFieldTakesItsChoicesOff)

@@ -9,6 +9,7 @@
 #include "doubles/Mocks.h"
 #include "presentation/PRESCPresentationManager.h"
 #include "support/ItemChanges.h"
+#include "support/Keys.h"
 #include "support/RowsOwner.h"
 #include "support/VirtualTime.h"
 #include "support/Worker.h"
@@ -64,12 +65,11 @@ protected:
     std::string rows() { return test::lettersOf(box()); }
     std::string shown() { return list->getPrivateImpl()->serialise(); }
 
-    /// To whoever has the focus. '2' to '9' type, 'v', '^', '<', '>' and '!' are the arrows and OK.
+    /// To whoever has the focus, as test::keyCode() has them. '2' to '9' type.
     static void press(const std::string& keys)
     {
-        const std::map<char, int> codes{{'v', PK_DOWN}, {'^', PK_UP}, {'<', PK_LEFT}, {'>', PK_RIGHT}, {'!', PK_OK}};
         for (const char key : keys) {
-            const int code = codes.contains(key) ? codes.at(key) : key;
+            const int code = test::keyCode(key);
             gpPresent->Focus()->Message({.wType = PM_KEY, .iData = code});
             if (PegThing* const focus = gpPresent->Focus())
                 focus->Message({.wType = PM_KEYRELEASE, .iData = code});

@@ -73,10 +73,6 @@ protected:
     {
         return "object:\nname:PopupDialer\n" + contents + "end:\n";
     }
-    static std::string inBar(const std::string& command)
-    {
-        return "subitem:\nname:MenuCommand\nstring0:" + command + "\nendsubitem:\n";
-    }
 
     VirtualTime time;
     OnPanel gui{GetParam()};

@@ -5,6 +5,7 @@
 #include "utilities/CallPartyIdentifier.h"
 
 using namespace DisplayAPI;
+using test::inBar;
 using testing::ElementsAre;
 
 namespace {
@@ -18,11 +19,6 @@ protected:
     }
 
     ~PopupCallPrivateTest() override { popup.reset(); }
-
-    static std::string inBar(const std::string& command)
-    {
-        return "subitem:\nname:MenuCommand\nstring0:" + command + "\nendsubitem:\n";
-    }
 
     static std::string asText(const std::string& lines) { return PopupVariantTest::asText("PopupCall", lines); }
 

@@ -5,6 +5,7 @@
 #include "utilities/CallPartyIdentifier.h"
 
 using namespace DisplayAPI;
+using test::inBar;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -23,11 +24,6 @@ protected:
     }
 
     ~PopupConfirmPrivateTest() override { popup.reset(); }
-
-    static std::string inBar(const std::string& command)
-    {
-        return "subitem:\nname:MenuCommand\nstring0:" + command + "\nendsubitem:\n";
-    }
 
     static std::string asText(const std::string& lines) { return PopupVariantTest::asText("PopupConfirm", lines); }
     std::string answers() const { return inBar("Yes") + inBar("No"); }

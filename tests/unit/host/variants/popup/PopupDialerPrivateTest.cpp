@@ -9,6 +9,7 @@
 #include <functional>
 
 using namespace DisplayAPI;
+using test::inBar;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;

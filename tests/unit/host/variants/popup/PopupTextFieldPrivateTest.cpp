@@ -11,6 +11,7 @@
 #include <thread>
 
 using namespace DisplayAPI;
+using test::inBar;
 using testing::AllOf;
 using testing::Each;
 using testing::ElementsAre;
@@ -47,11 +48,6 @@ protected:
         const std::string header = isSmall() || label.empty() ? "" : "caption:" + label + "\n";
         return PopupVariantTest::asText("PopupTextField",
                                         header + "string0:" + (isSmall() ? label : "") + text + "\n" + rest);
-    }
-
-    static std::string command(const std::string& label)
-    {
-        return "subitem:\nname:MenuCommand\nstring0:" + label + "\nendsubitem:\n";
     }
 
     std::unique_ptr<TextField> field =
@@ -213,7 +209,7 @@ TEST_P(PopupTextFieldPrivateTest, CommandsAreRaisedAndLeaveItOnScreen)
     popup->addCommand(&cancel);
     popup->setDefaultCommand(&cancel);
     open();
-    EXPECT_EQ(shown(), asText("Name", "Ada", command("Save") + command("Cancel")));
+    EXPECT_EQ(shown(), asText("Name", "Ada", inBar("Save") + inBar("Cancel")));
     press({PK_OK, PK_UP, PK_OK, PK_DOWN, PK_OK, PK_UP, PK_RIGHT, PK_OK});
     EXPECT_THAT(raised, ElementsAre("Cancel", "Save", "Cancel", "Cancel"));
     EXPECT_TRUE(isOnScreen());

@@ -4,6 +4,7 @@
 #include "DisplayAPI/TreeNode.h"
 #include "DisplayAPI/TreePrivateIfc.h"
 #include "doubles/Mocks.h"
+#include "support/Keys.h"
 #include "support/RowsOwner.h"
 #include "unit/host/variants/OnPanel.h"
 #include "unit/host/variants/tree/Told.h"
@@ -53,12 +54,11 @@ protected:
     KestrelListBox& box() { return *dynamic_cast<KestrelListBox*>(tree.getPrivateImpl()->getWidget()); }
     std::string shown() { return test::lettersOf(box()); }
 
-    /// 'v', '^', '<', '>' and '!' are the arrows and OK.
+    /// As test::keyCode() has them.
     void press(const std::string& keys)
     {
-        const std::map<char, int> codes{{'v', PK_DOWN}, {'^', PK_UP}, {'<', PK_LEFT}, {'>', PK_RIGHT}, {'!', PK_OK}};
         for (const char key : keys)
-            box().Message(test::keyMessage(codes.at(key)));
+            box().Message(test::keyMessage(test::keyCode(key)));
     }
 
     void expectHighlightChanges(int times)

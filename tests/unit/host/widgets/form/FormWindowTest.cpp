@@ -6,12 +6,11 @@
 #include "host/lcd/Geometry.h"
 #include "host/lcd/Lcd.h"
 #include "presentation/PRESCPresentationManager.h"
+#include "support/Keys.h"
 #include "support/RunningToolkit.h"
 #include "unit/host/widgets/form/TestFormField.h"
 
 #include <gmock/gmock.h>
-
-#include <map>
 
 using host::FormField;
 using host::FormWindow;
@@ -65,15 +64,11 @@ protected:
         window->fitBar();
     }
 
-    /// As test::press() has them.
+    /// As test::keyCode() has them.
     void press(const std::string& keys)
     {
-        static const std::map<char, int> NAMED{
-            {'^', PK_UP}, {'v', PK_DOWN}, {'<', PK_LEFT}, {'>', PK_RIGHT}, {'!', PK_OK}};
-        for (const char key : keys) {
-            const auto named = NAMED.find(key);
-            window->Message({.wType = PM_KEY, .iData = named != NAMED.end() ? named->second : key});
-        }
+        for (const char key : keys)
+            window->Message({.wType = PM_KEY, .iData = test::keyCode(key)});
     }
 
     ChosenPanel panel{GetParam()};
