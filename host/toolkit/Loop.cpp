@@ -26,6 +26,21 @@ bool Loop::waitUntilIdle(std::chrono::milliseconds limit)
     return isRunning() && status.isIdle();
 }
 
+std::uint64_t Loop::begun()
+{
+    return LoopStatus::instance().begun;
+}
+
+bool Loop::isIdleSince(std::uint64_t begun)
+{
+    const LoopStatus& status = LoopStatus::instance();
+    if (!isRunning())
+        return false;
+    QueueMutex mutex;
+    const std::lock_guard lock(mutex);
+    return status.isIdle() && status.begun == begun;
+}
+
 bool Loop::isRunning()
 {
     return LoopStatus::instance().threadId != 0;

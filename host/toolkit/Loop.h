@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 
 namespace host {
 
@@ -13,6 +14,12 @@ public:
 
     /// Whether Execute() is running.
     static bool isRunning();
+
+    /// How many messages and timers the loop has begun with. GUI thread only.
+    static std::uint64_t begun();
+
+    /// Whether it has nothing to do, and has begun with nothing since that was begun().
+    static bool isIdleSince(std::uint64_t begun);
 
     /// How long the GUI thread has been at one thing: messages without a turn for timers and frames in between, a
     /// timer, a frame, or what the program does while the toolkit is up and no loop runs. Zero while it waits for work,

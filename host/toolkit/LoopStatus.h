@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <chrono>
+#include <cstdint>
 #include <mutex>
 #include <pthread.h>
 
@@ -21,6 +22,7 @@ struct LoopStatus {
     std::atomic<unsigned int> guiThread{0}; ///< who has started the toolkit; 0 while that does not run
     std::atomic<int> watchers{0};           ///< who wants to hear of becameIdle, or looks when it comes
     bool restsWithoutWork = false;
+    std::uint64_t begun = 0; ///< messages and timers: the GUI thread counts without the mutex, while it does not rest
 
     /// The GUI thread begins with something new, or waits for it. GUI thread only.
     void beginWork();

@@ -65,8 +65,10 @@ PegMessage* MainLoop::take()
     PegMessage* const message =
         MainQueue::take(mMessagesInARow < MESSAGES_BEFORE_A_BURST ? MainQueue::Pace::PROMPT : MainQueue::Pace::BURST);
     mMessagesInARow = message != nullptr ? mMessagesInARow + 1 : 0;
+    LoopStatus& status = LoopStatus::instance();
+    status.begun += message != nullptr ? 1 : 0;
     if (isTurnOfOthers())
-        LoopStatus::instance().beginWork();
+        status.beginWork();
     return message;
 }
 

@@ -1,6 +1,7 @@
 #include "host/toolkit/Timers.h"
 
 #include "host/clock/Clock.h"
+#include "host/toolkit/LoopStatus.h"
 #include "toolkit/PegThing.h"
 
 #include <algorithm>
@@ -63,6 +64,7 @@ void Timers::fireDue()
             insert(next > now ? next : now + timer.period, timer);
         }
         publishNextDue();
+        ++LoopStatus::instance().begun;
         timer.thing->Message({PM_TIMER, timer.id, timer.thing});
     }
 }

@@ -1,5 +1,6 @@
 #include "simulator/core/ScreenReader.h"
 
+#include "host/toolkit/Loop.h"
 #include "host/toolkit/MainQueue.h"
 
 #include <future>
@@ -22,8 +23,19 @@ void ScreenReader::read(Then then)
     ask(READ, std::move(then));
 }
 
+ScreenPtr ScreenReader::atHand() const
+{
+    std::unique_lock lock(mMutex);
+    const ScreenPtr screen = mIsThere ? mLast : nullptr;
+    const std::uint64_t begun = mLastBegun;
+    lock.unlock();
+    return screen != nullptr && host::Loop::isIdleSince(begun) ? screen : nullptr;
+}
+
 ScreenPtr ScreenReader::read(std::chrono::milliseconds limit)
 {
+    if (ScreenPtr screen = atHand())
+        return screen;
     return waitFor(READ, limit);
 }
 
@@ -143,6 +155,7 @@ ScreenPtr ScreenReader::numbered(Screen screen)
 {
     const std::lock_guard telling(mTelling);
     std::unique_lock lock(mMutex);
+    mLastBegun = host::Loop::begun();
     if (mLast != nullptr && screen.readsAs(*mLast))
         return mLast;
     screen.number = mLast != nullptr ? mLast->number + 1 : 1;

@@ -22,6 +22,10 @@ public:
     /// `ask` is called on the GUI thread.
     ScreenReader(host::Lcd& lcd, std::function<ScreenWords()> ask);
 
+    /// The screen, where it is at hand: it has been read, the GUI thread has done nothing since, and nothing is queued.
+    /// Else null. Waits for nobody.
+    ScreenPtr atHand() const;
+
     /// Hands over the screen as it is when everything that is queued by now has been handled. Null once the telephone
     /// is going down, or where it takes no message.
     void read(Then then);
@@ -65,7 +69,8 @@ private:
     std::uint32_t mLastTicket = 0;
     Then mListener;
     ScreenPtr mLast;
-    bool mIsLookQueued = false; ///< at the last frame
+    std::uint64_t mLastBegun = 0; ///< Loop::begun() when that was read
+    bool mIsLookQueued = false;   ///< at the last frame
     bool mIsThere = true;
 };
 

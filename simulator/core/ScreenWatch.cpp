@@ -103,6 +103,8 @@ bool ScreenWatch::waitFor(Owner owner, ScreenCondition condition, std::uint64_t 
         ask(wait);
         return true;
     }
+    if (const ScreenPtr screen = judgeAtHand(*wait, lock))
+        return wait->then({End::HELD, screen, {}}), true;
     add(wait); // what comes behind the first screen is remembered from here on
     lock.unlock();
     const auto reading = std::make_shared<Reading>();
@@ -135,6 +137,16 @@ std::optional<ScreenWatch::Verdict> ScreenWatch::judgeRemembered(Wait& wait, Loc
         wait.next = screen->number + 1;
     }
     return {};
+}
+
+/// Without waiting for the GUI thread. Null where the screen is not at hand, or it does not hold for it.
+ScreenPtr ScreenWatch::judgeAtHand(const Wait& wait, Lock& lock) const
+{
+    lock.unlock();
+    const ScreenPtr screen = mReader.atHand();
+    const bool holds = screen != nullptr && wait.condition.holdsFor(*screen);
+    lock.lock();
+    return holds && !mHasEnded ? screen : nullptr;
 }
 
 /// With the screen as it is. The lock is free while it is judged: nobody else judges before there is a first screen.

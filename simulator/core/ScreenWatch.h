@@ -122,6 +122,7 @@ private:
 
     bool isFull(Owner owner) const;
     std::optional<Verdict> judgeRemembered(Wait& wait, Lock& lock) const;
+    ScreenPtr judgeAtHand(const Wait& wait, Lock& lock) const;
     void begin(const WaitPtr& wait, const ScreenPtr& screen);
     void add(const WaitPtr& wait);
     void ask(const WaitPtr& wait);

@@ -60,6 +60,40 @@ TEST_F(ScreenReaderTest, ListenerIsToldOfEachOtherScreenOnce)
     EXPECT_THAT(numbers, ElementsAre(before + 1));
 }
 
+TEST_F(ScreenReaderTest, ScreenIsAtHandUntilTheGuiThreadDoesSomething)
+{
+    EXPECT_EQ(reader->atHand(), nullptr);
+    const ScreenPtr screen = read();
+    EXPECT_TRUE(toolkit.waitUntilIdle());
+    const int before = asked;
+    EXPECT_EQ(reader->atHand(), screen);
+    EXPECT_EQ(read(), screen);
+    EXPECT_EQ(asked, before);
+    test::Gate gate;
+    toolkit.post([&] { gate.wait(); });
+    EXPECT_EQ(reader->atHand(), nullptr);
+    gate.open();
+    EXPECT_TRUE(toolkit.waitUntilIdle());
+    EXPECT_EQ(reader->atHand(), nullptr);
+    EXPECT_EQ(read(), screen);
+    EXPECT_EQ(asked, before + 1);
+}
+
+TEST_F(ScreenReaderTest, ScreenIsNotAtHandWhenATimerHasRun)
+{
+    struct Ticking : PegThing {
+        int Message(const PegMessage&) override { return ticked.open(), 0; }
+        test::Gate ticked;
+    };
+    auto ticking = std::make_unique<Ticking>();
+    toolkit.run([&] { whenRead = [&] { ticking->SetTimer(1, 1, false); }; });
+    read();
+    EXPECT_TRUE(ticking->ticked.wait());
+    EXPECT_TRUE(toolkit.waitUntilIdle());
+    EXPECT_EQ(reader->atHand(), nullptr);
+    toolkit.run([&] { ticking.reset(); });
+}
+
 TEST_F(ScreenReaderTest, WhoFindsNoRoomLeavesTheOthersTheirScreens)
 {
     test::Gate gate;

@@ -54,6 +54,17 @@ TEST_F(ScreenWatchTest, WhatHoldsAlreadyHolds)
     EXPECT_EQ(verdict.screen->number, 1u);
 }
 
+TEST_F(ScreenWatchTest, WhatHoldsOfAScreenAtHandIsAnsweredWithoutTheGuiThread)
+{
+    reader->read(test::PATIENCE);
+    EXPECT_TRUE(toolkit.waitUntilIdle());
+    const int before = asked;
+    EXPECT_EQ(verdictOn(0, 0).end, ScreenWatch::End::HELD);
+    EXPECT_EQ(asked, before);
+    EXPECT_EQ(verdictOn(7, 0, milliseconds(0)).end, ScreenWatch::End::LAPSED);
+    EXPECT_GT(asked, before);
+}
+
 TEST_F(ScreenWatchTest, EveryChangeIsJudged)
 {
     auto verdict = waitFor(1, 0, test::PATIENCE);
