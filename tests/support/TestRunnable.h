@@ -25,8 +25,8 @@ private:
     std::function<void()> mDeleted;
 };
 
-/// Work that begins and then waits until the test lets it end. One runnable per gate.
-class Gate {
+/// Work that begins and then waits until the test lets it end. One runnable each.
+class HeldWork {
 public:
     DisplayAPI::Runnable* newRunnable()
     {

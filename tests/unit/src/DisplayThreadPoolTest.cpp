@@ -12,7 +12,7 @@
 
 using DisplayAPI::DisplayThread;
 using DisplayAPI::DisplayThreadPool;
-using test::Gate;
+using test::HeldWork;
 using test::TestRunnable;
 using test::Worker;
 using testing::Each;
@@ -27,22 +27,22 @@ protected:
 
     static void destroyPool() { delete DisplayThreadPool::instance(1); }
 
-    /// Keeps `count` threads of the pool busy until openGates().
+    /// Keeps `count` threads of the pool busy until letGo().
     void occupy(DisplayThreadPool& pool, int count)
     {
         for (int i = 0; i < count; ++i) {
-            gates.emplace_back();
-            pool.getThread()->executeRequest(gates.back().newRunnable());
-            gates.back().waitUntilEntered();
+            heldWork.emplace_back();
+            pool.getThread()->executeRequest(heldWork.back().newRunnable());
+            heldWork.back().waitUntilEntered();
         }
     }
 
-    void openGates()
+    void letGo()
     {
-        for (Gate& gate : gates)
-            gate.open();
-        for (const Gate& gate : gates)
-            gate.waitUntilGone();
+        for (HeldWork& held : heldWork)
+            held.open();
+        for (const HeldWork& held : heldWork)
+            held.waitUntilGone();
     }
 
     static void waitUntilAvailable(DisplayThreadPool& pool, int count)
@@ -59,7 +59,7 @@ protected:
         return thread;
     }
 
-    std::deque<Gate> gates;
+    std::deque<HeldWork> heldWork;
 };
 
 } // namespace
@@ -136,7 +136,7 @@ TEST_F(DisplayThreadPoolTest, ABusyPoolGrowsUpToItsMaximum)
     EXPECT_EQ(pool->poolSize(), 3);
     EXPECT_EQ(pool->availableThreads(), 0);
 
-    openGates();
+    letGo();
     waitUntilAvailable(*pool, 3);
 }
 
@@ -154,7 +154,7 @@ TEST_F(DisplayThreadPoolTest, WithAllPooledThreadsBusyAOneShotThreadIsHandedOut)
     deleted.wait();
     EXPECT_EQ(pool->availableThreads(), 0) << "it is not kept";
 
-    openGates();
+    letGo();
     waitUntilAvailable(*pool, 10);
     EXPECT_EQ(pool->poolSize(), 10);
 }
@@ -164,7 +164,7 @@ TEST_F(DisplayThreadPoolTest, SeveralOneShotThreadsRunAtTheSameTime)
     DisplayThreadPool* const pool = DisplayThreadPool::instance(1);
     occupy(*pool, 4);
     EXPECT_EQ(pool->poolSize(), 1);
-    openGates();
+    letGo();
     waitUntilAvailable(*pool, 1);
 }
 
@@ -183,10 +183,10 @@ TEST_F(DisplayThreadPoolTest, TheThreadThatWasHandedOutLongestAgoComesNext)
     std::vector<DisplayThread*> made;
     for (int i = 0; i < 3; ++i) {
         made.push_back(pool->getThread());
-        gates.emplace_back();
-        made.back()->executeRequest(gates.back().newRunnable());
+        heldWork.emplace_back();
+        made.back()->executeRequest(heldWork.back().newRunnable());
     }
-    openGates();
+    letGo();
     waitUntilAvailable(*pool, 3);
 
     EXPECT_EQ(useOnce(*pool), made[0]);
@@ -202,7 +202,7 @@ TEST_F(DisplayThreadPoolTest, ABusyThreadIsPassedOver)
     DisplayThread* const second = useOnce(*pool);
     EXPECT_EQ(useOnce(*pool), second);
     EXPECT_EQ(pool->poolSize(), 2);
-    openGates();
+    letGo();
 }
 
 TEST_F(DisplayThreadPoolTest, DestroyingThePoolWaitsForWhatIsRunning)
@@ -213,7 +213,7 @@ TEST_F(DisplayThreadPoolTest, DestroyingThePoolWaitsForWhatIsRunning)
     Worker destroyer([&] { delete pool; });
     EXPECT_TRUE(destroyer.isBlocked());
 
-    openGates();
+    letGo();
     destroyer.join();
 }
 
@@ -233,7 +233,7 @@ TEST_F(DisplayThreadPoolTest, AOneShotThreadOutlivesThePool)
     occupy(*pool, 1);
     delete pool;
 
-    openGates();
+    letGo();
 }
 
 TEST_F(DisplayThreadPoolTest, ManyThreadsMayAskAtTheSameTime)
@@ -263,7 +263,7 @@ TEST_F(DisplayThreadPoolTest, TwoWhoAskAtTheSameTimeGetThreadsOfTheirOwn)
     constexpr int THREADS = 8;
     DisplayThreadPool* const pool = DisplayThreadPool::instance(THREADS);
     occupy(*pool, THREADS);
-    openGates();
+    letGo();
     for (int round = 0; round < 2'000; ++round) {
         waitUntilAvailable(*pool, THREADS);
         std::array<DisplayThread*, 2> taken{};

@@ -9,7 +9,7 @@
 #include <pthread.h>
 
 using DisplayAPI::DisplayThread;
-using test::Gate;
+using test::HeldWork;
 using test::TestRunnable;
 using test::Worker;
 
@@ -146,31 +146,31 @@ TEST_F(DisplayThreadTest, DestroyingAOneShotThreadThatHasNotRunEndsAndDeletesIt)
 
 TEST_F(DisplayThreadTest, DestroyingABusyThreadWaitsUntilItsRequestHasRun)
 {
-    Gate gate;
+    HeldWork held;
     DisplayThread* const thread = start(POOLED);
-    thread->executeRequest(gate.newRunnable());
-    gate.waitUntilEntered();
+    thread->executeRequest(held.newRunnable());
+    held.waitUntilEntered();
     Worker destroyer([&] { thread->destroyThread(); });
     EXPECT_TRUE(destroyer.isBlocked());
     EXPECT_FALSE(gone.try_wait());
 
-    gate.open();
+    held.open();
     destroyer.join();
     EXPECT_TRUE(gone.try_wait());
 }
 
 TEST_F(DisplayThreadTest, DestroyingTwiceDoesNothingTheSecondTime)
 {
-    Gate gate;
+    HeldWork held;
     DisplayThread* const thread = start(POOLED);
-    thread->executeRequest(gate.newRunnable());
-    gate.waitUntilEntered();
+    thread->executeRequest(held.newRunnable());
+    held.waitUntilEntered();
     Worker destroyer([&] { thread->destroyThread(); });
     EXPECT_TRUE(destroyer.isBlocked());
 
     thread->destroyThread(); // returns although the thread is still running
 
-    gate.open();
+    held.open();
 }
 
 TEST_F(DisplayThreadTest, AThreadMayDestroyItself)
