@@ -1,9 +1,10 @@
 #include "host/inspection/ThreadStack.h"
 
+#include "support/Gate.h"
 #include "support/Worker.h"
 
+#include <atomic>
 #include <csignal>
-#include <future>
 #include <gmock/gmock.h>
 
 using test::Worker;
@@ -11,21 +12,11 @@ using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-// A signal comes to a thread that sleeps in the kernel when ThreadSanitizer lets it.
-#if !defined(__SANITIZE_THREAD__)
-#if defined(__has_feature)
-#if !__has_feature(thread_sanitizer)
-#define STACKS_ARE_TOLD
-#endif
-#else
-#define STACKS_ARE_TOLD
-#endif
-#endif
-
 namespace test {
 
-/// A function with a name, in which somebody waits.
-void waitHere(std::future<void> until)
+/// A function with a name, in which somebody waits: in a call of which ThreadSanitizer knows that it sleeps. To a
+/// thread that sleeps in any other it hands no signal on.
+void waitHere(Gate& until)
 {
     until.wait();
 }
@@ -34,17 +25,15 @@ namespace {
 
 class ThreadStackTest : public testing::Test {
 protected:
-    ThreadStackTest() : worker([this] { waitHere(end.get_future()); }) {}
+    ThreadStackTest() : worker([this] { waitHere(end); }) {}
 
-    ~ThreadStackTest() override { end.set_value(); }
+    ~ThreadStackTest() override { end.open(); }
 
     std::vector<std::string> stack() const { return host::stackOf(static_cast<int>(worker.threadId())); }
 
-    std::promise<void> end;
+    Gate end;
     Worker worker;
 };
-
-#ifdef STACKS_ARE_TOLD
 
 std::atomic<int> gHeard{0};
 
@@ -79,19 +68,17 @@ TEST_F(ThreadStackTest, SignalThatTheProgramTakesIsLeftToIt)
 
 TEST_F(ThreadStackTest, WhoBlocksSignalsIsLeftAlone)
 {
-    std::promise<void> go;
+    Gate go;
     Worker blocking([&] {
         sigset_t all;
         sigfillset(&all);
         pthread_sigmask(SIG_BLOCK, &all, nullptr);
-        waitHere(go.get_future());
+        waitHere(go);
     });
     ASSERT_TRUE(blocking.isBlocked());
     EXPECT_THAT(host::stackOf(static_cast<int>(blocking.threadId())), ElementsAre("it has ended, or takes no signal"));
-    go.set_value();
+    go.open();
 }
-
-#endif
 
 TEST_F(ThreadStackTest, ThreadThatIsGoneIsTold)
 {
