@@ -1,10 +1,10 @@
 #pragma once
 
-#include "simulator/rpc/RpcFrames.h"
 #include "simulator/rpc/RpcMethods.h"
 #include "simulator/rpc/RpcOutbox.h"
 #include "simulator/rpc/RpcScreen.h"
 #include "simulator/web/PeerSocket.h"
+#include "simulator/web/WebSocketListener.h"
 
 #include <chrono>
 
@@ -13,8 +13,7 @@ namespace simulator {
 /// A client of the test interface, from the end of the handshake on: this reads and writes what goes over its socket.
 class RpcConnection {
 public:
-    /// So many pings in a row may stay without anything whole that comes.
-    static constexpr int MOST_UNANSWERED = 3;
+    static constexpr std::size_t LONGEST_MESSAGE = 65'536;
 
     /// They have to outlive it. `heartbeat` lies between two pings.
     RpcConnection(mg_connection* connection, RpcPhone& phone, ScreenWatch& watch, const RpcAbout& about,
@@ -38,17 +37,13 @@ private:
     using Time = std::chrono::steady_clock::time_point;
 
     bool hear(FrameKind kind, std::string_view data);
-    bool beat();
     void finish(CloseCode code);
-    void discardTheRest() const;
     void change(const ScreenPtr& screen, const RpcMethods::Told& told);
 
     const PeerSocket mSocket;
     RpcRendering& mRendering;
-    const std::chrono::milliseconds mHeartbeat;
+    WebSocketListener mListener;
     RpcOutbox mOutbox;
-    RpcFrames mFrames;
-    int mUnanswered = 0;
     RpcMethods mMethods; ///< goes first: whoever is called for it sends
 };
 

@@ -1,6 +1,7 @@
 #include "simulator/web/PageConnection.h"
 
 #include "simulator/web/ServerMessages.h"
+#include "simulator/web/WebSocketListener.h"
 
 #include <civetweb.h>
 #include <utility>
@@ -10,13 +11,13 @@ namespace simulator {
 bool PageConnection::wants(std::uint32_t frame) const
 {
     std::lock_guard lock(mMutex);
-    return !mIsBroken && mSent == mSeen && mSent != frame;
+    return mIsOpen && mSent == mSeen && mSent != frame;
 }
 
 bool PageConnection::needsToHear(const News& news) const
 {
     std::lock_guard lock(mMutex);
-    return !mIsBroken && mTold != news;
+    return mIsOpen && mTold != news;
 }
 
 void PageConnection::send(const FrameMessage& message)
@@ -27,15 +28,15 @@ void PageConnection::send(const FrameMessage& message)
         mSent = message.number;
     }
     if (mRows != message.rows)
-        write(MG_WEBSOCKET_OPCODE_TEXT, message.rows);
-    write(MG_WEBSOCKET_OPCODE_BINARY, message.pixels);
+        write(FrameKind::TEXT, message.rows);
+    write(FrameKind::BINARY, message.pixels);
     mRows = message.rows;
 }
 
 void PageConnection::sendText(const std::string& message)
 {
     std::lock_guard writing(mWriting);
-    write(MG_WEBSOCKET_OPCODE_TEXT, message);
+    write(FrameKind::TEXT, message);
 }
 
 void PageConnection::tell(const News& news)
@@ -58,8 +59,45 @@ void PageConnection::tell(const News& news)
 void PageConnection::sendLast(const std::string& message)
 {
     std::lock_guard writing(mWriting);
-    write(MG_WEBSOCKET_OPCODE_TEXT, message);
-    write(MG_WEBSOCKET_OPCODE_CONNECTION_CLOSE, {});
+    write(FrameKind::TEXT, message);
+    write(FrameKind::CLOSE, {});
+    std::lock_guard lock(mMutex);
+    mIsOpen = false;
+}
+
+void PageConnection::listen(std::chrono::milliseconds heartbeat, const std::function<bool(std::string_view)>& hear)
+{
+    WebSocketListener listener(mSocket, LONGEST_MESSAGE, heartbeat);
+    close(listener.run([&](FrameKind kind, std::string_view data) { return answer(kind, data, hear); },
+                       [this] { return ping(); }));
+    detach();
+    mSocket.end();
+}
+
+/// False where nothing more is wanted.
+bool PageConnection::answer(FrameKind kind, std::string_view data, const std::function<bool(std::string_view)>& hear)
+{
+    if (kind == FrameKind::TEXT)
+        return isOpen() && hear(data);
+    if (kind == FrameKind::PING) {
+        std::lock_guard writing(mWriting);
+        write(FrameKind::PONG, data);
+    }
+    return kind != FrameKind::CLOSE;
+}
+
+/// Returns whether it could be written.
+bool PageConnection::ping()
+{
+    std::lock_guard writing(mWriting);
+    write(FrameKind::PING, {});
+    return isOpen();
+}
+
+void PageConnection::close(CloseCode code)
+{
+    std::lock_guard writing(mWriting);
+    write(FrameKind::CLOSE, closingData(code));
 }
 
 void PageConnection::seen(std::uint32_t frame)
@@ -68,27 +106,29 @@ void PageConnection::seen(std::uint32_t frame)
     mSeen = frame;
 }
 
+/// From here on the connection may be gone.
 void PageConnection::detach()
 {
     std::lock_guard writing(mWriting);
     std::lock_guard lock(mMutex);
-    mIsBroken = true;
+    mIsOpen = false;
     mConnection = nullptr;
 }
 
-bool PageConnection::isBroken() const
+bool PageConnection::isOpen() const
 {
     std::lock_guard lock(mMutex);
-    return mIsBroken;
+    return mIsOpen;
 }
 
-void PageConnection::write(int kind, const std::string& data)
+/// REQUIRES: the writing lock is held. Where it fails nothing is written any more.
+void PageConnection::write(FrameKind kind, std::string_view data)
 {
-    if (isBroken())
+    if (!isOpen())
         return;
-    const bool written = mg_websocket_write(mConnection, kind, data.data(), data.size()) > 0;
+    const bool written = mg_websocket_write(mConnection, static_cast<int>(kind), data.data(), data.size()) > 0;
     std::lock_guard lock(mMutex);
-    mIsBroken = !written;
+    mIsOpen = mIsOpen && written;
 }
 
 } // namespace simulator

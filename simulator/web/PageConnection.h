@@ -3,8 +3,12 @@
 #include "host/frontend/Wire.h"
 #include "host/input/CallSigns.h"
 #include "simulator/web/FrameMessage.h"
+#include "simulator/web/PeerSocket.h"
+#include "simulator/web/WebSocketFrames.h"
 
+#include <chrono>
 #include <cstdint>
+#include <functional>
 #include <mutex>
 #include <optional>
 #include <string>
@@ -29,7 +33,13 @@ struct News {
 /// Safe from any thread.
 class PageConnection {
 public:
-    explicit PageConnection(mg_connection* connection) : mConnection(connection) {}
+    static constexpr std::size_t LONGEST_MESSAGE = 1024;
+
+    explicit PageConnection(mg_connection* connection) : mSocket(connection), mConnection(connection) {}
+
+    /// Hears what the page says, until `hear` wants no more or the page is gone. `heartbeat` lies between two pings.
+    /// Then nothing is written any more.
+    void listen(std::chrono::milliseconds heartbeat, const std::function<bool(std::string_view)>& hear);
 
     /// Whether it could take a frame of that number now.
     bool wants(std::uint32_t frame) const;
@@ -41,25 +51,29 @@ public:
     void sendText(const std::string& message);
     void tell(const News& news);
 
-    /// Tells the page why there is nothing more for it, and closes it.
+    /// Tells the page why there is nothing more for it, and closes it: nothing is written any more.
     void sendLast(const std::string& message);
+
+    /// Ends the connection, whatever somebody is waiting for on it.
+    void cut() const { mSocket.cut(); }
+    void cutAfterThePage() const { mSocket.cutAfterTheOther(); }
 
     /// The page has drawn the frame.
     void seen(std::uint32_t frame);
 
-    /// The connection is about to be gone. Waits for what is being written.
-    void detach();
-
-    /// Whether writing has failed: then nothing is written any more.
-    bool isBroken() const;
-
 private:
-    void write(int kind, const std::string& data);
+    bool answer(FrameKind kind, std::string_view data, const std::function<bool(std::string_view)>& hear);
+    bool ping();
+    void close(CloseCode code);
+    void detach();
+    bool isOpen() const;
+    void write(FrameKind kind, std::string_view data);
 
+    const PeerSocket mSocket;
     std::mutex mWriting; ///< held while writing; taken before mMutex
     mutable std::mutex mMutex;
     mg_connection* mConnection;
-    bool mIsBroken = false;
+    bool mIsOpen = true; ///< something may be written
     std::uint32_t mSent = 0;
     std::uint32_t mSeen = 0;
     News mTold; ///< what a page takes for granted at first

@@ -1,5 +1,6 @@
 #include "simulator/web/PeerSocket.h"
 
+#include <array>
 #include <cerrno>
 #include <charconv>
 #include <civetweb.h>
@@ -89,6 +90,18 @@ void PeerSocket::keepLittle() const
 void PeerSocket::end() const
 {
     shutdown(mDescriptor, SHUT_WR);
+}
+
+void PeerSocket::cutAfterTheOther() const
+{
+    using std::chrono::steady_clock;
+    std::array<char, 16'384> rest;
+    const auto end = steady_clock::now() + std::chrono::seconds(1);
+    for (auto now = steady_clock::now(); now < end; now = steady_clock::now())
+        if (!waitUntilReadable(std::chrono::ceil<std::chrono::milliseconds>(end - now)) ||
+            read(rest.data(), rest.size()) == 0)
+            break;
+    cut();
 }
 
 std::optional<std::size_t> PeerSocket::write(std::string_view bytes) const

@@ -29,6 +29,10 @@ public:
     /// Says that nothing more is to come. What has been written arrives.
     void end() const;
 
+    /// Cuts it when the other side has ended it as well, or does not within a second: who closes a connection that
+    /// still has something to be read takes away what he has written last.
+    void cutAfterTheOther() const;
+
     /// Writes what goes without waiting: so many bytes. Nothing where the connection is gone.
     std::optional<std::size_t> write(std::string_view bytes) const;
 

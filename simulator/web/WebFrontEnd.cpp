@@ -95,7 +95,7 @@ struct WebFrontEnd::Session {
     Session(host::Lcd& panel, const Endpoint& endpoint, std::optional<std::string> rpcToken)
         : lcd(panel), broadcaster([&panel] { return panel.picture(); }, host::Loop::standsStill),
           rpc(rpcToken ? std::make_unique<TestInterface>(panel, keys, endpoint, *std::move(rpcToken)) : nullptr),
-          server(endpoint, greeting(), broadcaster, keys, Heartbeat::PAUSE, rpc != nullptr ? &rpc->server : nullptr)
+          server(endpoint, greeting(), broadcaster, keys, WebServer::HEARTBEAT, rpc != nullptr ? &rpc->server : nullptr)
     {
         lcd.setFrameListener([this] { frameReady(); });
         host::KeyLamps::setListener([this] { broadcaster.lampsChanged(host::KeyLamps::current()); });

@@ -16,10 +16,9 @@ namespace simulator {
 namespace {
 
 constexpr int MOST_TURNED_AWAY = 4;
-constexpr std::size_t LONGEST_MESSAGE = 1024;
-constexpr std::size_t LONGEST_PING = 125;
-constexpr int KIND_OF_MESSAGE = 0x0F;
-constexpr int LAST_PIECE = 0x80;
+
+/// How long pages may take to answer that it ends.
+constexpr std::chrono::seconds LAST_ANSWERS(2);
 
 constexpr char PAGE_HEADERS[] =
     "HTTP/1.1 200 OK\r\n"
@@ -70,15 +69,6 @@ int send(mg_connection* connection, std::string_view document)
     return 200;
 }
 
-/// The server notices that it shall stop when somebody comes; else it takes its time.
-void visitUntil(const std::stop_token& stop, const Endpoint& endpoint)
-{
-    while (!stop.stop_requested()) {
-        isServed(endpoint);
-        std::this_thread::sleep_for(std::chrono::milliseconds(20));
-    }
-}
-
 } // namespace
 
 WebServer::WebServer(const Endpoint& endpoint, std::string greeting, Broadcaster& broadcaster, KeyPad& keys,
@@ -103,7 +93,7 @@ WebServer::WebServer(const Endpoint& endpoint, std::string greeting, Broadcaster
     findPort();
     mg_set_request_handler(mContext, "/", servePage, this);
     mg_set_request_handler(mContext, "/inspect", serveInspector, this);
-    mg_set_websocket_handler(mContext, "/socket", connecting, connected, received, closed, this);
+    mg_set_websocket_handler(mContext, "/socket", connecting, connected, received, nullptr, this);
     if (rpc != nullptr)
         rpc->attachTo(mContext);
 }
@@ -118,10 +108,29 @@ void WebServer::findPort()
 WebServer::~WebServer()
 {
     if (mContext != nullptr) {
-        const std::jthread visitor([this](std::stop_token stop) { visitUntil(stop, mEndpoint); });
+        const std::jthread visitor([this](const std::stop_token& stop) { hurryUntil(stop); });
         mg_stop(mContext);
     }
     mg_exit_library();
+}
+
+/// The server notices that it shall stop when somebody comes, and waits for pages; else it takes its time.
+void WebServer::hurryUntil(const std::stop_token& stop)
+{
+    const auto deadline = std::chrono::steady_clock::now() + LAST_ANSWERS;
+    while (!stop.stop_requested()) {
+        if (std::chrono::steady_clock::now() >= deadline)
+            cutAll();
+        isServed(mEndpoint);
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    }
+}
+
+void WebServer::cutAll()
+{
+    const std::lock_guard lock(mMutex);
+    for (const auto& page : mPages)
+        page->cut();
 }
 
 int WebServer::servePage(mg_connection* connection, void* self)
@@ -153,43 +162,58 @@ int WebServer::serveInspector(mg_connection* connection, void* self)
 
 int WebServer::connecting(const mg_connection* connection, void* self)
 {
-    const auto* server = static_cast<const WebServer*>(self);
+    auto* server = static_cast<WebServer*>(self);
+    const std::lock_guard lock(server->mMutex);
     const bool isFlooded = server->mTurnedAway >= MOST_TURNED_AWAY;
     return isFlooded || !server->mAdmission.allowsSocket(callerOf(connection)) ? 1 : 0;
 }
 
 void WebServer::connected(mg_connection* connection, void* self)
 {
-    auto* server = static_cast<WebServer*>(self);
-    auto page = std::make_shared<PageConnection>(connection);
-    page->sendText(server->mGreeting);
-    mg_set_user_connection_data(connection, page.get());
-    server->mHeartbeat.add(connection);
-    if (server->mBroadcaster.add(page))
-        return;
-    mg_set_user_connection_data(connection, nullptr);
-    server->turnAway(*page);
+    static_cast<WebServer*>(self)->serve(std::make_shared<PageConnection>(connection));
+}
+
+/// What has come ahead of the end of the handshake.
+int WebServer::received(mg_connection*, int, char*, std::size_t, void*)
+{
+    return 0;
+}
+
+void WebServer::serve(const std::shared_ptr<PageConnection>& page)
+{
+    {
+        const std::lock_guard lock(mMutex);
+        mPages.insert(page);
+    }
+    page->sendText(mGreeting);
+    if (mBroadcaster.add(page))
+        serveInPlace(*page);
+    else
+        turnAway(*page);
+    page->cutAfterThePage();
+    const std::lock_guard lock(mMutex);
+    mPages.erase(page);
+}
+
+void WebServer::serveInPlace(PageConnection& page)
+{
+    page.listen(mHeartbeat, [&](std::string_view text) { return handle(page, text); });
+    mKeys.leave(&page);
+    mMotion.leave(&page);
+    mBroadcaster.remove(&page);
 }
 
 /// It learns why: to the page a connection that is refused looks like a telephone that is not there.
 void WebServer::turnAway(PageConnection& page)
 {
-    ++mTurnedAway;
+    const auto count = [this](int change) {
+        const std::lock_guard lock(mMutex);
+        mTurnedAway += change;
+    };
+    count(1);
     page.sendLast(fullMessage(Broadcaster::MOST_PAGES));
-}
-
-int WebServer::received(mg_connection* connection, int bits, char* data, std::size_t size, void* self)
-{
-    const int kind = bits & KIND_OF_MESSAGE;
-    static_cast<WebServer*>(self)->mHeartbeat.heard(connection);
-    if (kind == MG_WEBSOCKET_OPCODE_PONG)
-        return 1;
-    if (kind == MG_WEBSOCKET_OPCODE_PING)
-        return size <= LONGEST_PING && mg_websocket_write(connection, MG_WEBSOCKET_OPCODE_PONG, data, size) > 0 ? 1 : 0;
-    auto* page = static_cast<PageConnection*>(mg_get_user_connection_data(connection));
-    const bool isWhole = kind == MG_WEBSOCKET_OPCODE_TEXT && (bits & LAST_PIECE) != 0;
-    const bool isGood = page != nullptr && !page->isBroken() && isWhole && size <= LONGEST_MESSAGE;
-    return isGood && static_cast<WebServer*>(self)->handle(*page, {data, size}) ? 1 : 0;
+    page.listen(mHeartbeat, [](std::string_view) { return false; });
+    count(-1);
 }
 
 bool WebServer::handle(PageConnection& page, std::string_view text)
@@ -208,21 +232,6 @@ bool WebServer::handle(PageConnection& page, std::string_view text)
         break;
     }
     return true;
-}
-
-void WebServer::closed(const mg_connection* connection, void* self)
-{
-    auto* server = static_cast<WebServer*>(self);
-    auto* page = static_cast<PageConnection*>(mg_get_user_connection_data(connection));
-    server->mHeartbeat.remove(connection);
-    if (page == nullptr) {
-        --server->mTurnedAway;
-        return;
-    }
-    page->detach();
-    server->mKeys.leave(page);
-    server->mMotion.leave(page);
-    server->mBroadcaster.remove(page);
 }
 
 } // namespace simulator

@@ -4,10 +4,12 @@
 #include "simulator/web/Admission.h"
 #include "simulator/web/Broadcaster.h"
 #include "simulator/web/Endpoint.h"
-#include "simulator/web/Heartbeat.h"
 #include "simulator/web/MotionWishes.h"
 
-#include <atomic>
+#include <memory>
+#include <mutex>
+#include <set>
+#include <stop_token>
 #include <string>
 
 struct mg_connection;
@@ -18,16 +20,21 @@ namespace simulator {
 class RpcServer;
 
 /// Serves the page and its socket. The broadcaster and the key pad have to outlive it.
+///
+/// Lock: one guards who is connected, a leaf.
 class WebServer {
 public:
+    /// A page that says nothing whole for some of these is gone.
+    static constexpr std::chrono::milliseconds HEARTBEAT{5'000};
+
     /// `greeting` is what each page is told first; `heartbeat` lies between two pings; `rpc`, where there is one, is
     /// served beside the page and has to outlive the server as well.
     WebServer(const Endpoint& endpoint, std::string greeting, Broadcaster& broadcaster, KeyPad& keys,
-              std::chrono::milliseconds heartbeat = Heartbeat::PAUSE, RpcServer* rpc = nullptr);
+              std::chrono::milliseconds heartbeat = HEARTBEAT, RpcServer* rpc = nullptr);
     WebServer(const WebServer&) = delete;
     WebServer& operator=(const WebServer&) = delete;
 
-    /// Closes all connections. Takes some seconds where a page does not answer.
+    /// Closes all connections. Takes two seconds where a page does not answer.
     ~WebServer();
 
     /// Why it does not serve; empty when it does.
@@ -42,10 +49,13 @@ private:
     static int connecting(const mg_connection* connection, void* self);
     static void connected(mg_connection* connection, void* self);
     static int received(mg_connection* connection, int bits, char* data, std::size_t size, void* self);
-    static void closed(const mg_connection* connection, void* self);
 
     void findPort();
+    void serve(const std::shared_ptr<PageConnection>& page);
+    void serveInPlace(PageConnection& page);
     void turnAway(PageConnection& page);
+    void hurryUntil(const std::stop_token& stop);
+    void cutAll();
     bool handle(PageConnection& page, std::string_view text);
 
     Endpoint mEndpoint;
@@ -53,10 +63,12 @@ private:
     std::string mGreeting;
     Broadcaster& mBroadcaster;
     KeyPad& mKeys;
-    Heartbeat mHeartbeat;
+    const std::chrono::milliseconds mHeartbeat;
     MotionWishes mMotion;
     const RpcServer* mRpc;
-    std::atomic<int> mTurnedAway{0}; ///< connections that hear that there is no room, and have not closed yet
+    std::mutex mMutex; ///< guards the next two
+    std::set<std::shared_ptr<PageConnection>> mPages;
+    int mTurnedAway = 0; ///< those of them that hear that there is no room, and have not closed yet
     mg_context* mContext = nullptr;
     std::string mError;
 };

@@ -1,7 +1,7 @@
-// Bytes that a client of the test interface sends: they are put together to the same messages however they come.
+// Bytes that somebody sends over a WebSocket: they are put together to the same messages however they come.
 
 #include "fuzz/check.h"
-#include "simulator/rpc/RpcFrames.h"
+#include "simulator/web/WebSocketFrames.h"
 
 #include <vector>
 
@@ -9,7 +9,9 @@ namespace {
 
 using simulator::CloseCode;
 using simulator::FrameKind;
-using simulator::RpcFrames;
+using simulator::WebSocketFrames;
+
+constexpr std::size_t LONGEST = 65'536;
 
 struct Heard {
     std::vector<std::string> messages;
@@ -21,9 +23,9 @@ struct Heard {
 Heard hear(std::string_view bytes, std::size_t pieces)
 {
     Heard heard;
-    RpcFrames frames;
+    WebSocketFrames frames(LONGEST);
     const auto note = [&](FrameKind kind, std::string_view data) {
-        test::check(data.size() <= RpcFrames::LONGEST_MESSAGE, "a message is too long");
+        test::check(data.size() <= LONGEST, "a message is too long");
         heard.messages.push_back(static_cast<char>(kind) + std::string(data));
         return kind != FrameKind::CLOSE;
     };

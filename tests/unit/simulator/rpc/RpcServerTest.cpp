@@ -61,7 +61,7 @@ protected:
     {
         rpc.emplace(*phone, *watch, simulator::RpcAbout{"counter"}, simulator::RpcAdmission{endpoint, "secret"},
                     heartbeat);
-        server.emplace(endpoint, "", broadcaster, keys, simulator::Heartbeat::PAUSE, &*rpc);
+        server.emplace(endpoint, "", broadcaster, keys, simulator::WebServer::HEARTBEAT, &*rpc);
         ASSERT_EQ(server->error(), "");
         endpoint.port = server->port();
     }

@@ -9,7 +9,6 @@
 namespace {
 
 using simulator::Broadcaster;
-using simulator::Heartbeat;
 using test::WebClient;
 using testing::HasSubstr;
 using testing::Not;
@@ -24,7 +23,7 @@ const std::string END("\x88\x00", 2);
 /// What pages hear that have a place, and those that have none. Nobody answers pings, and nobody has to within a test.
 class WebServerPlacesTest : public test::ServerTest {
 protected:
-    WebServerPlacesTest() : ServerTest(Heartbeat::PAUSE * 100) {}
+    WebServerPlacesTest() : ServerTest(simulator::WebServer::HEARTBEAT * 100) {}
 
     void openAll()
     {

@@ -10,6 +10,7 @@ namespace {
 
 using test::masked;
 using test::WebClient;
+using testing::EndsWith;
 using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
@@ -80,11 +81,40 @@ TEST_F(WebServerTest, FrameThatComesByteByByteDoesNotKeepThePlace)
 {
     WebClient client(endpoint.port);
     openSocket(client);
-    client.send(std::string("\x81\xFE\x7F\xFF\0\0\0\0", 8));
+    client.send(std::string("\x81\xFE\x03\xFF\0\0\0\0", 8));
     const auto end = steady_clock::now() + test::PATIENCE;
     for (; client.isOpen() && steady_clock::now() < end; client.receive(HEARTBEAT / 2))
         client.send("x");
     expectCut(client);
+}
+
+TEST_F(WebServerTest, FrameThatIsTooLongOrAgainstTheRulesIsRefusedBeforeItHasCome)
+{
+    const std::string tooBig("\x88\x02\x03\xF1"), protocolError("\x88\x02\x03\xEA"), unsupported("\x88\x02\x03\xEB");
+    const std::pair<std::string, std::string> wrong[] = {
+        {std::string("\x81\xFE\x04\x01", 4) + "abcd", tooBig}, // a byte more than there may be
+        {"\x81\xFF\x7F\xFF\xFF\xFF\xFF\xFF\xFF\xFF"
+         "abcd",
+         tooBig},
+        {masked('\x01', "down") + std::string("\x80\xFE\x03\xFF", 4) + "abcd", tooBig},
+        {masked('\x80', "ok"), protocolError},
+        {"\x81\x02up", protocolError}, // not masked
+        {masked('\x82', ""), unsupported}};
+    for (const auto& [bytes, end] : wrong) {
+        WebClient client(endpoint.port);
+        openSocket(client);
+        client.send(bytes);
+        EXPECT_THAT(client.receiveAll(), EndsWith(end)) << testing::PrintToString(bytes);
+    }
+}
+
+TEST_F(WebServerTest, MessageMayComeInPieces)
+{
+    const host::Wire wire("exchange", [](std::string_view line) { return "no " + std::string(line); });
+    WebClient client(endpoint.port);
+    openSocket(client);
+    client.send(masked('\x01', "exchange 47") + masked('\x89', "") + masked('\x80', "11 calls"));
+    client.receiveUntil(R"({"answer":"no 4711 calls"})");
 }
 
 TEST_F(WebServerTest, PageThatAnswersKeepsItsPlace)

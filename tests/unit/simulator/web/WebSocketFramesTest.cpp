@@ -1,4 +1,4 @@
-#include "simulator/rpc/RpcFrames.h"
+#include "simulator/web/WebSocketFrames.h"
 
 #include <gmock/gmock.h>
 
@@ -8,9 +8,11 @@ using simulator::CloseCode;
 using simulator::closingFrame;
 using simulator::FrameKind;
 using simulator::frameOf;
-using simulator::RpcFrames;
+using simulator::WebSocketFrames;
 using testing::ElementsAre;
 using namespace std::string_literals;
+
+constexpr std::size_t LONGEST = 65'536;
 
 /// As a client sends it, with the mask "abcd".
 std::string sent(char first, const std::string& text)
@@ -31,7 +33,7 @@ std::string sent(char first, const std::string& text)
     return frame;
 }
 
-class RpcFramesTest : public testing::Test {
+class WebSocketFramesTest : public testing::Test {
 protected:
     CloseCode take(std::string_view bytes)
     {
@@ -41,12 +43,12 @@ protected:
         });
     }
 
-    RpcFrames frames;
+    WebSocketFrames frames{LONGEST};
     std::vector<std::string> heard;
     std::size_t most = 100;
 };
 
-TEST_F(RpcFramesTest, MessagesComeInPiecesOfAnySize)
+TEST_F(WebSocketFramesTest, MessagesComeInPiecesOfAnySize)
 {
     const std::string all = sent('\x81', "one") + sent('\x89', "hi") + sent('\x01', "tw") + sent('\x8A', "") +
                             sent('\x00', "") + sent('\x80', "o") + sent('\x81', std::string(300, 'x'));
@@ -58,22 +60,22 @@ TEST_F(RpcFramesTest, MessagesComeInPiecesOfAnySize)
     EXPECT_EQ(heard.size(), 5u);
 }
 
-TEST_F(RpcFramesTest, LongestMessageIsTaken)
+TEST_F(WebSocketFramesTest, LongestMessageIsTaken)
 {
-    EXPECT_EQ(take(sent('\x81', std::string(RpcFrames::LONGEST_MESSAGE, 'x'))), CloseCode::NONE);
+    EXPECT_EQ(take(sent('\x81', std::string(LONGEST, 'x'))), CloseCode::NONE);
     EXPECT_EQ(heard.size(), 1u);
 }
 
-TEST_F(RpcFramesTest, MessageThatIsTooLongIsRefusedBeforeItHasCome)
+TEST_F(WebSocketFramesTest, MessageThatIsTooLongIsRefusedBeforeItHasCome)
 {
     EXPECT_EQ(take("\x81\xFF\0\0\0\0\0\x01\0\x01"s), CloseCode::TOO_BIG);
-    RpcFrames others;
+    WebSocketFrames others(LONGEST);
     const auto ignore = [](FrameKind, std::string_view) { return true; };
     EXPECT_EQ(others.take(sent('\x01', std::string(40'000, 'x')), ignore), CloseCode::NONE);
     EXPECT_EQ(others.take(sent('\x80', std::string(40'000, 'x')).substr(0, 8), ignore), CloseCode::TOO_BIG);
 }
 
-TEST_F(RpcFramesTest, WhatBreaksTheProtocolIsRefused)
+TEST_F(WebSocketFramesTest, WhatBreaksTheProtocolIsRefused)
 {
     const std::string wrong[] = {sent('\x80', "alone"),
                                  sent('\x01', "one") + sent('\x81', "two"),
@@ -83,21 +85,21 @@ TEST_F(RpcFramesTest, WhatBreaksTheProtocolIsRefused)
                                  sent('\x09', "ping in pieces"),
                                  sent('\x89', std::string(126, 'x'))};
     for (const std::string& bytes : wrong) {
-        RpcFrames others;
+        WebSocketFrames others(LONGEST);
         EXPECT_EQ(others.take(bytes, [](FrameKind, std::string_view) { return true; }), CloseCode::PROTOCOL_ERROR)
             << testing::PrintToString(bytes);
     }
     EXPECT_EQ(take(sent('\x82', "binary")), CloseCode::UNSUPPORTED);
 }
 
-TEST_F(RpcFramesTest, WhoHasHeardEnoughHearsNoMore)
+TEST_F(WebSocketFramesTest, WhoHasHeardEnoughHearsNoMore)
 {
     most = 2;
     EXPECT_EQ(take(sent('\x81', "a") + sent('\x81', "b") + sent('\x81', "c")), CloseCode::NONE);
     EXPECT_THAT(heard, ElementsAre("1:a", "1:b"));
 }
 
-TEST_F(RpcFramesTest, FramesOfAServerAreNotMasked)
+TEST_F(WebSocketFramesTest, FramesOfAServerAreNotMasked)
 {
     EXPECT_EQ(frameOf(FrameKind::TEXT, "hi"), "\x81\x02hi");
     EXPECT_EQ(frameOf(FrameKind::TEXT, std::string(300, 'x')), "\x81\x7E\x01\x2C" + std::string(300, 'x'));

@@ -22,13 +22,17 @@ enum class CloseCode : int {
 
 /// A frame as a server sends it.
 std::string frameOf(FrameKind kind, std::string_view data);
+
+/// What is in a closing frame; nothing where there is nothing to complain of.
+std::string closingData(CloseCode code);
 std::string closingFrame(CloseCode code);
 
 /// Puts messages together from the bytes that a client sends, in pieces of any size. A message that is too long is
 /// refused when its length is known, before it has come.
-class RpcFrames {
+class WebSocketFrames {
 public:
-    static constexpr std::size_t LONGEST_MESSAGE = 65'536;
+    /// How long a message may be.
+    explicit WebSocketFrames(std::size_t longest) : mLongest(longest) {}
 
     /// Hears a text, whole, or a PING, PONG or CLOSE. Returns whether it wants to hear more.
     using Hear = std::function<bool(FrameKind, std::string_view)>;
@@ -42,6 +46,7 @@ private:
     CloseCode complaintAbout(const Head& head) const;
     bool deliver(const Head& head, std::string_view payload, const Hear& hear);
 
+    const std::size_t mLongest;
     std::string mBytes;   ///< what is no whole frame yet
     std::string mMessage; ///< its pieces so far
     bool mIsInPieces = false;

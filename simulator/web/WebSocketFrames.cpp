@@ -1,4 +1,4 @@
-#include "simulator/rpc/RpcFrames.h"
+#include "simulator/web/WebSocketFrames.h"
 
 #include <cstdint>
 #include <optional>
@@ -49,7 +49,7 @@ bool isKnown(FrameKind kind)
 
 } // namespace
 
-struct RpcFrames::Head {
+struct WebSocketFrames::Head {
     FrameKind kind = FrameKind::CONTINUATION;
     bool isLast = false;
     bool isPlain = false; ///< no reserved bit
@@ -96,14 +96,20 @@ std::string frameOf(FrameKind kind, std::string_view data)
     return frame.append(data);
 }
 
-std::string closingFrame(CloseCode code)
+std::string closingData(CloseCode code)
 {
     std::string data;
-    appendBigEndian(data, static_cast<std::uint64_t>(code), 2);
-    return frameOf(FrameKind::CLOSE, data);
+    if (code != CloseCode::NONE)
+        appendBigEndian(data, static_cast<std::uint64_t>(code), 2);
+    return data;
 }
 
-CloseCode RpcFrames::take(std::string_view bytes, const Hear& hear)
+std::string closingFrame(CloseCode code)
+{
+    return frameOf(FrameKind::CLOSE, closingData(code));
+}
+
+CloseCode WebSocketFrames::take(std::string_view bytes, const Hear& hear)
 {
     mBytes.append(bytes);
     std::string_view left = mBytes;
@@ -125,7 +131,7 @@ CloseCode RpcFrames::take(std::string_view bytes, const Hear& hear)
     return CloseCode::NONE;
 }
 
-CloseCode RpcFrames::complaintAbout(const Head& head) const
+CloseCode WebSocketFrames::complaintAbout(const Head& head) const
 {
     if (!head.isPlain || !head.isMasked || !isKnown(head.kind))
         return CloseCode::PROTOCOL_ERROR;
@@ -135,11 +141,11 @@ CloseCode RpcFrames::complaintAbout(const Head& head) const
         return CloseCode::UNSUPPORTED;
     if (mIsInPieces != (head.kind == FrameKind::CONTINUATION))
         return CloseCode::PROTOCOL_ERROR;
-    const bool isTooLong = head.length > LONGEST_MESSAGE || mMessage.size() + head.length > LONGEST_MESSAGE;
+    const bool isTooLong = head.length > mLongest || mMessage.size() + head.length > mLongest;
     return isTooLong ? CloseCode::TOO_BIG : CloseCode::NONE;
 }
 
-bool RpcFrames::deliver(const Head& head, std::string_view payload, const Hear& hear)
+bool WebSocketFrames::deliver(const Head& head, std::string_view payload, const Hear& hear)
 {
     if (isControl(head.kind))
         return hear(head.kind, payload);
