@@ -149,7 +149,14 @@ Json RpcMethods::hello(RpcParams& params)
             {"actions", host::Wire::names()},
             {"virtualClock", host::Clock::instance().isVirtual()},
             {"readOnly", mAbout.isReadOnly},
+            {"page", page()},
             {"methods", mDispatcher.names()}};
+}
+
+/// Who has the page's token presses keys there: that is nothing for who may only look.
+Json RpcMethods::page() const
+{
+    return mAbout.isReadOnly && mAbout.page != "/" ? Json() : Json(mAbout.page);
 }
 
 Json RpcMethods::screen(RpcParams& params)

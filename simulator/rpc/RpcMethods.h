@@ -12,6 +12,7 @@ namespace simulator {
 struct RpcAbout {
     std::string program;
     bool isReadOnly = false;
+    std::string page{}; ///< where the telephone's page is on this server, with its token
 };
 
 /// The methods of docs/test-interface.md for one client.
@@ -40,6 +41,7 @@ private:
     void addChanging(const std::string& name, Call call);
 
     Json hello(RpcParams& params);
+    Json page() const;
     Json screen(RpcParams& params);
     Json press(RpcParams& params);
     Json release(RpcParams& params);

@@ -43,7 +43,12 @@ std::string Endpoint::addressAndPort() const
 
 std::string Endpoint::url() const
 {
-    return "http://" + reachable() + "/" + (token.empty() ? "" : "?token=" + token);
+    return "http://" + reachable() + page();
+}
+
+std::string Endpoint::page() const
+{
+    return token.empty() ? "/" : "/?token=" + token;
 }
 
 std::string Endpoint::rpcUrl() const

@@ -17,6 +17,9 @@ struct Endpoint {
     /// What the user opens.
     std::string url() const;
 
+    /// The same on the server itself: "/?token=open_sesame".
+    std::string page() const;
+
     /// Where the test interface is.
     std::string rpcUrl() const;
 

@@ -67,7 +67,8 @@ void report(const Endpoint& endpoint)
 struct TestInterface {
     TestInterface(host::Lcd& lcd, KeyPad& keys, const Endpoint& endpoint, std::string token)
         : reader(lcd, displayedWords), watch(reader), phone(reader, clock, keys),
-          server(phone, watch, {program_invocation_short_name, fromEnvironment(RPC_READ_ONLY_VARIABLE).has_value()},
+          server(phone, watch,
+                 {program_invocation_short_name, fromEnvironment(RPC_READ_ONLY_VARIABLE).has_value(), endpoint.page()},
                  {endpoint, std::move(token)})
     {
     }

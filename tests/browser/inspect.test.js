@@ -148,6 +148,25 @@ describe("the inspector", SUITE_LIMIT, () => {
     assert.ok(asked.requests.every((request) => new URL(request).port === String(phone.port) || request.startsWith("data:")));
   });
 
+  test("leads to the telephone where that needs a token of its own, but not who may only look", LIMIT, async (t) => {
+    const forOthers = [...OPTIONS, "--listen", "127.0.0.1", "--token", "open_sesame"];
+    for (const options of [forOthers, [...forOthers, "--rpc-read-only"]]) {
+      const listening = await Phone.start({ options });
+      t.after(() => listening.stop());
+      const looking = await look(listening);
+      t.after(() => looking.close());
+      await until(async () => (await looking.page.textContent("#program")) !== "", "the inspector has been greeted");
+      const link = looking.page.getByRole("link", { name: "Telephone" });
+      if (options.includes("--rpc-read-only")) {
+        assert.equal(await link.count(), 0);
+        continue;
+      }
+      await link.click();
+      await looking.isConnected();
+      assert.equal(looking.page.url(), listening.url);
+    }
+  });
+
   test("is not there without the test interface", LIMIT, async (t) => {
     const plain = await Phone.start();
     t.after(() => plain.stop());

@@ -97,9 +97,11 @@ class Session {
     if (this.isGreeted) return;
     this.isGreeted = true;
     try {
-      const { program, panel } = await this.screen.call("hello");
+      const { program, panel, page } = await this.screen.call("hello");
       byId("program").textContent = `${program}, panel ${panel.variant}, port ${location.port || 80}`;
       document.title = `Inspector: ${program}`;
+      byId("page").hidden = page === null;
+      if (page !== null) byId("page").href = page;
       picture.setPanel(panel);
       await this.screen.call("subscribe");
     } catch {

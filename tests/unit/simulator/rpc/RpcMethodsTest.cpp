@@ -35,7 +35,7 @@ protected:
 
     std::mutex mutex;
     std::vector<std::uint64_t> changes;
-    RpcMethods methods{*phone, *watch, {"counter"}, [this](const auto& screen, const auto&) {
+    RpcMethods methods{*phone, *watch, {"counter", false, "/?token=secret"}, [this](const auto& screen, const auto&) {
                            const std::lock_guard lock(mutex);
                            changes.push_back(screen->number);
                        }};
@@ -51,6 +51,7 @@ TEST_F(RpcMethodsTest, HelloSaysWhoIsThere)
     EXPECT_EQ(hello["panel"]["width"], host::Lcd::current()->width());
     EXPECT_EQ(hello["language"], "en-GB");
     EXPECT_EQ(hello["readOnly"], false);
+    EXPECT_EQ(hello["page"], "/?token=secret");
     EXPECT_EQ(hello["virtualClock"], host::Clock::instance().isVirtual());
     EXPECT_THAT(hello["methods"].dump(), HasSubstr("\"hello\""));
 }
@@ -314,11 +315,12 @@ TEST_F(RpcMethodsTest, NonsenseIsRefused)
 
 TEST_F(RpcMethodsTest, WhoMayOnlyLookPressesNothing)
 {
-    const RpcMethods looking(*phone, *watch, {"counter", true}, {});
+    const RpcMethods looking(*phone, *watch, {"counter", true, "/?token=secret"}, {});
     for (const char* method : {"press", "release", "hold", "type", "advance", "setLanguage", "exchange", "act"})
         EXPECT_EQ(answerTo(looking, method, R"({"key":"ok"})")["error"]["code"], -32002) << method;
     EXPECT_EQ(answerTo(looking, "screen")["result"]["number"], 1);
     EXPECT_EQ(answerTo(looking, "hello")["result"]["readOnly"], true);
+    EXPECT_EQ(answerTo(looking, "hello")["result"]["page"], nullptr);
     EXPECT_EQ(handledKeys(), "");
 }
 
