@@ -42,19 +42,16 @@ public:
 
     void processGuiRequest(DisplayAPI::GuiRequestEvent& request) override
     {
-        if (request.getType() == VALUE) {
-            *static_cast<int*>(request.returnValue3) = mCount;
-        } else {
-            ++mCount;
-            mLetters += request.stringParam1.size() + static_cast<std::size_t>(request.intParam1 % 2);
-        }
+        if (request.getType() == VALUE)
+            *static_cast<int*>(request.returnValue3) = mTally.posts;
+        else
+            mTally.add(request.stringParam1, request.intParam1);
         signalComplete(request);
     }
 
 private:
     enum { VALUE = 1, COUNT = 2 };
-    int mCount = 0;
-    std::size_t mLetters = 0;
+    Tally mTally;
 };
 
 } // namespace bench
