@@ -160,7 +160,8 @@ void MainQueue::takeOver()
         gMostWaiting.store(waiting, std::memory_order_relaxed);
     queue.takenCount.store(waiting, std::memory_order_relaxed);
     queue.waiting.store(0, std::memory_order_release);
-    queue.awaited.store(false, std::memory_order_relaxed);
+    if (queue.awaited.load(std::memory_order_relaxed)) // posters read its line
+        queue.awaited.store(false, std::memory_order_relaxed);
 }
 
 int MainQueue::mostWaiting()

@@ -23,14 +23,17 @@ struct PegFreePool {
 /// `mutex`. The loop alone fills `taken`, under both; it takes its next message under `takenMutex` alone.
 ///
 /// Counts and flag are atomic only so that a waiting loop may look at them without a mutex; they are written under the
-/// part's. What posters write, what they read and what the loop writes lie on cache lines of their own.
+/// part's. What posters write, what they read and what the loop writes lie on cache lines of their own; so does
+/// `waiting`, so that a loop that looks for work leaves the mutex to posters. Processors fetch lines in pairs: what
+/// posters write is one, what they only read stands beside the loop's.
 struct PegMainQueue {
     static constexpr std::size_t LINE = 64;
 
-    alignas(LINE) PegMessage* head = nullptr;
+    alignas(2 * LINE) PegMessage* head = nullptr;
     PegMessage* tail = nullptr;
     pthread_mutex_t mutex;
-    std::atomic<int> waiting{0};
+
+    alignas(LINE) std::atomic<int> waiting{0};
 
     alignas(LINE) pthread_cond_t condition;
     std::atomic<bool> awaited{false};
