@@ -2,6 +2,8 @@
 
 #include "utilities/Prefetch.h"
 
+#include <thread>
+
 namespace DisplayAPI {
 
 namespace {
@@ -55,6 +57,14 @@ void insertAtHead(PegMainQueue& queue, PegMessage* message)
     if (!runsFirst && queue.tail == nullptr)
         queue.tail = message;
     addTo(runsFirst ? queue.takenCount : queue.waiting, 1);
+}
+
+void giveWayToLoop(int waiting)
+{
+    constexpr int MANY = 4096;
+    constexpr int BETWEEN_TURNS = 64; // other programs may take the turn instead
+    if (waiting >= MANY && waiting % BETWEEN_TURNS == 0)
+        std::this_thread::yield();
 }
 
 } // namespace DisplayAPI

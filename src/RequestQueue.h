@@ -52,19 +52,30 @@ void insertAtTail(PegMainQueue& queue, PegMessage* message);
 /// Ahead of everything that has not begun. Under the queue's mutex.
 void insertAtHead(PegMainQueue& queue, PegMessage* message);
 
+/// Lets the loop go on where posters outrun it: with more of them than CPUs it would get a turn like each of them, and
+/// what waits would fill the memory. To be called for each message that nobody waits for, without the mutex; `waiting`
+/// is how many there were then.
+void giveWayToLoop(int waiting);
+
 /// Links `message` in and wakes the loop: from then on it and its record belong to the GUI thread. `admit` has the last
 /// word before that, under the mutex; where it says no, the message stays the caller's. Returns what it has said.
 template <typename Admit>
 bool enqueue(PegMessage* message, Place place, Answer answer, Admit admit)
 {
     PegMainQueue& queue = *gtPegMainQueue;
-    MainQueueLock lock(queue.mutex);
-    if (!admit())
-        return false;
-    (place == Place::TAIL ? insertAtTail : insertAtHead)(queue, message);
-    if (answer == Answer::AWAITED)
-        queue.awaited.store(true, std::memory_order_relaxed);
-    pthread_cond_broadcast(&queue.condition);
+    int waiting = 0;
+    {
+        MainQueueLock lock(queue.mutex);
+        if (!admit())
+            return false;
+        (place == Place::TAIL ? insertAtTail : insertAtHead)(queue, message);
+        if (answer == Answer::AWAITED)
+            queue.awaited.store(true, std::memory_order_relaxed);
+        waiting = queue.waiting.load(std::memory_order_relaxed);
+        pthread_cond_broadcast(&queue.condition);
+    }
+    if (answer == Answer::NOT_AWAITED)
+        giveWayToLoop(waiting);
     return true;
 }
 
