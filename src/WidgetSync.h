@@ -63,7 +63,6 @@ struct Widget::Sync {
 
 private:
     static constexpr std::size_t LINE = 64;
-    static_assert(sizeof(Wait) < LINE, "what keeps the counts apart fills a line up");
 
     /// Written by one thread at a time.
     struct Count : std::atomic<unsigned> {
@@ -81,9 +80,8 @@ private:
     std::atomic<int> mHolders{1};                          ///< the widget, and each thread that is in a post
     Count mEntered;
     std::atomic<bool> mHasEnded{false};
+    alignas(LINE) std::atomic<unsigned> mLeft{0}; ///< posters write above, the GUI thread below
     alignas(Wait) std::byte mWait[sizeof(Wait)];
-    [[maybe_unused]] std::byte mApart[LINE - sizeof(Wait)]; ///< posters write above, the GUI thread below
-    std::atomic<unsigned> mLeft{0};
 };
 
 /// One post on a widget: holds the request lock, and what the widget shares, until its end.

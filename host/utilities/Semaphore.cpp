@@ -22,7 +22,7 @@ static_assert(std::endian::native == std::endian::little, "the permits are the l
 /// somebody has to be woken, so that give() need not look at the object again. The taker may have destroyed it by then.
 class Permits {
 public:
-    explicit Permits(std::uint32_t permits) : mState(permits) {}
+    explicit Permits(std::atomic<std::uint64_t>& state) : mState(state) {}
 
     bool tryTake()
     {
@@ -79,12 +79,13 @@ private:
         return taken;
     }
 
-    std::atomic<std::uint64_t> mState;
+    std::atomic<std::uint64_t>& mState;
 };
 
+} // namespace
+
 /// What each thread holds of a semaphore that may be taken again.
-class Holders {
-public:
+struct Semaphore::Holders {
     /// Whether the calling thread held a permit, and now holds it once more.
     bool takeAgain()
     {
@@ -119,64 +120,11 @@ private:
     std::map<unsigned int, int> mDepths;
 };
 
-} // namespace
-
 /// One that starts with permits is used as a lock, others to announce something.
-struct Semaphore::Impl {
-    Impl(State state, int maximum, bool holderMayTakeAgain)
-        : mPermits(static_cast<std::uint32_t>(state == AVAILABLE ? maximum : 0)),
-          mMaximum(static_cast<std::uint32_t>(maximum)), mIsLock(state == AVAILABLE),
-          mHolders(holderMayTakeAgain ? std::make_unique<Holders>() : nullptr)
-    {
-    }
-
-    bool take(int milliseconds)
-    {
-        if (mHolders && mHolders->takeAgain())
-            return true;
-        const bool taken = mIsLock ? takeLock(milliseconds) : takeAnnounced(milliseconds);
-        if (taken && mHolders)
-            mHolders->taken();
-        return taken;
-    }
-
-    void give()
-    {
-        if (mHolders && mHolders->keeps())
-            return;
-        if (!mIsLock)
-            Spin::followWaiter(mCpu);
-        mPermits.give(mMaximum);
-    }
-
-private:
-    bool takeLock(int milliseconds)
-    {
-        const bool taken = mPermits.tryTake() ||
-                           mPermits.take(host::Deadline(milliseconds), true, mCpu.load(std::memory_order_relaxed));
-        if (taken)
-            mCpu.store(Spin::cpu(), std::memory_order_relaxed);
-        return taken;
-    }
-
-    bool takeAnnounced(int milliseconds)
-    {
-        Spin::leaveTrace(mCpu);
-        const bool taken = mPermits.tryTake() || mPermits.take(host::Deadline(milliseconds), false, Spin::partner());
-        if (taken)
-            Spin::followWaker(mCpu);
-        return taken;
-    }
-
-    Permits mPermits;
-    const std::uint32_t mMaximum;
-    Spin::Trace mCpu{Spin::UNKNOWN}; ///< the holder's, or between taker and giver
-    const bool mIsLock;
-    const std::unique_ptr<Holders> mHolders;
-};
-
 Semaphore::Semaphore(State state, int maximum, bool holderMayTakeAgain)
-    : mImpl(std::make_unique<Impl>(state, maximum, holderMayTakeAgain))
+    : mState(static_cast<std::uint64_t>(state == AVAILABLE ? maximum : 0)),
+      mMaximum(static_cast<std::uint32_t>(maximum)), mIsLock(state == AVAILABLE),
+      mHolders(holderMayTakeAgain ? std::make_unique<Holders>() : nullptr)
 {
 }
 
@@ -184,10 +132,39 @@ Semaphore::~Semaphore() = default;
 
 bool Semaphore::take(int milliseconds)
 {
-    return mImpl->take(milliseconds);
+    if (mHolders && mHolders->takeAgain())
+        return true;
+    const bool taken = mIsLock ? takeLock(milliseconds) : takeAnnounced(milliseconds);
+    if (taken && mHolders)
+        mHolders->taken();
+    return taken;
 }
 
 void Semaphore::give()
 {
-    mImpl->give();
+    if (mHolders && mHolders->keeps())
+        return;
+    if (!mIsLock)
+        Spin::followWaiter(mCpu);
+    Permits(mState).give(mMaximum);
+}
+
+bool Semaphore::takeLock(int milliseconds)
+{
+    Permits permits(mState);
+    const bool taken =
+        permits.tryTake() || permits.take(host::Deadline(milliseconds), true, mCpu.load(std::memory_order_relaxed));
+    if (taken)
+        mCpu.store(Spin::cpu(), std::memory_order_relaxed);
+    return taken;
+}
+
+bool Semaphore::takeAnnounced(int milliseconds)
+{
+    Permits permits(mState);
+    Spin::leaveTrace(mCpu);
+    const bool taken = permits.tryTake() || permits.take(host::Deadline(milliseconds), false, Spin::partner());
+    if (taken)
+        Spin::followWaker(mCpu);
+    return taken;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <atomic>
+#include <cstdint>
 #include <memory>
 
 /// A counting semaphore. From any thread.
@@ -21,6 +23,14 @@ public:
     void give();
 
 private:
-    struct Impl;
-    std::unique_ptr<Impl> mImpl;
+    struct Holders;
+
+    bool takeLock(int milliseconds);
+    bool takeAnnounced(int milliseconds);
+
+    std::atomic<std::uint64_t> mState; ///< permits, and who sleeps
+    const std::uint32_t mMaximum;
+    std::atomic<std::int16_t> mCpu{-1}; ///< the holder's, or for taker and giver to tell each other where they run
+    const bool mIsLock;
+    const std::unique_ptr<Holders> mHolders; ///< null where it may not be taken again
 };
