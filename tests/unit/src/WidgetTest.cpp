@@ -57,6 +57,16 @@ protected:
     std::atomic<int> liveRequests{0};
 };
 
+/// Waits as a loop does until so many messages are queued.
+void waitForMessages(int count)
+{
+    PegMainQueue& queue = *gtPegMainQueue;
+    pthread_mutex_lock(&queue.mutex);
+    while (queue.count() < count)
+        pthread_cond_wait(&queue.condition, &queue.mutex);
+    pthread_mutex_unlock(&queue.mutex);
+}
+
 INSTANTIATE_TEST_SUITE_P(, WidgetPostTest, testing::ValuesIn(POST_OPERATIONS),
                          [](const auto& tested) { return std::string(tested.param.name); });
 
@@ -178,15 +188,8 @@ TEST_P(WidgetPostTest, InstallsAWaitConditionOnlyWhereTheCallerWaits)
 
 TEST_P(WidgetPostTest, WakesEveryThreadThatWaitsForMessages)
 {
-    PegMainQueue& queue = *gtPegMainQueue;
-    const auto waitForMessage = [&] {
-        pthread_mutex_lock(&queue.mutex);
-        while (queue.count() == 0)
-            pthread_cond_wait(&queue.condition, &queue.mutex);
-        pthread_mutex_unlock(&queue.mutex);
-    };
-    Worker first(waitForMessage);
-    Worker second(waitForMessage);
+    Worker first([] { waitForMessages(1); });
+    Worker second([] { waitForMessages(1); });
     EXPECT_TRUE(first.isBlocked());
     EXPECT_TRUE(second.isBlocked());
 
@@ -195,6 +198,19 @@ TEST_P(WidgetPostTest, WakesEveryThreadThatWaitsForMessages)
     second.join();
 
     gui.step();
+}
+
+TEST_P(WidgetPostTest, WakesThemAlsoWhereTheLoopHasTakenOverAndNotBegun)
+{
+    widget.postEventAsync(1);
+    gui.takeOver();
+    Worker waiting([] { waitForMessages(2); });
+    EXPECT_TRUE(waiting.isBlocked());
+
+    Worker poster([&] { (widget.*GetParam().postCode)(2); });
+    waiting.join();
+
+    gui.runAll();
 }
 
 TEST_P(WidgetPostTest, RunsOnTheCallingThreadWhereNoFilterIsInstalled)
