@@ -36,7 +36,6 @@ double textbookCall(Seats seats, int calls);
 
 // Each gives its cases; `directory` is where the benchmark's programs are.
 std::vector<Case> libraryCases();
-std::vector<Case> payloadCases();
 std::vector<Case> traceCases();
 std::vector<Case> amongPostersCases();
 std::vector<Case> neighbourCases();
@@ -66,6 +65,7 @@ std::vector<Case> heapCases(const std::string& directory);
 std::vector<Case> firstFrameCases(const std::string& directory);
 std::vector<Case> futexCases();
 std::vector<Case> mutexLoopCases();
+std::vector<Case> bareListCases();
 std::vector<Case> libuvCases();
 std::vector<Case> glibCases();
 std::vector<Case> asioCases();

@@ -5,19 +5,24 @@
 #include "DisplayAPI/CommandListener.h"
 
 #include <atomic>
+#include <deque>
 
 namespace bench {
 
 namespace {
 
-double posts(int producers)
+enum class Payload { NONE, TEXT_AND_NUMBER };
+enum class Facades { ONE, ONE_EACH };
+
+double posts(int producers, Payload payload, Facades facades = Facades::ONE_EACH)
 {
     Phone phone;
-    std::vector<Counter> counters(static_cast<std::size_t>(producers));
+    std::vector<Counter> counters(facades == Facades::ONE ? 1 : static_cast<std::size_t>(producers));
     const auto start = Clock::now();
     runProducers(producers, [&](int i) {
+        Counter& counter = counters[static_cast<std::size_t>(i) % counters.size()];
         for (int n = 0; n < POSTS / producers; ++n)
-            counters[static_cast<std::size_t>(i)].count();
+            payload == Payload::NONE ? counter.count() : counter.count(TEXT, n);
     });
     int sum = 0;
     for (Counter& counter : counters)
@@ -29,9 +34,13 @@ double posts(int producers)
 
 class Receiver : public DisplayAPI::CommandListener {
 public:
-    void commandAction(DisplayAPI::Command*, DisplayAPI::Displayable*) override
+    explicit Receiver(Payload payload) : mPayload(payload) {}
+
+    void commandAction(DisplayAPI::Command* command, DisplayAPI::Displayable*) override
     {
-        mReceived.fetch_add(1, std::memory_order_relaxed);
+        if (mPayload != Payload::NONE)
+            mLetters += command->getBasicText().size() + static_cast<std::size_t>(command->getType());
+        mReceived.store(mReceived.load(std::memory_order_relaxed) + 1, std::memory_order_relaxed);
     }
 
     void waitForAll()
@@ -41,16 +50,21 @@ public:
     }
 
 private:
+    const Payload mPayload;
+    std::size_t mLetters = 0;
     std::atomic<int> mReceived{0};
 };
 
-double notifications()
+double notifications(Payload payload)
 {
-    Receiver receiver;
-    DisplayAPI::Command command("", DisplayAPI::Command::OK);
+    const std::size_t count = payload == Payload::NONE ? 1 : 64;
+    Receiver receiver(payload);
+    std::deque<DisplayAPI::Command> commands;
+    while (commands.size() < count)
+        commands.emplace_back(payload == Payload::NONE ? "" : TEXT, DisplayAPI::Command::Type(commands.size() % 2));
     const auto start = Clock::now();
-    for (int i = 0; i < POSTS; ++i)
-        receiver.postCommandAction(&command, nullptr);
+    for (std::size_t i = 0; i < POSTS; ++i)
+        receiver.postCommandAction(&commands[i % count], nullptr);
     receiver.waitForAll();
     return millionsPerSecond(POSTS, start);
 }
@@ -67,12 +81,22 @@ double libraryCall(Seats seats, int calls)
 
 std::vector<Case> libraryCases()
 {
-    return {{PINNED, "DisplayAPI", "ns", [] { return libraryCall(ONE_CPU, ROUND_TRIPS); }},
-            {UNPINNED, "DisplayAPI", "ns", [] { return libraryCall(FREE, ROUND_TRIPS); }},
-            {PINNED_APART, "DisplayAPI", "ns", [] { return libraryCall(TWO_CPUS, ROUND_TRIPS); }},
-            {ONE_PRODUCER, "DisplayAPI", "M/s", [] { return posts(1); }},
-            {TWO_PRODUCERS, "DisplayAPI", "M/s", [] { return posts(2); }},
-            {NOTIFICATIONS, "DisplayAPI", "M/s", [] { return notifications(); }}};
+    constexpr auto NONE = Payload::NONE;
+    constexpr auto TEXT_AND_NUMBER = Payload::TEXT_AND_NUMBER;
+    std::vector<Case> cases{
+        {PINNED, "DisplayAPI", "ns", [] { return libraryCall(ONE_CPU, ROUND_TRIPS); }},
+        {UNPINNED, "DisplayAPI", "ns", [] { return libraryCall(FREE, ROUND_TRIPS); }},
+        {PINNED_APART, "DisplayAPI", "ns", [] { return libraryCall(TWO_CPUS, ROUND_TRIPS); }},
+        {ONE_PRODUCER, "DisplayAPI", "M/s", [] { return posts(1, NONE); }},
+        {TWO_PRODUCERS, "DisplayAPI", "M/s", [] { return posts(2, NONE); }},
+        {NOTIFICATIONS, "DisplayAPI", "M/s", [] { return notifications(NONE); }},
+        {ONE_WITH_PAYLOAD, "DisplayAPI", "M/s", [] { return posts(1, TEXT_AND_NUMBER); }},
+        {TWO_WITH_PAYLOAD, "DisplayAPI, one facade", "M/s", [] { return posts(2, TEXT_AND_NUMBER, Facades::ONE); }},
+        {TWO_WITH_PAYLOAD, "DisplayAPI, a facade each", "M/s", [] { return posts(2, TEXT_AND_NUMBER); }},
+        {LABELLED_NOTIFICATIONS, "DisplayAPI", "M/s", [] { return notifications(TEXT_AND_NUMBER); }}};
+    for (int producers = 1; producers <= 32; producers *= 2)
+        cases.push_back({SCALE, std::to_string(producers), "M/s", [=] { return posts(producers, TEXT_AND_NUMBER); }});
+    return cases;
 }
 
 } // namespace bench

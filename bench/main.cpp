@@ -9,22 +9,18 @@ namespace {
 
 std::vector<bench::Case> allCases(const std::string& directory)
 {
-    std::vector<std::vector<bench::Case>> sources{bench::libraryCases(),       bench::payloadCases(),
-                                                  bench::traceCases(),         bench::amongPostersCases(),
-                                                  bench::neighbourCases(),     bench::listCases(),
-                                                  bench::menuCases(),          bench::dialerCases(),
-                                                  bench::popupCases(),         bench::formCases(),
-                                                  bench::callLogCases(),       bench::tabCases(),
-                                                  bench::searchListCases(),    bench::treeCases(),
-                                                  bench::idleCases(),          bench::desktopCases(),
-                                                  bench::callCases(),          bench::callRowsCases(),
-                                                  bench::contactSearchCases(), bench::incomingCallCases(),
-                                                  bench::deskStartCases(),     bench::deskCallsCases(),
-                                                  bench::repaintCases(),       bench::screenTextCases(),
-                                                  bench::languageCases(),      bench::observerCases(),
-                                                  bench::destroyingCases(),    bench::firstFrameCases(directory),
-                                                  bench::heapCases(directory), bench::futexCases(),
-                                                  bench::mutexLoopCases()};
+    std::vector<std::vector<bench::Case>> sources{
+        bench::libraryCases(),       bench::traceCases(),      bench::amongPostersCases(),
+        bench::neighbourCases(),     bench::listCases(),       bench::menuCases(),
+        bench::dialerCases(),        bench::popupCases(),      bench::formCases(),
+        bench::callLogCases(),       bench::tabCases(),        bench::searchListCases(),
+        bench::treeCases(),          bench::idleCases(),       bench::desktopCases(),
+        bench::callCases(),          bench::callRowsCases(),   bench::contactSearchCases(),
+        bench::incomingCallCases(),  bench::deskStartCases(),  bench::deskCallsCases(),
+        bench::repaintCases(),       bench::screenTextCases(), bench::languageCases(),
+        bench::observerCases(),      bench::destroyingCases(), bench::firstFrameCases(directory),
+        bench::heapCases(directory), bench::futexCases(),      bench::bareListCases(),
+        bench::mutexLoopCases()};
 #ifdef BENCH_LIBUV
     sources.push_back(bench::libuvCases());
 #endif
