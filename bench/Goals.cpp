@@ -25,6 +25,8 @@ std::vector<Goal> goals()
             {FILLING, "DisplayAPI, on the GUI thread", {LIST_WIDGET_OF_ONE_HEIGHT}, MOST, 0.95},
             {FILLING, "DisplayAPI, by a worker, until shown", {LIST_WIDGET_OF_ONE_HEIGHT}, MOST, 0.7},
             {HEAP, "Facade, row and text", {}, MOST, 180},
+            {SCREEN, "First frame after process start", {}, MOST, 4.5},
+            {SCREEN, "First frame after process start, memory at most", {}, MOST, 8},
             {SCALE, "32", {"1"}, LEAST, 0.5}};
 }
 

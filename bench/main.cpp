@@ -42,6 +42,17 @@ std::vector<bench::Case> allCases(const std::string& directory)
     return cases;
 }
 
+/// Whether a goal is about the case, or about one that is compared with it.
+bool isWanted(const bench::Case& c)
+{
+    const auto goals = bench::goals();
+    return std::any_of(goals.begin(), goals.end(), [&](const bench::Goal& goal) {
+        const auto& peers = goal.peers;
+        return goal.group == c.group &&
+               (goal.name == c.name || std::find(peers.begin(), peers.end(), c.name) != peers.end());
+    });
+}
+
 /// Groups in the order in which the library gives them.
 void sortByGroup(std::vector<bench::Case>& cases)
 {
@@ -60,12 +71,14 @@ int main(int argc, char** argv)
     const int rounds = argc > 1 ? std::atoi(argv[1]) : 11;
     const std::string filter = argc > 2 ? argv[2] : "";
     if (rounds < 1) {
-        std::fprintf(stderr, "usage: displayapi_bench [ROUNDS [PART-OF-A-GROUP'S-OR-CASE'S-NAME]]\n");
+        std::fprintf(stderr, "usage: displayapi_bench [ROUNDS [goals | PART-OF-A-GROUP'S-OR-CASE'S-NAME]]\n");
         return 2;
     }
     const auto directory = std::filesystem::canonical("/proc/self/exe").parent_path();
     auto cases = allCases(directory.string());
     std::erase_if(cases, [&](const bench::Case& c) {
+        if (filter == "goals")
+            return !isWanted(c);
         return c.group.find(filter) == std::string::npos && c.name.find(filter) == std::string::npos;
     });
     sortByGroup(cases);
