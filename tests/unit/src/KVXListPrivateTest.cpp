@@ -98,6 +98,20 @@ TEST_F(KVXListPrivateTest, DisplayHearsOfLinesOfTheWayBackAndOfItsComing)
     side().connectDisplayChangedSignal(nullptr);
 }
 
+TEST_F(KVXListPrivateTest, TellsTheDisplayOfOneItHasJoinedUntilItLeaves)
+{
+    doubles::DisplayPrivateDouble display;
+    KVXListPrivate attached(nullptr);
+    attached.connectDisplayChangedSignal(&display);
+    ListBoxPrivateIfc& joining = side();
+    joining.join(&attached);
+    doubles::Recorder::instance().clear();
+    joining.setSelectedIndex(1);
+    joining.disjoin();
+    joining.setSelectedIndex(0);
+    EXPECT_EQ(doubles::Recorder::instance().count("display: displayChanged"), 1);
+}
+
 TEST_F(KVXListPrivateTest, NewLocaleReachesTheRows)
 {
     doubles::Recorder::instance().clear();

@@ -167,6 +167,16 @@ TYPED_TEST(ListBoxPrivateTest, ListThatIsShownTellsTheDisplay)
     EXPECT_EQ(this->display.changes, 1);
 }
 
+TYPED_TEST(ListBoxPrivateTest, TellsTheDisplayOfOneItHasJoinedUntilItLeaves)
+{
+    typename TypeParam::ListBox joining(&this->owner, false);
+    joining.join(&this->list);
+    joining.show();
+    joining.disjoin();
+    joining.show();
+    EXPECT_EQ(this->display.changes, 1);
+}
+
 TYPED_TEST(ListBoxPrivateTest, HideTakesTheWidgetOffTheScreenAndBack)
 {
     this->putOnScreen(this->list);
