@@ -230,6 +230,22 @@ TEST_P(IdleDisplayPrivateTest, ClockGoesOnAndTheDateWithIt)
     display.unSubscribe();
 }
 
+TEST_P(IdleDisplayPrivateTest, TimeThatItShowedWhenItWasHiddenIsPaintedAgain)
+{
+    host::Lcd& lcd = *host::Lcd::current();
+    time.pass(MINUTE);
+    display.hide();
+    time.pass(15 * MINUTE);
+    display.show();
+    lcd.paint();
+    display.setTimeInSystemWindow(14, 6, 0);
+    lcd.paint();
+    const auto set = lcd.picture();
+    idle->getPrivateImpl()->getWidget()->Invalidate();
+    lcd.paint();
+    EXPECT_TRUE(set.pixels == lcd.picture().pixels);
+}
+
 TEST_P(IdleDisplayPrivateTest, HasAClockOfItsOwnWhereTheStatusLinesHaveNone)
 {
     display.showTimeInSystemWindow(false);
