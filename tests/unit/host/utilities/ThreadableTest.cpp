@@ -4,7 +4,10 @@
 #include "utilities/Threader.h"
 
 #include <array>
+#include <atomic>
+#include <chrono>
 #include <functional>
+#include <future>
 #include <gtest/gtest.h>
 #include <memory>
 #include <pthread.h>
@@ -104,6 +107,27 @@ TEST(Threadable, WaitingTwiceReturns)
     ASSERT_TRUE(Threader().start(&body, "", 1, 0));
     body.waitForThreadCompletion();
     body.waitForThreadCompletion();
+}
+
+TEST(Threadable, WhoHasWaitedFindsNothingLeftOfTheThread)
+{
+    struct LastOfTheThread {
+        ~LastOfTheThread()
+        {
+            hasBeenWaitedFor->wait_for(std::chrono::milliseconds(50)); // in vain, or else nobody waits for this
+            *isGone = true;
+        }
+        std::future<void>* hasBeenWaitedFor;
+        std::atomic<bool>* isGone;
+    };
+    std::promise<void> waited;
+    std::future<void> hasBeenWaitedFor = waited.get_future();
+    std::atomic<bool> isGone = false;
+    Body body([&](Body&) { thread_local LastOfTheThread last{&hasBeenWaitedFor, &isGone}; });
+    ASSERT_TRUE(Threader().start(&body, "", 1, 0));
+    body.waitForThreadCompletion();
+    EXPECT_TRUE(isGone);
+    waited.set_value();
 }
 
 TEST(Threadable, SeveralThreadsMayWait)

@@ -2,6 +2,7 @@
 
 #include "host/lcd/Geometry.h"
 #include "host/lcd/Lcd.h"
+#include "host/widgets/edit/Utf16.h"
 #include "support/Keys.h"
 #include "support/RunningToolkit.h"
 #include "support/VirtualTime.h"
@@ -127,6 +128,27 @@ TEST_F(EditPageTest, BreaksBehindTheLastSpaceThatFitsAndKeepsEachCharacter)
     lines.lay(u"one two three four five six", host::Font::TEXT, 100);
     for (std::size_t line = 0; line + 1 < lines.count(); ++line)
         EXPECT_EQ(lines.textOf(line).back(), u' ');
+}
+
+TEST_F(EditPageTest, BreaksBesideAnIdeographButBeforeNothingThatBelongsToTheOneBefore)
+{
+    const auto breaksBetween = [](char16_t before, char16_t next) {
+        const std::u16string fits{u'i', u' ', before};
+        host::PageLines lines;
+        lines.lay(fits + next, host::Font::TEXT,
+                  host::Lcd::current()->textWidth(host::Font::TEXT, host::toPegString(fits)));
+        EXPECT_EQ(lines.count(), 2u);
+        return lines[1].begin == fits.size();
+    };
+    constexpr char16_t FIRST = 0x2E80;
+    EXPECT_FALSE(breaksBetween(u'a', u'b'));
+    EXPECT_FALSE(breaksBetween(FIRST - 1, u'b'));
+    EXPECT_TRUE(breaksBetween(u'-', u'b'));
+    EXPECT_TRUE(breaksBetween(FIRST, u'b'));
+    EXPECT_TRUE(breaksBetween(u'a', FIRST));
+    EXPECT_TRUE(breaksBetween(u'文', u'章'));
+    for (const char16_t sign : std::u16string(u"、。，．！？」』）ーっゃゅょッャュョ"))
+        EXPECT_FALSE(breaksBetween(u'文', sign)) << static_cast<int>(sign);
 }
 
 TEST_F(EditPageTest, LeftAndRightGoThroughAllLines)
