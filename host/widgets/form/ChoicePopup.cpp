@@ -55,11 +55,10 @@ void ChoicePopup::Resize(const PegRect& area)
         rectAt(area.left + edge(), area.top + edge(), widthOf(area) - 2 * edge(), heightOf(area) - 2 * edge()));
 }
 
+/// On two lines the column fills all of it.
 void ChoicePopup::Draw(PegPainter& painter)
 {
-    if (hasTwoLines())
-        painter.fill(Area(), Level::BARE);
-    else
+    if (!hasTwoLines())
         drawPopupFrame(painter, Area());
 }
 
