@@ -2,6 +2,7 @@
 
 #include "host/drawing/LineEdges.h"
 #include "host/drawing/PangoThreads.h"
+#include "host/drawing/Surface.h"
 #include "host/lcd/Utf8.h"
 
 #include <algorithm>
@@ -37,30 +38,22 @@ TextMask::Word eightPixels(const unsigned char* pixels)
 struct PangoShaper::Canvas {
     explicit Canvas(int canvasWidth)
         : width(canvasWidth), surface(cairo_image_surface_create(CAIRO_FORMAT_A8, width, TextMask::HEIGHT)),
-          context(cairo_create(surface))
+          drawing(cairo_create(surface.get()))
     {
     }
-
-    ~Canvas()
-    {
-        cairo_destroy(context);
-        cairo_surface_destroy(surface);
-    }
-
-    Canvas(const Canvas&) = delete;
-    Canvas& operator=(const Canvas&) = delete;
 
     /// Draws what lies in the first `columns` pixels; what is to the right of them is undefined.
     void draw(PangoLayoutLine* line, int columns) const;
     void copyTo(TextMask& mask) const;
 
     int width;
-    cairo_surface_t* surface;
-    cairo_t* context;
+    Surface surface;
+    Context drawing;
 };
 
 void PangoShaper::Canvas::draw(PangoLayoutLine* line, int columns) const
 {
+    cairo_t* const context = drawing.get();
     cairo_set_operator(context, CAIRO_OPERATOR_CLEAR);
     cairo_rectangle(context, 0, 0, columns, TextMask::HEIGHT);
     cairo_fill(context);
@@ -71,9 +64,9 @@ void PangoShaper::Canvas::draw(PangoLayoutLine* line, int columns) const
 
 void PangoShaper::Canvas::copyTo(TextMask& mask) const
 {
-    cairo_surface_flush(surface);
-    const unsigned char* pixels = cairo_image_surface_get_data(surface);
-    const int stride = cairo_image_surface_get_stride(surface);
+    cairo_surface_flush(surface.get());
+    const unsigned char* pixels = cairo_image_surface_get_data(surface.get());
+    const int stride = cairo_image_surface_get_stride(surface.get());
     mask.clear();
     for (int y = 0; y < TextMask::HEIGHT; ++y, pixels += stride) {
         const auto row = mask.row(y);

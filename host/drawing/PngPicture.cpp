@@ -45,7 +45,8 @@ Surface onPaper(const Surface& picture, const Size& size)
 {
     const Size whole = sizeOf(picture);
     Surface paper(cairo_image_surface_create(CAIRO_FORMAT_RGB24, size.width, size.height));
-    cairo_t* const drawing = cairo_create(paper.get());
+    const Context owned(cairo_create(paper.get()));
+    cairo_t* const drawing = owned.get();
     cairo_set_source_rgb(drawing, 1, 1, 1);
     cairo_paint(drawing);
     cairo_scale(drawing, static_cast<double>(size.width) / whole.width,
@@ -53,7 +54,6 @@ Surface onPaper(const Surface& picture, const Size& size)
     cairo_set_source_surface(drawing, picture.get(), 0, 0);
     cairo_pattern_set_extend(cairo_get_source(drawing), CAIRO_EXTEND_PAD);
     cairo_paint(drawing);
-    cairo_destroy(drawing);
     cairo_surface_flush(paper.get());
     return paper;
 }

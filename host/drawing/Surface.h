@@ -13,6 +13,13 @@ struct DestroySurface {
 /// Pixels as the drawing library has them. Never null; the status tells whether there are any.
 using Surface = std::unique_ptr<cairo_surface_t, DestroySurface>;
 
+struct DestroyContext {
+    void operator()(cairo_t* context) const { cairo_destroy(context); }
+};
+
+/// What draws on a surface, and keeps it meanwhile.
+using Context = std::unique_ptr<cairo_t, DestroyContext>;
+
 inline bool isFine(const Surface& surface)
 {
     return cairo_surface_status(surface.get()) == CAIRO_STATUS_SUCCESS;
