@@ -2,6 +2,7 @@
 
 #include "host/languages/Catalogue.h"
 #include "host/utilities/Beside.h"
+#include "host/utilities/TranslationMemory.h"
 #include "utilities/Logging.h"
 
 #include <algorithm>
@@ -108,8 +109,11 @@ std::string Languages::translate(const std::string& key)
     if (now.catalogue == nullptr)
         return key;
     const auto found = now.catalogue->texts.find(key);
-    if (found != now.catalogue->texts.end())
+    if (found != now.catalogue->texts.end()) {
+        if (TranslationMemory::isOn())
+            TranslationMemory::instance().answered(key, found->second);
         return found->second;
+    }
     reportMissing(now, key);
     return key;
 }

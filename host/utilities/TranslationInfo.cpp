@@ -1,5 +1,6 @@
 #include "utilities/TranslationInfo.h"
 
+#include "host/utilities/TranslationMemory.h"
 #include "utilities/TranslatorIfc.h"
 
 #include <utility>
@@ -11,7 +12,10 @@ TranslationInfo::TranslationInfo(std::string key, TranslatorIfc* translator, std
 
 std::string TranslationInfo::getString() const
 {
-    return mTranslator != nullptr ? mTranslator->translate(mKey) : mKey;
+    std::string text = mTranslator != nullptr ? mTranslator->translate(mKey) : mKey;
+    if (host::TranslationMemory::isOn())
+        host::TranslationMemory::instance().shown(text, mKey, mAddition);
+    return text;
 }
 
 std::string TranslationInfo::getCompleteString() const

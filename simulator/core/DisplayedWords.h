@@ -10,4 +10,7 @@ ScreenWords displayedWords();
 /// The program's language, as the web names it; empty where it names none. On the GUI thread.
 std::string displayedLanguage();
 
+/// What the program's catalogue has for the key; the key where it has nothing. On the GUI thread.
+std::string displayedText(const std::string& key);
+
 } // namespace simulator

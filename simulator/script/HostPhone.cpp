@@ -100,6 +100,39 @@ std::string HostPhone::say(const std::string& wire, const std::string& line)
     return host::Wire::say(wire, line);
 }
 
+/// Between two messages. Nothing where the GUI thread does not come to it.
+template <typename Answer>
+std::optional<Answer> HostPhone::onGuiThread(std::function<Answer()> ask)
+{
+    const auto answer = std::make_shared<std::promise<std::optional<Answer>>>(); // it may come when nobody waits
+    auto answered = answer->get_future();
+    mReader.read([answer, ask = std::move(ask)](const ScreenPtr& screen) {
+        answer->set_value(screen != nullptr ? std::optional(ask()) : std::nullopt);
+    });
+    return answered.wait_for(PATIENCE) == std::future_status::ready ? answered.get() : std::nullopt;
+}
+
+std::optional<host::Workplace> HostPhone::workplace(const std::vector<std::string>& wanted)
+{
+    return onGuiThread<host::Workplace>([wanted] { return host::Workplace::read(wanted); });
+}
+
+host::Workplace::Typed HostPhone::type(const std::string& text)
+{
+    return onGuiThread<host::Workplace::Typed>([text] { return host::Workplace::type(text); })
+        .value_or(host::Workplace::Typed::NOWHERE);
+}
+
+std::string HostPhone::translate(const std::string& key)
+{
+    return onGuiThread<std::string>([key] { return displayedText(key); }).value_or(key);
+}
+
+void HostPhone::rest(milliseconds time)
+{
+    mClock.rest(time);
+}
+
 host::Picture HostPhone::picture()
 {
     return mLcd.picture();

@@ -22,6 +22,10 @@ public:
     bool advance(std::int64_t milliseconds) override;
     bool settle(const std::function<void()>& standsStill) override;
     std::string say(const std::string& wire, const std::string& line) override;
+    std::optional<host::Workplace> workplace(const std::vector<std::string>& wanted) override;
+    host::Workplace::Typed type(const std::string& text) override;
+    std::string translate(const std::string& key) override;
+    void rest(std::chrono::milliseconds time) override;
     host::Picture picture() override;
     ScreenPtr screen() override;
     std::optional<std::string> waitFor(const ScreenCondition& condition, std::chrono::milliseconds limit) override;
@@ -30,6 +34,9 @@ public:
 private:
     bool becomeIdle(std::function<void()>& standsStill);
     void waitForThreads();
+
+    template <typename Answer>
+    std::optional<Answer> onGuiThread(std::function<Answer()> ask);
 
     host::Lcd& mLcd;
     OtherThreads mOtherThreads;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "simulator/script/ScriptText.h"
 #include "toolkit/PegMessage.h"
 
 #include <cstdint>
@@ -21,14 +22,25 @@ struct Step {
         DUMP,
         DUMP_JSON,
         COMPARE,
-        EXCHANGE
+        SAY,
+        CHOOSE,
+        SELECT,
+        TYPE,
+        SET,
+        COMMAND,
+        BACK,
+        DIAL,
+        AWAIT
     };
 
     Action action;
     int line = 0;
-    std::vector<PegKey> keys;      ///< PRESS: one after the other; HOLD: exactly one
+    std::vector<PegKey> keys{};    ///< PRESS: one after the other; HOLD: exactly one
     std::int64_t milliseconds = 0; ///< HOLD, WAIT, ADVANCE
-    std::string text;              ///< the expected text, the file's name, or what is said; COMPARE: its path
+    std::string text{};            ///< the file's name, or what is said; COMPARE: its path
+    ScriptText target{};           ///< what is expected, gone to, typed or dialled
+    int nth = 1;                   ///< CHOOSE, SELECT: of those that are called so
+    std::string wire{};            ///< SAY: to whom
 };
 
 struct Script {

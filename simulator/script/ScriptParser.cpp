@@ -102,8 +102,91 @@ void parseTime(Step& step, std::string_view rest)
     step.milliseconds = toMilliseconds(rest);
 }
 
-void parseText(Step& step, std::string_view rest)
+ScriptText takeText(std::string_view& rest)
 {
+    try {
+        const ScriptText text = ScriptText::take(rest);
+        rest = trimmed(rest);
+        return text;
+    } catch (const std::invalid_argument& mistake) {
+        throw Mistake(mistake.what());
+    }
+}
+
+void refuseRest(std::string_view rest)
+{
+    if (!rest.empty())
+        throw Mistake("nothing may stand behind the text, and there is " + quoted(rest));
+}
+
+/// As it stands, but what the catalogue is to be asked for: an old script may look for quotes.
+void parseExpected(Step& step, std::string_view rest)
+{
+    if (!rest.starts_with("_(")) {
+        step.target = ScriptText::literal(std::string(rest));
+        return;
+    }
+    step.target = takeText(rest);
+    refuseRest(rest);
+}
+
+void parseTarget(Step& step, std::string_view rest)
+{
+    if (!ScriptText::isQuoted(rest)) {
+        step.target = ScriptText::literal(std::string(rest));
+        return;
+    }
+    step.target = takeText(rest);
+    refuseRest(rest);
+}
+
+/// "Ada" #2 is the second one that is called so.
+void parseChoice(Step& step, std::string_view rest)
+{
+    if (!ScriptText::isQuoted(rest))
+        return parseTarget(step, rest);
+    step.target = takeText(rest);
+    if (rest.empty())
+        return;
+    const auto [end, error] = std::from_chars(rest.data() + 1, rest.data() + rest.size(), step.nth);
+    const bool isNumber = rest.front() == '#' && error == std::errc() && end == rest.data() + rest.size();
+    if (!isNumber || step.nth < 1)
+        throw Mistake("behind the text there may be #2 for the second one that is called so, not " + quoted(rest));
+}
+
+/// Digits are keys, a text in quotes is what stands there in the end.
+void parseTyped(Step& step, std::string_view rest)
+{
+    if (!ScriptText::isQuoted(rest))
+        return parseType(step, rest);
+    step.action = Step::Action::TYPE;
+    step.target = takeText(rest);
+    refuseRest(rest);
+}
+
+void parseNumber(Step& step, std::string_view rest)
+{
+    if (rest.find_first_not_of("0123456789*#+") != std::string_view::npos)
+        throw Mistake("only 0 to 9, *, # and + can be dialled");
+    step.target = ScriptText::literal(std::string(rest));
+}
+
+void parseNothing(Step&, std::string_view rest)
+{
+    if (!rest.empty())
+        throw Mistake("nothing may stand behind it, and there is " + quoted(rest));
+}
+
+template <const char* WIRE>
+void parseSaid(Step& step, std::string_view rest)
+{
+    step.wire = WIRE;
+    step.text = rest;
+}
+
+void parseAct(Step& step, std::string_view rest)
+{
+    step.wire = takeWord(rest);
     step.text = rest;
 }
 
@@ -130,6 +213,9 @@ void parseDump(Step& step, std::string_view rest)
     step.text = toFileName(rest, ".json");
 }
 
+constexpr char EXCHANGE[] = "exchange";
+constexpr char LANGUAGE[] = "language";
+
 struct Command {
     Step::Action action;
     void (*parse)(Step&, std::string_view);
@@ -141,15 +227,24 @@ const std::map<std::string_view, Command>& commands()
     static const std::map<std::string_view, Command> all = {
         {"key", {PRESS, parseKey}},
         {"hold", {HOLD, parseHold}},
-        {"type", {PRESS, parseType}},
+        {"type", {PRESS, parseTyped}},
         {"wait", {WAIT, parseTime}},
         {"advance", {ADVANCE, parseTime}},
-        {"expect", {EXPECT, parseText}},
-        {"expect-not", {EXPECT_NOT, parseText}},
+        {"expect", {EXPECT, parseExpected}},
+        {"expect-not", {EXPECT_NOT, parseExpected}},
+        {"await", {AWAIT, parseTarget}},
+        {"choose", {CHOOSE, parseChoice}},
+        {"select", {SELECT, parseChoice}},
+        {"set", {SET, parseTarget}},
+        {"command", {COMMAND, parseTarget}},
+        {"back", {BACK, parseNothing}},
+        {"dial", {DIAL, parseNumber}},
         {"screenshot", {SCREENSHOT, parsePictureName}},
         {"dump", {DUMP, parseDump}},
         {"compare", {COMPARE, parseTextName}},
-        {"exchange", {EXCHANGE, parseText}},
+        {"exchange", {SAY, parseSaid<EXCHANGE>}},
+        {"language", {SAY, parseSaid<LANGUAGE>}},
+        {"act", {SAY, parseAct}},
     };
     return all;
 }
@@ -161,11 +256,11 @@ Step parseLine(std::string_view text, int line)
     if (command == commands().end())
         throw Mistake(
             "there is no command " + quoted(name) +
-            "; commands are key, hold, type, wait, advance, expect, expect-not, screenshot, dump, compare and "
-            "exchange");
-    if (text.empty())
+            "; commands are key, hold, type, choose, select, set, command, back, dial, wait, advance, await, expect, "
+            "expect-not, screenshot, dump, compare, exchange, language and act");
+    if (text.empty() && command->second.action != Step::Action::BACK)
         throw Mistake(quoted(name) + " needs something behind it");
-    Step step{command->second.action, line, {}, 0, {}};
+    Step step{.action = command->second.action, .line = line};
     command->second.parse(step, text);
     return step;
 }

@@ -25,6 +25,11 @@ constexpr auto CONTAINS = ScreenCondition::Match::CONTAINS;
 constexpr char STANDSTILL_NOTE[] = "the GUI thread stands still: for 2 seconds it has been at one thing";
 static_assert(host::Loop::STANDSTILL == std::chrono::seconds(2));
 
+constexpr std::int64_t LONGEST_AWAITED = 60'000;
+constexpr std::int64_t AWAITED_CLOSELY = 5'000;
+constexpr std::int64_t CLOSE_LOOK = 50;
+constexpr std::int64_t DISTANT_LOOK = 500;
+
 struct StepFailed : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
@@ -33,7 +38,9 @@ struct StepFailed : std::runtime_error {
 
 ScriptRunner::ScriptRunner(ScriptedPhone& phone, ScriptReport& report, std::filesystem::path folder,
                            milliseconds patience)
-    : mPhone(phone), mReport(report), mFolder(std::move(folder)), mPatience(patience)
+    : mPhone(phone),
+      mHand(phone, {[this](PegKey key, int times) { press(key, times); }, [this] { settle(); }}, patience),
+      mReport(report), mFolder(std::move(folder)), mPatience(patience)
 {
 }
 
@@ -91,8 +98,26 @@ void ScriptRunner::perform(const Step& step)
     case DUMP: return write(mFolder / step.text, screen());
     case DUMP_JSON: return write(mFolder / step.text, screenJson(mPhone.picture(), nameOf(host::variant())));
     case COMPARE: return compare(step);
-    case EXCHANGE: return say(step);
+    case SAY: return say(step);
+    case CHOOSE: return insist(mHand.choose(shown(step.target), step.nth));
+    case SELECT: return insist(mHand.select(shown(step.target), step.nth));
+    case TYPE: return insist(mHand.type(shown(step.target).front()));
+    case SET: return insist(mHand.set(shown(step.target)));
+    case COMMAND: return insist(mHand.command(shown(step.target)));
+    case BACK: return insist(mHand.back());
+    case DIAL: return insist(mHand.dial(shown(step.target).front()));
+    case AWAIT: return await(step);
     }
+}
+
+void ScriptRunner::press(PegKey key, int times)
+{
+    for (int i = 0; i < times; ++i) {
+        down(key);
+        mKeysAreThrough = i + 1 == times;
+        up(key);
+    }
+    settle();
 }
 
 void ScriptRunner::pressAll(const Step& step)
@@ -117,13 +142,54 @@ void ScriptRunner::hold(const Step& step)
     settle();
 }
 
-void ScriptRunner::expect(const Step& step, bool wanted)
+void ScriptRunner::insist(const std::string& complaint)
+{
+    if (!complaint.empty())
+        fail(complaint);
+}
+
+/// What the text may be on the screen, in the language of the moment.
+std::vector<std::string> ScriptRunner::shown(const ScriptText& text)
+{
+    return text.shown([this](const std::string& key) { return mPhone.translate(key); });
+}
+
+/// Returns what is different; nothing where any of the texts is there, or none of them is, as wanted.
+std::optional<std::string> ScriptRunner::waitFor(const std::vector<std::string>& texts, bool wanted,
+                                                 milliseconds patience)
 {
     using What = ScreenCondition::What;
     constexpr bool WITH_VOLATILE = true;
-    const What what = wanted ? What::TEXT : What::NO_TEXT;
-    if (mPhone.waitFor({what, CONTAINS, step.text, {}, WITH_VOLATILE}, mPatience))
-        fail((wanted ? "expected '" : "expected no '") + step.text + "'");
+    std::optional<std::string> difference;
+    for (const std::string& text : texts) {
+        const milliseconds limit = wanted && &text != &texts.front() ? milliseconds(0) : patience;
+        difference = mPhone.waitFor({wanted ? What::TEXT : What::NO_TEXT, CONTAINS, text, {}, WITH_VOLATILE}, limit);
+        if (difference.has_value() != wanted)
+            break;
+    }
+    return difference;
+}
+
+void ScriptRunner::expect(const Step& step, bool wanted)
+{
+    const std::vector<std::string> texts = shown(step.target);
+    if (waitFor(texts, wanted, mPatience))
+        fail((wanted ? "expected " : "expected no ") + anyOf(texts));
+}
+
+/// First in small steps, so that nothing is missed that stays for a moment.
+void ScriptRunner::await(const Step& step)
+{
+    const std::vector<std::string> texts = shown(step.target);
+    for (std::int64_t passed = 0; waitFor(texts, true, milliseconds(0));) {
+        if (passed >= LONGEST_AWAITED)
+            fail(anyOf(texts) + " has not come within " + std::to_string(LONGEST_AWAITED / 1000) +
+                 " seconds on the telephone's clock");
+        const std::int64_t time = passed < AWAITED_CLOSELY ? CLOSE_LOOK : DISTANT_LOOK;
+        mPhone.pass(time);
+        passed += time;
+        settle();
+    }
 }
 
 void ScriptRunner::advance(const Step& step)
@@ -150,8 +216,7 @@ void ScriptRunner::update(const Step& step)
 
 void ScriptRunner::say(const Step& step)
 {
-    if (const std::string refusal = mPhone.say("exchange", step.text); !refusal.empty())
-        fail(refusal);
+    insist(mPhone.say(step.wire, step.text));
 }
 
 void ScriptRunner::writePicture(const std::filesystem::path& path)

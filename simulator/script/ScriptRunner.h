@@ -1,5 +1,6 @@
 #pragma once
 
+#include "simulator/script/Hand.h"
 #include "simulator/script/Script.h"
 #include "simulator/script/ScriptReport.h"
 #include "simulator/script/ScriptedPhone.h"
@@ -32,7 +33,13 @@ private:
     void expect(const Step& step, bool wanted);
     void advance(const Step& step);
     void compare(const Step& step);
+    void await(const Step& step);
     void say(const Step& step);
+    void insist(const std::string& complaint);
+    std::vector<std::string> shown(const ScriptText& text);
+    std::optional<std::string> waitFor(const std::vector<std::string>& texts, bool wanted,
+                                       std::chrono::milliseconds patience);
+    void press(PegKey key, int times);
     void update(const Step& step);
     void writePicture(const std::filesystem::path& path);
     std::string screen();
@@ -44,6 +51,7 @@ private:
     [[noreturn]] void fail(const std::string& reason);
 
     ScriptedPhone& mPhone;
+    Hand mHand;
     ScriptReport& mReport;
     std::filesystem::path mFolder;
     std::chrono::milliseconds mPatience;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/input/Workplace.h"
 #include "host/lcd/Lcd.h"
 #include "simulator/core/ScreenCondition.h"
 #include "toolkit/PegMessage.h"
@@ -9,6 +10,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace simulator {
 
@@ -35,6 +37,18 @@ public:
 
     /// Says a line to the program. Returns the sentence that says why nothing comes of it; empty when all is well.
     virtual std::string say(const std::string& wire, const std::string& line) = 0;
+
+    /// What the keys work on, and what of it is one of the texts; nothing where the GUI thread does not come to it.
+    virtual std::optional<host::Workplace> workplace(const std::vector<std::string>& wanted) = 0;
+
+    /// Has the text in what is typed into.
+    virtual host::Workplace::Typed type(const std::string& text) = 0;
+
+    /// What the program's language has for the key; the key where it has nothing.
+    virtual std::string translate(const std::string& key) = 0;
+
+    /// Lets so much real time pass.
+    virtual void rest(std::chrono::milliseconds time) = 0;
 
     /// The panel as it is now, whatever the GUI thread is about.
     virtual host::Picture picture() = 0;

@@ -9,6 +9,18 @@
 
 namespace {
 
+/// What is written of it reads as it was.
+void checkText(const simulator::ScriptText& text)
+{
+    if (text.pieces.empty())
+        return;
+    const std::string written = text.written();
+    std::string_view rest = written;
+    test::check(simulator::ScriptText::take(rest).written() == written, "a text that is written reads otherwise");
+    const auto shown = text.shown([](const std::string& key) { return key; });
+    test::check(!shown.empty() && shown.size() <= simulator::ScriptText::MOST_TEXTS, "too many texts, or none");
+}
+
 void checkScript(std::string_view text)
 {
     const simulator::Script script = simulator::parseScript("s.script", text);
@@ -20,6 +32,7 @@ void checkScript(std::string_view text)
         test::check(step.milliseconds >= 0, "time runs backwards");
         test::check(step.text.find('\n') == std::string::npos, "a step of several lines");
         before = step.line;
+        checkText(step.target);
     }
     for (const std::string& error : script.errors)
         test::check(error.starts_with("s.script:"), "an error without a place");

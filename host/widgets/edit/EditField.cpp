@@ -32,6 +32,16 @@ PegString EditField::text() const
     return toPegString(mEdit.text());
 }
 
+bool EditField::enter(const PegString& text)
+{
+    if (mReadOnly)
+        return false;
+    setText(text);
+    const bool isTaken = this->text() == text;
+    changed();
+    return isTaken;
+}
+
 void EditField::setCursor(int characters)
 {
     endTimers();

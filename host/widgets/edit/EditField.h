@@ -23,6 +23,11 @@ public:
     /// The cursor goes behind the text. What the kind refuses and what is beyond the maximum is left out.
     void setText(const PegString& text);
     PegString text() const;
+
+    /// As if the user had typed it in place of the text that is there; the target is told, and may delete the field.
+    /// False where the field has another text then, because its kind does not take all of it, or is only read.
+    bool enter(const PegString& text);
+
     void clear() { setText({}); }
 
     /// In characters; at least 0.

@@ -68,7 +68,7 @@ TEST(ScriptParser, TypePressesOneKeyAfterTheOther)
 TEST(ScriptParser, ExchangeHasALine)
 {
     const Step step = onlyStep("exchange 4711 ends busy");
-    EXPECT_EQ(step.action, Step::Action::EXCHANGE);
+    EXPECT_EQ(step.action, Step::Action::SAY);
     EXPECT_EQ(step.text, "4711 ends busy");
     expectMistake("exchange", "'exchange' needs something behind it");
 }
@@ -88,8 +88,8 @@ TEST(ScriptParser, AdvanceHasATime)
 
 TEST(ScriptParser, ExpectationsTakeTheRestOfTheLine)
 {
-    EXPECT_EQ(onlyStep("expect  Ring tone: Классика  ").text, "Ring tone: Классика");
-    EXPECT_EQ(onlyStep("expect-not key down").text, "key down");
+    EXPECT_EQ(onlyStep("expect  Ring tone: Классика  ").target, simulator::ScriptText::literal("Ring tone: Классика"));
+    EXPECT_EQ(onlyStep("expect-not key down").target, simulator::ScriptText::literal("key down"));
     EXPECT_EQ(onlyStep("expect-not a").action, Step::Action::EXPECT_NOT);
 }
 
@@ -229,6 +229,51 @@ TEST_F(ComparingScriptTest, FileThatIsAboutToBeWrittenMayBeMissing)
     setenv(simulator::UPDATE_SCREENS_VARIABLE, "0", 1);
     EXPECT_THAT(read("plain").errors, SizeIs(1));
     unsetenv(simulator::UPDATE_SCREENS_VARIABLE);
+}
+
+TEST(ScriptParser, TypedTextStandsInQuotes)
+{
+    const Step step = onlyStep("type \"Ada\"");
+    EXPECT_EQ(step.action, Step::Action::TYPE);
+    EXPECT_EQ(step.target, simulator::ScriptText::literal("Ada"));
+}
+
+TEST(ScriptParser, ChoiceMayBeTheSecondThatIsCalledSo)
+{
+    EXPECT_EQ(onlyStep("choose \"Ada\"").nth, 1);
+    EXPECT_EQ(onlyStep("select \"Ada\" #2").nth, 2);
+    EXPECT_EQ(onlyStep("choose Ada #2").target, simulator::ScriptText::literal("Ada #2"));
+    expectMistake("choose \"Ada\" #0", "there may be #2");
+    expectMistake("choose \"Ada\" 2", "there may be #2");
+    expectMistake("choose \"Ada\" #99999999999", "there may be #2");
+}
+
+TEST(ScriptParser, ExpectedTextIsAsItStandsButForTheCatalogues)
+{
+    EXPECT_EQ(onlyStep("expect \"Ada\"").target, simulator::ScriptText::literal("\"Ada\""));
+    EXPECT_EQ(onlyStep("expect-not _x").target, simulator::ScriptText::literal("_x"));
+    EXPECT_TRUE(onlyStep("expect _(\"Menu.contacts\")").target.pieces.front().isTranslated);
+    expectMistake("expect _(\"Menu.contacts\"", "the bracket of _( is not closed");
+    expectMistake("expect _(\"Menu.contacts\") x", "nothing may stand behind the text");
+}
+
+TEST(ScriptParser, BackStandsAlone)
+{
+    EXPECT_EQ(onlyStep("back").action, Step::Action::BACK);
+    expectMistake("back twice", "nothing may stand behind it");
+}
+
+TEST(ScriptParser, OnlyNumbersAreDialled)
+{
+    EXPECT_EQ(onlyStep("dial +49*#1").target, simulator::ScriptText::literal("+49*#1"));
+    expectMistake("dial Ada", "can be dialled");
+}
+
+TEST(ScriptParser, LinesAreSaidToWhoIsNamed)
+{
+    EXPECT_EQ(onlyStep("language ar").wire, "language");
+    EXPECT_EQ(onlyStep("act jukebox play 7").wire, "jukebox");
+    EXPECT_EQ(onlyStep("act jukebox play 7").text, "play 7");
 }
 
 } // namespace

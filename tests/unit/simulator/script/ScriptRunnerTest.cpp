@@ -24,7 +24,13 @@ class FakePhone : public ScriptedPhone {
 public:
     bool press(PegKey key) override { return note("down " + std::to_string(key)), takesKeys; }
     bool release(PegKey key) override { return note("up " + std::to_string(key)), takesKeys && !isGone; }
-    void pass(std::int64_t time) override { note("pass " + std::to_string(time)); }
+    void pass(std::int64_t time) override
+    {
+        note("pass " + std::to_string(time));
+        passed += time;
+        if (passed >= atTime.first)
+            text = atTime.second;
+    }
     bool advance(std::int64_t time) override { return note("advance " + std::to_string(time)), hasVirtualClock; }
 
     ScreenPtr screen() override
@@ -54,6 +60,11 @@ public:
         return note(wire + ": " + line), refusal;
     }
 
+    std::optional<host::Workplace> workplace(const std::vector<std::string>&) override { return host::Workplace(); }
+    host::Workplace::Typed type(const std::string&) override { return host::Workplace::Typed::NOWHERE; }
+    std::string translate(const std::string& key) override { return key == "Menu" ? "MENU" : key; }
+    void rest(milliseconds) override {}
+
     host::Picture picture() override
     {
         host::Picture picture{8, 8, std::vector<std::uint8_t>(64), {}, 1};
@@ -78,6 +89,8 @@ public:
     std::string goesAtKey;
     std::string refusal;
     std::function<void()> nextFrame;
+    std::int64_t passed = 0;
+    std::pair<std::int64_t, std::string> atTime{INT64_MAX, {}}; ///< what it shows from then on
 };
 
 class FakeReport : public ScriptReport {
@@ -443,6 +456,47 @@ TEST_F(ScriptRunnerTest, OutputThatCannotBeWrittenFails)
         ScriptRunner(phone, report, "/nowhere", milliseconds(0)).run(parseScript("s", step));
         EXPECT_EQ(report.failedLine, 1) << step;
     }
+}
+
+TEST_F(ScriptRunnerTest, ExpectedTextMayBeTheCatalogues)
+{
+    phone.text = "The MENU";
+    run("expect _(\"Menu\")");
+    EXPECT_TRUE(report.hasPassed);
+}
+
+TEST_F(ScriptRunnerTest, AnyOfTheTextsIsWhatShallNotBeThere)
+{
+    phone.text = "The MENU";
+    run("expect-not _(\"Other\" or \"Menu\")");
+    EXPECT_EQ(report.failedLine, 1);
+    EXPECT_THAT(report.failure, testing::StartsWith("expected no 'Other' or 'MENU'"));
+}
+
+TEST_F(ScriptRunnerTest, TimePassesUntilWhatIsAwaitedComes)
+{
+    phone.text = "Ringing";
+    phone.atTime = {120, "Connected"};
+    run("await Connected");
+    EXPECT_TRUE(report.hasPassed);
+    EXPECT_EQ(phone.passed, 150);
+}
+
+TEST_F(ScriptRunnerTest, WhatNeverComesIsAwaitedForAMinute)
+{
+    phone.text = "Ringing";
+    run("await Connected");
+    EXPECT_THAT(report.failure, testing::StartsWith("'Connected' has not come within 60 seconds on the telephone's "
+                                                    "clock\nthe screen shows:\n> Ringing"));
+    EXPECT_EQ(phone.passed, 60'000);
+}
+
+TEST_F(ScriptRunnerTest, WhatCannotBeDoneSaysWhy)
+{
+    run("choose Contacts");
+    EXPECT_THAT(report.failure, testing::StartsWith("there is no 'Contacts' to go to, and nothing else\n"));
+    run("type \"Ada\"");
+    EXPECT_THAT(report.failure, testing::StartsWith("there is nothing into which 'Ada' could be typed\n"));
 }
 
 } // namespace

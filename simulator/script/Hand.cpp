@@ -1,0 +1,272 @@
+#include "simulator/script/Hand.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace simulator {
+
+namespace {
+
+using host::Choices;
+using host::Workplace;
+using std::chrono::milliseconds;
+using std::chrono::steady_clock;
+
+/// How often it is looked whether something has come.
+constexpr milliseconds GLANCE(10);
+
+/// Keys that go down one after the other without a look at what they do.
+constexpr int AT_ONCE = 16;
+
+/// Presses for nothing, after which a way leads nowhere: one may be taken by a message, or come before a row.
+constexpr int MOST_IN_VAIN = 3;
+constexpr int MOST_VALUES = 1000;
+
+std::string inQuotes(const std::string& text)
+{
+    return "'" + text + "'";
+}
+
+bool isOneOf(const std::string& text, const Hand::Texts& wanted)
+{
+    return std::ranges::find(wanted, text) != wanted.end();
+}
+
+const Choices* choicesOf(const Workplace& place, Choices::Kind kind)
+{
+    const auto found = std::ranges::find(place.choices, kind, &Choices::kind);
+    return found != place.choices.end() ? &*found : nullptr;
+}
+
+bool isOfCommands(const Choices& choices)
+{
+    return choices.kind == Choices::Kind::MENU || choices.kind == Choices::Kind::BAR;
+}
+
+/// The value of the field that the user is at; nothing where he is at none.
+std::optional<std::string> valueIn(const Workplace& place)
+{
+    const Choices* const fields = place.withKeys();
+    if (fields == nullptr || fields->kind != Choices::Kind::FIELDS || fields->texts.size() < 2)
+        return {};
+    return fields->texts[1];
+}
+
+PegKey keyThatTypes(const std::string& text)
+{
+    const char first = text.front();
+    if (isOfKeypad(first))
+        return static_cast<PegKey>(first);
+    return first == '+' ? PK_0 : static_cast<PegKey>('2');
+}
+
+} // namespace
+
+std::string anyOf(const std::vector<std::string>& texts)
+{
+    std::string all;
+    for (const std::string& text : texts)
+        all += (all.empty() ? "" : " or ") + inQuotes(text);
+    return all;
+}
+
+Hand::Hand(ScriptedPhone& phone, Keys keys, milliseconds patience)
+    : mPhone(phone), mKeys(std::move(keys)), mPatience(patience)
+{
+}
+
+Workplace Hand::look(const Texts& wanted)
+{
+    return mPhone.workplace(wanted).value_or(Workplace());
+}
+
+/// Where the keys are comes first, and what is it before what has it.
+Hand::Goal Hand::goalIn(const Workplace& place, int nth, Among among)
+{
+    Goal goal;
+    for (const auto which : {&Choices::found, &Choices::similar}) {
+        for (const bool hasKeys : {true, false}) {
+            for (const Choices& choices : place.choices) {
+                const std::vector<int>& those = choices.*which;
+                const bool counts = choices.hasKeys == hasKeys && (among == Among::ALL || isOfCommands(choices));
+                if (counts && goal.at < 0 && static_cast<int>(those.size()) >= nth)
+                    goal = {choices.kind, those[static_cast<std::size_t>(nth - 1)]};
+            }
+        }
+    }
+    return goal;
+}
+
+/// Waits until it is there.
+std::string Hand::find(const Texts& wanted, int nth, Among among)
+{
+    const auto deadline = steady_clock::now() + mPatience;
+    for (;;) {
+        const Workplace place = look(wanted);
+        if (goalIn(place, nth, among).at >= 0)
+            return {};
+        if (!mPhone.isThere() || steady_clock::now() >= deadline)
+            return listing(place, anyOf(wanted) + (nth > 1 ? " #" + std::to_string(nth) : ""));
+        mPhone.rest(GLANCE);
+        mKeys.settle();
+    }
+}
+
+std::string Hand::listing(const Workplace& place, const std::string& what)
+{
+    std::string names;
+    bool isMore = false;
+    for (const Choices& choices : place.choices) {
+        isMore = isMore || choices.count > static_cast<int>(choices.names.size());
+        for (const std::string& name : choices.names)
+            names += (names.empty() ? "" : ", ") + inQuotes(name);
+    }
+    if (names.empty())
+        return "there is no " + what + " to go to, and nothing else";
+    return "there is no " + what + " to go to; there is " + names + (isMore ? " and more" : "");
+}
+
+/// Negative is towards the first one.
+int Hand::steps(const Choices& choices, int to)
+{
+    const int ahead = to - choices.current;
+    if (!choices.isRing || 2 * std::abs(ahead) <= choices.count)
+        return ahead;
+    return ahead > 0 ? ahead - choices.count : ahead + choices.count;
+}
+
+/// The next key on the way there: along what has the keys, or out of it.
+PegKey Hand::keyTowards(const Workplace& place, const Choices& there, int steps)
+{
+    if (there.hasKeys)
+        return steps < 0 ? there.before : there.behind;
+    const Choices* const here = place.withKeys();
+    switch (there.kind) {
+    case Choices::Kind::ROWS: return PK_DOWN;
+    case Choices::Kind::BAR: return here != nullptr && 2 * here->current < here->count - 1 ? PK_UP : PK_DOWN;
+    default: return PK_UP;
+    }
+}
+
+std::string Hand::walk(const Texts& wanted, int nth, Among among)
+{
+    int inVain = 0;
+    int left = -1;
+    std::pair<Choices::Kind, int> before{Choices::Kind::ROWS, -1};
+    for (;;) {
+        const Workplace place = look(wanted);
+        const Goal goal = goalIn(place, nth, among);
+        const Choices* const there = goal.at >= 0 ? choicesOf(place, goal.kind) : nullptr;
+        if (there == nullptr)
+            return anyOf(wanted) + " has gone while the keys led to it";
+        const int away = steps(*there, goal.at);
+        if (there->hasKeys && away == 0)
+            return {};
+        const Choices* const here = place.withKeys();
+        const auto now = here != nullptr ? std::pair{here->kind, here->current} : before;
+        inVain = now == before ? inVain + 1 : 0;
+        before = now;
+        if (left < 0)
+            left = 2 * (there->count + (here != nullptr ? here->count : 0)) + 100; // rows may come meanwhile
+        const int times = there->hasKeys ? std::min(std::abs(away), AT_ONCE) : 1;
+        left -= times;
+        if (inVain > MOST_IN_VAIN || left < 0 || !mPhone.isThere())
+            return "the keys do not lead to " + anyOf(wanted);
+        mKeys.press(keyTowards(place, *there, away), times);
+    }
+}
+
+std::string Hand::select(const Texts& wanted, int nth)
+{
+    const std::string complaint = find(wanted, nth, Among::ALL);
+    return complaint.empty() ? walk(wanted, nth, Among::ALL) : complaint;
+}
+
+std::string Hand::choose(const Texts& wanted, int nth)
+{
+    std::string complaint = select(wanted, nth);
+    if (complaint.empty())
+        mKeys.press(PK_OK, 1);
+    return complaint;
+}
+
+std::string Hand::command(const Texts& wanted)
+{
+    const Workplace place = look(wanted);
+    const Choices* const here = place.withKeys();
+    const bool hasMenu = here != nullptr && here->kind == Choices::Kind::ROWS;
+    if (goalIn(place, 1, Among::COMMANDS).at < 0 && hasMenu)
+        mKeys.press(PK_RIGHT, 1);
+    std::string complaint = find(wanted, 1, Among::COMMANDS);
+    if (complaint.empty())
+        complaint = walk(wanted, 1, Among::COMMANDS);
+    if (complaint.empty())
+        mKeys.press(PK_OK, 1);
+    return complaint;
+}
+
+std::string Hand::set(const Texts& wanted)
+{
+    Workplace place = look();
+    std::optional<std::string> value = valueIn(place);
+    if (!value)
+        return "no field of a form is selected that could be set to " + anyOf(wanted);
+    std::string ends;
+    for (const PegKey key : {PK_RIGHT, PK_LEFT}) {
+        for (int i = 0; i < MOST_VALUES && !isOneOf(*value, wanted); ++i) {
+            const std::string before = *value;
+            mKeys.press(key, 1);
+            value = valueIn(look());
+            if (!value)
+                return "the field has gone that was to be set to " + anyOf(wanted);
+            if (*value == before)
+                break;
+        }
+        if (isOneOf(*value, wanted))
+            return {};
+        ends += (ends.empty() ? "" : " and ") + inQuotes(*value);
+    }
+    return "left and right do not lead to " + anyOf(wanted) + "; the field's values lie between " + ends;
+}
+
+std::string Hand::type(const std::string& text)
+{
+    if (!look().edited && !text.empty())
+        mKeys.press(keyThatTypes(text), 1);
+    const auto deadline = steady_clock::now() + mPatience;
+    auto typed = mPhone.type(text);
+    while (typed == Workplace::Typed::NOWHERE && mPhone.isThere() && steady_clock::now() < deadline) {
+        mPhone.rest(GLANCE);
+        typed = mPhone.type(text);
+    }
+    mKeys.settle();
+    if (typed == Workplace::Typed::NOWHERE)
+        return "there is nothing into which " + inQuotes(text) + " could be typed";
+    if (typed == Workplace::Typed::TAKEN)
+        return {};
+    const auto edited = look().edited;
+    return inQuotes(text) + " cannot be typed here: there is " + inQuotes(edited ? edited->text : "") + " now";
+}
+
+std::string Hand::dial(const std::string& number)
+{
+    std::string complaint = type(number);
+    if (complaint.empty())
+        mKeys.press(PK_OK, 1);
+    return complaint;
+}
+
+std::string Hand::back()
+{
+    const Workplace before = look();
+    const std::size_t most = before.edited ? before.edited->text.size() + 2 : 1;
+    for (std::size_t i = 0; i < most; ++i) {
+        mKeys.press(PK_LEFT, 1);
+        const Workplace now = look();
+        if (now.window != before.window || !now.edited)
+            return {};
+    }
+    return before.edited ? "the left key does not lead out of what is typed into" : "";
+}
+
+} // namespace simulator
