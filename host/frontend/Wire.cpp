@@ -16,6 +16,7 @@ struct Wires {
     std::mutex mutex;   ///< guards what follows
     std::vector<const Wire*> wires;
     std::function<void()> listener;
+    Wire::Witness witness;
 };
 
 Wires& allWires()
@@ -74,6 +75,27 @@ const Wire* Wire::find(std::string_view name)
 }
 
 std::string Wire::say(std::string_view name, std::string_view line)
+{
+    Witness witness;
+    {
+        const std::lock_guard lock(allWires().mutex);
+        witness = allWires().witness;
+    }
+    if (witness)
+        witness(name, line, nullptr);
+    std::string refusal = tell(name, line);
+    if (witness)
+        witness(name, line, &refusal);
+    return refusal;
+}
+
+void Wire::setWitness(Witness witness)
+{
+    const std::lock_guard lock(allWires().mutex);
+    allWires().witness = std::move(witness);
+}
+
+std::string Wire::tell(std::string_view name, std::string_view line)
 {
     if (const std::shared_ptr<Ear> ear = earOf(name); ear != nullptr) {
         const std::lock_guard lock(ear->mutex);

@@ -53,11 +53,18 @@ public:
     /// has returned.
     static void setListener(std::function<void()> listener);
 
+    /// Told of each line, first that it is about to be said, then what has come of it: `refusal` is null, and then the
+    /// sentence that the listener has returned. On the thread that says it; must not block. An empty function removes
+    /// it.
+    using Witness = std::function<void(std::string_view name, std::string_view line, const std::string* refusal)>;
+    static void setWitness(Witness witness);
+
 private:
     struct Ear;
 
     static const Wire* find(std::string_view name);
     static std::shared_ptr<Ear> earOf(std::string_view name);
+    static std::string tell(std::string_view name, std::string_view line);
 
     std::string mName;
     std::shared_ptr<Ear> mEar; ///< whoever says something holds it as long as that is heard

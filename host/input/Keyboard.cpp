@@ -79,9 +79,17 @@ void Keyboard::setHookListener(std::function<void()> listener)
     mHookListener = std::move(listener);
 }
 
+void Keyboard::comes(const PegMessage& message)
+{
+    if (mWitness != nullptr)
+        mWitness->keyComes(message);
+}
+
 void Keyboard::handled(const PegMessage& message)
 {
     --mPending;
+    if (mWitness != nullptr)
+        mWitness->keyIsHandled(message);
     if (message.wType != PM_KEY || message.iData != PK_HOOK)
         return;
     const std::lock_guard lock(mMutex);

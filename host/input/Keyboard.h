@@ -29,7 +29,22 @@ public:
     /// screen. Must not block. An empty function removes it; none is called once this has returned.
     void setHookListener(std::function<void()> listener);
 
-    /// Called by the loop when it has handled a key message.
+    /// Whoever wants to know what the keys work on, on the GUI thread; must not block.
+    class Witness {
+    public:
+        /// A key, PM_KEY or PM_KEYRELEASE, is about to be handled; and has been.
+        virtual void keyComes(const PegMessage& message) = 0;
+        virtual void keyIsHandled(const PegMessage& message) = 0;
+
+    protected:
+        ~Witness() = default;
+    };
+
+    /// Not owned; null is nobody. GUI thread only.
+    void setWitness(Witness* witness) { mWitness = witness; }
+
+    /// Called by the loop before it handles a key message, and when it has.
+    void comes(const PegMessage& message);
     void handled(const PegMessage& message);
 
     /// Called by the toolkit when it has started, and before it stops.
@@ -43,6 +58,7 @@ private:
 
     std::mutex mMutex; ///< guards what follows; a leaf, but for what the listener takes
     std::function<void()> mHookListener;
+    Witness* mWitness = nullptr; ///< the GUI thread's alone
     static constexpr int DISCONNECTED = MAX_PENDING;
     std::atomic<int> mPending{DISCONNECTED}; ///< full while the toolkit does not run
 };

@@ -2,6 +2,7 @@
 
 #include "host/widgets/Reading.h"
 #include "host/widgets/edit/EditField.h"
+#include "host/widgets/form/ChoicePopup.h"
 #include "host/widgets/form/FormWindow.h"
 #include "host/widgets/form/ScrollingColumn.h"
 #include "host/widgets/menu/CommandColumn.h"
@@ -157,7 +158,9 @@ private:
 
     void addMenu(const CommandColumn& column)
     {
-        Choices menu = {.kind = Kind::MENU, .count = column.count(), .current = column.current()};
+        const bool isOfField = dynamic_cast<const ChoicePopup*>(column.Parent()) != nullptr;
+        Choices menu = {
+            .kind = isOfField ? Kind::VALUES : Kind::MENU, .count = column.count(), .current = column.current()};
         menu.hasKeys = column.hasFocus();
         menu.isRing = true;
         mSearch.fill(menu, [&](int command) { return Texts{utf8(column.at(command).text)}; });
@@ -209,7 +212,7 @@ private:
         if (!edit.hasFocus() || edit.isReadOnly())
             return;
         const bool isDialler = dynamic_cast<const DialerField*>(edit.Parent()) != nullptr;
-        mPlace.edited = EditedText{utf8(edit.text()), edit.cursor(), isDialler};
+        mPlace.edited = EditedText{utf8(edit.text()), edit.cursor(), isDialler, edit.offersSymbols()};
         mEdit = &edit;
     }
 

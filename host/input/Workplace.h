@@ -13,7 +13,8 @@ struct Choices {
     enum class Kind {
         ROWS,   ///< of a list
         FIELDS, ///< of a form, each with its label and its value
-        MENU,   ///< commands, or values, one below the other
+        MENU,   ///< commands one below the other
+        VALUES, ///< of a field, one below the other
         BAR,    ///< commands side by side
         TABS
     };
@@ -36,7 +37,8 @@ struct Choices {
 struct EditedText {
     std::string text; ///< in full, a password's too
     int cursor = 0;
-    bool isDialler = false; ///< in a popup of its own, where OK is the bar's
+    bool isDialler = false;    ///< in a popup of its own, where OK is the bar's
+    bool takesAllKeys = false; ///< symbols are offered
 };
 
 /// What the user's keys work on.

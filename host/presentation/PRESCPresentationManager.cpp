@@ -22,9 +22,12 @@ bool isBelow(const PegThing* thing, const PegThing* root)
 
 void dispatch(const PegMessage& message, PegThing* focus)
 {
+    const bool isKey = message.wType == PM_KEY || message.wType == PM_KEYRELEASE;
+    if (isKey)
+        host::Keyboard::instance().comes(message);
     if (PegThing* const target = message.pTarget != nullptr ? message.pTarget : focus)
         target->Message(message);
-    if (message.wType == PM_KEY || message.wType == PM_KEYRELEASE)
+    if (isKey)
         host::Keyboard::instance().handled(message);
 }
 

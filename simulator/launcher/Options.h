@@ -20,6 +20,7 @@ struct Options {
     bool rpc = false;                    ///< whether there is a test interface
     std::optional<std::string> rpcToken; ///< the file for its token
     bool rpcReadOnly = false;
+    std::optional<std::string> record;    ///< the file for what the user does
     std::vector<std::string> application; ///< its name and its arguments
 
     bool wantsHelp = false;

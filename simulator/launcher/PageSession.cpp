@@ -4,9 +4,11 @@
 #include "simulator/launcher/DisplayReminder.h"
 #include "simulator/launcher/ReportPipe.h"
 #include "simulator/launcher/TokenFile.h"
+#include "simulator/record/RecordingFile.h"
 #include "simulator/web/PortCheck.h"
 
 #include <cstdlib>
+#include <filesystem>
 #include <iostream>
 #include <unistd.h>
 
@@ -25,6 +27,8 @@ Child::Environment environmentFor(const Options& options, int portDescriptor, co
                                 {TOKEN_VARIABLE, options.token.value_or("")},
                                 {RPC_TOKEN_VARIABLE, rpcToken},
                                 {RPC_READ_ONLY_VARIABLE, options.rpcReadOnly ? "1" : ""}};
+    if (options.record)
+        added[RECORD_VARIABLE] = std::filesystem::absolute(*options.record);
     if (options.virtualClock)
         added["DISPLAYAPI_CLOCK"] = "virtual";
     return added;
@@ -74,6 +78,9 @@ int runBehindPage(const Options& options)
     const Endpoint endpoint = makeEndpoint(options.port, options.listen, options.token);
     if (const std::string problem = portProblem(endpoint); !problem.empty())
         return complain(problem);
+    if (options.record)
+        if (const std::string problem = RecordingFile(*options.record).error(); !problem.empty())
+            return complain(problem);
     std::optional<TokenFile> rpc;
     if (options.rpc && !rpc.emplace(options.rpcToken).error().empty())
         return complain(rpc->error());

@@ -52,6 +52,24 @@ std::optional<std::string> valueIn(const Workplace& place)
     return fields->texts[1];
 }
 
+/// Where the user is among what stands side by side.
+std::vector<int> placesIn(const Workplace& place)
+{
+    std::vector<int> places;
+    for (const Choices& choices : place.choices)
+        if (choices.behind != PK_DOWN)
+            places.push_back(choices.current);
+    return places;
+}
+
+std::size_t stepsIn(const Workplace& place)
+{
+    int steps = 0;
+    for (const Choices& choices : place.choices)
+        steps += choices.behind != PK_DOWN ? choices.count : 0;
+    return static_cast<std::size_t>(steps);
+}
+
 PegKey keyThatTypes(const std::string& text)
 {
     const char first = text.front();
@@ -256,17 +274,20 @@ std::string Hand::dial(const std::string& number)
     return complaint;
 }
 
+/// Where texts are read from the right, the left key leads through the tabs, or the commands of a bar, first.
 std::string Hand::back()
 {
-    const Workplace before = look();
-    const std::size_t most = before.edited ? before.edited->text.size() + 2 : 1;
+    Workplace before = look();
+    const std::size_t most = (before.edited ? before.edited->text.size() : 0) + stepsIn(before) + 2;
     for (std::size_t i = 0; i < most; ++i) {
         mKeys.press(PK_LEFT, 1);
-        const Workplace now = look();
-        if (now.window != before.window || !now.edited)
+        Workplace now = look();
+        const bool isOut = now.window != before.window || (before.edited && !now.edited);
+        if (isOut || (!now.edited && placesIn(now) == placesIn(before)))
             return {};
+        before = std::move(now);
     }
-    return before.edited ? "the left key does not lead out of what is typed into" : "";
+    return "the left key does not lead out of here";
 }
 
 } // namespace simulator

@@ -30,7 +30,8 @@ struct Step {
         COMMAND,
         BACK,
         DIAL,
-        AWAIT
+        AWAIT,
+        AWAIT_NOT
     };
 
     Action action;

@@ -233,6 +233,7 @@ const std::map<std::string_view, Command>& commands()
         {"expect", {EXPECT, parseExpected}},
         {"expect-not", {EXPECT_NOT, parseExpected}},
         {"await", {AWAIT, parseTarget}},
+        {"await-not", {AWAIT_NOT, parseTarget}},
         {"choose", {CHOOSE, parseChoice}},
         {"select", {SELECT, parseChoice}},
         {"set", {SET, parseTarget}},
@@ -254,10 +255,10 @@ Step parseLine(std::string_view text, int line)
     const std::string_view name = takeWord(text);
     const auto command = commands().find(name);
     if (command == commands().end())
-        throw Mistake(
-            "there is no command " + quoted(name) +
-            "; commands are key, hold, type, choose, select, set, command, back, dial, wait, advance, await, expect, "
-            "expect-not, screenshot, dump, compare, exchange, language and act");
+        throw Mistake("there is no command " + quoted(name) +
+                      "; commands are key, hold, type, choose, select, set, command, back, dial, wait, advance, await, "
+                      "await-not, expect, "
+                      "expect-not, screenshot, dump, compare, exchange, language and act");
     if (text.empty() && command->second.action != Step::Action::BACK)
         throw Mistake(quoted(name) + " needs something behind it");
     Step step{.action = command->second.action, .line = line};

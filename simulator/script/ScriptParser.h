@@ -23,6 +23,7 @@ namespace simulator {
 ///     wait MS              let time pass, whatever clock the telephone has
 ///     advance MS           move the virtual clock by exactly that
 ///     await TEXT           let time pass until a row contains TEXT
+///     await-not TEXT       let time pass until none does
 ///     expect TEXT          wait until a row contains TEXT
 ///     expect-not TEXT      wait until none does
 ///     screenshot NAME.png  write the panel as a picture

@@ -106,7 +106,8 @@ void ScriptRunner::perform(const Step& step)
     case COMMAND: return insist(mHand.command(shown(step.target)));
     case BACK: return insist(mHand.back());
     case DIAL: return insist(mHand.dial(shown(step.target).front()));
-    case AWAIT: return await(step);
+    case AWAIT: return await(step, true);
+    case AWAIT_NOT: return await(step, false);
     }
 }
 
@@ -178,13 +179,13 @@ void ScriptRunner::expect(const Step& step, bool wanted)
 }
 
 /// First in small steps, so that nothing is missed that stays for a moment.
-void ScriptRunner::await(const Step& step)
+void ScriptRunner::await(const Step& step, bool wanted)
 {
     const std::vector<std::string> texts = shown(step.target);
-    for (std::int64_t passed = 0; waitFor(texts, true, milliseconds(0));) {
+    for (std::int64_t passed = 0; waitFor(texts, wanted, milliseconds(0));) {
         if (passed >= LONGEST_AWAITED)
-            fail(anyOf(texts) + " has not come within " + std::to_string(LONGEST_AWAITED / 1000) +
-                 " seconds on the telephone's clock");
+            fail(anyOf(texts) + " has not " + (wanted ? "come" : "gone") + " within " +
+                 std::to_string(LONGEST_AWAITED / 1000) + " seconds on the telephone's clock");
         const std::int64_t time = passed < AWAITED_CLOSELY ? CLOSE_LOOK : DISTANT_LOOK;
         mPhone.pass(time);
         passed += time;

@@ -33,7 +33,7 @@ private:
     void expect(const Step& step, bool wanted);
     void advance(const Step& step);
     void compare(const Step& step);
-    void await(const Step& step);
+    void await(const Step& step, bool wanted);
     void say(const Step& step);
     void insist(const std::string& complaint);
     std::vector<std::string> shown(const ScriptText& text);

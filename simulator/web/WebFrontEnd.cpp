@@ -7,6 +7,7 @@
 #include "host/lcd/Lcd.h"
 #include "host/toolkit/Loop.h"
 #include "simulator/core/DisplayedWords.h"
+#include "simulator/record/Recorder.h"
 #include "simulator/rpc/RpcServer.h"
 #include "simulator/web/QuitOnSignal.h"
 #include "simulator/web/ServerMessages.h"
@@ -93,8 +94,11 @@ struct TestInterface {
 
 /// In the order in which the parts stand on each other.
 struct WebFrontEnd::Session {
-    Session(host::Lcd& panel, const Endpoint& endpoint, std::optional<std::string> rpcToken)
-        : lcd(panel), broadcaster([&panel] { return panel.picture(); }, host::Loop::standsStill),
+    Session(host::Lcd& panel, const Endpoint& endpoint, std::optional<std::string> rpcToken,
+            const std::optional<std::string>& record)
+        : lcd(panel),
+          recorder(record ? std::make_unique<Recorder>(panel, *record, program_invocation_short_name) : nullptr),
+          broadcaster([&panel] { return panel.picture(); }, host::Loop::standsStill),
           rpc(rpcToken ? std::make_unique<TestInterface>(panel, keys, endpoint, *std::move(rpcToken)) : nullptr),
           server(endpoint, greeting(), broadcaster, keys, WebServer::HEARTBEAT, rpc != nullptr ? &rpc->server : nullptr)
     {
@@ -115,14 +119,23 @@ struct WebFrontEnd::Session {
         broadcaster.end();
     }
 
+    /// Why there is none; empty where there is.
+    std::string error() const
+    {
+        return recorder != nullptr && !recorder->error().empty() ? recorder->error() : server.error();
+    }
+
     void frameReady()
     {
         broadcaster.frameReady(displayedLanguage());
         if (rpc != nullptr)
             rpc->reader.frameReady();
+        if (recorder != nullptr)
+            recorder->frameReady();
     }
 
     host::Lcd& lcd;
+    std::unique_ptr<Recorder> recorder;
     KeyPad keys;
     Broadcaster broadcaster;
     std::unique_ptr<TestInterface> rpc;
@@ -140,8 +153,9 @@ std::string WebFrontEnd::start(const std::string& port)
     if (const std::string error = endpointError(port, listen, token); port != ANY_PORT && !error.empty())
         return error;
     Endpoint endpoint = makeEndpoint(port, listen, token);
-    mSession = std::make_unique<Session>(*host::Lcd::current(), endpoint, fromEnvironment(RPC_TOKEN_VARIABLE));
-    const std::string error = mSession->server.error();
+    mSession = std::make_unique<Session>(*host::Lcd::current(), endpoint, fromEnvironment(RPC_TOKEN_VARIABLE),
+                                         fromEnvironment(RECORD_VARIABLE));
+    const std::string error = mSession->error();
     if (!error.empty()) {
         mSession.reset();
         return error;

@@ -78,6 +78,8 @@ TEST(Options, MistakesAreSentences)
         {{"--rpc-read-only", "app"}, "go with --rpc"},
         {{"--rpc", "--script", "s", "app"}, "a script has none"},
         {{"--rpc=yes", "app"}, "There is no option --rpc"},
+        {{"--record", "r", "--script", "s", "app"}, "a script is written already"},
+        {{"--record=", "app"}, "--record needs the name of a file"},
     };
     for (const auto& [words, sentence] : mistakes)
         EXPECT_THAT(parseOptions(words).error, HasSubstr(sentence));

@@ -76,7 +76,7 @@ public:
             place.choices.push_back(choices);
         }
         if (isEditing)
-            place.edited = host::EditedText{value, static_cast<int>(value.size()), false};
+            place.edited = host::EditedText{value, static_cast<int>(value.size())};
         return place;
     }
 
@@ -280,7 +280,7 @@ TEST_F(HandTest, BackLeadsOutOfAnEditLine)
     EXPECT_EQ(phone.keys.size(), 4u);
     phone.isEditing = true;
     phone.onKey = {};
-    EXPECT_EQ(hand.back(), "the left key does not lead out of what is typed into");
+    EXPECT_EQ(hand.back(), "the left key does not lead out of here");
 }
 
 } // namespace

@@ -1,0 +1,642 @@
+#include "simulator/record/Recording.h"
+
+#include "toolkit/PegThing.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace simulator {
+
+namespace {
+
+using host::Choices;
+using host::Workplace;
+using Kind = Choices::Kind;
+
+/// A screen that gives way to another one sooner has only been on the way there.
+constexpr std::int64_t LONG_ENOUGH = 300;
+
+constexpr std::int64_t LONG_PRESS = 600;
+constexpr std::int64_t HOLD_STEP = 100;
+constexpr std::size_t LONGEST_EXPECTED = 200;
+constexpr std::size_t MOST_EXPECTED = 2; ///< the small panel has no more lines
+
+std::string nameOf(PegKey key)
+{
+    if (key >= PK_FPK1 && key <= PK_FPK_LAST)
+        return "fpk" + std::to_string(key - PK_FPK1 + 1);
+    switch (key) {
+    case PK_STAR: return "star";
+    case PK_HASH: return "hash";
+    case PK_UP: return "up";
+    case PK_DOWN: return "down";
+    case PK_LEFT: return "left";
+    case PK_RIGHT: return "right";
+    case PK_OK: return "ok";
+    case PK_VOLUME_UP: return "volume-up";
+    case PK_VOLUME_DOWN: return "volume-down";
+    case PK_HOOK: return "hook";
+    default: return {static_cast<char>(key)};
+    }
+}
+
+const Choices* choicesIn(const Workplace& place, Kind kind)
+{
+    const auto found = std::ranges::find(place.choices, kind, &Choices::kind);
+    return found != place.choices.end() ? &*found : nullptr;
+}
+
+bool areOf(const Choices* choices, std::initializer_list<Kind> kinds)
+{
+    return choices != nullptr && std::ranges::find(kinds, choices->kind) != kinds.end();
+}
+
+/// Which field of a form; -1 where it is none.
+int fieldOf(const Workplace& place)
+{
+    const Choices* const here = place.withKeys();
+    return areOf(here, {Kind::FIELDS}) ? here->current : -1;
+}
+
+bool isSidewards(PegKey key)
+{
+    return key == PK_LEFT || key == PK_RIGHT;
+}
+
+bool isDigit(char character)
+{
+    return character >= '0' && character <= '9';
+}
+
+/// Whether it looks like a time, a date or a duration, which are others the next time: a digit, what separates, and a
+/// digit; or a number and a unit.
+bool isOfTheMoment(const std::string& text)
+{
+    for (std::size_t at = 0; at + 2 < text.size(); ++at) {
+        if (!isDigit(text[at]))
+            continue;
+        const bool separates = text[at + 1] == ':' || text[at + 1] == '.' || text[at + 1] == '/';
+        if (separates && isDigit(text[at + 2]))
+            return true;
+        const std::string_view unit = std::string_view(text).substr(at + 2, 4);
+        const auto length = std::min(unit.find(' '), unit.size());
+        if (text[at + 1] == ' ' && length > 0 && length <= 3 && !isDigit(unit.front()))
+            return true;
+    }
+    return false;
+}
+
+bool isLiteral(const ScriptText& text)
+{
+    return text.pieces.size() == 1 && !text.pieces.front().isTranslated;
+}
+
+/// Whether it can stand behind `expect` as it is.
+bool isPlain(const std::string& text)
+{
+    const std::string quoted = quotedForScript(text);
+    const bool isSeen =
+        quoted.find("\\x") == quoted.npos && quoted.find("\\u") == quoted.npos && quoted.find("\\n") == quoted.npos;
+    return isSeen && text.front() != ' ' && text.back() != ' ' && !text.starts_with("_(");
+}
+
+/// The beginning of a long one, without half a character.
+std::string beginningOf(const std::string& text)
+{
+    std::size_t end = std::min(text.size(), LONGEST_EXPECTED);
+    while (end < text.size() && end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80)
+        --end;
+    return text.substr(0, end);
+}
+
+bool canBeDialled(const std::string& text)
+{
+    return !text.empty() && text.find_first_not_of("0123456789*#+") == text.npos;
+}
+
+bool isOnOneLine(const std::string& text)
+{
+    return std::ranges::none_of(text, [](unsigned char byte) { return byte < ' ' || byte == 0x7F; });
+}
+
+std::string lineFor(const std::string& wire, const std::string& line)
+{
+    if (wire == "exchange" || wire == "language")
+        return wire + ' ' + line;
+    return "act " + wire + (line.empty() ? "" : " ") + line;
+}
+
+} // namespace
+
+/// Left and right may lead out of what is typed: that is seen when they have.
+bool Recording::isEditing(const Workplace& before, PegKey key) const
+{
+    return before.edited && (before.edited->takesAllKeys || isOfKeypad(key) || isSidewards(key));
+}
+
+void Recording::comes(PegKey key, const Workplace& before)
+{
+    if (!mDown || mDown->first != key)
+        mDown = {key, mWorld.now()};
+    finishBack(before);
+    joinLoose(before);
+    acted();
+    if (isEditing(before, key))
+        return;
+    if (key == PK_OK && dials(before))
+        return;
+    finishText(&before);
+    if (!isSidewards(key))
+        finishSetting();
+    if (mMenu && areOf(before.withKeys(), {Kind::MENU}))
+        mNews.reset();
+    else
+        expectNews();
+    finishSaying();
+    if (isOfKeypad(key))
+        mLoose.push_back({key, 0});
+    else if (key == PK_OK)
+        pressedOk(before);
+    else
+        pressedOther(key, before);
+}
+
+/// A number that has been typed into a dialler, whose first command OK is.
+bool Recording::dials(const Workplace& before)
+{
+    const bool isDialler = before.edited && before.edited->isDialler && !before.edited->takesAllKeys;
+    const Choices* const bar = choicesIn(before, Kind::BAR);
+    if (!isDialler || !mTyping || (bar != nullptr && bar->current > 0) || !canBeDialled(before.edited->text))
+        return false;
+    mTyping.reset();
+    mNews.reset();
+    write("dial " + before.edited->text);
+    return true;
+}
+
+void Recording::pressedOk(const Workplace& before)
+{
+    finishLoose();
+    const Choices* const here = before.withKeys();
+    if (areOf(here, {Kind::FIELDS})) {
+        mIsOkDown = true;
+        mOkField = before;
+        return;
+    }
+    if (areOf(here, {Kind::MENU}) && mMenu)
+        write("select " + *std::exchange(mMenu, std::nullopt));
+    finishMenu();
+    if (here == nullptr || here->texts.empty() || here->texts.front().empty())
+        return pressKey(PK_OK, here != nullptr ? "what is chosen here has no text" : "");
+    goToTab(before);
+    const bool isCommand = areOf(here, {Kind::MENU, Kind::BAR});
+    write((isCommand ? "command " : "choose ") + nameOfCurrent(*here));
+    forgetMoves();
+}
+
+/// Where up, down, left and right lead is seen when they have been handled.
+void Recording::pressedOther(PegKey key, const Workplace& before)
+{
+    const Choices* const here = before.withKeys();
+    const bool moves = key >= PK_UP && key <= PK_RIGHT;
+    if (moves && here != nullptr) {
+        const bool leaves = key == PK_LEFT && areOf(here, {Kind::ROWS, Kind::MENU, Kind::VALUES}) &&
+                            choicesIn(before, Kind::TABS) == nullptr;
+        if (!leaves)
+            return;
+    }
+    finishLoose();
+    finishSetting();
+    finishMenu();
+    if (key == PK_LEFT) {
+        write("back");
+        mHasLeft = true;
+        forgetMoves();
+        return;
+    }
+    if (!moves)
+        goToWhereHeIs(before);
+    pressKey(key, "");
+}
+
+/// As the telephone has it, after the keys that have led to where it is pressed.
+void Recording::pressKey(PegKey key, const std::string& reason)
+{
+    if (!reason.empty())
+        write("# " + reason);
+    if (!reason.empty())
+        for (const PegKey move : mMoves)
+            write("key " + nameOf(move));
+    write("key " + nameOf(key));
+    forgetMoves();
+}
+
+void Recording::done(PegKey key, const Workplace& before, const Workplace& after)
+{
+    acted();
+    joinLoose(after);
+    if (isEditing(before, key))
+        return followText(key, before, after);
+    if (mIsOkDown && key == PK_OK && areOf(after.withKeys(), {Kind::VALUES})) {
+        mIsOkDown = false;
+        finishMenu();
+        write("choose " + nameOfCurrent(*before.withKeys()));
+        forgetMoves();
+    }
+    if (key >= PK_UP && key <= PK_RIGHT && before.withKeys() != nullptr && !std::exchange(mHasLeft, false))
+        followMove(key, before, after);
+}
+
+/// What a key has done in what is typed, or how it has led out of it.
+void Recording::followText(PegKey key, const Workplace& before, const Workplace& after)
+{
+    const bool isThere = after.edited && after.window == before.window && fieldOf(after) == fieldOf(before);
+    if (isThere) {
+        const std::string& text = after.edited->text;
+        if (!mTyping && text != before.edited->text)
+            mTyping = Typing{before.window, fieldOf(before), fieldLine(before), before.edited->text, {}};
+        if (mTyping)
+            mTyping->text = text;
+        const bool isUnmoved = text == before.edited->text && after.edited->cursor == before.edited->cursor;
+        if (key == PK_LEFT && isUnmoved && !before.edited->takesAllKeys)
+            mMayLeave = before;
+        return;
+    }
+    if (!isSidewards(key))
+        return;
+    finishText(&before);
+    mNews.reset();
+    if (key == PK_LEFT)
+        write("back");
+    else
+        pressKey(key, "");
+}
+
+void Recording::followMove(PegKey key, const Workplace& before, const Workplace& after)
+{
+    const Choices& from = *before.withKeys();
+    const Choices* const to = after.withKeys();
+    if (after.window != before.window || to == nullptr) {
+        if (key == PK_LEFT)
+            return leftBy(before);
+        goToWhereHeIs(before);
+        return pressKey(key, "");
+    }
+    const Choices* const tabs = choicesIn(before, Kind::TABS);
+    const Choices* const tabsNow = choicesIn(after, Kind::TABS);
+    if (tabs != nullptr && tabsNow != nullptr && tabs->current != tabsNow->current)
+        mHasTurnedTab = true;
+    else if (isSidewards(key) && from.kind == Kind::FIELDS && to->kind == Kind::FIELDS && to->current == from.current)
+        return followValue(after);
+    else if (to->kind == from.kind && to->current == from.current)
+        return key == PK_RIGHT && from.kind == Kind::ROWS ? openMenu(before)
+               : key == PK_LEFT                           ? void(mMayLeave = before)
+                                                          : void();
+    mHasMoved = true;
+    if (mMoves.size() < MOST_MOVES)
+        mMoves.push_back(key);
+}
+
+/// Of a field, by left or right; at its ends it has none.
+void Recording::followValue(const Workplace& after)
+{
+    const Choices& field = *after.withKeys();
+    if (field.texts.size() < 2 || field.texts[1].empty())
+        return;
+    mSetting = Setting{after.window, nameOfCurrent(field), field.texts[1]};
+}
+
+/// What else can be done with a row: mostly a command of it.
+void Recording::openMenu(const Workplace& before)
+{
+    finishLoose();
+    finishSetting();
+    finishMenu();
+    const Choices& rows = *before.withKeys();
+    if (rows.texts.empty() || rows.texts.front().empty())
+        return pressKey(PK_RIGHT, "the row has no text");
+    goToTab(before);
+    mMenu = nameOfCurrent(rows);
+    forgetMoves();
+}
+
+void Recording::released(PegKey key, const Workplace& before)
+{
+    const std::int64_t held = mDown && mDown->first == key ? mWorld.now() - mDown->second : 0;
+    mDown.reset();
+    acted();
+    joinLoose(before);
+    if (mIsOkDown && key == PK_OK)
+        finishOk(&before);
+    if (!mLoose.empty() && mLoose.back().key == key)
+        mLoose.back().heldFor = held;
+    else if (key == PK_LEFT && held >= LONG_PRESS && !before.edited)
+        write("hold left " + std::to_string((held + HOLD_STEP - 1) / HOLD_STEP * HOLD_STEP));
+}
+
+void Recording::shown(const Workplace& place, const std::vector<host::TextRun>& texts)
+{
+    finishBack(place);
+    joinLoose(place);
+    const bool isElsewhere = place.window != mLast.window;
+    if (isElsewhere) {
+        finishLoose();
+        finishSetting();
+        if (mTyping && mTyping->window != place.window)
+            finishText(nullptr);
+        forgetMoves();
+    }
+    followTyped(place);
+    noteMessage(texts);
+    if (isOther(place, mLast)) {
+        if (mNews && mNews->window != place.window && mWorld.now() - mNewsSince >= LONG_ENOUGH)
+            expectNews();
+        mNewsComeByThemselves = !isAtOnce();
+        mNewsSince = mWorld.now();
+        mNews = factsOf(place, texts);
+    } else if (mNews) {
+        mNews = factsOf(place, texts);
+    }
+    mLast = place;
+}
+
+void Recording::saying(const std::string& wire, const std::string& line)
+{
+    finishAll();
+    expectNews();
+    mSaying = lineFor(wire, line);
+    acted();
+}
+
+void Recording::said(const std::string& refusal)
+{
+    if (refusal.empty())
+        return finishSaying();
+    if (!mSaying.empty() && isOnOneLine(mSaying + refusal))
+        write("# refused: " + mSaying + ": " + refusal);
+    mSaying.clear();
+}
+
+void Recording::end()
+{
+    finishAll();
+    expectNews();
+    finishSaying();
+}
+
+/// The keypad has typed into something by now.
+void Recording::joinLoose(const Workplace& place)
+{
+    if (mLoose.empty() || !place.edited)
+        return;
+    mLoose.clear();
+    mTyping = Typing{place.window, fieldOf(place), {}, {}, place.edited->text};
+}
+
+/// What runs out in the meantime changes the text as well.
+void Recording::followTyped(const Workplace& place)
+{
+    const bool isThere = mTyping && place.edited && place.window == mTyping->window && fieldOf(place) == mTyping->field;
+    if (isThere)
+        mTyping->text = place.edited->text;
+}
+
+void Recording::finishText(const Workplace* place)
+{
+    if (place != nullptr)
+        followTyped(*place);
+    const std::optional<Typing> typed = std::exchange(mTyping, std::nullopt);
+    if (!typed || typed->text == typed->before)
+        return;
+    if (!typed->fieldLine.empty())
+        write("select " + typed->fieldLine);
+    write("type " + quotedForScript(typed->text));
+    forgetMoves();
+}
+
+void Recording::finishLoose()
+{
+    for (const Loose& loose : std::exchange(mLoose, {})) {
+        const std::int64_t held = (loose.heldFor + HOLD_STEP - 1) / HOLD_STEP * HOLD_STEP;
+        write(loose.heldFor >= LONG_PRESS ? "hold " + nameOf(loose.key) + ' ' + std::to_string(held)
+                                          : "key " + nameOf(loose.key));
+    }
+}
+
+void Recording::finishSetting()
+{
+    const std::optional<Setting> set = std::exchange(mSetting, std::nullopt);
+    if (!set)
+        return;
+    write("select " + set->field);
+    write("set " + mWorld.textOf(set->value).written());
+    forgetMoves();
+}
+
+/// A form's OK counts when it goes up; while it is held it leads to the commands.
+void Recording::finishOk(const Workplace* before)
+{
+    if (!std::exchange(mIsOkDown, false))
+        return;
+    if (before != nullptr && areOf(before->withKeys(), {Kind::BAR})) {
+        mHasMoved = true;
+        return;
+    }
+    goToWhereHeIs(mOkField);
+    pressKey(PK_OK, "");
+}
+
+void Recording::finishMenu()
+{
+    const std::optional<std::string> row = std::exchange(mMenu, std::nullopt);
+    if (!row)
+        return;
+    write("select " + *row);
+    write("key right");
+}
+
+/// The left key that has changed nothing by itself has led away by now.
+void Recording::finishBack(const Workplace& place)
+{
+    if (!mMayLeave)
+        return;
+    const Workplace before = *std::exchange(mMayLeave, std::nullopt);
+    if (before.window != place.window || (before.edited.has_value() && !place.edited))
+        leftBy(before);
+}
+
+void Recording::leftBy(const Workplace& before)
+{
+    finishText(&before);
+    finishSetting();
+    finishMenu();
+    write("back");
+    forgetMoves();
+}
+
+void Recording::finishSaying()
+{
+    const std::string line = std::exchange(mSaying, {});
+    if (line.empty())
+        return;
+    write(isOnOneLine(line) ? line : "# something was said to the program that is no line");
+    acted();
+}
+
+void Recording::finishAll()
+{
+    finishOk(nullptr);
+    finishText(nullptr);
+    finishSetting();
+    finishLoose();
+    finishMenu();
+}
+
+void Recording::goToTab(const Workplace& place)
+{
+    const Choices* const tabs = choicesIn(place, Kind::TABS);
+    if (std::exchange(mHasTurnedTab, false) && tabs != nullptr && tabs != place.withKeys())
+        write("select " + nameOfCurrent(*tabs));
+}
+
+void Recording::goToWhereHeIs(const Workplace& place)
+{
+    const Choices* const here = place.withKeys();
+    if (!mHasMoved || here == nullptr || here->texts.empty() || here->texts.front().empty())
+        return;
+    goToTab(place);
+    write("select " + nameOfCurrent(*here));
+    forgetMoves();
+}
+
+void Recording::forgetMoves()
+{
+    mMoves.clear();
+    mHasMoved = false;
+    mHasTurnedTab = false;
+}
+
+/// Empty where the user is in no form.
+std::string Recording::fieldLine(const Workplace& place)
+{
+    const Choices* const here = place.withKeys();
+    return areOf(here, {Kind::FIELDS}) && !here->texts.empty() ? nameOfCurrent(*here) : std::string();
+}
+
+/// With its number where others before it are called the same.
+std::string Recording::nameOfCurrent(const Choices& choices)
+{
+    const std::string& name = choices.texts.front();
+    const Workplace place = mWorld.look({name});
+    const Choices* const there = choicesIn(place, choices.kind);
+    std::ptrdiff_t number = 1;
+    if (there != nullptr)
+        number = std::ranges::find(there->found, choices.current) - there->found.begin() + 1;
+    return mWorld.textOf(name).written() + (number > 1 ? " #" + std::to_string(number) : "");
+}
+
+/// A row that is another one because the user has gone there is none.
+bool Recording::isOther(const Workplace& place, const Workplace& former)
+{
+    if (place.window != former.window || place.title != former.title || place.lines != former.lines)
+        return true;
+    const Choices* const here = place.withKeys();
+    const Choices* const before = former.withKeys();
+    const bool areRows = areOf(here, {Kind::ROWS}) && areOf(before, {Kind::ROWS});
+    return areRows && here->current == before->current && here->texts != before->texts;
+}
+
+/// What the small panel has room for as well: the row, and what stands in a popup's first line; and no time.
+Recording::Facts Recording::factsOf(const Workplace& place, const std::vector<host::TextRun>& texts) const
+{
+    Texts candidates;
+    const Choices* const here = place.withKeys();
+    const bool isPopup = areOf(here, {Kind::BAR}) && choicesIn(place, Kind::FIELDS) == nullptr;
+    if (isPopup && !place.edited)
+        candidates.push_back(!place.title.empty() || place.lines.empty() ? place.title : place.lines.front());
+    if (areOf(here, {Kind::ROWS}) && choicesIn(place, Kind::TABS) == nullptr)
+        candidates.insert(candidates.end(), here->texts.begin(), here->texts.end());
+    else if (here != nullptr && !here->texts.empty())
+        candidates.push_back(here->texts.front());
+    if (here == nullptr)
+        candidates.push_back(place.title);
+    const auto isLasting = [&](const std::string& text) {
+        const auto isIt = [&](const host::TextRun& run) { return run.text == text && !run.runs; };
+        return !text.empty() && !isOfTheMoment(text) && std::ranges::any_of(texts, isIt);
+    };
+    Facts facts{place.window, {}};
+    if (!place.edited || !place.edited->isDialler)
+        std::ranges::copy_if(candidates, std::back_inserter(facts.texts), isLasting);
+    return facts;
+}
+
+/// A message lies over the rest for a while: on the small panel over all of it.
+void Recording::noteMessage(const std::vector<host::TextRun>& texts)
+{
+    const auto found = std::ranges::find(texts, TYPE_STATUS_MESSAGE, &host::TextRun::widget);
+    const std::string message = found != texts.end() ? found->text : std::string();
+    if (message == mMessage)
+        return;
+    finishSaying();
+    const std::string former = std::exchange(mMessage, message);
+    if (message.empty())
+        return messageHasGone(former);
+    mMayBeHidden = true;
+    mMessageSince = mWorld.now();
+    if (!isOfTheMoment(message))
+        expect(message, !isAtOnce());
+}
+
+/// One that says a time is another one the next time, and stays as long.
+void Recording::messageHasGone(const std::string& message)
+{
+    const std::int64_t stayed = mWorld.now() - mMessageSince + HOLD_STEP;
+    if (isOfTheMoment(message))
+        write("wait " + std::to_string(stayed / HOLD_STEP * HOLD_STEP));
+    else
+        write("await-not " + mWorld.textOf(beginningOf(message)).written());
+    mMayBeHidden = false;
+}
+
+/// What is new comes first; on another screen that has nothing new, what there is.
+void Recording::expectNews()
+{
+    const std::optional<Facts> news = std::exchange(mNews, std::nullopt);
+    if (!news)
+        return;
+    const auto isNew = [&](const std::string& text) {
+        return std::ranges::find(mTold.texts, text) == mTold.texts.end();
+    };
+    Texts texts;
+    std::ranges::copy_if(news->texts, std::back_inserter(texts), isNew);
+    if (texts.empty() && news->window != mTold.window)
+        texts = news->texts;
+    texts.resize(std::min(texts.size(), MOST_EXPECTED));
+    finishSaying();
+    for (const std::string& text : texts)
+        expect(text, mNewsComeByThemselves || mMayBeHidden);
+    mTold = *news;
+}
+
+void Recording::expect(const std::string& text, bool comesByItself)
+{
+    const ScriptText whole = mWorld.textOf(text);
+    const bool isOwn = isLiteral(whole);
+    const std::string begin = beginningOf(text);
+    if (!comesByItself && (isOwn ? isPlain(begin) : whole.pieces.front().isTranslated))
+        write("expect " + (isOwn ? begin : whole.written()));
+    else
+        write("await " + (isOwn ? quotedForScript(begin) : whole.written()));
+}
+
+void Recording::acted()
+{
+    mActedAt = mWorld.now();
+}
+
+bool Recording::isAtOnce() const
+{
+    return mWorld.now() - mActedAt <= mWorld.atOnce;
+}
+
+} // namespace simulator

@@ -1,0 +1,211 @@
+"""What is recorded of a longer walk through the desk phone replays on every panel and in every language."""
+
+from __future__ import annotations
+
+import subprocess
+from contextlib import contextmanager
+from pathlib import Path
+from typing import Iterator, List
+
+import pytest
+
+from displayapi import Phone, PhoneError
+from displayapi.process import PhoneProcess
+
+
+@contextmanager
+def recorded(programs: Path, file: Path, *words: str, program: str = "deskphone") -> Iterator[Phone]:
+    """A phone behind its page that is recorded, on a clock that is moved."""
+    command = [str(programs / "phone"), "--port", "0", "--rpc", "--virtual-clock", "--record", str(file),
+               str(programs / program), *words]
+    process = PhoneProcess(command, None, 60)
+    try:
+        with Phone.connect(process.url, process.token, wait_timeout=60) as phone:
+            yield phone
+    finally:
+        process.end()
+
+
+def replay(programs: Path, script: Path, *words: str, panel: str = "plain",
+           program: str = "deskphone") -> "subprocess.CompletedProcess[str]":
+    return subprocess.run([programs / "phone", "--variant", panel, "--script", script, "--out", script.parent,
+                           programs / program, *words], capture_output=True, text=True, timeout=240, check=False)
+
+
+def lines_of(file: Path) -> List[str]:
+    """Without comments."""
+    return [line for line in file.read_text(encoding="utf-8").splitlines() if not line.startswith("#")]
+
+
+def enter(phone: Phone, entry: str) -> None:
+    """From the idle screen into the menu, and to what is called so there."""
+    phone.press("ok")
+    phone.wait_for("Call log", selected=True)
+    while not any(row.selected and row.text == entry for row in phone.screen().rows):
+        phone.press("down")
+    phone.press("ok")
+
+
+def pass_until(phone: Phone, text: str) -> None:
+    """Lets time pass until a row has the text."""
+    for _ in range(60):
+        if any(text in row.text for row in phone.screen().rows):
+            return
+        phone.advance(0.5)
+    pytest.fail(f"there is no {text}:\n{phone.screen()}")
+
+
+def walk(phone: Phone) -> None:
+    phone.wait_for("Line 1", since=0)
+
+    # Another ring tone, and a louder one.
+    enter(phone, "Settings")
+    phone.wait_for("Language")
+    phone.press("down")
+    phone.press("ok")
+    phone.wait_for("Blackbird")
+    phone.press("down")
+    phone.press("ok")
+    phone.wait_for("Marimba")
+    phone.press("down")
+    phone.press("right")
+    phone.press("right")
+    phone.press("left")
+    phone.wait_for("6")
+    phone.press("ok")
+    phone.wait_for("Saved")
+    phone.advance(3)
+    phone.wait_for(absent="Saved")
+
+    # Somebody new.
+    enter(phone, "New contact")
+    phone.wait_for("Name")
+    for digits in ("9999", "666", "3333333"):
+        phone.type(digits)
+        phone.advance(1.1)
+    phone.press("down")
+    phone.hold("0", 0.7)
+    phone.type("4930123")
+    phone.wait_for("+4930123")
+    phone.press("down")
+    phone.press("right")
+    phone.wait_for("work")
+    phone.press("up", times=4)
+    phone.press("right")
+    phone.press("left")
+    phone.press("ok")
+    phone.wait_for("Saved")
+    phone.advance(3)
+
+    # Who is looked at, and a command of his.
+    enter(phone, "Contacts")
+    phone.wait_for("Zoë Ångström, home")
+    phone.press("down")
+    phone.press("right")
+    phone.wait_for("Details")
+    phone.press("down")
+    phone.press("ok")
+    phone.wait_for("030 1000000")
+    phone.press("left")
+    phone.wait_for("Contacts")
+    phone.press("left")
+    phone.wait_for("Desk phone")
+
+    # A call out, and one that comes meanwhile and is refused.
+    phone.type("4711")
+    phone.wait_for("4711")
+    phone.press("ok")
+    phone.wait_for("Dialling, line 1")
+    pass_until(phone, "Connected")
+    phone.exchange("4713 calls")
+    phone.wait_for("Edsger Dijkstra")
+    phone.press("right")
+    phone.press("ok")
+    phone.wait_for(absent="Edsger Dijkstra")
+    phone.press("hook")
+    phone.advance(5)
+    phone.wait_for("Desk phone", since=0)
+
+    # One that comes and is answered.
+    phone.exchange("4712 calls")
+    phone.wait_for("Alan Turing")
+    phone.press("ok")
+    phone.wait_for("Connected, line 1", match="contains")
+    phone.exchange("4712 ends")
+    phone.advance(5)
+    phone.wait_for("Desk phone", since=0)
+
+
+def test_a_walk_replays_on_every_panel_in_every_language(programs: Path, tmp_path: Path) -> None:
+    file = tmp_path / "walk.script"
+    with recorded(programs, file) as phone:
+        walk(phone)
+    recording = file.read_text(encoding="utf-8")
+    assert "key down" not in recording
+    for panel in ("plain", "narrow", "wp1"):
+        for language in ("en", "ar", "ja"):
+            script = tmp_path / f"{panel}-{language}.script"
+            script.write_text(f"language {language}\n{recording}", encoding="utf-8")
+            result = replay(programs, script, panel=panel)
+            assert result.returncode == 0, f"{panel}, {language}:\n{result.stderr}\n{recording}"
+
+
+def test_another_program_fails_with_a_sentence(programs: Path, tmp_path: Path) -> None:
+    file = tmp_path / "menu.script"
+    with recorded(programs, file) as phone:
+        enter(phone, "Contacts")
+        phone.wait_for("Zoë Ångström, home")
+    assert lines_of(file)[0] == "key ok"
+    result = replay(programs, file, "never", program="misbehaving")
+    assert result.returncode == 1
+    assert "there is no 'Key.contacts' or 'Menu.contacts' or" in result.stderr
+    assert "to go to; there is 'Do it'" in result.stderr
+    assert "> Do it" in result.stderr
+
+
+def test_what_has_crashed_the_program_is_written(programs: Path, tmp_path: Path) -> None:
+    file = tmp_path / "crash.script"
+    with pytest.raises(PhoneError):
+        with recorded(programs, file, "crash", program="misbehaving") as phone:
+            phone.wait_for("Do it", since=0)
+            phone.press("ok")
+            phone.screen()
+    assert lines_of(file) == ["expect Do it", 'choose "Do it"']
+    result = replay(programs, file, "crash", program="misbehaving")
+    assert "was stopped by SIGABRT" in result.stderr
+
+
+def test_two_clients_are_one_user(programs: Path, tmp_path: Path) -> None:
+    file = tmp_path / "two.script"
+    with recorded(programs, file) as phone, Phone.connect(phone.url, phone.token, wait_timeout=60) as other:
+        phone.press("ok")
+        other.wait_for("Call log", selected=True, since=0)
+        other.press("down")
+        phone.press("down")
+        other.press("ok")
+        other.wait_for("Language")
+    assert lines_of(file)[1].startswith("command _(") and "Menu.settings" in lines_of(file)[1]
+    assert replay(programs, file, panel="wp1").returncode == 0
+
+
+@pytest.mark.parametrize("file, reason", [("there.script", "already; a recording does not overwrite it."),
+                                          ("nowhere/r.script", "No such file or directory."), (".", "Is a directory.")])
+def test_file_that_cannot_be_had_starts_nothing(programs: Path, tmp_path: Path, file: str, reason: str) -> None:
+    (tmp_path / "there.script").write_text("key ok\n")
+    result = subprocess.run([programs / "phone", "--record", tmp_path / file, programs / "deskphone"],
+                            capture_output=True, text=True, timeout=60, check=False)
+    assert result.returncode == 2
+    assert result.stderr.strip().endswith(reason)
+    assert (tmp_path / "there.script").read_text() == "key ok\n"
+
+
+def test_full_disk_is_told_and_the_phone_goes_on(programs: Path) -> None:
+    command = [str(programs / "phone"), "--port", "0", "--rpc", "--record", "/dev/full", str(programs / "deskphone")]
+    process = PhoneProcess(command, None, 60)
+    try:
+        with Phone.connect(process.url, process.token, wait_timeout=60) as phone:
+            phone.press("ok")
+            phone.wait_for("Call log", selected=True)
+    finally:
+        process.end()
+    assert process.output.count("No space left on device. The telephone goes on without it.") == 1
