@@ -40,7 +40,7 @@ install(DIRECTORY ${PYTHON_CLIENT}/displayapi DESTINATION share/displayapi-${PRO
     FILES_MATCHING PATTERN *.py PATTERN py.typed PATTERN __pycache__ EXCLUDE)
 install(PROGRAMS ${PYTHON_CLIENT}/bin/phonectl DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(FILES ${PYTHON_CLIENT}/completion/phonectl DESTINATION share/bash-completion/completions)
-install(FILES ${PYTHON_CLIENT}/man/phonectl.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES ${PYTHON_CLIENT}/man/phonectl.1 ${PROJECT_SOURCE_DIR}/docs/man/phone.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 
 install(FILES ${PROJECT_SOURCE_DIR}/THIRD-PARTY-NOTICES.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 

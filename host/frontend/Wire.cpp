@@ -16,6 +16,7 @@ struct Wires {
     std::mutex mutex;   ///< guards what follows
     std::vector<const Wire*> wires;
     std::function<void()> listener;
+    std::mutex witnessing; ///< held while the witness hears
     Wire::Witness witness;
 };
 
@@ -76,22 +77,20 @@ const Wire* Wire::find(std::string_view name)
 
 std::string Wire::say(std::string_view name, std::string_view line)
 {
-    Witness witness;
-    {
-        const std::lock_guard lock(allWires().mutex);
-        witness = allWires().witness;
-    }
-    if (witness)
-        witness(name, line, nullptr);
+    const auto witness = [&](const std::string* refusal) {
+        const std::lock_guard lock(allWires().witnessing);
+        if (allWires().witness)
+            allWires().witness(name, line, refusal);
+    };
+    witness(nullptr);
     std::string refusal = tell(name, line);
-    if (witness)
-        witness(name, line, &refusal);
+    witness(&refusal);
     return refusal;
 }
 
 void Wire::setWitness(Witness witness)
 {
-    const std::lock_guard lock(allWires().mutex);
+    const std::lock_guard lock(allWires().witnessing);
     allWires().witness = std::move(witness);
 }
 

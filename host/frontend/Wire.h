@@ -54,8 +54,8 @@ public:
     static void setListener(std::function<void()> listener);
 
     /// Told of each line, first that it is about to be said, then what has come of it: `refusal` is null, and then the
-    /// sentence that the listener has returned. On the thread that says it; must not block. An empty function removes
-    /// it.
+    /// sentence that the listener has returned. On the thread that says it; must neither block nor say anything. An
+    /// empty function removes it. Waits until the former one has returned.
     using Witness = std::function<void(std::string_view name, std::string_view line, const std::string* refusal)>;
     static void setWitness(Witness witness);
 

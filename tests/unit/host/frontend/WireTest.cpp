@@ -125,4 +125,23 @@ TEST(WireTest, ListenerThatIsTakenOffHasReturned)
     goOn.open();
 }
 
+TEST(WireTest, WitnessHearsALineBeforeItIsSaidAndWhatHasComeOfIt)
+{
+    std::vector<std::string> notes;
+    const Wire wire("exchange", [&](std::string_view line) {
+        notes.push_back("said " + std::string(line));
+        return std::string(line == "4711 calls" ? "" : "refused");
+    });
+    Wire::setWitness([&](std::string_view name, std::string_view line, const std::string* refusal) {
+        notes.push_back(std::string(name) + ": " + std::string(line) + (refusal != nullptr ? " = " + *refusal : ""));
+    });
+    Wire::say("exchange", "4711 calls");
+    Wire::say("exchange", "nonsense");
+    Wire::setWitness({});
+    Wire::say("exchange", "4712 calls");
+    EXPECT_THAT(notes,
+                ElementsAre("exchange: 4711 calls", "said 4711 calls", "exchange: 4711 calls = ", "exchange: nonsense",
+                            "said nonsense", "exchange: nonsense = refused", "said 4712 calls"));
+}
+
 } // namespace

@@ -112,4 +112,36 @@ TEST(Keyboard, HandledKeysMakeRoomForMore)
     }
 }
 
+/// Notes which message comes, and how many the thing has handled by then.
+struct CountingWitness : Keyboard::Witness {
+    explicit CountingWitness(const RecordingThing& watched) : thing(watched) {}
+    void keyComes(const PegMessage& message) override { note("comes", message); }
+    void keyIsHandled(const PegMessage& message) override { note("is handled", message); }
+    void note(const std::string& what, const PegMessage& message)
+    {
+        notes.push_back(std::to_string(message.iData) + ' ' + what + ' ' + std::to_string(thing.messages.size()));
+    }
+
+    const RecordingThing& thing;
+    std::vector<std::string> notes;
+};
+
+TEST(Keyboard, WitnessHearsAKeyBeforeItIsHandledAndAfter)
+{
+    RunningToolkit toolkit;
+    auto* focused = new RecordingThing;
+    CountingWitness witness(*focused);
+    toolkit.run([&] {
+        gpPresent->Add(focused);
+        gpPresent->MoveFocusTree(focused);
+        Keyboard::instance().setWitness(&witness);
+    });
+    EXPECT_TRUE(Keyboard::instance().press(PK_STAR));
+    ASSERT_TRUE(toolkit.waitUntilIdle());
+    toolkit.run([&] { Keyboard::instance().setWitness(nullptr); });
+    EXPECT_TRUE(Keyboard::instance().release(PK_STAR));
+    ASSERT_TRUE(toolkit.waitUntilIdle());
+    EXPECT_EQ(witness.notes, (std::vector<std::string>{"42 comes 0", "42 is handled 1"}));
+}
+
 } // namespace

@@ -18,7 +18,7 @@ using testing::IsEmpty;
 using testing::StartsWith;
 
 /// A telephone of choices that the keys go through, one part below the other.
-class FakePhone : public ScriptedPhone {
+class PhoneOfChoices : public ScriptedPhone {
 public:
     struct Part {
         Kind kind;
@@ -118,7 +118,7 @@ public:
 
 class HandTest : public testing::Test {
 protected:
-    FakePhone phone;
+    PhoneOfChoices phone;
     Hand hand{phone,
               {[this](PegKey key, int times) {
                    for (int i = 0; i < times; ++i)
@@ -129,7 +129,7 @@ protected:
 
     std::string current() const
     {
-        const FakePhone::Part& part = phone.parts[phone.at];
+        const PhoneOfChoices::Part& part = phone.parts[phone.at];
         return part.names[static_cast<std::size_t>(part.current)];
     }
 };
