@@ -1,6 +1,7 @@
 #include "host/frontend/Wire.h"
 
 #include <algorithm>
+#include <exception>
 #include <mutex>
 #include <set>
 #include <utility>
@@ -38,6 +39,16 @@ void changeWires(Change change)
     }
     if (listener)
         listener();
+}
+
+/// Threads of front ends are not the program's to end.
+std::string heard(const Wire::Listener& listener, std::string_view line)
+{
+    try {
+        return listener(line);
+    } catch (const std::exception& failure) {
+        return std::string("the program has failed: ") + failure.what();
+    }
 }
 
 } // namespace
@@ -99,7 +110,7 @@ std::string Wire::tell(std::string_view name, std::string_view line)
     if (const std::shared_ptr<Ear> ear = earOf(name); ear != nullptr) {
         const std::lock_guard lock(ear->mutex);
         if (ear->listener)
-            return ear->listener(line);
+            return heard(ear->listener, line);
     }
     return "the program has no " + std::string(name);
 }

@@ -39,7 +39,8 @@ public:
 
     // For front ends.
 
-    /// Has the program hear a line. Returns what the listener has, or that there is nobody to hear it.
+    /// Has the program hear a line. Returns what the listener has, what it has thrown, or that there is nobody to hear
+    /// it.
     static std::string say(std::string_view name, std::string_view line);
 
     static bool isThere(std::string_view name);

@@ -20,7 +20,9 @@ RpcConnection::RpcConnection(mg_connection* connection, RpcPhone& phone, ScreenW
                              RpcRendering& rendering, std::chrono::milliseconds heartbeat)
     : mSocket(connection), mRendering(rendering), mListener(mSocket, LONGEST_MESSAGE, heartbeat),
       mOutbox(lineTo(mSocket)),
-      mMethods(phone, watch, about, [this](const auto& screen, const auto& told) { change(screen, told); })
+      mMethods(
+          phone, watch, about, [this](const auto& screen, const auto& told) { change(screen, told); },
+          [this] { return mSocket.isEnded(); })
 {
     mSocket.keepLittle();
 }

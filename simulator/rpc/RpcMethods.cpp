@@ -11,13 +11,15 @@
 #include "simulator/rpc/RpcInspection.h"
 #include "simulator/rpc/RpcScreen.h"
 
+#include <algorithm>
 #include <nlohmann/json.hpp>
 
 namespace simulator {
 
 namespace {
 
-constexpr std::int64_t DAY = 24 * 60 * 60 * 1000;
+constexpr std::int64_t HOUR = 60 * 60 * 1000;
+constexpr std::int64_t DAY = 24 * HOUR;
 constexpr std::int64_t MOST_PRESSES = 1000;
 constexpr std::size_t LONGEST_TYPED = 1000;
 
@@ -94,8 +96,8 @@ Json numberOf(const ScreenPtr& screen)
 
 } // namespace
 
-RpcMethods::RpcMethods(RpcPhone& phone, ScreenWatch& watch, RpcAbout about, Changed changed)
-    : mPhone(phone), mWatch(watch), mChanged(std::move(changed)), mAbout(std::move(about))
+RpcMethods::RpcMethods(RpcPhone& phone, ScreenWatch& watch, RpcAbout about, Changed changed, HasGone hasGone)
+    : mPhone(phone), mWatch(watch), mChanged(std::move(changed)), mHasGone(std::move(hasGone)), mAbout(std::move(about))
 {
     mWatch.join(this);
     add("hello", &RpcMethods::hello);
@@ -175,7 +177,12 @@ Json RpcMethods::advance(RpcParams& params)
 {
     const std::int64_t milliseconds = params.number("milliseconds", 0, 366 * DAY);
     params.end();
-    mPhone.advance(milliseconds);
+    std::int64_t left = milliseconds;
+    do {
+        endWhereNobodyIsThere();
+        mPhone.advance(std::min(left, HOUR));
+        left -= HOUR;
+    } while (left > 0);
     return {{"number", mPhone.screen()->number}, {"now", clockNow()}};
 }
 
@@ -287,12 +294,20 @@ Json RpcMethods::pressAll(const std::vector<PegKey>& keys, std::int64_t interval
     refuseLongRest(interval * static_cast<std::int64_t>(keys.size() - 1));
     ScreenPtr screen;
     for (const PegKey key : keys) {
+        endWhereNobodyIsThere();
         if (screen != nullptr && interval > 0)
             mPhone.pass(interval);
         mPhone.press(this, key);
         screen = mPhone.screen();
     }
     return numberOf(screen);
+}
+
+/// There is nobody who hears that error.
+void RpcMethods::endWhereNobodyIsThere() const
+{
+    if (mHasGone())
+        throw RpcError(RpcError::INTERNAL, "the client has gone");
 }
 
 Json RpcMethods::hold(RpcParams& params)
@@ -305,7 +320,7 @@ Json RpcMethods::hold(RpcParams& params)
     if (isForGood)
         mPhone.down(this, key);
     else
-        mPhone.hold(this, key, duration);
+        mPhone.hold(this, key, duration, [this] { endWhereNobodyIsThere(); });
     return numberOf(mPhone.screen());
 }
 

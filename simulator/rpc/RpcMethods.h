@@ -24,8 +24,13 @@ public:
     using Told = std::shared_ptr<std::uint64_t>;
     using Changed = std::function<void(const ScreenPtr&, const Told&)>;
 
+    /// Whether the client has gone.
+    using HasGone = std::function<bool()>;
+
     /// Phone and watch have to outlive it. `changed` is called for each screen of a subscription, and must not block.
-    RpcMethods(RpcPhone& phone, ScreenWatch& watch, RpcAbout about, Changed changed);
+    /// Where `hasGone` says so what takes long ends.
+    RpcMethods(
+        RpcPhone& phone, ScreenWatch& watch, RpcAbout about, Changed changed, HasGone hasGone = [] { return false; });
     RpcMethods(const RpcMethods&) = delete;
     RpcMethods& operator=(const RpcMethods&) = delete;
 
@@ -60,10 +65,12 @@ private:
     void subscribe(RpcParams& params, const RpcAnswer& answer);
     void waitFor(RpcParams& params, const RpcAnswer& answer);
     Json pressAll(const std::vector<PegKey>& keys, std::int64_t interval);
+    void endWhereNobodyIsThere() const;
 
     RpcPhone& mPhone;
     ScreenWatch& mWatch;
     const Changed mChanged;
+    const HasGone mHasGone;
     const RpcAbout mAbout;
     RpcDispatcher mDispatcher;
 };

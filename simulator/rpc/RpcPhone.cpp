@@ -72,13 +72,14 @@ void RpcPhone::up(Client client, PegKey key)
 }
 
 /// A real clock's keys are pressed again by the key pad.
-void RpcPhone::hold(Client client, PegKey key, std::int64_t milliseconds)
+void RpcPhone::hold(Client client, PegKey key, std::int64_t milliseconds, const std::function<void()>& again)
 {
     const bool isVirtual = host::Clock::instance().isVirtual();
     const auto pauses = isVirtual ? pausesOfHeld(key, milliseconds) : std::vector{milliseconds};
     down(client, key);
     pass(pauses.front());
     for (std::size_t i = 1; i < pauses.size(); ++i) {
+        again();
         mKeys.again(key);
         pass(pauses[i]);
     }

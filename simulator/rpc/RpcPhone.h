@@ -5,6 +5,7 @@
 #include "simulator/core/PhoneClock.h"
 #include "simulator/core/ScreenReader.h"
 
+#include <functional>
 #include <optional>
 
 namespace simulator {
@@ -35,8 +36,9 @@ public:
     void down(Client client, PegKey key);
     void up(Client client, PegKey key);
 
-    /// For so long on the telephone's clock.
-    void hold(Client client, PegKey key, std::int64_t milliseconds);
+    /// For so long on the telephone's clock. What `again` throws, before it is pressed again, ends it with the key
+    /// down.
+    void hold(Client client, PegKey key, std::int64_t milliseconds, const std::function<void()>& again);
 
     void pass(std::int64_t milliseconds);
 

@@ -123,6 +123,12 @@ bool PeerSocket::waitUntilReadable(std::chrono::milliseconds limit) const
     return poll(&event, 1, static_cast<int>(limit.count())) > 0;
 }
 
+bool PeerSocket::isEnded() const
+{
+    pollfd event{mDescriptor, POLLRDHUP, 0};
+    return poll(&event, 1, 0) > 0;
+}
+
 std::size_t PeerSocket::read(char* buffer, std::size_t size) const
 {
     for (;;) {

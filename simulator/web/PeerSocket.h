@@ -39,6 +39,9 @@ public:
     /// Waits until something has come, or the connection is gone; returns whether it is so.
     bool waitUntilReadable(std::chrono::milliseconds limit) const;
 
+    /// Whether the other side writes nothing more behind what is there.
+    bool isEnded() const;
+
     /// Reads what is there, or waits for it; 0 where nothing comes any more.
     std::size_t read(char* buffer, std::size_t size) const;
 

@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 
 #include <memory>
+#include <stdexcept>
 
 using host::Wire;
 using testing::ElementsAre;
@@ -31,6 +32,12 @@ TEST(WireTest, WithoutAListenerThatIsSaid)
     EXPECT_EQ(Wire::say("exchange", "4711 calls"), "the program has no exchange");
     EXPECT_FALSE(Wire::isThere("exchange"));
     EXPECT_TRUE(Wire::isThere("weather"));
+}
+
+TEST(WireTest, ListenerThatThrowsIsSaidToHaveFailed)
+{
+    const Wire wire("exchange", [](std::string_view) -> std::string { throw std::runtime_error("out of lines"); });
+    EXPECT_EQ(Wire::say("exchange", "4711 calls"), "the program has failed: out of lines");
 }
 
 TEST(WireTest, EachNameIsThereOnce)

@@ -180,6 +180,28 @@ TEST_F(RpcMethodsTest, VirtualClockIsMovedByExactlyThat)
     host::Clock::instance().makeReal();
 }
 
+TEST_F(RpcMethodsTest, WhatTakesLongEndsWhenItsClientHasGone)
+{
+    host::Clock::instance().makeVirtual();
+    constexpr int HOUR = 60 * 60 * 1000;
+    int left = 0;
+    const RpcMethods leaving(*phone, *watch, {"counter"}, {}, [&left] { return left-- == 0; });
+    const std::int64_t start = result("now")["now"];
+    left = 3;
+    EXPECT_EQ(answerTo(leaving, "advance", R"({"milliseconds":31622400000})")["error"]["code"], -32603);
+    EXPECT_EQ(result("now")["now"], start + 3 * HOUR);
+    left = 3;
+    answerTo(leaving, "press", R"({"key":"down","times":1000})");
+    left = 3;
+    answerTo(leaving, "type", R"({"text":"1234567890"})");
+    left = 3;
+    answerTo(leaving, "hold", R"({"key":"up","duration":86400000})");
+    host::Clock::instance().makeReal();
+    const std::string down = "+" + std::to_string(PK_DOWN) + "-" + std::to_string(PK_DOWN);
+    const std::string up = "+" + std::to_string(PK_UP);
+    EXPECT_EQ(handledKeys(), down + down + down + "+49-49+50-50+51-51" + up + up + up + up);
+}
+
 TEST_F(RpcMethodsTest, ScreenshotIsAPng)
 {
     const Json answer = result("screenshot", R"({"scale":2})");
