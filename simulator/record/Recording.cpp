@@ -136,8 +136,10 @@ bool Recording::isEditing(const Workplace& before, PegKey key) const
 
 void Recording::comes(PegKey key, const Workplace& before)
 {
-    if (!mDown || mDown->first != key)
+    if (!mDown || mDown->first != key) {
         mDown = {key, mWorld.now()};
+        mScreensWhileDown = 0;
+    }
     finishBack(before);
     joinLoose(before);
     acted();
@@ -330,7 +332,7 @@ void Recording::released(PegKey key, const Workplace& before)
         finishOk(&before);
     if (!mLoose.empty() && mLoose.back().key == key)
         mLoose.back().heldFor = held;
-    else if (key == PK_LEFT && held >= LONG_PRESS && !before.edited)
+    else if (key == PK_LEFT && held >= LONG_PRESS && mScreensWhileDown > 1) // it has led further than back
         write("hold left " + std::to_string((held + HOLD_STEP - 1) / HOLD_STEP * HOLD_STEP));
 }
 
@@ -340,6 +342,7 @@ void Recording::shown(const Workplace& place, const std::vector<host::TextRun>& 
     joinLoose(place);
     const bool isElsewhere = place.window != mLast.window;
     if (isElsewhere) {
+        ++mScreensWhileDown;
         finishLoose();
         finishSetting();
         if (mTyping && mTyping->window != place.window)
@@ -542,6 +545,9 @@ bool Recording::isOther(const Workplace& place, const Workplace& former)
         return true;
     const Choices* const here = place.withKeys();
     const Choices* const before = former.withKeys();
+    const bool hasOpened = areOf(here, {Kind::MENU, Kind::VALUES}) && (before == nullptr || before->kind != here->kind);
+    if (hasOpened)
+        return true;
     const bool areRows = areOf(here, {Kind::ROWS}) && areOf(before, {Kind::ROWS});
     return areRows && here->current == before->current && here->texts != before->texts;
 }

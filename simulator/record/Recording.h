@@ -146,6 +146,7 @@ private:
     bool mHasTurnedTab = false;
     std::vector<PegKey> mMoves; ///< the keys by which he has gone somewhere since the last line
     std::optional<std::pair<PegKey, std::int64_t>> mDown;
+    int mScreensWhileDown = 0;
 };
 
 } // namespace simulator

@@ -252,6 +252,20 @@ TEST_F(RecordingTest, HeldOkOfAFormLeadsToItsCommands)
     EXPECT_THAT(lines, ElementsAre("command \"Save\""));
 }
 
+TEST_F(RecordingTest, HeldLeftThatLeadsFurtherThanBackIsHeld)
+{
+    for (const int screens : {1, 2}) {
+        now = place(3, Kind::ROWS, {"a"});
+        recording.comes(PK_LEFT, now);
+        recording.done(PK_LEFT, now, now);
+        for (int screen = 0; screen < screens; ++screen)
+            show(place(screens + screen, Kind::ROWS, {"09:41"}));
+        clock += 750;
+        recording.released(PK_LEFT, now);
+    }
+    EXPECT_THAT(lines, ElementsAre("back", "back", "hold left 800"));
+}
+
 TEST_F(RecordingTest, ScreenThatComesOfAKeyIsExpected)
 {
     show(list({"a"}));
@@ -281,6 +295,16 @@ TEST_F(RecordingTest, RowsThatComeWhileTheUserWalksAreNoNews)
     show(list({"a", "b", "c"}, 1));
     press(PK_OK, list({"a", "b", "c"}, 1));
     EXPECT_THAT(lines, ElementsAre("expect a", "choose \"b\""));
+}
+
+TEST_F(RecordingTest, MenuThatOpensInAWindowIsExpected)
+{
+    show(place(1, Kind::FIELDS, {"Ring tone"}));
+    recording.end();
+    show(place(1, Kind::VALUES, {"Classic", "Marimba"}));
+    show(place(1, Kind::VALUES, {"Classic", "Marimba"}, 1));
+    recording.end();
+    EXPECT_THAT(lines, ElementsAre("expect Ring tone", "expect Marimba"));
 }
 
 TEST_F(RecordingTest, ScreenOnTheWayIsNotExpected)
