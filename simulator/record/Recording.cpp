@@ -150,10 +150,12 @@ void Recording::comes(PegKey key, const Workplace& before)
     finishText(&before);
     if (!isSidewards(key))
         finishSetting();
-    if (mMenu && areOf(before.withKeys(), {Kind::MENU}))
+    if (mMenu && areOf(before.withKeys(), {Kind::MENU})) {
         mNews.reset();
-    else
+    } else {
+        finishMenu();
         expectNews();
+    }
     finishSaying();
     if (isOfKeypad(key))
         mLoose.push_back({key, 0});
@@ -202,9 +204,10 @@ void Recording::pressedOther(PegKey key, const Workplace& before)
     const Choices* const here = before.withKeys();
     const bool moves = key >= PK_UP && key <= PK_RIGHT;
     if (moves && here != nullptr) {
-        const bool leaves = key == PK_LEFT && areOf(here, {Kind::ROWS, Kind::MENU, Kind::VALUES}) &&
-                            choicesIn(before, Kind::TABS) == nullptr;
-        if (!leaves)
+        const bool isMenu = areOf(here, {Kind::MENU, Kind::VALUES});
+        const bool leaves =
+            key == PK_LEFT && (isMenu || (here->kind == Kind::ROWS && choicesIn(before, Kind::TABS) == nullptr));
+        if (!leaves && !(key == PK_RIGHT && isMenu))
             return;
     }
     finishLoose();
@@ -216,9 +219,11 @@ void Recording::pressedOther(PegKey key, const Workplace& before)
         forgetMoves();
         return;
     }
-    if (!moves)
+    mHasMoved = mHasMoved || key == PK_RIGHT; // it is what the command there says
+    if (!moves || key == PK_RIGHT)
         goToWhereHeIs(before);
     pressKey(key, "");
+    mHasLeft = moves;
 }
 
 /// As the telephone has it, after the keys that have led to where it is pressed.
@@ -256,7 +261,7 @@ void Recording::followText(PegKey key, const Workplace& before, const Workplace&
     if (isThere) {
         const std::string& text = after.edited->text;
         if (!mTyping && text != before.edited->text)
-            mTyping = Typing{before.window, fieldOf(before), fieldLine(before), before.edited->text, {}};
+            mTyping = Typing{before.window, fieldOf(before), fieldLine(before), before.edited->text, {}, key};
         if (mTyping)
             mTyping->text = text;
         const bool isUnmoved = text == before.edited->text && after.edited->cursor == before.edited->cursor;
@@ -343,6 +348,8 @@ void Recording::shown(const Workplace& place, const std::vector<host::TextRun>& 
     const bool isElsewhere = place.window != mLast.window;
     if (isElsewhere) {
         ++mScreensWhileDown;
+        if (!areOf(place.withKeys(), {Kind::MENU}))
+            finishMenu();
         finishLoose();
         finishSetting();
         if (mTyping && mTyping->window != place.window)
@@ -354,7 +361,7 @@ void Recording::shown(const Workplace& place, const std::vector<host::TextRun>& 
     if (isOther(place, mLast)) {
         if (mNews && mNews->window != place.window && mWorld.now() - mNewsSince >= LONG_ENOUGH)
             expectNews();
-        mNewsComeByThemselves = !isAtOnce();
+        mNewsComeByThemselves = !isAtOnce() || isSameList(place, mLast);
         mNewsSince = mWorld.now();
         mNews = factsOf(place, texts);
     } else if (mNews) {
@@ -392,8 +399,8 @@ void Recording::joinLoose(const Workplace& place)
 {
     if (mLoose.empty() || !place.edited)
         return;
+    mTyping = Typing{place.window, fieldOf(place), {}, {}, place.edited->text, mLoose.front().key};
     mLoose.clear();
-    mTyping = Typing{place.window, fieldOf(place), {}, {}, place.edited->text};
 }
 
 /// What runs out in the meantime changes the text as well.
@@ -411,6 +418,8 @@ void Recording::finishText(const Workplace* place)
     const std::optional<Typing> typed = std::exchange(mTyping, std::nullopt);
     if (!typed || typed->text == typed->before)
         return;
+    if (!typed->before && typed->text.empty()) // what has been opened by a key stays open without a text
+        write("key " + nameOf(typed->opener));
     if (!typed->fieldLine.empty())
         write("select " + typed->fieldLine);
     write("type " + quotedForScript(typed->text));
@@ -552,6 +561,13 @@ bool Recording::isOther(const Workplace& place, const Workplace& former)
     return areRows && here->current == before->current && here->texts != before->texts;
 }
 
+/// What changes in its place mostly does so as time passes, and soon after a key by chance.
+bool Recording::isSameList(const Workplace& place, const Workplace& former)
+{
+    return place.window == former.window && areOf(place.withKeys(), {Kind::ROWS}) &&
+           areOf(former.withKeys(), {Kind::ROWS});
+}
+
 /// What the small panel has room for as well: the row, and what stands in a popup's first line; and no time.
 Recording::Facts Recording::factsOf(const Workplace& place, const std::vector<host::TextRun>& texts) const
 {
@@ -570,7 +586,7 @@ Recording::Facts Recording::factsOf(const Workplace& place, const std::vector<ho
         const auto isIt = [&](const host::TextRun& run) { return run.text == text && !run.runs; };
         return !text.empty() && !isOfTheMoment(text) && std::ranges::any_of(texts, isIt);
     };
-    Facts facts{place.window, {}};
+    Facts facts{place.window, {}, areOf(here, {Kind::ROWS})};
     if (!place.edited || !place.edited->isDialler)
         std::ranges::copy_if(candidates, std::back_inserter(facts.texts), isLasting);
     return facts;
@@ -585,12 +601,14 @@ void Recording::noteMessage(const std::vector<host::TextRun>& texts)
         return;
     finishSaying();
     const std::string former = std::exchange(mMessage, message);
+    if (mNews && mWorld.now() - mNewsSince >= LONG_ENOUGH)
+        expectNews();
     if (message.empty())
         return messageHasGone(former);
     mMayBeHidden = true;
     mMessageSince = mWorld.now();
     if (!isOfTheMoment(message))
-        expect(message, !isAtOnce());
+        expect(message, true);
 }
 
 /// One that says a time is another one the next time, and stays as long.
@@ -619,8 +637,8 @@ void Recording::expectNews()
         texts = news->texts;
     texts.resize(std::min(texts.size(), MOST_EXPECTED));
     finishSaying();
-    for (const std::string& text : texts)
-        expect(text, mNewsComeByThemselves || mMayBeHidden);
+    for (const std::string& text : texts) // behind a row's name stands how it is by now
+        expect(text, mNewsComeByThemselves || mMayBeHidden || (news->areRows && text != news->texts.front()));
     mTold = *news;
 }
 

@@ -60,6 +60,7 @@ private:
         std::string fieldLine;             ///< what it is called
         std::optional<std::string> before; ///< what stood there; nothing where the keys have opened it
         std::string text;
+        PegKey opener; ///< the first key
     };
 
     /// A field that is being set by left and right.
@@ -78,7 +79,8 @@ private:
     /// What the user sees that other panels show as well, the best first.
     struct Facts {
         const void* window = nullptr;
-        Texts texts;
+        Texts texts{};
+        bool areRows = false;
     };
 
     bool isEditing(const Workplace& before, PegKey key) const;
@@ -109,6 +111,7 @@ private:
     std::string nameOfCurrent(const Choices& choices);
 
     static bool isOther(const Workplace& place, const Workplace& former);
+    static bool isSameList(const Workplace& place, const Workplace& former);
     Facts factsOf(const Workplace& place, const std::vector<host::TextRun>& texts) const;
     void noteMessage(const std::vector<host::TextRun>& texts);
     void messageHasGone(const std::string& message);
@@ -141,7 +144,7 @@ private:
     Workplace mOkField;
     std::string mSaying;
 
-    bool mHasLeft = false; ///< by the key that goes down now
+    bool mHasLeft = false; ///< the key that goes down now is written
     bool mHasMoved = false;
     bool mHasTurnedTab = false;
     std::vector<PegKey> mMoves; ///< the keys by which he has gone somewhere since the last line

@@ -214,6 +214,38 @@ TEST_F(RecordingTest, MenuThatIsLeftIsTheRightKey)
     EXPECT_THAT(lines, ElementsAre("select \"Ada\"", "key right", "back"));
 }
 
+TEST_F(RecordingTest, RightThatOpensNoMenuStandsBeforeWhatComesOfIt)
+{
+    press(PK_RIGHT, list({"Ada"}));
+    show(place(1, Kind::ROWS, {"Dialling"}));
+    recording.end();
+    EXPECT_THAT(lines, ElementsAre("select \"Ada\"", "key right", "expect Dialling"));
+}
+
+TEST_F(RecordingTest, DigitThatHasOpenedADiallerIsAKeyWhereItIsTakenBack)
+{
+    press(static_cast<PegKey>('4'), list({"a"}));
+    show(typing(place(1, Kind::BAR, {"Dial"}), "4"));
+    press(PK_LEFT, typing(place(1, Kind::BAR, {"Dial"}), "4"), typing(place(1, Kind::BAR, {"Dial"}), ""));
+    press(PK_LEFT, typing(place(1, Kind::BAR, {"Dial"}), ""), list({"a"}));
+    EXPECT_THAT(lines, ElementsAre("key 4", "type \"\"", "back"));
+}
+
+TEST_F(RecordingTest, RightInAMenuIsWhatItsCommandSays)
+{
+    press(PK_RIGHT, place(1, Kind::MENU, {"Call", "Delete"}, 1));
+    EXPECT_THAT(lines, ElementsAre("select \"Delete\"", "key right"));
+}
+
+TEST_F(RecordingTest, RowThatBecomesAnotherOneInItsPlaceIsAwaited)
+{
+    show(list({"Dialling"}));
+    press(PK_VOLUME_UP, list({"Dialling"}));
+    show(list({"Connected"}));
+    recording.end();
+    EXPECT_THAT(lines, ElementsAre("expect Dialling", "key volume-up", "await \"Connected\""));
+}
+
 TEST_F(RecordingTest, FieldThatIsSteppedThroughIsSet)
 {
     Workplace five = place(0, Kind::FIELDS, {"Ringing"});
@@ -334,7 +366,17 @@ TEST_F(RecordingTest, MessageIsExpectedAndItsEndAwaited)
     show(list({"a"}), "Call ended 00:04");
     clock += 2000;
     show(list({"a"}));
-    EXPECT_THAT(lines, ElementsAre("expect Saved", "await-not \"Saved\"", "wait 2100"));
+    EXPECT_THAT(lines, ElementsAre("await \"Saved\"", "await \"a\"", "await-not \"Saved\"", "wait 2100"));
+}
+
+TEST_F(RecordingTest, MessageComesBehindTheScreenThatWasThereBefore)
+{
+    show(list({"a"}));
+    clock += 5000;
+    show(place(1, Kind::ROWS, {"b"}));
+    clock += 5000;
+    show(place(1, Kind::ROWS, {"b"}), "Missed");
+    EXPECT_THAT(lines, ElementsAre("expect a", "await \"b\"", "await \"Missed\""));
 }
 
 TEST_F(RecordingTest, WhatAMessageMayHideIsAwaited)
@@ -342,7 +384,7 @@ TEST_F(RecordingTest, WhatAMessageMayHideIsAwaited)
     show(list({"a"}), "Saved");
     show(place(1, Kind::ROWS, {"b"}), "Saved");
     recording.end();
-    EXPECT_THAT(lines, ElementsAre("expect Saved", "await \"b\""));
+    EXPECT_THAT(lines, ElementsAre("await \"Saved\"", "await \"b\""));
 }
 
 TEST_F(RecordingTest, DialogThatClosesByItselfKeepsWhatWasTyped)
