@@ -23,7 +23,7 @@
 #include "presentation/PRESCPresentationManager.h"
 #include "support/VirtualTime.h"
 #include "unit/host/variants/OnPanel.h"
-#include "unit/host/variants/tree/Told.h"
+#include "unit/host/variants/Told.h"
 #include "widgets/KestrelApplication.h"
 
 #include <functional>

@@ -12,6 +12,7 @@
 #include "support/Dictionary.h"
 #include "support/VirtualTime.h"
 #include "unit/host/variants/OnPanel.h"
+#include "unit/host/variants/Told.h"
 #include "widgets/KestrelApplication.h"
 
 #include <gmock/gmock.h>
@@ -81,18 +82,7 @@ protected:
         display.localeChanged(language);
     }
 
-    /// How often somebody who observes the screen is told of what is done.
-    int changesBy(const std::function<void()>& work)
-    {
-        struct Counter : DisplayAPI::DisplayEventIfc {
-            void displayChanged(std::string) override { ++count; }
-            int count = 0;
-        } counter;
-        display.subscribe(&counter);
-        work();
-        display.unSubscribe();
-        return counter.count;
-    }
+    int changesBy(const std::function<void()>& work) { return test::changesBy(display, work); }
 
     /// The form's end comes when whoever observes the screen is told of what is done.
     void deleteFormWhenTold(const std::function<void()>& work)

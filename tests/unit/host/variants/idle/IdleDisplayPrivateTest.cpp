@@ -3,6 +3,7 @@
 #include "DisplayAPI/DisplayablePrivate.h"
 #include "DisplayAPI/Rectangles.h"
 #include "host/lcd/Geometry.h"
+#include "unit/host/variants/Painted.h"
 #include "utilities/CallPartyIdentifier.h"
 #include "utilities/Rect.h"
 #include "utilities/TranslationInfo.h"
@@ -195,16 +196,12 @@ TEST_P(IdleDisplayPrivateTest, LanguageChangesTexts)
 TEST_P(IdleDisplayPrivateTest, ReadingDirectionTurnsPlainTextsRound)
 {
     idle->setCurrentPhoneNumber("4711");
-    host::Lcd::current()->paint();
-    display.localeChanged("ar_EG");
-    EXPECT_TRUE(isPaintedAnew());
+    test::expectPaintedAsAnew([&] { display.localeChanged("ar_EG"); });
 }
 
 TEST_P(IdleDisplayPrivateTest, NewFormatOfDatesIsPainted)
 {
-    host::Lcd::current()->paint();
-    display.dateFormatChanged("yyyy-mm-dd");
-    EXPECT_TRUE(isPaintedAnew());
+    test::expectPaintedAsAnew([&] { display.dateFormatChanged("yyyy-mm-dd"); });
 }
 
 TEST_P(IdleDisplayPrivateTest, FormatsAreThoseOfTheTelephone)
@@ -232,18 +229,11 @@ TEST_P(IdleDisplayPrivateTest, ClockGoesOnAndTheDateWithIt)
 
 TEST_P(IdleDisplayPrivateTest, TimeThatItShowedWhenItWasHiddenIsPaintedAgain)
 {
-    host::Lcd& lcd = *host::Lcd::current();
     time.pass(MINUTE);
     display.hide();
     time.pass(15 * MINUTE);
     display.show();
-    lcd.paint();
-    display.setTimeInSystemWindow(14, 6, 0);
-    lcd.paint();
-    const auto set = lcd.picture();
-    idle->getPrivateImpl()->getWidget()->Invalidate();
-    lcd.paint();
-    EXPECT_TRUE(set.pixels == lcd.picture().pixels);
+    test::expectPaintedAsAnew([&] { display.setTimeInSystemWindow(14, 6, 0); });
 }
 
 TEST_P(IdleDisplayPrivateTest, HasAClockOfItsOwnWhereTheStatusLinesHaveNone)

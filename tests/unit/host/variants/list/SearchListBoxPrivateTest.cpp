@@ -14,7 +14,7 @@
 #include "support/VirtualTime.h"
 #include "support/Worker.h"
 #include "unit/host/variants/OnPanel.h"
-#include "unit/host/variants/tree/Told.h"
+#include "unit/host/variants/Told.h"
 #include "utilities/Rect.h"
 #include "utilities/TranslationInfo.h"
 #include "utilities/TranslatorIfc.h"

@@ -4,8 +4,8 @@
 
 #include "DisplayAPI/Form.h"
 #include "support/ItemChanges.h"
+#include "unit/host/variants/Told.h"
 #include "unit/host/variants/popup/PopupVariantTest.h"
-#include "unit/host/variants/tree/Told.h"
 #include "variants/popup/PopupTextFieldPrivate.h"
 
 #include <thread>

@@ -3,8 +3,8 @@
 #include "DisplayAPI/ContextMenu.h"
 #include "DisplayAPI/DisplayEventIfc.h"
 #include "support/LogLines.h"
+#include "unit/host/variants/Told.h"
 #include "unit/host/variants/tab/TabScreenVariantTest.h"
-#include "unit/host/variants/tree/Told.h"
 
 #include <functional>
 #include <utility>

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "DisplayAPI/Display.h"
-#include "DisplayAPI/DisplayEventIfc.h"
 #include "DisplayAPI/DisplayablePrivate.h"
 #include "DisplayAPI/DisplayablePrivateIfc.h"
 #include "DisplayAPI/List.h"
@@ -9,6 +8,7 @@
 #include "DisplayAPI/ListItemPrivateIfc.h"
 #include "host/widgets/telephony/LinesRow.h"
 #include "unit/host/variants/OnPanel.h"
+#include "unit/host/variants/Told.h"
 #include "unit/host/variants/popup/PopupVariantTest.h"
 #include "utilities/CallPartyIdentifier.h"
 #include "utilities/ICC.h"
@@ -70,19 +70,7 @@ protected:
 
     std::string shown() { return list.getPrivateImpl()->serialise(); }
 
-    /// How often the screen's observer is told while that is done.
-    int changesBy(const std::function<void()>& work)
-    {
-        class Changes : public DisplayAPI::DisplayEventIfc {
-        public:
-            void displayChanged(std::string) override { ++count; }
-            int count = 0;
-        } changes;
-        display.subscribe(&changes);
-        work();
-        display.unSubscribe();
-        return changes.count;
-    }
+    int changesBy(const std::function<void()>& work) { return test::changesBy(display, work); }
 
     void changeLanguage(const char* language)
     {

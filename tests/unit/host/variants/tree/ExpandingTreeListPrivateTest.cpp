@@ -7,7 +7,7 @@
 #include "doubles/Mocks.h"
 #include "support/RowsOwner.h"
 #include "unit/host/variants/OnPanel.h"
-#include "unit/host/variants/tree/Told.h"
+#include "unit/host/variants/Told.h"
 #include "utilities/TranslationInfo.h"
 #include "variants/list/ListItemPrivate.h"
 #include "widgets/Peg_TreeListItem.h"
@@ -223,6 +223,18 @@ TEST_P(ExpandingTreeListPrivateTest, ObserverIsToldLastOfWhatItSees)
     EXPECT_EQ(found.size(), 2u);
     list.clear();
     EXPECT_EQ(found, (std::vector{true, true, false}));
+}
+
+TEST_P(ExpandingTreeListPrivateTest, WhatChangesIsPainted)
+{
+    test::expectPaintedAsAnew([&] { press(PK_OK); });
+    test::expectPaintedAsAnew([&] { list.setReadonly(1, true); });
+    test::expectPaintedAsAnew([&] { list.setReadonly(1, false); });
+    test::expectPaintedAsAnew([&] { list.align(); });
+    test::expectPaintedAsAnew([&] { list.unalign(); });
+    test::expectPaintedAsAnew([&] { list.setTitle("Settings"); });
+    test::expectPaintedAsAnew([&] { append("f", 1); });
+    test::expectPaintedAsAnew([&] { list.clear(); });
 }
 
 TEST_P(ExpandingTreeListPrivateTest, TitleStandsAbove)

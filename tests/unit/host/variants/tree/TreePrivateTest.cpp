@@ -7,7 +7,7 @@
 #include "support/Keys.h"
 #include "support/RowsOwner.h"
 #include "unit/host/variants/OnPanel.h"
-#include "unit/host/variants/tree/Told.h"
+#include "unit/host/variants/Told.h"
 #include "utilities/TranslationInfo.h"
 #include "utilities/TranslatorIfc.h"
 #include "widgets/KestrelApplication.h"
@@ -287,6 +287,19 @@ TEST_P(TreePrivateTest, ObserverIsToldOnceOfEachChangeThatIsSeen)
     EXPECT_EQ(told.take(), isSmall() ? 1 : 0);
     b->cleanup();
     EXPECT_EQ(told.take(), 1) << "a row with what stands below it";
+}
+
+TEST_P(TreePrivateTest, WhatChangesIsPainted)
+{
+    tree.expandNode(a, false);
+    test::expectPaintedAsAnew([&] { a->setProtected(true); });
+    test::expectPaintedAsAnew([&] { a->setProtected(false); });
+    test::expectPaintedAsAnew([&] { d->setInactive(true); });
+    test::expectPaintedAsAnew([&] { d->addNode("f", 6); });
+    test::expectPaintedAsAnew([&] { a->removeBack(true); });
+    test::expectPaintedAsAnew([&] { tree.expandNode(a, true); });
+    test::expectPaintedAsAnew([&] { c->cleanup(); });
+    test::expectPaintedAsAnew([&] { b->cleanup(); });
 }
 
 TEST_P(TreePrivateTest, ObserverIsToldOfAMarkThatGoes)

@@ -2,6 +2,7 @@
 
 #include "DisplayAPI/Display.h"
 #include "DisplayAPI/DisplayEventIfc.h"
+#include "unit/host/variants/Painted.h"
 
 #include <functional>
 #include <utility>
@@ -35,5 +36,13 @@ private:
     std::function<void()> mAct;
     int mTimes = 0;
 };
+
+/// How often the observer of the screen is told while that is done, all of which is painted.
+inline int changesBy(DisplayAPI::Display& display, const std::function<void()>& work)
+{
+    Told told(display);
+    expectPaintedAsAnew(work);
+    return told.take();
+}
 
 } // namespace test
