@@ -14,7 +14,6 @@
 
 using namespace host;
 using testing::ElementsAre;
-using testing::Field;
 
 namespace {
 
@@ -131,7 +130,7 @@ TEST_F(StatusMessageTest, LongTextIsCut)
 {
     StatusMessage message(std::string(200, 'W'), 0);
     gpPresent->Add(&message);
-    EXPECT_THAT(painted().texts, ElementsAre(Field(&TextRun::cut, true)));
+    EXPECT_THAT(painted().texts, ElementsAre(testing::Field(&TextRun::cut, true)));
 }
 
 TEST_F(StatusMessageTest, BeginsAtTheRightWhereTheLanguageDoes)
