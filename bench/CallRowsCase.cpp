@@ -1,10 +1,10 @@
 #include "Cases.h"
+#include "Frames.h"
 #include "Phone.h"
 
 #include "DisplayAPI/CallConnectedItem.h"
 #include "DisplayAPI/List.h"
 #include "host/lcd/Lcd.h"
-#include "host/toolkit/Loop.h"
 
 #include <cstdint>
 #include <cstdio>
@@ -39,8 +39,7 @@ double durationsRunning()
         calls.append(call);
     }
     phone.display().setCurrent(&calls);
-    if (!host::Loop::waitUntilIdle(10s))
-        std::fprintf(stderr, "benchmark broken: the screen is not finished\n");
+    waitUntilShown();
     const std::uint64_t frames = host::Lcd::current()->picture().frame;
     const double before = processCpuSeconds();
     const auto start = Clock::now();

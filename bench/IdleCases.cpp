@@ -1,10 +1,10 @@
 #include "Cases.h"
+#include "Frames.h"
 #include "Phone.h"
 
 #include "DisplayAPI/DisplayablePrivateIfc.h"
 #include "DisplayAPI/IdleDisplay.h"
 #include "host/lcd/Lcd.h"
-#include "host/toolkit/Loop.h"
 #include "kit/OnGuiThread.h"
 
 #include <cstdint>
@@ -36,8 +36,7 @@ public:
         mPhone.display().setCurrent(&mIdle);
         mPhone.display().setTimeInSystemWindow(14, 4, 58);
         mPhone.display().showTimeInSystemWindow(true);
-        if (!host::Loop::waitUntilIdle(10s))
-            std::fprintf(stderr, "benchmark broken: the screen is not finished\n");
+        waitUntilShown();
     }
     ShownIdle(const ShownIdle&) = delete;
     ShownIdle& operator=(const ShownIdle&) = delete;

@@ -1,10 +1,10 @@
 #include "Cases.h"
+#include "Frames.h"
 #include "Phone.h"
 
 #include "DisplayAPI/List.h"
 #include "DisplayAPI/ListItem.h"
 #include "host/lcd/Lcd.h"
-#include "host/toolkit/Loop.h"
 #include "utilities/TranslationInfo.h"
 #include "utilities/TranslatorIfc.h"
 
@@ -17,8 +17,6 @@
 namespace bench {
 
 namespace {
-
-using namespace std::chrono_literals;
 
 constexpr int ROWS = 10'000;
 
@@ -68,12 +66,12 @@ double changeLanguage()
         list.append(&text);
     phone.display().setCurrent(&list);
     list.size();
-    host::Loop::waitUntilIdle(10s);
+    waitUntilShown();
 
     const auto start = Clock::now();
     languages.use(1);
     phone.display().localeChanged("de_DE");
-    host::Loop::waitUntilIdle(10s);
+    waitUntilShown();
     const double milliseconds = secondsSince(start) * 1e3;
 
     const std::unique_ptr<DisplayAPI::ListItem> last(list.removeAt(ROWS - 1));

@@ -1,11 +1,11 @@
 #include "Cases.h"
+#include "Frames.h"
 #include "Phone.h"
 
 #include "DisplayAPI/List.h"
 #include "DisplayAPI/ListItem.h"
 #include "host/input/Keyboard.h"
 #include "host/lcd/Lcd.h"
-#include "host/toolkit/Loop.h"
 #include "kit/OnGuiThread.h"
 
 #include <cstdio>
@@ -26,12 +26,6 @@ std::string entry(int number)
     char text[32];
     std::snprintf(text, sizeof text, "Entry %05d", number);
     return text;
-}
-
-void waitUntilShown()
-{
-    if (!host::Loop::waitUntilIdle(10s))
-        std::fprintf(stderr, "benchmark broken: the screen is not finished\n");
 }
 
 double appendRows()

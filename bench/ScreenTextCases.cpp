@@ -1,11 +1,11 @@
 #include "Cases.h"
+#include "Frames.h"
 #include "Phone.h"
 #include "kit/OnGuiThread.h"
 
 #include "DisplayAPI/DisplayEventIfc.h"
 #include "DisplayAPI/DisplayablePrivateIfc.h"
 #include "DisplayAPI/List.h"
-#include "host/toolkit/Loop.h"
 #include "toolkit/PegThing.h"
 #include "utilities/Rect.h"
 
@@ -18,8 +18,6 @@ namespace {
 
 using DisplayAPI::List;
 using DisplayAPIUtils::Rect;
-using namespace std::chrono_literals;
-
 constexpr int READS = 2000;
 constexpr int ROWS = 50;
 
@@ -43,7 +41,7 @@ double readScreen()
     List list(0);
     fill(list, "Contacts");
     phone.display().setCurrent(&list);
-    host::Loop::waitUntilIdle(10s);
+    waitUntilShown();
     expectText(phone.display().serialise(), "string0:Entry 10005");
     const double nanoseconds = nanosecondsEach(READS, [&] { phone.display().serialise(); });
     phone.display().setCurrent(nullptr);
@@ -78,7 +76,7 @@ void stack(Phone& phone, std::array<List, 5>& lists)
                 {step, step, static_cast<std::int16_t>(step + 190), static_cast<std::int16_t>(step + 79)});
         }
     });
-    host::Loop::waitUntilIdle(10s);
+    waitUntilShown();
 }
 
 double readRectangles()
