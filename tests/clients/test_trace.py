@@ -3,6 +3,7 @@
 from __future__ import annotations
 
 from itertools import groupby
+from pathlib import Path
 from typing import Any, Dict, Iterator, List
 
 from displayapi import Phone, Trace
@@ -102,10 +103,16 @@ def test_who_goes_on_before_it_is_done_is_busy_until_then() -> None:
     assert [event["dur"] for event in events("X", next_one, WAITS) if event["ts"] == 1200] == [599]
 
 
-def test_what_a_telephone_has_traced_is_shown_whole(deskphone: Phone) -> None:
-    deskphone.trace(enable=True)
-    for key in ("ok", "ok", "left", "left") * 5:
-        deskphone.press(key)
-    written = deskphone.trace(enable=False).to_perfetto()
-    assert sum(event["ph"] == "s" for event in written["traceEvents"]) > 20
+def test_what_a_telephone_has_traced_is_shown_whole(programs: Path) -> None:
+    names = ["Ada", "Αλέξανδρος", "Zoë", "Мария", "日本"]
+    with Phone(programs / "hello", wait_timeout=60) as phone:
+        phone.wait_for(names[-1])
+        phone.trace(enable=True)
+        for name in names:
+            phone.press("ok")
+            phone.wait_for(f"Hello, {name}!")
+            phone.press("down")
+        written = phone.trace(enable=False).to_perfetto()
+    asked_and_told = 2
+    assert sum(event["ph"] == "s" for event in written["traceEvents"]) >= asked_and_told * len(names)
     assert not list(complaints(written))
