@@ -53,6 +53,7 @@ TEST_F(HostPhoneTest, DisplayablesAreAskedForOnTheGuiThread)
 {
     auto display = std::make_unique<Display>(new DisplayPrivateDouble);
     EXPECT_EQ(wordsOf(phone->screen()), "1");
+    gui.call([] {}); // a screen is read anew when the GUI thread has done something
     EXPECT_EQ(wordsOf(phone->screen()), "2");
     gui.call([&] { display.reset(); });
     EXPECT_EQ(Recorder::instance().last("display: serialise").thread, gui.threadId());
