@@ -198,6 +198,18 @@ TEST_P(FormPrivateTest, TranslationsFollowTheLanguage)
     EXPECT_EQ(form->title(), "");
 }
 
+TEST_P(FormPrivateTest, AnswersWithNothingWhenItsWidgetHasGone)
+{
+    append("One");
+    open();
+    delete form->getPrivateImpl()->getWidget();
+    changeLanguage("de");
+    form->setTitle("Title");
+    append("Two");
+    EXPECT_EQ(shown(), "");
+    EXPECT_EQ(form->getItems().size(), 2u);
+}
+
 TEST_P(FormPrivateTest, ItemsThatOutliveTheScreenAreDeletedOnce)
 {
     append("One");
