@@ -1,5 +1,7 @@
 #include "widgets/Peg_TreeListItem.h"
 
+#include "host/lcd/Lcd.h"
+#include "presentation/PRESCPresentationManager.h"
 #include "support/RowsOwner.h"
 #include "support/RunningToolkit.h"
 #include "widgets/KestrelListBoxWithTitle.h"
@@ -123,6 +125,28 @@ TEST_F(PegTreeListItemTest, WayBackStandsBehindTheRowsWhileTheyAreShown)
     item("a").setWayBack(true);
     item("a").setOpen(false);
     EXPECT_EQ(shown(), "[a]e");
+}
+
+TEST_F(PegTreeListItemTest, WayBackIsAlignedWithTheRowsWhileItStandsThere)
+{
+    item("a").setWayBack(true);
+    item("a").setOpen(true);
+    gpPresent->Add(&list);
+    const auto left = [](const std::string& beginning) {
+        host::Lcd::current()->paint();
+        for (const host::TextRun& run : host::Lcd::current()->picture().texts)
+            if (run.text.starts_with(beginning))
+                return static_cast<int>(run.area.left);
+        return -1;
+    };
+    const int indented = left("d");
+    EXPECT_EQ(left("←"), indented);
+    for (const bool aligned : {true, false}) {
+        for (const char* row : {"a", "b", "d"})
+            item(row).setAligned(aligned);
+        EXPECT_EQ(left("d") < indented, aligned);
+        EXPECT_EQ(left("←"), left("d"));
+    }
 }
 
 TEST_F(PegTreeListItemTest, WayBackOfTheLastBranchIsBeforeTheNextOneAbove)
