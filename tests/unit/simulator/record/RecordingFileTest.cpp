@@ -31,6 +31,29 @@ TEST(RecordingFileTest, LineIsInTheFileAtOnceForItsOwnerAlone)
     EXPECT_EQ(status.st_mode & 0777U, 0600U);
 }
 
+TEST(RecordingFileTest, EmptyFileOfEverybodysBecomesItsOwnersAndStays)
+{
+    const test::TemporaryFolder folder;
+    const std::string path = folder / "r.script";
+    std::ofstream(path).close();
+    ASSERT_EQ(chmod(path.c_str(), 0644), 0);
+    EXPECT_EQ(RecordingFile(path).error(), "");
+    struct stat status {};
+    ASSERT_EQ(stat(path.c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777U, 0600U);
+}
+
+TEST(RecordingFileTest, FileWithNothingInItDoesNotStay)
+{
+    const test::TemporaryFolder folder;
+    const std::string path = folder / "r.script";
+    EXPECT_EQ(RecordingFile(path).error(), "");
+    struct stat status {};
+    EXPECT_NE(stat(path.c_str(), &status), 0);
+    RecordingFile(path).write("key ok");
+    EXPECT_EQ(contentOf(path), "key ok\n");
+}
+
 TEST(RecordingFileTest, FileWithSomethingInItStays)
 {
     const test::TemporaryFolder folder;
