@@ -67,14 +67,23 @@ std::string ScreenCondition::differenceOf(const Screen& screen) const
     const std::string subject = mWhat == What::NO_TEXT    ? "there is '"
                                 : mWhat == What::SELECTED ? "no selected row is '"
                                                           : "there is no '";
-    return subject + mText + "'\nthe screen shows:\n" + describe(rowsOf(screen.picture.texts));
+    std::string texts = mText;
+    for (const std::string& other : mOtherTexts)
+        texts += "' or '" + other;
+    return subject + texts + "'\nthe screen shows:\n" + describe(rowsOf(screen.picture.texts));
 }
 
 bool ScreenCondition::matches(const std::string& shown) const
 {
+    const auto isIt = [&](const std::string& text) { return matches(shown, text); };
+    return isIt(mText) || std::ranges::any_of(mOtherTexts, isIt);
+}
+
+bool ScreenCondition::matches(const std::string& shown, const std::string& text) const
+{
     switch (mMatch) {
-    case Match::EQUAL: return shown == mText;
-    case Match::CONTAINS: return shown.find(mText) != std::string::npos;
+    case Match::EQUAL: return shown == text;
+    case Match::CONTAINS: return shown.find(text) != std::string::npos;
     case Match::REGEX: return mRegex->isIn(shown);
     }
     return false;

@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace simulator {
@@ -24,6 +25,10 @@ public:
     ScreenCondition(What what, Match match, std::string text, std::vector<std::string> rows = {},
                     bool withVolatile = false);
 
+    /// Another text that will do as well, or that must not be there either. REQUIRES: the match is none by an
+    /// expression.
+    void addText(std::string text) { mOtherTexts.push_back(std::move(text)); }
+
     /// What is wrong with the regular expression; empty where nothing is, and where there is none.
     std::string error() const;
 
@@ -34,6 +39,7 @@ public:
 
 private:
     bool matches(const std::string& shown) const;
+    bool matches(const std::string& shown, const std::string& text) const;
     bool shows(const Screen& screen) const;
     bool isScreen(const std::string& shown) const;
     std::string rowsShown(const Screen& screen) const;
@@ -41,6 +47,7 @@ private:
     What mWhat;
     Match mMatch;
     std::string mText;
+    std::vector<std::string> mOtherTexts;
     std::vector<std::string> mRows;
     bool mWithVolatile;
     std::shared_ptr<const Regex> mRegex; ///< where it is to match one

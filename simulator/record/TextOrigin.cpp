@@ -70,7 +70,8 @@ void append(ScriptText& whole, const std::string& text)
 
 } // namespace
 
-/// Keys whose texts are the same stand together where nothing is filled in.
+/// Keys whose texts are the same stand together where nothing is filled in, and behind them the text: it may be the
+/// user's own word, and be no other in another language.
 ScriptText TextOrigin::of(const std::string& text, int depth) const
 {
     const std::vector<Origin> origins = depth < DEEPEST ? mOrigins(text) : std::vector<Origin>();
@@ -78,8 +79,11 @@ ScriptText TextOrigin::of(const std::string& text, int depth) const
     for (const Origin& origin : origins)
         if (origin.addition.empty() && origin.pattern == text && whole.texts.size() < MOST_KEYS)
             whole.texts.push_back(origin.key);
-    if (!whole.texts.empty())
+    if (!whole.texts.empty()) {
+        if (std::ranges::find(whole.texts, text) == whole.texts.end())
+            whole.texts.push_back(text);
         return {{whole}};
+    }
     for (const Origin& origin : origins) {
         if (!text.ends_with(origin.addition))
             continue;
@@ -98,8 +102,7 @@ ScriptText TextOrigin::of(const std::string& text, int depth) const
     return depth == 0 ? ofParts(text) : ScriptText::literal(text);
 }
 
-/// Programs put names and words side by side, "Ada, home". The word may be the catalogue's or the user's own: either
-/// will do.
+/// Programs put names and words side by side, "Ada, home".
 ScriptText TextOrigin::ofParts(const std::string& text) const
 {
     ScriptText whole = ScriptText::literal({});
@@ -108,19 +111,17 @@ ScriptText TextOrigin::ofParts(const std::string& text) const
         ScriptText::Piece part{false, {text.substr(begin, end - begin)}};
         const std::string& word = part.texts.front();
         ScriptText found = word != text ? of(word, 1) : ScriptText::literal(word);
-        if (found.pieces.size() == 1 && found.pieces.front().isTranslated && found.pieces.front().arguments.empty()) {
-            found.pieces.front().texts.push_back(word);
+        if (found.pieces.size() == 1 && found.pieces.front().isTranslated && found.pieces.front().arguments.empty())
             whole.pieces.push_back(std::move(found.pieces.front()));
-        } else {
+        else
             append(whole, word);
-        }
         if (end < text.size())
             append(whole, std::string(BETWEEN_PARTS));
         begin = end + BETWEEN_PARTS.size();
     }
     if (whole.pieces.size() > 1 && whole.pieces.front().texts.front().empty())
         whole.pieces.erase(whole.pieces.begin());
-    return whole;
+    return whole.pieces.size() <= ScriptText::MOST_PIECES ? whole : ScriptText::literal(text);
 }
 
 } // namespace simulator

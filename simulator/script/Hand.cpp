@@ -27,11 +27,6 @@ std::string inQuotes(const std::string& text)
     return "'" + text + "'";
 }
 
-bool isOneOf(const std::string& text, const Hand::Texts& wanted)
-{
-    return std::ranges::find(wanted, text) != wanted.end();
-}
-
 const Choices* choicesOf(const Workplace& place, Choices::Kind kind)
 {
     const auto found = std::ranges::find(place.choices, kind, &Choices::kind);
@@ -98,33 +93,49 @@ Workplace Hand::look(const Texts& wanted)
     return mPhone.workplace(wanted).value_or(Workplace());
 }
 
-/// Where the keys are comes first, and what is it before what has it.
-Hand::Goal Hand::goalIn(const Workplace& place, int nth, Among among)
+/// Where the keys are comes first.
+Hand::Goal Hand::goalIn(const Workplace& place, const Search& search, Match match)
 {
-    Goal goal;
-    for (const auto which : {&Choices::found, &Choices::similar}) {
-        for (const bool hasKeys : {true, false}) {
-            for (const Choices& choices : place.choices) {
-                const std::vector<int>& those = choices.*which;
-                const bool counts = choices.hasKeys == hasKeys && (among == Among::ALL || isOfCommands(choices));
-                if (counts && goal.at < 0 && static_cast<int>(those.size()) >= nth)
-                    goal = {choices.kind, those[static_cast<std::size_t>(nth - 1)]};
-            }
+    for (const bool hasKeys : {true, false}) {
+        for (const Choices& choices : place.choices) {
+            const std::vector<int>& those = match == Match::WHOLE ? choices.found : choices.similar;
+            const bool counts = choices.hasKeys == hasKeys && (search.among == Among::ALL || isOfCommands(choices));
+            if (counts && static_cast<int>(those.size()) >= search.nth)
+                return {choices.kind, those[static_cast<std::size_t>(search.nth - 1)]};
         }
     }
-    return goal;
+    return {};
 }
 
-/// Waits until it is there.
-std::string Hand::find(const Texts& wanted, int nth, Among among)
+/// One text after the other: in another language the second one may be what something else is called.
+Hand::Sight Hand::look(const Search& search, Match match)
+{
+    Sight sight;
+    for (const std::string& text : search.wanted) {
+        sight.place = look({text});
+        sight.goal = goalIn(sight.place, search, match);
+        if (sight.goal.at >= 0)
+            break;
+    }
+    return sight;
+}
+
+/// Waits until it is there. A part of a text counts only when nothing has come that is it.
+std::string Hand::find(const Search& search, Match& match)
 {
     const auto deadline = steady_clock::now() + mPatience;
     for (;;) {
-        const Workplace place = look(wanted);
-        if (goalIn(place, nth, among).at >= 0)
+        match = Match::WHOLE;
+        const Sight sight = look(search, match);
+        if (sight.goal.at >= 0)
             return {};
-        if (!mPhone.isThere() || steady_clock::now() >= deadline)
-            return listing(place, anyOf(wanted) + (nth > 1 ? " #" + std::to_string(nth) : ""));
+        if (!mPhone.isThere() || steady_clock::now() >= deadline) {
+            match = search.match;
+            if (match == Match::PART && look(search, match).goal.at >= 0)
+                return {};
+            return listing(sight.place,
+                           anyOf(search.wanted) + (search.nth > 1 ? " #" + std::to_string(search.nth) : ""));
+        }
         mPhone.rest(GLANCE);
         mKeys.settle();
     }
@@ -166,17 +177,16 @@ PegKey Hand::keyTowards(const Workplace& place, const Choices& there, int steps)
     }
 }
 
-std::string Hand::walk(const Texts& wanted, int nth, Among among)
+std::string Hand::walk(const Search& search, Match match)
 {
     int inVain = 0;
     int left = -1;
     std::pair<Choices::Kind, int> before{Choices::Kind::ROWS, -1};
     for (;;) {
-        const Workplace place = look(wanted);
-        const Goal goal = goalIn(place, nth, among);
+        const auto [place, goal] = look(search, match);
         const Choices* const there = goal.at >= 0 ? choicesOf(place, goal.kind) : nullptr;
         if (there == nullptr)
-            return anyOf(wanted) + " has gone while the keys led to it";
+            return anyOf(search.wanted) + " has gone while the keys led to it";
         const int away = steps(*there, goal.at);
         if (there->hasKeys && away == 0)
             return {};
@@ -189,60 +199,81 @@ std::string Hand::walk(const Texts& wanted, int nth, Among among)
         const int times = there->hasKeys ? std::min(std::abs(away), AT_ONCE) : 1;
         left -= times;
         if (inVain > MOST_IN_VAIN || left < 0 || !mPhone.isThere())
-            return "the keys do not lead to " + anyOf(wanted);
+            return "the keys do not lead to " + anyOf(search.wanted);
         mKeys.press(keyTowards(place, *there, away), times);
     }
 }
 
-std::string Hand::select(const Texts& wanted, int nth)
+std::string Hand::go(const Search& search)
 {
-    const std::string complaint = find(wanted, nth, Among::ALL);
-    return complaint.empty() ? walk(wanted, nth, Among::ALL) : complaint;
+    Match match = search.match;
+    const std::string complaint = find(search, match);
+    return complaint.empty() ? walk(search, match) : complaint;
 }
 
-std::string Hand::choose(const Texts& wanted, int nth)
+std::string Hand::choose(const Search& search)
 {
-    std::string complaint = select(wanted, nth);
+    std::string complaint = go(search);
     if (complaint.empty())
-        mKeys.press(PK_OK, 1);
+        mKeys.finish(PK_OK);
     return complaint;
 }
 
-std::string Hand::command(const Texts& wanted)
+std::string Hand::select(const Texts& wanted, int nth, Match match)
 {
-    const Workplace place = look(wanted);
+    return go({wanted, nth, Among::ALL, match});
+}
+
+std::string Hand::choose(const Texts& wanted, int nth, Match match)
+{
+    return choose({wanted, nth, Among::ALL, match});
+}
+
+std::string Hand::command(const Texts& wanted, int nth, Match match)
+{
+    const Search search{wanted, nth, Among::COMMANDS, match};
+    const Workplace place = look();
     const Choices* const here = place.withKeys();
     const bool hasMenu = here != nullptr && here->kind == Choices::Kind::ROWS;
-    if (goalIn(place, 1, Among::COMMANDS).at < 0 && hasMenu)
+    const bool isThere =
+        look(search, Match::WHOLE).goal.at >= 0 || (match == Match::PART && look(search, Match::PART).goal.at >= 0);
+    if (hasMenu && !isThere)
         mKeys.press(PK_RIGHT, 1);
-    std::string complaint = find(wanted, 1, Among::COMMANDS);
-    if (complaint.empty())
-        complaint = walk(wanted, 1, Among::COMMANDS);
-    if (complaint.empty())
-        mKeys.press(PK_OK, 1);
-    return complaint;
+    return choose(search);
 }
 
+/// Until the field says `wanted`, or the key changes nothing any more. False once there is no field.
+bool Hand::turnTo(const std::string& wanted, PegKey key, std::string& value)
+{
+    for (int i = 0; i < MOST_VALUES && value != wanted; ++i) {
+        const std::string before = value;
+        mKeys.press(key, 1);
+        const auto now = valueIn(look());
+        if (!now)
+            return false;
+        value = *now;
+        if (value == before)
+            break;
+    }
+    return true;
+}
+
+/// One text after the other, as above.
 std::string Hand::set(const Texts& wanted)
 {
-    Workplace place = look();
-    std::optional<std::string> value = valueIn(place);
+    std::optional<std::string> value = valueIn(look());
     if (!value)
         return "no field of a form is selected that could be set to " + anyOf(wanted);
     std::string ends;
-    for (const PegKey key : {PK_RIGHT, PK_LEFT}) {
-        for (int i = 0; i < MOST_VALUES && !isOneOf(*value, wanted); ++i) {
-            const std::string before = *value;
-            mKeys.press(key, 1);
-            value = valueIn(look());
-            if (!value)
+    for (const std::string& text : wanted) {
+        ends.clear();
+        for (const PegKey key : {PK_RIGHT, PK_LEFT}) {
+            if (!turnTo(text, key, *value))
                 return "the field has gone that was to be set to " + anyOf(wanted);
-            if (*value == before)
-                break;
+            if (*value == text)
+                return {};
+            ends += (ends.empty() ? "" : " and ") + inQuotes(*value);
         }
-        if (isOneOf(*value, wanted))
-            return {};
-        ends += (ends.empty() ? "" : " and ") + inQuotes(*value);
     }
     return "left and right do not lead to " + anyOf(wanted) + "; the field's values lie between " + ends;
 }
@@ -270,7 +301,7 @@ std::string Hand::dial(const std::string& number)
 {
     std::string complaint = type(number);
     if (complaint.empty())
-        mKeys.press(PK_OK, 1);
+        mKeys.finish(PK_OK);
     return complaint;
 }
 
@@ -280,7 +311,7 @@ std::string Hand::back()
     Workplace before = look();
     const std::size_t most = (before.edited ? before.edited->text.size() : 0) + stepsIn(before) + 2;
     for (std::size_t i = 0; i < most; ++i) {
-        mKeys.press(PK_LEFT, 1);
+        mKeys.finish(PK_LEFT);
         Workplace now = look();
         const bool isOut = now.window != before.window || (before.edited && !now.edited);
         if (isOut || (!now.edited && placesIn(now) == placesIn(before)))

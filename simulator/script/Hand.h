@@ -17,26 +17,30 @@ class Hand {
 public:
     using Texts = host::Choices::Texts;
 
-    /// `press` presses a key and lets it go that many times, and waits until the telephone has come to rest; `settle`
-    /// only waits.
+    /// `press` presses a key and lets it go that many times, and waits until the telephone has come to rest; so does
+    /// `finish`, once, with a key that does what is meant, and may end the program; `settle` only waits.
     struct Keys {
         std::function<void(PegKey key, int times)> press;
+        std::function<void(PegKey key)> finish;
         std::function<void()> settle;
     };
 
+    /// How a text has to be what is looked for. One that has it in it is taken where nothing has come that is it.
+    enum class Match { WHOLE, PART };
+
     Hand(ScriptedPhone& phone, Keys keys, std::chrono::milliseconds patience);
 
-    /// Goes to what any of the texts is, or, where nothing is, to what has one in it: the `nth` of those.
-    std::string select(const Texts& wanted, int nth = 1);
+    /// Goes to what is called so, the `nth` of those: of several texts the first one that something is called.
+    std::string select(const Texts& wanted, int nth = 1, Match match = Match::WHOLE);
 
     /// And presses OK.
-    std::string choose(const Texts& wanted, int nth = 1);
+    std::string choose(const Texts& wanted, int nth = 1, Match match = Match::WHOLE);
 
     /// The same of a command, wherever it is offered: where none is that is called so, in the menu that the right key
     /// opens for a row.
-    std::string command(const Texts& wanted);
+    std::string command(const Texts& wanted, int nth = 1, Match match = Match::WHOLE);
 
-    /// Goes on with the present field's values until it has one of these.
+    /// Goes on with the present field's values until it has the first of these that it can have.
     std::string set(const Texts& wanted);
 
     /// Has the text in what is typed into; the first digit opens that where it is not there.
@@ -57,10 +61,27 @@ private:
 
     enum class Among { ALL, COMMANDS };
 
+    struct Search {
+        Texts wanted;
+        int nth;
+        Among among;
+        Match match;
+    };
+
+    /// Where the user is, and what he looks for there.
+    struct Sight {
+        Workplace place;
+        Goal goal{};
+    };
+
     Workplace look(const Texts& wanted = {});
-    static Goal goalIn(const Workplace& place, int nth, Among among);
-    std::string find(const Texts& wanted, int nth, Among among);
-    std::string walk(const Texts& wanted, int nth, Among among);
+    Sight look(const Search& search, Match match);
+    static Goal goalIn(const Workplace& place, const Search& search, Match match);
+    std::string go(const Search& search);
+    std::string find(const Search& search, Match& match);
+    std::string walk(const Search& search, Match match);
+    std::string choose(const Search& search);
+    bool turnTo(const std::string& wanted, PegKey key, std::string& value);
     static int steps(const Choices& choices, int to);
     static PegKey keyTowards(const Workplace& place, const Choices& there, int steps);
     static std::string listing(const Workplace& place, const std::string& what);

@@ -40,7 +40,8 @@ struct Step {
     std::int64_t milliseconds = 0; ///< HOLD, WAIT, ADVANCE
     std::string text{};            ///< the file's name, or what is said; COMPARE: its path
     ScriptText target{};           ///< what is expected, gone to, typed or dialled
-    int nth = 1;                   ///< CHOOSE, SELECT: of those that are called so
+    bool isLoose = false;          ///< a part of a text may be the target
+    int nth = 1;                   ///< CHOOSE, SELECT, COMMAND: of those that are called so
     std::string wire{};            ///< SAY: to whom
 };
 

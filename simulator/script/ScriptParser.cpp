@@ -122,7 +122,8 @@ void refuseRest(std::string_view rest)
 /// As it stands, but what the catalogue is to be asked for: an old script may look for quotes.
 void parseExpected(Step& step, std::string_view rest)
 {
-    if (!rest.starts_with("_(")) {
+    step.isLoose = !rest.starts_with("_(");
+    if (step.isLoose) {
         step.target = ScriptText::literal(std::string(rest));
         return;
     }
@@ -132,7 +133,8 @@ void parseExpected(Step& step, std::string_view rest)
 
 void parseTarget(Step& step, std::string_view rest)
 {
-    if (!ScriptText::isQuoted(rest)) {
+    step.isLoose = !ScriptText::isQuoted(rest);
+    if (step.isLoose) {
         step.target = ScriptText::literal(std::string(rest));
         return;
     }
@@ -237,7 +239,7 @@ const std::map<std::string_view, Command>& commands()
         {"choose", {CHOOSE, parseChoice}},
         {"select", {SELECT, parseChoice}},
         {"set", {SET, parseTarget}},
-        {"command", {COMMAND, parseTarget}},
+        {"command", {COMMAND, parseChoice}},
         {"back", {BACK, parseNothing}},
         {"dial", {DIAL, parseNumber}},
         {"screenshot", {SCREENSHOT, parsePictureName}},

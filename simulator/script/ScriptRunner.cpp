@@ -10,6 +10,7 @@
 #include "simulator/screen/ScreenText.h"
 #include "simulator/script/ExpectedScreen.h"
 
+#include <algorithm>
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
@@ -20,8 +21,6 @@ namespace {
 
 using std::chrono::milliseconds;
 
-constexpr auto CONTAINS = ScreenCondition::Match::CONTAINS;
-
 constexpr char STANDSTILL_NOTE[] = "the GUI thread stands still: for 2 seconds it has been at one thing";
 static_assert(host::Loop::STANDSTILL == std::chrono::seconds(2));
 
@@ -29,6 +28,20 @@ constexpr std::int64_t LONGEST_AWAITED = 60'000;
 constexpr std::int64_t AWAITED_CLOSELY = 5'000;
 constexpr std::int64_t CLOSE_LOOK = 50;
 constexpr std::int64_t DISTANT_LOOK = 500;
+
+/// In characters.
+constexpr std::ptrdiff_t SHORT = 3;
+
+bool isShort(const std::string& text)
+{
+    const auto begins = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80; };
+    return std::ranges::count_if(text, begins) <= SHORT;
+}
+
+Hand::Match matchOf(const Step& step)
+{
+    return step.isLoose ? Hand::Match::PART : Hand::Match::WHOLE;
+}
 
 struct StepFailed : std::runtime_error {
     using std::runtime_error::runtime_error;
@@ -38,8 +51,10 @@ struct StepFailed : std::runtime_error {
 
 ScriptRunner::ScriptRunner(ScriptedPhone& phone, ScriptReport& report, std::filesystem::path folder,
                            milliseconds patience)
-    : mPhone(phone),
-      mHand(phone, {[this](PegKey key, int times) { press(key, times); }, [this] { settle(); }}, patience),
+    : mPhone(phone), mHand(phone,
+                           {[this](PegKey key, int times) { press(key, times); }, [this](PegKey key) { finish(key); },
+                            [this] { settle(); }},
+                           patience),
       mReport(report), mFolder(std::move(folder)), mPatience(patience)
 {
 }
@@ -99,11 +114,11 @@ void ScriptRunner::perform(const Step& step)
     case DUMP_JSON: return write(mFolder / step.text, screenJson(mPhone.picture(), nameOf(host::variant())));
     case COMPARE: return compare(step);
     case SAY: return say(step);
-    case CHOOSE: return insist(mHand.choose(shown(step.target), step.nth));
-    case SELECT: return insist(mHand.select(shown(step.target), step.nth));
+    case CHOOSE: return insist(mHand.choose(shown(step.target), step.nth, matchOf(step)));
+    case SELECT: return insist(mHand.select(shown(step.target), step.nth, matchOf(step)));
     case TYPE: return insist(mHand.type(shown(step.target).front()));
     case SET: return insist(mHand.set(shown(step.target)));
-    case COMMAND: return insist(mHand.command(shown(step.target)));
+    case COMMAND: return insist(mHand.command(shown(step.target), step.nth, matchOf(step)));
     case BACK: return insist(mHand.back());
     case DIAL: return insist(mHand.dial(shown(step.target).front()));
     case AWAIT: return await(step, true);
@@ -115,9 +130,16 @@ void ScriptRunner::press(PegKey key, int times)
 {
     for (int i = 0; i < times; ++i) {
         down(key);
-        mKeysAreThrough = i + 1 == times;
         up(key);
     }
+    settle();
+}
+
+void ScriptRunner::finish(PegKey key)
+{
+    down(key);
+    mKeysAreThrough = true;
+    up(key);
     settle();
 }
 
@@ -155,26 +177,22 @@ std::vector<std::string> ScriptRunner::shown(const ScriptText& text)
     return text.shown([this](const std::string& key) { return mPhone.translate(key); });
 }
 
-/// Returns what is different; nothing where any of the texts is there, or none of them is, as wanted.
-std::optional<std::string> ScriptRunner::waitFor(const std::vector<std::string>& texts, bool wanted,
-                                                 milliseconds patience)
+/// Any of the texts; or none of them. A short one that is exactly meant is a whole text that stands there for a while:
+/// part of something, of a clock at least, it is too easily.
+ScreenCondition ScriptRunner::conditionFor(const Step& step, const std::vector<std::string>& texts, bool wanted)
 {
-    using What = ScreenCondition::What;
-    constexpr bool WITH_VOLATILE = true;
-    std::optional<std::string> difference;
-    for (const std::string& text : texts) {
-        const milliseconds limit = wanted && &text != &texts.front() ? milliseconds(0) : patience;
-        difference = mPhone.waitFor({wanted ? What::TEXT : What::NO_TEXT, CONTAINS, text, {}, WITH_VOLATILE}, limit);
-        if (difference.has_value() != wanted)
-            break;
-    }
-    return difference;
+    using enum ScreenCondition::What;
+    using enum ScreenCondition::Match;
+    const bool isWhole = !step.isLoose && std::ranges::any_of(texts, isShort);
+    ScreenCondition condition(wanted ? TEXT : NO_TEXT, isWhole ? EQUAL : CONTAINS, texts.front(), {}, !isWhole);
+    std::for_each(texts.begin() + 1, texts.end(), [&](const std::string& text) { condition.addText(text); });
+    return condition;
 }
 
 void ScriptRunner::expect(const Step& step, bool wanted)
 {
     const std::vector<std::string> texts = shown(step.target);
-    if (waitFor(texts, wanted, mPatience))
+    if (mPhone.waitFor(conditionFor(step, texts, wanted), mPatience))
         fail((wanted ? "expected " : "expected no ") + anyOf(texts));
 }
 
@@ -182,7 +200,8 @@ void ScriptRunner::expect(const Step& step, bool wanted)
 void ScriptRunner::await(const Step& step, bool wanted)
 {
     const std::vector<std::string> texts = shown(step.target);
-    for (std::int64_t passed = 0; waitFor(texts, wanted, milliseconds(0));) {
+    const ScreenCondition condition = conditionFor(step, texts, wanted);
+    for (std::int64_t passed = 0; mPhone.waitFor(condition, milliseconds(0));) {
         if (passed >= LONGEST_AWAITED)
             fail(anyOf(texts) + " has not " + (wanted ? "come" : "gone") + " within " +
                  std::to_string(LONGEST_AWAITED / 1000) + " seconds on the telephone's clock");

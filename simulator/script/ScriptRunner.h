@@ -37,9 +37,9 @@ private:
     void say(const Step& step);
     void insist(const std::string& complaint);
     std::vector<std::string> shown(const ScriptText& text);
-    std::optional<std::string> waitFor(const std::vector<std::string>& texts, bool wanted,
-                                       std::chrono::milliseconds patience);
+    static ScreenCondition conditionFor(const Step& step, const std::vector<std::string>& texts, bool wanted);
     void press(PegKey key, int times);
+    void finish(PegKey key);
     void update(const Step& step);
     void writePicture(const std::filesystem::path& path);
     std::string screen();
@@ -56,7 +56,7 @@ private:
     std::filesystem::path mFolder;
     std::chrono::milliseconds mPatience;
     int mLine = 0;
-    bool mKeysAreThrough = false; ///< all keys of the present step have gone down
+    bool mKeysAreThrough = false; ///< the last key of the present step has gone down
     bool mStandsStill = false;    ///< the GUI thread has not come back
 };
 

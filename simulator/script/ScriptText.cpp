@@ -101,8 +101,11 @@ ScriptText::Piece takeTranslated(std::string_view& rest, int depth)
     ScriptText::Piece piece{true, {takeQuoted(rest)}};
     while (takeIf(rest, "or"))
         piece.texts.push_back(takeQuoted(rest));
-    while (takeIf(rest, ","))
+    while (takeIf(rest, ",")) {
+        if (piece.arguments.size() == ScriptText::MOST_ARGUMENTS)
+            throw NoText("there are only %1 to %9 to be filled in");
         piece.arguments.push_back(takeText(rest, depth + 1));
+    }
     if (!takeIf(rest, ")"))
         throw NoText("the bracket of _( is not closed");
     return piece;
@@ -113,9 +116,12 @@ ScriptText takeText(std::string_view& rest, int depth)
     if (depth > DEEPEST)
         throw NoText("there are too many brackets");
     ScriptText text;
-    for (skipBlanks(rest); ScriptText::isQuoted(rest); skipBlanks(rest))
+    for (skipBlanks(rest); ScriptText::isQuoted(rest); skipBlanks(rest)) {
+        if (text.pieces.size() == ScriptText::MOST_PIECES)
+            throw NoText("the text has more than " + std::to_string(ScriptText::MOST_PIECES) + " pieces");
         text.pieces.push_back(takeIf(rest, TRANSLATED) ? takeTranslated(rest, depth)
                                                        : ScriptText::Piece{false, {takeQuoted(rest)}});
+    }
     if (text.pieces.empty())
         throw NoText("a text in double quotes is missing");
     return text;
@@ -126,7 +132,7 @@ bool isOdd(char32_t character)
 {
     const auto isIn = [=](char32_t first, char32_t last) { return character >= first && character <= last; };
     return character < 0x20 || isIn(0x7F, 0x9F) || character == 0xAD || isIn(0x200B, 0x200F) || isIn(0x2028, 0x202E) ||
-           isIn(0x2060, 0x206F) || character == 0xFEFF || isIn(0xFFF9, 0xFFFB);
+           isIn(0x2060, 0x206F) || character == 0x061C || character == 0xFEFF || isIn(0xFFF9, 0xFFFB);
 }
 
 std::string hexadecimal(std::uint32_t number, int digits)
@@ -260,7 +266,30 @@ std::vector<std::string> ScriptText::shown(const Translate& translate) const
     for (const Piece& piece : pieces)
         all = joined(all, shownOf(piece, translate),
                      [](const std::string& before, const std::string& next) { return before + next; });
-    return all;
+    Texts each;
+    for (std::string& text : all)
+        if (std::ranges::find(each, text) == each.end())
+            each.push_back(std::move(text));
+    return each;
+}
+
+std::string onOneLine(std::string_view text)
+{
+    if (isPlainLine(text))
+        return std::string(text);
+    const std::string quoted = quotedForScript(text);
+    return quoted.substr(1, quoted.size() - 2);
+}
+
+bool isPlainLine(std::string_view text)
+{
+    while (!text.empty()) {
+        const std::size_t length = lengthOf(text);
+        if (length == 0 || isOdd(characterOf(text.substr(0, length))))
+            return false;
+        text.remove_prefix(length);
+    }
+    return true;
 }
 
 std::string quotedForScript(std::string_view text)

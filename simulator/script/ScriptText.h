@@ -40,11 +40,20 @@ struct ScriptText {
 
     using Translate = std::function<std::string(const std::string& key)>;
 
-    /// What may stand on the screen for it, at least one text and at most MOST_TEXTS.
+    /// What may stand on the screen for it, at least one text and at most MOST_TEXTS, each once, by the first keys
+    /// first.
     std::vector<std::string> shown(const Translate& translate) const;
 
     static constexpr std::size_t MOST_TEXTS = 16;
+    static constexpr std::size_t MOST_PIECES = 100;
+    static constexpr std::size_t MOST_ARGUMENTS = 9; ///< %1 to %9
 };
+
+/// Whether it is as one reads it: UTF-8 on one line, with nothing unseen in it and nothing that turns other text round.
+bool isPlainLine(std::string_view text);
+
+/// The text as a plain line: what is odd in it as it is in quotes.
+std::string onOneLine(std::string_view text);
 
 /// In double quotes, as a script has it.
 std::string quotedForScript(std::string_view text);

@@ -18,6 +18,7 @@ std::string scriptOf(const std::string& text)
         {"Verbunden", {{"Call.connected", "Verbunden", ""}}},
         {"Anrufe (3)", {{"Calls", "Anrufe", " (3)"}}},
         {"Arbeit", {{"Number.work", "Arbeit", ""}}},
+        {"Unknown", {{"Unknown", "Unknown", ""}}},
         {"Former", {{"Changed", "Other", ""}}},
         {"twice twice", {{"Twice", "%1 %1", ""}}},
         {"one two", {{"Twice", "%1 %1", ""}}},
@@ -36,14 +37,28 @@ TEST(TextOriginTest, DataStandsAsItIs)
     EXPECT_EQ(scriptOf(", "), R"(", ")");
 }
 
+TEST(TextOriginTest, WordOfTheCataloguesMayBeTheUsersOwn)
+{
+    EXPECT_EQ(scriptOf("Arbeit"), R"x(_("Number.work" or "Arbeit"))x");
+    EXPECT_EQ(scriptOf("Unknown"), R"x(_("Unknown"))x");
+}
+
+TEST(TextOriginTest, TextOfManyWordsIsNoLongerThanAScriptMayHave)
+{
+    std::string text = "Arbeit";
+    for (int i = 0; i < 1000; ++i)
+        text += ", Arbeit";
+    EXPECT_EQ(scriptOf(text), '"' + text + '"');
+}
+
 TEST(TextOriginTest, KeysWithTheSameTextStandSideBySide)
 {
-    EXPECT_EQ(scriptOf("Kontakte"), R"x(_("Contacts.title" or "Menu.contacts"))x");
+    EXPECT_EQ(scriptOf("Kontakte"), R"x(_("Contacts.title" or "Menu.contacts" or "Kontakte"))x");
 }
 
 TEST(TextOriginTest, WhatIsFilledInIsAnArgument)
 {
-    EXPECT_EQ(scriptOf("Verbunden, Leitung 1"), R"x(_("Call.on.line", _("Call.connected"), "1"))x");
+    EXPECT_EQ(scriptOf("Verbunden, Leitung 1"), R"x(_("Call.on.line", _("Call.connected" or "Verbunden"), "1"))x");
     EXPECT_EQ(scriptOf("twice twice"), R"x(_("Twice", "twice"))x");
 }
 

@@ -124,8 +124,16 @@ protected:
                    for (int i = 0; i < times; ++i)
                        phone.key(key);
                },
-               [] {}},
+               [this](PegKey key) { finish(key); }, [] {}},
               milliseconds(0)};
+
+    void finish(PegKey key)
+    {
+        phone.key(key);
+        finished.push_back(key);
+    }
+
+    std::vector<PegKey> finished; ///< by these
 
     std::string current() const
     {
@@ -143,6 +151,17 @@ TEST_F(HandTest, GoesToTheRowAndPressesOk)
     EXPECT_EQ(phone.keys.back(), PK_UP);
 }
 
+TEST_F(HandTest, OnlyTheKeyThatDoesItFinishes)
+{
+    phone.parts = {{Kind::ROWS, {"a", "b", "c"}}};
+    EXPECT_EQ(hand.select({"c"}), "");
+    EXPECT_THAT(finished, IsEmpty());
+    EXPECT_EQ(hand.choose({"a"}), "");
+    EXPECT_THAT(finished, ElementsAre(PK_OK));
+    EXPECT_EQ(hand.back(), "");
+    EXPECT_THAT(finished, ElementsAre(PK_OK, PK_LEFT));
+}
+
 TEST_F(HandTest, RingIsGoneRoundTheShorterWay)
 {
     phone.parts = {{Kind::MENU, {"a", "b", "c", "d", "e"}, true}};
@@ -155,8 +174,36 @@ TEST_F(HandTest, RowThatIsItComesBeforeOneThatHasIt)
     phone.parts = {{Kind::ROWS, {"x", "Adam", "Ada"}}};
     EXPECT_EQ(hand.select({"Ada"}), "");
     EXPECT_EQ(current(), "Ada");
-    EXPECT_EQ(hand.select({"dam"}), "");
+    EXPECT_EQ(hand.select({"dam"}, 1, Hand::Match::PART), "");
     EXPECT_EQ(current(), "Adam");
+    EXPECT_THAT(hand.select({"dam"}), StartsWith("there is no 'dam' to go to"));
+}
+
+TEST_F(HandTest, RowThatIsItAndComesLaterComesBeforeOneThatHasIt)
+{
+    Hand patient(phone, {[this](PegKey key, int) { phone.key(key); }, [this](PegKey key) { finish(key); }, [] {}},
+                 std::chrono::seconds(60));
+    phone.parts = {{Kind::ROWS, {"Call log"}}};
+    phone.onRest = [this] { phone.parts[0].names = {"Call log", "Call"}; };
+    EXPECT_EQ(patient.select({"Call"}, 1, Hand::Match::PART), "");
+    EXPECT_EQ(current(), "Call");
+}
+
+TEST_F(HandTest, FirstTextThatSomethingIsCalledIsMeant)
+{
+    phone.parts = {{Kind::ROWS, {"Sonnerie", "Volume"}}};
+    EXPECT_EQ(hand.choose({"Volume", "Sonnerie"}), "");
+    EXPECT_EQ(current(), "Volume");
+    EXPECT_EQ(hand.choose({"Klang", "Sonnerie"}), "");
+    EXPECT_EQ(current(), "Sonnerie");
+}
+
+TEST_F(HandTest, SecondCommandOfTheSameNameIsChosen)
+{
+    phone.parts = {{Kind::MENU, {"Call", "Delete", "Call", "Call log"}, true}};
+    EXPECT_EQ(hand.command({"Call"}, 2), "");
+    EXPECT_EQ(phone.parts[0].current, 2);
+    EXPECT_EQ(phone.keys.back(), PK_OK);
 }
 
 TEST_F(HandTest, SecondOfTheSameNameIsFound)
@@ -201,7 +248,8 @@ TEST_F(HandTest, WhatIsNotThereIsToldWithWhatIs)
 
 TEST_F(HandTest, RowThatComesLaterIsAwaited)
 {
-    Hand patient(phone, {[this](PegKey key, int) { phone.key(key); }, [] {}}, std::chrono::seconds(60));
+    Hand patient(phone, {[this](PegKey key, int) { phone.key(key); }, [this](PegKey key) { finish(key); }, [] {}},
+                 std::chrono::seconds(60));
     phone.parts = {{Kind::ROWS, {"a"}}};
     phone.onRest = [this] { phone.parts[0].names = {"a", "b"}; };
     EXPECT_EQ(patient.select({"b"}), "");
@@ -225,7 +273,7 @@ TEST_F(HandTest, RowThatRunsAwayIsNotFollowedForEver)
                       phone.key(key);
                       phone.parts[0].names.insert(phone.parts[0].names.begin(), "new");
                   },
-                  [] {}},
+                  [this](PegKey key) { finish(key); }, [] {}},
                  milliseconds(0));
     EXPECT_EQ(chasing.select({"a"}), "the keys do not lead to 'a'");
 }
@@ -241,6 +289,10 @@ TEST_F(HandTest, FieldIsSetByLeftAndRight)
     };
     EXPECT_EQ(hand.set({"6"}), "");
     EXPECT_EQ(hand.set({"3"}), "");
+    EXPECT_EQ(hand.set({"5", "3"}), ""); // the first that it can have, not where it is
+    EXPECT_EQ(phone.value, "5");
+    EXPECT_EQ(hand.set({"9", "4"}), "");
+    EXPECT_EQ(phone.value, "4");
     EXPECT_EQ(hand.set({"9"}), "left and right do not lead to '9'; the field's values lie between '7' and '3'");
 }
 

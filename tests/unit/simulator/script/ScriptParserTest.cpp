@@ -242,10 +242,46 @@ TEST(ScriptParser, ChoiceMayBeTheSecondThatIsCalledSo)
 {
     EXPECT_EQ(onlyStep("choose \"Ada\"").nth, 1);
     EXPECT_EQ(onlyStep("select \"Ada\" #2").nth, 2);
+    EXPECT_EQ(onlyStep("command _(\"Row.call\") #3").nth, 3);
+    EXPECT_FALSE(onlyStep("choose \"Ada\"").isLoose);
+    EXPECT_TRUE(onlyStep("choose Ada").isLoose);
     EXPECT_EQ(onlyStep("choose Ada #2").target, simulator::ScriptText::literal("Ada #2"));
     expectMistake("choose \"Ada\" #0", "there may be #2");
     expectMistake("choose \"Ada\" 2", "there may be #2");
     expectMistake("choose \"Ada\" #99999999999", "there may be #2");
+}
+
+TEST(ScriptParser, EveryLineOfARecordingIsOne)
+{
+    for (const char* line : {"key ok",
+                             "key fpk16",
+                             "key 5",
+                             "key star",
+                             "key hash",
+                             "hold left 700",
+                             "hold volume-up 4000",
+                             "back",
+                             "dial +49*30#",
+                             "type \"Zo\\\"\\n\\u202E\"",
+                             "select \"Ada\"",
+                             "select _(\"a\" or \"b\") #2",
+                             "choose _(\"a\", \"1\", _(\"b\" or \"c\")) \" (3)\"",
+                             "choose \"a, \" _(\"b\" or \"c\") #12",
+                             "command \"Call\"",
+                             "command \"Call\" #2",
+                             "command _(\"Row.call\" or \"Call\") #2",
+                             "set \"6\"",
+                             "set _(\"a\" or \"b\")",
+                             "expect Ada",
+                             "expect _(\"a\", \"1\")",
+                             "await \"Ada\"",
+                             "await _(\"a\" or \"b\") \" (3)\"",
+                             "await-not _(\"a\")",
+                             "wait 3000",
+                             "exchange 4711 calls",
+                             "language ar",
+                             "act jukebox play"})
+        EXPECT_THAT(parseScript("s", line).errors, IsEmpty());
 }
 
 TEST(ScriptParser, ExpectedTextIsAsItStandsButForTheCatalogues)

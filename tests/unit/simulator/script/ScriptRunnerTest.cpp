@@ -60,7 +60,7 @@ public:
         return note(wire + ": " + line), refusal;
     }
 
-    std::optional<host::Workplace> workplace(const std::vector<std::string>&) override { return host::Workplace(); }
+    std::optional<host::Workplace> workplace(const std::vector<std::string>&) override { return place; }
     host::Workplace::Typed type(const std::string&) override { return host::Workplace::Typed::NOWHERE; }
     std::string translate(const std::string& key) override { return key == "Menu" ? "MENU" : key; }
     void rest(milliseconds) override {}
@@ -87,6 +87,7 @@ public:
     bool standsStill = false;
     bool isGone = false;
     std::string goesAtKey;
+    host::Workplace place;
     std::string refusal;
     std::function<void()> nextFrame;
     std::int64_t passed = 0;
@@ -257,6 +258,20 @@ TEST_F(ScriptRunnerTest, LastHeldKeyMayEndTheProgram)
 {
     phone.goesAtKey = "up " + std::to_string('2');
     run("hold 2 100");
+    EXPECT_TRUE(report.hasPassed);
+}
+
+TEST_F(ScriptRunnerTest, KeyOnTheWayToAChoiceMayNotEndTheProgram)
+{
+    phone.place.choices = {{.count = 2, .current = 0, .hasKeys = true, .found = {1}}};
+    phone.goesAtKey = "up " + std::to_string(PK_DOWN);
+    run("choose \"b\"");
+    EXPECT_EQ(report.failedLine, 1);
+    phone.isGone = false;
+    phone.place.choices[0].current = 1;
+    phone.goesAtKey = "up " + std::to_string(PK_OK);
+    report = {};
+    run("choose \"b\"");
     EXPECT_TRUE(report.hasPassed);
 }
 
@@ -471,6 +486,28 @@ TEST_F(ScriptRunnerTest, AnyOfTheTextsIsWhatShallNotBeThere)
     run("expect-not _(\"Other\" or \"Menu\")");
     EXPECT_EQ(report.failedLine, 1);
     EXPECT_THAT(report.failure, testing::StartsWith("expected no 'Other' or 'MENU'"));
+}
+
+TEST_F(ScriptRunnerTest, ShortTextIsAWholeOneButWhereItIsLooselyMeant)
+{
+    phone.text = "09:41";
+    run("expect 4\nawait 9\nexpect-not _(\"4\")");
+    EXPECT_TRUE(report.hasPassed);
+    phone.atTime = {100, "4"};
+    run("await \"4\"");
+    EXPECT_TRUE(report.hasPassed);
+    EXPECT_EQ(phone.passed, 100);
+}
+
+TEST_F(ScriptRunnerTest, AnyOfTheTextsIsWaitedForAtOnce)
+{
+    phone.text = "Kontakte";
+    phone.nextFrame = [this] {
+        ADD_FAILURE() << "it waits although one is there";
+        phone.isGone = true;
+    };
+    run("expect _(\"Contacts\" or \"Kontakte\")", std::chrono::seconds(60));
+    EXPECT_TRUE(report.hasPassed);
 }
 
 TEST_F(ScriptRunnerTest, TimePassesUntilWhatIsAwaitedComes)

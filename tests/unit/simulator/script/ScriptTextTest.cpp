@@ -8,6 +8,8 @@
 
 namespace {
 
+using simulator::isPlainLine;
+using simulator::onOneLine;
 using simulator::quotedForScript;
 using simulator::ScriptText;
 using testing::ElementsAre;
@@ -58,6 +60,7 @@ TEST(ScriptTextTest, ArgumentsStandInThePlaceOfTheirMarks)
 TEST(ScriptTextTest, AnyOfTheKeysMayBeMeant)
 {
     EXPECT_THAT(whole(R"x(_("Menu" or "Group") " (3)")x").shown(translate), ElementsAre("MENÜ (3)", "GRUPPE (3)"));
+    EXPECT_THAT(whole(R"x(_("Menu" or "MENÜ"))x").shown(translate), ElementsAre("MENÜ"));
 }
 
 TEST(ScriptTextTest, AlternativesDoNotMultiplyWithoutEnd)
@@ -80,6 +83,17 @@ TEST(ScriptTextTest, NothingUnseenIsWritten)
     EXPECT_EQ(quotedForScript("a\r\n\xC3(\xE2\x80\xAE \xF0\x9F\x98\x80\xED\xA0"), R"("a\x0D\n\xC3(\u202E 😀\xED\xA0")");
 }
 
+TEST(ScriptTextTest, PlainLineHasNothingUnseen)
+{
+    EXPECT_TRUE(isPlainLine("4711 calls, Zoë عمر 😀"));
+    EXPECT_TRUE(isPlainLine(""));
+    for (const char* text : {"a\nb", "a\x7F", "\xC3(", "a\u202Eb", "\u061C", "\u200F"})
+        EXPECT_FALSE(isPlainLine(text)) << text;
+    EXPECT_EQ(onOneLine("say \"a\""), "say \"a\"");
+    EXPECT_EQ(onOneLine("a\n\u202E"), R"(a\n\u202E)");
+    EXPECT_EQ(quotedForScript("\u061C"), R"("\u061C")");
+}
+
 TEST(ScriptTextTest, WhatIsNoTextIsRefused)
 {
     expectRefused("Menu", "a text in double quotes is missing");
@@ -92,6 +106,12 @@ TEST(ScriptTextTest, WhatIsNoTextIsRefused)
     for (int i = 0; i < 1000; ++i)
         deep += R"(_("a", )";
     expectRefused(deep, "there are too many brackets");
+    expectRefused(R"x(_("a", "1", "2", "3", "4", "5", "6", "7", "8", "9", "10"))x",
+                  "there are only %1 to %9 to be filled in");
+    std::string many;
+    for (std::size_t i = 0; i <= ScriptText::MOST_PIECES; ++i)
+        many += "\"a\" ";
+    expectRefused(many, "the text has more than 100 pieces");
 }
 
 } // namespace
