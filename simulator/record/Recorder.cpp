@@ -22,14 +22,6 @@ ScriptText originOf(const std::string& text)
         .of(text);
 }
 
-std::string onOneLine(std::string text)
-{
-    for (char& character : text)
-        if (static_cast<unsigned char>(character) < ' ')
-            character = ' ';
-    return text;
-}
-
 } // namespace
 
 Recorder::Recorder(host::Lcd& lcd, const std::string& file, std::string program)
@@ -79,12 +71,19 @@ void Recorder::said(std::string_view wire, std::string_view line, const std::str
     mReader.read([this, isOver, wire = std::string(wire), line = std::string(line),
                   reason = isOver ? *refusal : std::string()](const ScreenPtr& screen) {
         if (screen == nullptr)
-            return;
+            return isOver ? void() : missed(wire, line);
         if (isOver)
-            mRecording.said(reason);
+            mRecording.said(wire, line, reason);
         else
             mRecording.saying(wire, line);
     });
+}
+
+/// On the thread that says it: where the telephone is there, it takes no message at the moment.
+void Recorder::missed(const std::string& wire, const std::string& line)
+{
+    if (mReader.isThere())
+        std::cerr << "The recording lacks what was said to the program: " << onOneLine(wire + ' ' + line) << std::endl;
 }
 
 void Recorder::shown(const ScreenPtr& screen)

@@ -29,6 +29,7 @@ private:
     void keyComes(const PegMessage& message) override;
     void keyIsHandled(const PegMessage& message) override;
     void said(std::string_view wire, std::string_view line, const std::string* refusal);
+    void missed(const std::string& wire, const std::string& line);
     void shown(const ScreenPtr& screen);
     void write(const std::string& line);
     void begin();

@@ -114,11 +114,6 @@ bool canBeDialled(const std::string& text)
     return !text.empty() && text.find_first_not_of("0123456789*#+") == text.npos;
 }
 
-bool isOnOneLine(const std::string& text)
-{
-    return std::ranges::none_of(text, [](unsigned char byte) { return byte < ' ' || byte == 0x7F; });
-}
-
 std::string lineFor(const std::string& wire, const std::string& line)
 {
     if (wire == "exchange" || wire == "language")
@@ -374,17 +369,22 @@ void Recording::saying(const std::string& wire, const std::string& line)
 {
     finishAll();
     expectNews();
-    mSaying = lineFor(wire, line);
+    mSayings.push_back(lineFor(wire, line));
     acted();
 }
 
-void Recording::said(const std::string& refusal)
+/// One thread after the other, or several at once. What has come of a line by now has had it written.
+void Recording::said(const std::string& wire, const std::string& line, const std::string& refusal)
 {
-    if (refusal.empty())
-        return finishSaying();
-    if (!mSaying.empty() && isOnOneLine(mSaying + refusal))
-        write("# refused: " + mSaying + ": " + refusal);
-    mSaying.clear();
+    const std::string whole = lineFor(wire, line);
+    const auto found = std::ranges::find(mSayings, whole);
+    const bool isWritten = found == mSayings.end();
+    if (!isWritten)
+        mSayings.erase(found);
+    if (!refusal.empty())
+        write("# refused: " + onOneLine(whole + ": " + refusal));
+    else if (!isWritten)
+        writeSaid(whole);
 }
 
 void Recording::end()
@@ -488,10 +488,13 @@ void Recording::leftBy(const Workplace& before)
 
 void Recording::finishSaying()
 {
-    const std::string line = std::exchange(mSaying, {});
-    if (line.empty())
-        return;
-    write(isOnOneLine(line) ? line : "# something was said to the program that is no line");
+    for (const std::string& line : std::exchange(mSayings, {}))
+        writeSaid(line);
+}
+
+void Recording::writeSaid(const std::string& line)
+{
+    write(isPlainLine(line) ? line : "# said to the program, which no line of a script can: " + quotedForScript(line));
     acted();
 }
 

@@ -43,7 +43,7 @@ public:
 
     /// Somebody is about to say a line to the program; and has: empty where it was taken.
     void saying(const std::string& wire, const std::string& line);
-    void said(const std::string& refusal);
+    void said(const std::string& wire, const std::string& line, const std::string& refusal);
 
     /// The program ends.
     void end();
@@ -102,6 +102,7 @@ private:
     void finishMenu();
     void finishBack(const Workplace& place);
     void finishSaying();
+    void writeSaid(const std::string& line);
     void finishAll();
     void leftBy(const Workplace& before);
     void goToTab(const Workplace& place);
@@ -142,7 +143,7 @@ private:
     std::optional<Workplace> mMayLeave; ///< where the left key has been pressed and has changed nothing yet
     bool mIsOkDown = false;             ///< in a form, where it matters how long
     Workplace mOkField;
-    std::string mSaying;
+    std::vector<std::string> mSayings; ///< of which it is not known yet whether they are taken
 
     bool mHasLeft = false; ///< the key that goes down now is written
     bool mHasMoved = false;

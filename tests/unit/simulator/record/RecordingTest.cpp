@@ -401,13 +401,33 @@ TEST_F(RecordingTest, LinesSaidToTheProgramStandBeforeWhatComesOfThem)
 {
     recording.saying("exchange", "4711 calls");
     show(place(1, Kind::BAR, {"Answer"}, 0, "Ada"));
-    recording.said("");
+    recording.said("exchange", "4711 calls", "");
     recording.saying("exchange", "4711 jumps");
-    recording.said("nobody jumps");
+    recording.said("exchange", "4711 jumps", "nobody jumps");
     recording.saying("jukebox", "play");
-    recording.said("");
+    recording.said("jukebox", "play", "");
     EXPECT_THAT(lines, ElementsAre("exchange 4711 calls", "expect Ada", "expect Answer",
                                    "# refused: exchange 4711 jumps: nobody jumps", "act jukebox play"));
+}
+
+TEST_F(RecordingTest, LinesThatAreSaidAtOnceAreToldApart)
+{
+    recording.saying("exchange", "4711 jumps");
+    recording.saying("exchange", "4712 calls");
+    recording.said("exchange", "4711 jumps", "nobody jumps");
+    recording.said("exchange", "4712 calls", "");
+    EXPECT_THAT(lines, ElementsAre("# refused: exchange 4711 jumps: nobody jumps", "exchange 4712 calls"));
+}
+
+TEST_F(RecordingTest, NothingUnseenIsSaid)
+{
+    recording.saying("exchange", "4711 \u202Esllac");
+    recording.said("exchange", "4711 \u202Esllac", "");
+    recording.saying("exchange", "47\n");
+    recording.said("exchange", "47\n", "no \u061C");
+    EXPECT_THAT(lines,
+                ElementsAre(R"(# said to the program, which no line of a script can: "exchange 4711 \u202Esllac")",
+                            R"(# refused: exchange 47\n: no \u061C)"));
 }
 
 TEST_F(RecordingTest, TwoPagesThatPressAtOnceAreOneUser)
