@@ -32,7 +32,8 @@ A script has one command a line:
   dump --json NAME.json
   exchange LINE, language CODE,            say something to the program
   act NAME LINE
-A text may be one of the catalogue in use: _("KEY").
+A text may be one of the catalogue in use: _("KEY"). What else it may be, several keys, arguments, escapes and #2, is in
+docs/testing.md.
 With DISPLAYAPI_UPDATE_SCREENS=1 in the environment, compare writes its files.
 )";
 
