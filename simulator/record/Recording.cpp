@@ -131,10 +131,9 @@ bool Recording::isEditing(const Workplace& before, PegKey key) const
 
 void Recording::comes(PegKey key, const Workplace& before)
 {
-    if (!mDown || mDown->first != key) {
-        mDown = {key, mWorld.now()};
-        mScreensWhileDown = 0;
-    }
+    if (!mDown || mDown->key != key)
+        mDown = Down{.key = key, .since = mWorld.now()};
+    mDown->isWritten = false;
     finishBack(before);
     joinLoose(before);
     acted();
@@ -210,7 +209,7 @@ void Recording::pressedOther(PegKey key, const Workplace& before)
     finishMenu();
     if (key == PK_LEFT) {
         write("back");
-        mHasLeft = true;
+        mDown->isWritten = true;
         forgetMoves();
         return;
     }
@@ -218,7 +217,7 @@ void Recording::pressedOther(PegKey key, const Workplace& before)
     if (!moves || key == PK_RIGHT)
         goToWhereHeIs(before);
     pressKey(key, "");
-    mHasLeft = moves;
+    mDown->isWritten = true;
 }
 
 /// As the telephone has it, after the keys that have led to where it is pressed.
@@ -245,7 +244,7 @@ void Recording::done(PegKey key, const Workplace& before, const Workplace& after
         write("choose " + nameOfCurrent(*before.withKeys()));
         forgetMoves();
     }
-    if (key >= PK_UP && key <= PK_RIGHT && before.withKeys() != nullptr && !std::exchange(mHasLeft, false))
+    if (key >= PK_UP && key <= PK_RIGHT && before.withKeys() != nullptr && !isWritten())
         followMove(key, before, after);
 }
 
@@ -324,7 +323,8 @@ void Recording::openMenu(const Workplace& before)
 
 void Recording::released(PegKey key, const Workplace& before)
 {
-    const std::int64_t held = mDown && mDown->first == key ? mWorld.now() - mDown->second : 0;
+    const std::int64_t held = mDown && mDown->key == key ? mWorld.now() - mDown->since : 0;
+    const int screens = mDown ? mDown->screens : 0;
     mDown.reset();
     acted();
     joinLoose(before);
@@ -332,7 +332,7 @@ void Recording::released(PegKey key, const Workplace& before)
         finishOk(&before);
     if (!mLoose.empty() && mLoose.back().key == key)
         mLoose.back().heldFor = held;
-    else if (key == PK_LEFT && held >= LONG_PRESS && mScreensWhileDown > 1) // it has led further than back
+    else if (key == PK_LEFT && held >= LONG_PRESS && screens > 1) // it has led further than back
         write("hold left " + std::to_string((held + HOLD_STEP - 1) / HOLD_STEP * HOLD_STEP));
 }
 
@@ -342,7 +342,8 @@ void Recording::shown(const Workplace& place, const std::vector<host::TextRun>& 
     joinLoose(place);
     const bool isElsewhere = place.window != mLast.window;
     if (isElsewhere) {
-        ++mScreensWhileDown;
+        if (mDown)
+            ++mDown->screens;
         if (!areOf(place.withKeys(), {Kind::MENU}))
             finishMenu();
         finishLoose();

@@ -70,6 +70,14 @@ private:
         std::string value;
     };
 
+    /// The key that is down.
+    struct Down {
+        PegKey key;
+        std::int64_t since;
+        int screens = 0;        ///< that have come meanwhile
+        bool isWritten = false; ///< before it has done what it does
+    };
+
     /// A key of the keypad of which it is to be seen what it types into.
     struct Loose {
         PegKey key;
@@ -122,6 +130,7 @@ private:
     void write(const std::string& line) { mWorld.write(line); }
     bool isAtOnce() const;
     void acted();
+    bool isWritten() const { return mDown && mDown->isWritten; }
 
     const Surroundings mWorld;
 
@@ -145,12 +154,10 @@ private:
     Workplace mOkField;
     std::vector<std::string> mSayings; ///< of which it is not known yet whether they are taken
 
-    bool mHasLeft = false; ///< the key that goes down now is written
     bool mHasMoved = false;
     bool mHasTurnedTab = false;
     std::vector<PegKey> mMoves; ///< the keys by which he has gone somewhere since the last line
-    std::optional<std::pair<PegKey, std::int64_t>> mDown;
-    int mScreensWhileDown = 0;
+    std::optional<Down> mDown;
 };
 
 } // namespace simulator

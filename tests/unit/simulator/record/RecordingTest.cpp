@@ -272,6 +272,18 @@ TEST_F(RecordingTest, TabIsSelectedBeforeItsRow)
     EXPECT_THAT(lines, ElementsAre("select \"Missed\"", "choose \"a\""));
 }
 
+TEST_F(RecordingTest, KeyWhereNothingCanBeChosenLeavesTheNextOneItsMeaning)
+{
+    Workplace idle;
+    idle.window = &WINDOWS[2];
+    press(PK_DOWN, idle);
+    press(PK_RIGHT, list({"Ada"}));
+    const Workplace menu = place(1, Kind::MENU, {"Call"});
+    show(menu);
+    press(PK_OK, menu);
+    EXPECT_THAT(lines, ElementsAre("key down", "select \"Ada\"", "command \"Call\""));
+}
+
 TEST_F(RecordingTest, HeldOkOfAFormLeadsToItsCommands)
 {
     const Workplace form = place(0, Kind::FIELDS, {"Name"});
