@@ -148,7 +148,7 @@ void Recording::comes(PegKey key, const Workplace& before)
         mNews.reset();
     } else {
         finishMenu();
-        expectNews();
+        expectNews(before);
     }
     finishSaying();
     if (isOfKeypad(key))
@@ -350,13 +350,15 @@ void Recording::shown(const Workplace& place, const std::vector<host::TextRun>& 
         finishSetting();
         if (mTyping && mTyping->window != place.window)
             finishText(nullptr);
+        if (mHasMoved) // what has come of it
+            mNews.reset();
         forgetMoves();
     }
     followTyped(place);
     noteMessage(texts);
     if (isOther(place, mLast)) {
         if (mNews && mNews->window != place.window && mWorld.now() - mNewsSince >= LONG_ENOUGH)
-            expectNews();
+            expectNews(mLast);
         mNewsComeByThemselves = !isAtOnce() || isSameList(place, mLast);
         mNewsSince = mWorld.now();
         mNews = factsOf(place, texts);
@@ -369,7 +371,7 @@ void Recording::shown(const Workplace& place, const std::vector<host::TextRun>& 
 void Recording::saying(const std::string& wire, const std::string& line)
 {
     finishAll();
-    expectNews();
+    expectNews(mLast);
     mSayings.push_back(lineFor(wire, line));
     acted();
 }
@@ -391,7 +393,7 @@ void Recording::said(const std::string& wire, const std::string& line, const std
 void Recording::end()
 {
     finishAll();
-    expectNews();
+    expectNews(mLast);
     finishSaying();
 }
 
@@ -606,7 +608,7 @@ void Recording::noteMessage(const std::vector<host::TextRun>& texts)
     finishSaying();
     const std::string former = std::exchange(mMessage, message);
     if (mNews && mWorld.now() - mNewsSince >= LONG_ENOUGH)
-        expectNews();
+        expectNews(mLast);
     if (message.empty())
         return messageHasGone(former);
     mMayBeHidden = true;
@@ -626,8 +628,8 @@ void Recording::messageHasGone(const std::string& message)
     mMayBeHidden = false;
 }
 
-/// What is new comes first; on another screen that has nothing new, what there is.
-void Recording::expectNews()
+/// Behind the way to it. What is new comes first; on another screen that has nothing new, what there is.
+void Recording::expectNews(const Workplace& place)
 {
     const std::optional<Facts> news = std::exchange(mNews, std::nullopt);
     if (!news)
@@ -641,6 +643,8 @@ void Recording::expectNews()
         texts = news->texts;
     texts.resize(std::min(texts.size(), MOST_EXPECTED));
     finishSaying();
+    if (!texts.empty())
+        goToWhereHeIs(place);
     for (const std::string& text : texts) // behind a row's name stands how it is by now
         expect(text, mNewsComeByThemselves || mMayBeHidden || (news->areRows && text != news->texts.front()));
     mTold = *news;

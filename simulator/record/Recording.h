@@ -124,7 +124,7 @@ private:
     Facts factsOf(const Workplace& place, const std::vector<host::TextRun>& texts) const;
     void noteMessage(const std::vector<host::TextRun>& texts);
     void messageHasGone(const std::string& message);
-    void expectNews();
+    void expectNews(const Workplace& place);
     void expect(const std::string& text, bool comesByItself);
 
     void write(const std::string& line) { mWorld.write(line); }

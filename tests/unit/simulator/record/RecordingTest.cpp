@@ -284,6 +284,21 @@ TEST_F(RecordingTest, KeyWhereNothingCanBeChosenLeavesTheNextOneItsMeaning)
     EXPECT_THAT(lines, ElementsAre("key down", "select \"Ada\"", "command \"Call\""));
 }
 
+TEST_F(RecordingTest, WhatATabHasIsExpectedBehindTheWayToTheTab)
+{
+    const auto tab = [](int number, const Names& names) {
+        Workplace there = list(names);
+        there.choices.push_back(part(Kind::TABS, {"All", "Missed"}, number));
+        there.choices[1].hasKeys = false;
+        return there;
+    };
+    show(tab(0, {"a", "b"}));
+    press(PK_RIGHT, tab(0, {"a", "b"}), tab(1, {"c", "d"}));
+    show(tab(1, {"c", "d"}));
+    press(PK_HOOK, tab(1, {"c", "d"}));
+    EXPECT_THAT(lines, ElementsAre("expect a", "select \"Missed\"", "select \"c\"", "await \"c\"", "key hook"));
+}
+
 TEST_F(RecordingTest, HeldOkOfAFormLeadsToItsCommands)
 {
     const Workplace form = place(0, Kind::FIELDS, {"Name"});
