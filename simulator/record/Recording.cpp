@@ -19,6 +19,7 @@ constexpr std::int64_t LONG_ENOUGH = 300;
 constexpr std::int64_t LONG_PRESS = 600;
 constexpr std::int64_t HOLD_STEP = 100;
 constexpr std::size_t LONGEST_EXPECTED = 200;
+constexpr std::size_t LONGEST_UNIT = 6;  ///< bytes
 constexpr std::size_t MOST_EXPECTED = 2; ///< the small panel has no more lines
 
 std::string nameOf(PegKey key)
@@ -68,22 +69,31 @@ bool isDigit(char character)
     return character >= '0' && character <= '9';
 }
 
-/// Whether it looks like a time, a date or a duration, which are others the next time: a digit, what separates, and a
-/// digit; or a number and a unit.
+/// Whether it looks like a time, a date or a duration, which are others the next time: a digit, what separates, and two
+/// digits; or at the end a number and a short unit in small letters.
 bool isOfTheMoment(const std::string& text)
 {
-    for (std::size_t at = 0; at + 2 < text.size(); ++at) {
-        if (!isDigit(text[at]))
-            continue;
+    for (std::size_t at = 0; at + 3 < text.size(); ++at) {
         const bool separates = text[at + 1] == ':' || text[at + 1] == '.' || text[at + 1] == '/';
-        if (separates && isDigit(text[at + 2]))
-            return true;
-        const std::string_view unit = std::string_view(text).substr(at + 2, 4);
-        const auto length = std::min(unit.find(' '), unit.size());
-        if (text[at + 1] == ' ' && length > 0 && length <= 3 && !isDigit(unit.front()))
+        if (separates && isDigit(text[at]) && isDigit(text[at + 2]) && isDigit(text[at + 3]))
             return true;
     }
-    return false;
+    const auto space = text.rfind(' ');
+    if (space == text.npos || space == 0 || !isDigit(text[space - 1]))
+        return false;
+    const std::string_view unit = std::string_view(text).substr(space + 1);
+    const auto isInIt = [](unsigned char byte) { return byte >= 0x80 || (byte >= 'a' && byte <= 'z'); };
+    return !unit.empty() && unit.size() <= LONGEST_UNIT && std::ranges::all_of(unit, isInIt);
+}
+
+/// Why a replay could not find the current one by what it is called; empty where it can.
+std::string whyNameless(const Choices& choices)
+{
+    if (choices.texts.empty() || choices.texts.front().empty())
+        return "what is chosen here has no text";
+    if (isOfTheMoment(choices.texts.front()))
+        return "what is chosen here is called otherwise the next time";
+    return {};
 }
 
 bool isLiteral(const ScriptText& text)
@@ -151,12 +161,14 @@ void Recording::comes(PegKey key, const Workplace& before)
         expectNews(before);
     }
     finishSaying();
-    if (isOfKeypad(key))
+    if (isOfKeypad(key)) {
+        keepWay(before);
         mLoose.push_back({key, 0});
-    else if (key == PK_OK)
+    } else if (key == PK_OK) {
         pressedOk(before);
-    else
+    } else {
         pressedOther(key, before);
+    }
 }
 
 /// A number that has been typed into a dialler, whose first command OK is.
@@ -184,8 +196,12 @@ void Recording::pressedOk(const Workplace& before)
     if (areOf(here, {Kind::MENU}) && mMenu)
         write("select " + *std::exchange(mMenu, std::nullopt));
     finishMenu();
-    if (here == nullptr || here->texts.empty() || here->texts.front().empty())
-        return pressKey(PK_OK, here != nullptr ? "what is chosen here has no text" : "");
+    if (here == nullptr)
+        return pressKey(PK_OK);
+    if (const std::string reason = whyNameless(*here); !reason.empty()) {
+        repeatMoves(reason);
+        return pressKey(PK_OK);
+    }
     goToTab(before);
     const bool isCommand = areOf(here, {Kind::MENU, Kind::BAR});
     write((isCommand ? "command " : "choose ") + nameOfCurrent(*here));
@@ -216,18 +232,13 @@ void Recording::pressedOther(PegKey key, const Workplace& before)
     mHasMoved = mHasMoved || key == PK_RIGHT; // it is what the command there says
     if (!moves || key == PK_RIGHT)
         goToWhereHeIs(before);
-    pressKey(key, "");
+    pressKey(key);
     mDown->isWritten = true;
 }
 
-/// As the telephone has it, after the keys that have led to where it is pressed.
-void Recording::pressKey(PegKey key, const std::string& reason)
+/// As the telephone has it.
+void Recording::pressKey(PegKey key)
 {
-    if (!reason.empty())
-        write("# " + reason);
-    if (!reason.empty())
-        for (const PegKey move : mMoves)
-            write("key " + nameOf(move));
     write("key " + nameOf(key));
     forgetMoves();
 }
@@ -255,7 +266,7 @@ void Recording::followText(PegKey key, const Workplace& before, const Workplace&
     if (isThere) {
         const std::string& text = after.edited->text;
         if (!mTyping && text != before.edited->text)
-            mTyping = Typing{before.window, fieldOf(before), fieldLine(before), before.edited->text, {}, key};
+            mTyping = typingIn(before, before.edited->text, key);
         if (mTyping)
             mTyping->text = text;
         const bool isUnmoved = text == before.edited->text && after.edited->cursor == before.edited->cursor;
@@ -270,7 +281,19 @@ void Recording::followText(PegKey key, const Workplace& before, const Workplace&
     if (key == PK_LEFT)
         write("back");
     else
-        pressKey(key, "");
+        pressKey(key);
+}
+
+Recording::Typing Recording::typingIn(const Workplace& place, std::optional<std::string> text, PegKey opener)
+{
+    Typing typing{.window = place.window, .field = fieldOf(place), .before = std::move(text), .opener = opener};
+    const Choices* const here = place.withKeys();
+    if (!areOf(here, {Kind::FIELDS}))
+        return typing;
+    typing.nameless = whyNameless(*here);
+    if (typing.nameless.empty())
+        typing.fieldLine = nameOfCurrent(*here);
+    return typing;
 }
 
 void Recording::followMove(PegKey key, const Workplace& before, const Workplace& after)
@@ -281,7 +304,7 @@ void Recording::followMove(PegKey key, const Workplace& before, const Workplace&
         if (key == PK_LEFT)
             return leftBy(before);
         goToWhereHeIs(before);
-        return pressKey(key, "");
+        return pressKey(key);
     }
     const Choices* const tabs = choicesIn(before, Kind::TABS);
     const Choices* const tabsNow = choicesIn(after, Kind::TABS);
@@ -304,7 +327,10 @@ void Recording::followValue(const Workplace& after)
     const Choices& field = *after.withKeys();
     if (field.texts.size() < 2 || field.texts[1].empty())
         return;
-    mSetting = Setting{after.window, nameOfCurrent(field), field.texts[1]};
+    const bool hasName = whyNameless(field).empty();
+    if (!hasName)
+        goToWhereHeIs(after);
+    mSetting = Setting{after.window, hasName ? nameOfCurrent(field) : "", field.texts[1]};
 }
 
 /// What else can be done with a row: mostly a command of it.
@@ -314,8 +340,10 @@ void Recording::openMenu(const Workplace& before)
     finishSetting();
     finishMenu();
     const Choices& rows = *before.withKeys();
-    if (rows.texts.empty() || rows.texts.front().empty())
-        return pressKey(PK_RIGHT, "the row has no text");
+    if (const std::string reason = whyNameless(rows); !reason.empty()) {
+        repeatMoves(reason);
+        return pressKey(PK_RIGHT);
+    }
     goToTab(before);
     mMenu = nameOfCurrent(rows);
     forgetMoves();
@@ -344,14 +372,15 @@ void Recording::shown(const Workplace& place, const std::vector<host::TextRun>& 
     if (isElsewhere) {
         if (mDown)
             ++mDown->screens;
+        if (mTyping && mTyping->window != place.window)
+            finishText(nullptr);
         if (!areOf(place.withKeys(), {Kind::MENU}))
             finishMenu();
         finishLoose();
         finishSetting();
-        if (mTyping && mTyping->window != place.window)
-            finishText(nullptr);
         if (mHasMoved) // what has come of it
             mNews.reset();
+        keepWay(mLast);
         forgetMoves();
     }
     followTyped(place);
@@ -402,7 +431,9 @@ void Recording::joinLoose(const Workplace& place)
 {
     if (mLoose.empty() || !place.edited)
         return;
-    mTyping = Typing{place.window, fieldOf(place), {}, {}, place.edited->text, mLoose.front().key};
+    mTyping = typingIn(place, {}, mLoose.front().key);
+    mTyping->fieldLine.clear(); // it may have come with the key
+    mTyping->text = place.edited->text;
     mLoose.clear();
 }
 
@@ -425,6 +456,8 @@ void Recording::finishText(const Workplace* place)
         write("key " + nameOf(typed->opener));
     if (!typed->fieldLine.empty())
         write("select " + typed->fieldLine);
+    else if (!typed->nameless.empty() && !mMoves.empty())
+        repeatMoves(typed->nameless);
     write("type " + quotedForScript(typed->text));
     forgetMoves();
 }
@@ -443,7 +476,8 @@ void Recording::finishSetting()
     const std::optional<Setting> set = std::exchange(mSetting, std::nullopt);
     if (!set)
         return;
-    write("select " + set->field);
+    if (!set->field.empty())
+        write("select " + set->field);
     write("set " + mWorld.textOf(set->value).written());
     forgetMoves();
 }
@@ -458,7 +492,7 @@ void Recording::finishOk(const Workplace* before)
         return;
     }
     goToWhereHeIs(mOkField);
-    pressKey(PK_OK, "");
+    pressKey(PK_OK);
 }
 
 void Recording::finishMenu()
@@ -520,10 +554,32 @@ void Recording::goToTab(const Workplace& place)
 void Recording::goToWhereHeIs(const Workplace& place)
 {
     const Choices* const here = place.withKeys();
-    if (!mHasMoved || here == nullptr || here->texts.empty() || here->texts.front().empty())
+    if (!mHasMoved || here == nullptr)
         return;
+    if (const std::string reason = whyNameless(*here); !reason.empty()) {
+        if (!mMoves.empty())
+            repeatMoves(reason);
+        return;
+    }
     goToTab(place);
     write("select " + nameOfCurrent(*here));
+    forgetMoves();
+}
+
+/// Before another screen is there, whose return would leave nobody to tell it.
+void Recording::keepWay(const Workplace& place)
+{
+    const Choices* const here = place.withKeys();
+    if (here != nullptr && !whyNameless(*here).empty())
+        goToWhereHeIs(place);
+}
+
+/// From where the last line has left the user.
+void Recording::repeatMoves(const std::string& reason)
+{
+    write("# " + reason);
+    for (const PegKey move : mMoves)
+        write("key " + nameOf(move));
     forgetMoves();
 }
 
@@ -532,13 +588,6 @@ void Recording::forgetMoves()
     mMoves.clear();
     mHasMoved = false;
     mHasTurnedTab = false;
-}
-
-/// Empty where the user is in no form.
-std::string Recording::fieldLine(const Workplace& place)
-{
-    const Choices* const here = place.withKeys();
-    return areOf(here, {Kind::FIELDS}) && !here->texts.empty() ? nameOfCurrent(*here) : std::string();
 }
 
 /// With its number where others before it are called the same.

@@ -56,11 +56,12 @@ private:
     /// What is being typed.
     struct Typing {
         const void* window = nullptr;
-        int field = -1;                    ///< of a form
-        std::string fieldLine;             ///< what it is called
-        std::optional<std::string> before; ///< what stood there; nothing where the keys have opened it
-        std::string text;
-        PegKey opener; ///< the first key
+        int field = -1;                      ///< of a form
+        std::string fieldLine{};             ///< what it is called
+        std::string nameless{};              ///< or why not
+        std::optional<std::string> before{}; ///< what stood there; nothing where the keys have opened it
+        std::string text{};
+        PegKey opener{}; ///< the first key
     };
 
     /// A field that is being set by left and right.
@@ -95,7 +96,8 @@ private:
     bool dials(const Workplace& before);
     void pressedOk(const Workplace& before);
     void pressedOther(PegKey key, const Workplace& before);
-    void pressKey(PegKey key, const std::string& reason);
+    void pressKey(PegKey key);
+    Typing typingIn(const Workplace& place, std::optional<std::string> text, PegKey opener);
     void followText(PegKey key, const Workplace& before, const Workplace& after);
     void followMove(PegKey key, const Workplace& before, const Workplace& after);
     void followValue(const Workplace& after);
@@ -115,8 +117,9 @@ private:
     void leftBy(const Workplace& before);
     void goToTab(const Workplace& place);
     void goToWhereHeIs(const Workplace& place);
+    void keepWay(const Workplace& place);
+    void repeatMoves(const std::string& reason);
     void forgetMoves();
-    std::string fieldLine(const Workplace& place);
     std::string nameOfCurrent(const Choices& choices);
 
     static bool isOther(const Workplace& place, const Workplace& former);

@@ -145,6 +145,40 @@ TEST_F(RecordingTest, RowWithoutATextIsReachedByKeysAndSaysWhy)
     EXPECT_THAT(lines, ElementsAre("# what is chosen here has no text", "key down", "key ok"));
 }
 
+TEST_F(RecordingTest, FieldsWithoutATextAreReachedByKeysBeforeWhatIsDoneThere)
+{
+    const auto field = [](int current) { return place(0, Kind::FIELDS, {"", ""}, current); };
+    press(static_cast<PegKey>('2'), typing(field(0), ""), typing(field(0), "a"));
+    press(PK_DOWN, typing(field(0), "a"), typing(field(1), ""));
+    press(static_cast<PegKey>('2'), typing(field(1), ""), typing(field(1), "b"));
+    press(PK_UP, typing(field(1), "b"), field(0));
+    press(PK_HOOK, field(0));
+    const std::string why = "# what is chosen here has no text";
+    EXPECT_THAT(lines, ElementsAre("type \"a\"", why, "key down", "type \"b\"", why, "key up", "key hook"));
+}
+
+TEST_F(RecordingTest, WayToARowWithoutATextOutlivesAScreenThatComesOverIt)
+{
+    show(list({"", ""}, 0));
+    press(PK_DOWN, list({"", ""}, 0), list({"", ""}, 1));
+    show(list({"", ""}, 1));
+    show(place(1, Kind::ROWS, {"b"}));
+    show(list({"", ""}, 1));
+    press(PK_OK, list({"", ""}, 1));
+    const std::string why = "# what is chosen here has no text";
+    EXPECT_THAT(lines, ElementsAre(why, "key down", why, "key ok"));
+}
+
+TEST_F(RecordingTest, RowThatIsCalledOtherwiseTheNextTimeIsReachedByKeys)
+{
+    press(PK_DOWN, list({"1 Ada Byron", "Up 7 s"}, 0), list({"1 Ada Byron", "Up 7 s"}, 1));
+    press(PK_OK, list({"1 Ada Byron", "Up 7 s"}, 1));
+    press(PK_UP, list({"1 Ada Byron", "Up 8 s"}, 1), list({"1 Ada Byron", "Up 8 s"}, 0));
+    press(PK_OK, list({"1 Ada Byron", "Up 8 s"}, 0));
+    EXPECT_THAT(lines, ElementsAre("# what is chosen here is called otherwise the next time", "key down", "key ok",
+                                   "choose \"1 Ada Byron\""));
+}
+
 TEST_F(RecordingTest, KeyWithoutAMeaningIsTheKeyOfTheRowWhereItIsPressed)
 {
     press(PK_DOWN, list({"a", "b"}, 0), list({"a", "b"}, 1));
