@@ -144,7 +144,7 @@ void Recording::comes(PegKey key, const Workplace& before)
     if (!mDown || mDown->key != key)
         mDown = Down{.key = key, .since = mWorld.now()};
     mDown->isWritten = false;
-    finishBack(before);
+    finishInVain(before);
     joinLoose(before);
     acted();
     if (isEditing(before, key))
@@ -271,7 +271,7 @@ void Recording::followText(PegKey key, const Workplace& before, const Workplace&
             mTyping->text = text;
         const bool isUnmoved = text == before.edited->text && after.edited->cursor == before.edited->cursor;
         if (key == PK_LEFT && isUnmoved && !before.edited->takesAllKeys)
-            mMayLeave = before;
+            mInVain = {key, before};
         return;
     }
     if (!isSidewards(key))
@@ -313,9 +313,7 @@ void Recording::followMove(PegKey key, const Workplace& before, const Workplace&
     else if (isSidewards(key) && from.kind == Kind::FIELDS && to->kind == Kind::FIELDS && to->current == from.current)
         return followValue(after);
     else if (to->kind == from.kind && to->current == from.current)
-        return key == PK_RIGHT && from.kind == Kind::ROWS ? openMenu(before)
-               : key == PK_LEFT                           ? void(mMayLeave = before)
-                                                          : void();
+        return key == PK_RIGHT && from.kind == Kind::ROWS ? openMenu(before) : void(mInVain = {key, before});
     mHasMoved = true;
     if (mMoves.size() < MOST_MOVES)
         mMoves.push_back(key);
@@ -366,7 +364,7 @@ void Recording::released(PegKey key, const Workplace& before)
 
 void Recording::shown(const Workplace& place, const std::vector<host::TextRun>& texts)
 {
-    finishBack(place);
+    finishInVain(place);
     joinLoose(place);
     const bool isElsewhere = place.window != mLast.window;
     if (isElsewhere) {
@@ -504,14 +502,25 @@ void Recording::finishMenu()
     write("key right");
 }
 
-/// The left key that has changed nothing by itself has led away by now.
-void Recording::finishBack(const Workplace& place)
+/// A key that has moved nothing has led away by now, or the program has done something else about it.
+void Recording::finishInVain(const Workplace& place)
 {
-    if (!mMayLeave)
+    if (!mInVain)
         return;
-    const Workplace before = *std::exchange(mMayLeave, std::nullopt);
-    if (before.window != place.window || (before.edited.has_value() && !place.edited))
-        leftBy(before);
+    const auto [key, before] = *std::exchange(mInVain, std::nullopt);
+    const bool isElsewhere = before.window != place.window;
+    const bool leads = isElsewhere || (before.edited.has_value() && !place.edited);
+    if (leads && key == PK_LEFT)
+        return leftBy(before);
+    if (!isAtOnce() || !(isElsewhere || isOther(place, before) || isRenamed(place, before)))
+        return;
+    finishText(&before);
+    finishSetting();
+    goToWhereHeIs(before);
+    if (key == PK_LEFT)
+        write("back");
+    else
+        pressKey(key);
 }
 
 void Recording::leftBy(const Workplace& before)
@@ -614,6 +623,15 @@ bool Recording::isOther(const Workplace& place, const Workplace& former)
         return true;
     const bool areRows = areOf(here, {Kind::ROWS}) && areOf(before, {Kind::ROWS});
     return areRows && here->current == before->current && here->texts != before->texts;
+}
+
+/// The tab, or whatever else he is at.
+bool Recording::isRenamed(const Workplace& place, const Workplace& former)
+{
+    const Choices* const here = place.withKeys();
+    const Choices* const before = former.withKeys();
+    return here != nullptr && before != nullptr && here->kind == before->kind && here->current == before->current &&
+           here->texts != before->texts;
 }
 
 /// What changes in its place mostly does so as time passes, and soon after a key by chance.

@@ -110,7 +110,7 @@ private:
     void finishSetting();
     void finishOk(const Workplace* before);
     void finishMenu();
-    void finishBack(const Workplace& place);
+    void finishInVain(const Workplace& place);
     void finishSaying();
     void writeSaid(const std::string& line);
     void finishAll();
@@ -123,6 +123,7 @@ private:
     std::string nameOfCurrent(const Choices& choices);
 
     static bool isOther(const Workplace& place, const Workplace& former);
+    static bool isRenamed(const Workplace& place, const Workplace& former);
     static bool isSameList(const Workplace& place, const Workplace& former);
     Facts factsOf(const Workplace& place, const std::vector<host::TextRun>& texts) const;
     void noteMessage(const std::vector<host::TextRun>& texts);
@@ -151,9 +152,9 @@ private:
     std::optional<Typing> mTyping;
     std::optional<Setting> mSetting;
     std::vector<Loose> mLoose;
-    std::optional<std::string> mMenu;   ///< the row for which the right key has been pressed
-    std::optional<Workplace> mMayLeave; ///< where the left key has been pressed and has changed nothing yet
-    bool mIsOkDown = false;             ///< in a form, where it matters how long
+    std::optional<std::string> mMenu;                    ///< the row for which the right key has been pressed
+    std::optional<std::pair<PegKey, Workplace>> mInVain; ///< an arrow, where it has changed nothing yet
+    bool mIsOkDown = false;                              ///< in a form, where it matters how long
     Workplace mOkField;
     std::vector<std::string> mSayings; ///< of which it is not known yet whether they are taken
 

@@ -169,6 +169,20 @@ TEST_F(RecordingTest, WayToARowWithoutATextOutlivesAScreenThatComesOverIt)
     EXPECT_THAT(lines, ElementsAre(why, "key down", why, "key ok"));
 }
 
+TEST_F(RecordingTest, ArrowThatMovesNothingIsAKeyWhereTheProgramDoesSomethingAboutIt)
+{
+    show(place(1, Kind::TABS, {"All"}));
+    press(PK_LEFT, place(1, Kind::TABS, {"All"}));
+    show(place(1, Kind::TABS, {"The end"}));
+    press(PK_DOWN, place(1, Kind::MENU, {"a"}));
+    show(place(1, Kind::MENU, {"a"}, 0, "other title"));
+    press(PK_DOWN, place(1, Kind::MENU, {"a"}, 0, "other title"));
+    clock += 5000;
+    show(place(1, Kind::MENU, {"a"}, 0, "third title"));
+    recording.end();
+    EXPECT_THAT(lines, ElementsAre("expect All", "back", "key down", "expect a"));
+}
+
 TEST_F(RecordingTest, RowThatIsCalledOtherwiseTheNextTimeIsReachedByKeys)
 {
     press(PK_DOWN, list({"1 Ada Byron", "Up 7 s"}, 0), list({"1 Ada Byron", "Up 7 s"}, 1));
