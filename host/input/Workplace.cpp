@@ -46,6 +46,16 @@ Texts textsOf(const Field* field)
     return {utf8(labelled->label()), utf8(labelled->value())};
 }
 
+bool isWayBack(const KestrelListBoxItem& row)
+{
+    return textsOf(row) == Texts{utf8(KestrelListBoxItem::wayBackText())};
+}
+
+bool never(int)
+{
+    return false;
+}
+
 bool isAny(const std::string& text, const Texts& wanted)
 {
     return std::ranges::find(wanted, text) != wanted.end();
@@ -62,14 +72,19 @@ class Search {
 public:
     explicit Search(Texts wanted) : mWanted(std::move(wanted)) {}
 
-    /// `textsAt` tells the texts of a choice; `naming` is how many of these name it.
-    template <typename TextsAt>
-    void fill(Choices& choices, TextsAt textsAt, std::size_t naming = SIZE_MAX) const
+    /// `textsAt` tells the texts of a choice, and `leadsBack` whether it is one that does so; `naming` is how many of
+    /// the texts name it.
+    template <typename TextsAt, typename LeadsBack = bool (*)(int)>
+    void fill(Choices& choices, TextsAt textsAt, LeadsBack leadsBack = never, std::size_t naming = SIZE_MAX) const
     {
-        if (choices.current >= 0)
+        if (choices.current >= 0) {
             choices.texts = textsAt(choices.current);
+            choices.isAtBack = leadsBack(choices.current);
+        }
         const int end = mWanted.empty() ? 0 : choices.count;
         for (int at = 0; at < end; ++at) {
+            if (leadsBack(at))
+                continue;
             Texts texts = textsAt(at);
             if (static_cast<int>(choices.names.size()) < MOST_NAMES && !texts.empty())
                 choices.names.push_back(texts.front());
@@ -152,7 +167,9 @@ private:
         mPlace.title = utf8(list.title());
         Choices rows = {.kind = Kind::ROWS, .count = list.numItems(), .current = list.currentRow()};
         rows.hasKeys = gpPresent->Focus() == &list;
-        mSearch.fill(rows, [&](int row) { return textsOf(*list.itemAt(row)); });
+        mSearch.fill(
+            rows, [&](int row) { return textsOf(*list.itemAt(row)); },
+            [&](int row) { return isWayBack(*list.itemAt(row)); });
         add(std::move(rows));
     }
 
@@ -163,7 +180,9 @@ private:
             .kind = isOfField ? Kind::VALUES : Kind::MENU, .count = column.count(), .current = column.current()};
         menu.hasKeys = column.hasFocus();
         menu.isRing = true;
-        mSearch.fill(menu, [&](int command) { return Texts{utf8(column.at(command).text)}; });
+        mSearch.fill(
+            menu, [&](int command) { return Texts{utf8(column.at(command).text)}; },
+            [&](int command) { return column.at(command).leadsBack; });
         add(std::move(menu));
     }
 
@@ -175,7 +194,7 @@ private:
                 fields.current = field;
         fields.hasKeys = column.hasFocus();
         mSearch.fill(
-            fields, [&](int field) { return textsOf(column.at(field)); }, 1);
+            fields, [&](int field) { return textsOf(column.at(field)); }, never, 1);
         add(std::move(fields));
     }
 

@@ -24,11 +24,12 @@ struct Choices {
     int count = 0;
     int current = -1;      ///< -1 where none is
     bool hasKeys = false;  ///< the keys go to it; else another part of the screen has them
+    bool isAtBack = false; ///< the current one leads back as the left key does: not every panel has it
     bool isRing = false;   ///< the first one comes behind the last
     PegKey before = PK_UP; ///< leads to the one before the current one
     PegKey behind = PK_DOWN;
     Texts texts{};              ///< of the current one
-    std::vector<int> found{};   ///< those of which a text is what has been looked for
+    std::vector<int> found{};   ///< those of which a text is what has been looked for, but for what leads back
     std::vector<int> similar{}; ///< those of which a text has it in it
     Texts names{};              ///< what the first ones are called
 };

@@ -91,6 +91,8 @@ std::string whyNameless(const Choices& choices)
 {
     if (choices.texts.empty() || choices.texts.front().empty())
         return "what is chosen here has no text";
+    if (choices.isAtBack)
+        return "what is chosen here is not on every panel";
     if (isOfTheMoment(choices.texts.front()))
         return "what is chosen here is called otherwise the next time";
     return {};
@@ -198,6 +200,10 @@ void Recording::pressedOk(const Workplace& before)
     finishMenu();
     if (here == nullptr)
         return pressKey(PK_OK);
+    if (here->isAtBack) {
+        write("back");
+        return forgetMoves();
+    }
     if (const std::string reason = whyNameless(*here); !reason.empty()) {
         repeatMoves(reason);
         return pressKey(PK_OK);
@@ -660,7 +666,8 @@ Recording::Facts Recording::factsOf(const Workplace& place, const std::vector<ho
         return !text.empty() && !isOfTheMoment(text) && std::ranges::any_of(texts, isIt);
     };
     Facts facts{place.window, {}, areOf(here, {Kind::ROWS})};
-    if (!place.edited || !place.edited->isDialler)
+    const bool isElsewhereAsWell = here == nullptr || !here->isAtBack;
+    if (isElsewhereAsWell && (!place.edited || !place.edited->isDialler))
         std::ranges::copy_if(candidates, std::back_inserter(facts.texts), isLasting);
     return facts;
 }

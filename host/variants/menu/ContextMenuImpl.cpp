@@ -127,7 +127,7 @@ void ContextMenuSide::Impl::clear()
         return;
     column->clear();
     if (hasBackRow)
-        column->insert(0, {.text = backText()});
+        column->insert(0, {.text = backText(), .leadsBack = true});
     layOut();
     changed();
 }

@@ -18,6 +18,7 @@ public:
         PegString text;
         const Icon* icon = nullptr;
         const Icon* mark = nullptr;
+        bool leadsBack = false; ///< as the left key does
     };
 
     /// 0 is the front, count() the end. The current one stays current; the first one becomes it.

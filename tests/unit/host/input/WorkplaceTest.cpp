@@ -71,6 +71,21 @@ TEST_F(WorkplaceTest, RowsAreFoundByTheirTexts)
     EXPECT_THAT(found.names, ElementsAre("Ada", "Adam", "Bob", "Ada"));
 }
 
+TEST_F(WorkplaceTest, RowThatLeadsBackIsNotFound)
+{
+    auto* const list = open(new KestrelListBoxWithTitle);
+    KestrelListBoxItem row(test::peg("Ada")), back(KestrelListBoxItem::wayBackText());
+    list->append(&row);
+    list->append(&back);
+    list->setCurrentRow(0);
+    EXPECT_FALSE(Workplace::read().withKeys()->isAtBack);
+    list->setCurrentRow(1);
+    const Workplace place = Workplace::read({"←", "Ada"});
+    EXPECT_TRUE(place.withKeys()->isAtBack);
+    EXPECT_THAT(place.withKeys()->found, ElementsAre(0));
+    EXPECT_THAT(place.withKeys()->names, ElementsAre("Ada"));
+}
+
 TEST_F(WorkplaceTest, FormHasItsFieldsByTheirLabelsAndItsCommands)
 {
     auto* const form = open(new host::FormWindow(50));

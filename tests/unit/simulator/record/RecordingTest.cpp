@@ -183,6 +183,17 @@ TEST_F(RecordingTest, ArrowThatMovesNothingIsAKeyWhereTheProgramDoesSomethingAbo
     EXPECT_THAT(lines, ElementsAre("expect All", "back", "key down", "expect a"));
 }
 
+TEST_F(RecordingTest, RowThatLeadsBackOnThisPanelIsBack)
+{
+    Workplace there = list({"a", "Back"}, 1);
+    there.choices[0].isAtBack = true;
+    press(PK_DOWN, list({"a", "Back"}, 0), there);
+    press(PK_OK, there);
+    show(there);
+    recording.end();
+    EXPECT_THAT(lines, ElementsAre("back"));
+}
+
 TEST_F(RecordingTest, RowThatIsCalledOtherwiseTheNextTimeIsReachedByKeys)
 {
     press(PK_DOWN, list({"1 Ada Byron", "Up 7 s"}, 0), list({"1 Ada Byron", "Up 7 s"}, 1));
