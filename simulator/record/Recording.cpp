@@ -195,7 +195,7 @@ void Recording::pressedOk(const Workplace& before)
         mOkField = before;
         return;
     }
-    if (areOf(here, {Kind::MENU}) && mMenu)
+    if (areOf(here, {Kind::MENU}) && !here->isAtBack && mMenu)
         write("select " + *std::exchange(mMenu, std::nullopt));
     finishMenu();
     if (here == nullptr)

@@ -190,8 +190,12 @@ TEST_F(RecordingTest, RowThatLeadsBackOnThisPanelIsBack)
     press(PK_DOWN, list({"a", "Back"}, 0), there);
     press(PK_OK, there);
     show(there);
-    recording.end();
-    EXPECT_THAT(lines, ElementsAre("back"));
+    press(PK_RIGHT, list({"a"}));
+    Workplace menu = place(1, Kind::MENU, {"Back"});
+    menu.choices[0].isAtBack = true;
+    show(menu);
+    press(PK_OK, menu);
+    EXPECT_THAT(lines, ElementsAre("back", "select \"a\"", "key right", "back"));
 }
 
 TEST_F(RecordingTest, RowThatIsCalledOtherwiseTheNextTimeIsReachedByKeys)
