@@ -64,6 +64,17 @@ bool isSidewards(PegKey key)
     return key == PK_LEFT || key == PK_RIGHT;
 }
 
+bool isArrow(PegKey key)
+{
+    return key >= PK_UP && key <= PK_RIGHT;
+}
+
+/// Milliseconds, as a script has them.
+std::string inSteps(std::int64_t held)
+{
+    return std::to_string((held + HOLD_STEP - 1) / HOLD_STEP * HOLD_STEP);
+}
+
 bool isDigit(char character)
 {
     return character >= '0' && character <= '9';
@@ -218,7 +229,7 @@ void Recording::pressedOk(const Workplace& before)
 void Recording::pressedOther(PegKey key, const Workplace& before)
 {
     const Choices* const here = before.withKeys();
-    const bool moves = key >= PK_UP && key <= PK_RIGHT;
+    const bool moves = isArrow(key);
     if (moves && here != nullptr) {
         const bool isMenu = areOf(here, {Kind::MENU, Kind::VALUES});
         const bool leaves =
@@ -261,7 +272,7 @@ void Recording::done(PegKey key, const Workplace& before, const Workplace& after
         write("choose " + nameOfCurrent(*before.withKeys()));
         forgetMoves();
     }
-    if (key >= PK_UP && key <= PK_RIGHT && before.withKeys() != nullptr && !isWritten())
+    if (isArrow(key) && before.withKeys() != nullptr && !isWritten())
         followMove(key, before, after);
 }
 
@@ -361,11 +372,13 @@ void Recording::released(PegKey key, const Workplace& before)
     acted();
     joinLoose(before);
     if (mIsOkDown && key == PK_OK)
-        finishOk(&before);
+        return finishOk(&before, held);
     if (!mLoose.empty() && mLoose.back().key == key)
         mLoose.back().heldFor = held;
     else if (key == PK_LEFT && held >= LONG_PRESS && screens > 1) // it has led further than back
-        write("hold left " + std::to_string((held + HOLD_STEP - 1) / HOLD_STEP * HOLD_STEP));
+        write("hold left " + inSteps(held));
+    else if (held >= LONG_PRESS && !isOfKeypad(key) && !isArrow(key)) // the line stands before what the key does
+        write("# " + nameOf(key) + " was held for " + inSteps(held) + " ms");
 }
 
 void Recording::shown(const Workplace& place, const std::vector<host::TextRun>& texts)
@@ -469,8 +482,7 @@ void Recording::finishText(const Workplace* place)
 void Recording::finishLoose()
 {
     for (const Loose& loose : std::exchange(mLoose, {})) {
-        const std::int64_t held = (loose.heldFor + HOLD_STEP - 1) / HOLD_STEP * HOLD_STEP;
-        write(loose.heldFor >= LONG_PRESS ? "hold " + nameOf(loose.key) + ' ' + std::to_string(held)
+        write(loose.heldFor >= LONG_PRESS ? "hold " + nameOf(loose.key) + ' ' + inSteps(loose.heldFor)
                                           : "key " + nameOf(loose.key));
     }
 }
@@ -487,7 +499,7 @@ void Recording::finishSetting()
 }
 
 /// A form's OK counts when it goes up; while it is held it leads to the commands.
-void Recording::finishOk(const Workplace* before)
+void Recording::finishOk(const Workplace* before, std::int64_t held)
 {
     if (!std::exchange(mIsOkDown, false))
         return;
@@ -496,7 +508,8 @@ void Recording::finishOk(const Workplace* before)
         return;
     }
     goToWhereHeIs(mOkField);
-    pressKey(PK_OK);
+    write(held >= LONG_PRESS ? "hold ok " + inSteps(held) : "key ok");
+    forgetMoves();
 }
 
 void Recording::finishMenu()
@@ -552,7 +565,7 @@ void Recording::writeSaid(const std::string& line)
 
 void Recording::finishAll()
 {
-    finishOk(nullptr);
+    finishOk(nullptr, 0);
     finishText(nullptr);
     finishSetting();
     finishLoose();

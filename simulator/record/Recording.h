@@ -108,7 +108,7 @@ private:
     void finishText(const Workplace* place);
     void finishLoose();
     void finishSetting();
-    void finishOk(const Workplace* before);
+    void finishOk(const Workplace* before, std::int64_t held);
     void finishMenu();
     void finishInVain(const Workplace& place);
     void finishSaying();

@@ -374,6 +374,22 @@ TEST_F(RecordingTest, HeldOkOfAFormLeadsToItsCommands)
     EXPECT_THAT(lines, ElementsAre("command \"Save\""));
 }
 
+TEST_F(RecordingTest, KeyThatIsHeldSaysForHowLong)
+{
+    for (const auto& there : {list({"a"}), place(1, Kind::FIELDS, {"Name"})}) {
+        for (const PegKey key : {PK_HOOK, PK_OK}) {
+            now = there;
+            recording.comes(key, there);
+            recording.done(key, there, there);
+            clock += 3950;
+            recording.released(key, there);
+        }
+    }
+    EXPECT_THAT(lines,
+                ElementsAre("key hook", "# hook was held for 4000 ms", "choose \"a\"", "# ok was held for 4000 ms",
+                            "key hook", "# hook was held for 4000 ms", "hold ok 4000"));
+}
+
 TEST_F(RecordingTest, HeldLeftThatLeadsFurtherThanBackIsHeld)
 {
     for (const int screens : {1, 2}) {
