@@ -2,10 +2,12 @@
 
 from __future__ import annotations
 
+import json
+import re
 import subprocess
 from contextlib import contextmanager
 from pathlib import Path
-from typing import Iterator, List
+from typing import Dict, Iterator, List
 
 import pytest
 
@@ -14,10 +16,11 @@ from displayapi.process import PhoneProcess
 
 
 @contextmanager
-def recorded(programs: Path, file: Path, *words: str, program: str = "deskphone") -> Iterator[Phone]:
+def recorded(programs: Path, file: Path, *words: str, program: str = "deskphone",
+             panel: str = "plain") -> Iterator[Phone]:
     """A phone behind its page that is recorded, on a clock that is moved."""
-    command = [str(programs / "phone"), "--port", "0", "--rpc", "--virtual-clock", "--record", str(file),
-               str(programs / program), *words]
+    command = [str(programs / "phone"), "--variant", panel, "--port", "0", "--rpc", "--virtual-clock", "--record",
+               str(file), str(programs / program), *words]
     process = PhoneProcess(command, None, 60)
     try:
         with Phone.connect(process.url, process.token, wait_timeout=60) as phone:
@@ -136,18 +139,64 @@ def walk(phone: Phone) -> None:
     phone.wait_for("Desk phone", since=0)
 
 
-def test_a_walk_replays_on_every_panel_in_every_language(programs: Path, tmp_path: Path) -> None:
+def test_a_walk_replays_on_every_panel_and_in_every_language(programs: Path, tmp_path: Path) -> None:
     file = tmp_path / "walk.script"
     with recorded(programs, file) as phone:
         walk(phone)
     recording = file.read_text(encoding="utf-8")
     assert "key down" not in recording
-    for panel in ("plain", "narrow", "wp1"):
-        for language in ("en", "ar", "ja"):
-            script = tmp_path / f"{panel}-{language}.script"
-            script.write_text(f"language {language}\n{recording}", encoding="utf-8")
-            result = replay(programs, script, panel=panel)
-            assert result.returncode == 0, f"{panel}, {language}:\n{result.stderr}\n{recording}"
+    languages = {"plain": ("en", "fr", "ar"), "narrow": ("de", "ja"), "wp1": ("fr", "ar", "ja")}
+    for panel, language in ((panel, language) for panel in languages for language in languages[panel]):
+        script = tmp_path / f"{panel}-{language}.script"
+        script.write_text(f"language {language}\n{recording}", encoding="utf-8")
+        result = replay(programs, script, panel=panel)
+        assert result.returncode == 0, f"{panel}, {language}:\n{result.stderr}\n{recording}"
+
+
+def catalogue(language: str) -> Dict[str, str]:
+    file = Path(__file__).parents[2] / "languages" / f"{language}.po"
+    return dict(re.findall(r'^msgid "(.+)"\nmsgstr "(.*)"$', file.read_text(encoding="utf-8"), re.MULTILINE))
+
+
+def louder(phone: Phone, words: Dict[str, str]) -> None:
+    """From the idle screen to the volume in the settings, and there one step on."""
+    phone.press("ok")
+    phone.wait_for(words["Menu.call.log"], selected=True)
+    while not any(row.selected and row.text == words["Menu.settings"] for row in phone.screen().rows):
+        phone.press("down")
+    phone.press("ok")
+    phone.wait_for(words["Settings.language"], match="contains")
+    phone.press("down", times=2)
+    phone.press("right")
+
+
+def test_what_the_small_panel_shows_in_arabic_at_the_end_is_there_again(programs: Path, tmp_path: Path) -> None:
+    """And the same field is set on other panels in other languages."""
+    file = tmp_path / "louder.script"
+    words = catalogue("ar")
+    with recorded(programs, file, panel="wp1") as phone:
+        phone.wait_for("Line 1", match="contains", since=0)
+        while not phone.hello().languages:  # it hears of none before
+            pass
+        phone.set_language("ar")
+        louder(phone, words)
+        phone.press("ok")
+        phone.wait_for(words["Status.saved"], match="contains")
+        phone.advance(3)
+        louder(phone, words)
+        rows = [(row.lasting, row.selected) for row in phone.screen().rows]
+    recording = file.read_text(encoding="utf-8").replace("language ar\n", "")
+    volume = lines_of(file)[-1].split('"')[1]
+    assert volume.isdigit()
+    for panel, language in (("wp1", "ar"), ("plain", "fr"), ("narrow", "de")):
+        script = tmp_path / f"{panel}-{language}.script"
+        script.write_text(f"language {language}\n{recording}dump --json {panel}.json\n", encoding="utf-8")
+        result = replay(programs, script, panel=panel)
+        assert result.returncode == 0, f"{panel}, {language}:\n{result.stderr}\n{recording}"
+        shown = json.loads((tmp_path / f"{panel}.json").read_text(encoding="utf-8"))["rows"]
+        if (panel, language) == ("wp1", "ar"):
+            assert [(row["lasting"], row["selected"]) for row in shown] == rows
+        assert any(row["selected"] and volume in row["text"].split() for row in shown)
 
 
 def test_another_program_fails_with_a_sentence(programs: Path, tmp_path: Path) -> None:
