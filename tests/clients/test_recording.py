@@ -11,7 +11,7 @@ from typing import Dict, Iterator, List
 
 import pytest
 
-from displayapi import Phone, PhoneError
+from displayapi import Phone, PhoneEnded
 from displayapi.process import PhoneProcess
 
 
@@ -215,11 +215,11 @@ def test_another_program_fails_with_a_sentence(programs: Path, tmp_path: Path) -
 
 def test_what_has_crashed_the_program_is_written(programs: Path, tmp_path: Path) -> None:
     file = tmp_path / "crash.script"
-    with pytest.raises(PhoneError):
+    with pytest.raises(PhoneEnded):
         with recorded(programs, file, "crash", program="misbehaving") as phone:
             phone.wait_for("Do it", since=0)
             phone.press("ok")
-            phone.screen()
+            phone.wait_for("what never comes")
     assert lines_of(file) == ["expect Do it", 'choose "Do it"']
     result = replay(programs, file, "crash", program="misbehaving")
     assert "was stopped by SIGABRT" in result.stderr
