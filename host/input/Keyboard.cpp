@@ -23,15 +23,16 @@ constexpr std::array<std::pair<std::string_view, PegKey>, 10> NAMED_KEYS{{
     {"hook", PK_HOOK},
 }};
 
+constexpr std::string_view PROGRAMMABLE = "fpk";
+
 /// "fpk1" and on.
 std::optional<PegKey> programmableKey(std::string_view name)
 {
-    constexpr std::string_view PREFIX = "fpk";
     int number = 0;
     const char* const last = name.data() + name.size();
-    if (!name.starts_with(PREFIX) || name.substr(PREFIX.size()).starts_with('0'))
+    if (!name.starts_with(PROGRAMMABLE) || name.substr(PROGRAMMABLE.size()).starts_with('0'))
         return {};
-    const auto [end, error] = std::from_chars(name.data() + PREFIX.size(), last, number);
+    const auto [end, error] = std::from_chars(name.data() + PROGRAMMABLE.size(), last, number);
     if (error != std::errc() || end != last || number < 1 || number > PK_FPK_LAST - PK_FPK1 + 1)
         return {};
     return static_cast<PegKey>(PK_FPK1 + number - 1);
@@ -53,6 +54,16 @@ std::optional<PegKey> Keyboard::keyFromName(std::string_view name)
         if (known == name)
             return key;
     return programmableKey(name);
+}
+
+std::string Keyboard::nameOf(PegKey key)
+{
+    for (const auto& [name, known] : NAMED_KEYS)
+        if (known == key)
+            return std::string(name);
+    if (key >= PK_FPK1 && key <= PK_FPK_LAST)
+        return std::string(PROGRAMMABLE) + std::to_string(key - PK_FPK1 + 1);
+    return {static_cast<char>(key)};
 }
 
 bool Keyboard::press(PegKey key)

@@ -6,6 +6,7 @@
 #include <functional>
 #include <mutex>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace host {
@@ -19,6 +20,9 @@ public:
     /// "up", "down", "left", "right", "ok", "0" to "9", "star", "hash", "volume-up", "volume-down", "hook", and "fpk1"
     /// to "fpk16".
     static std::optional<PegKey> keyFromName(std::string_view name);
+
+    /// Its inverse. REQUIRES: it is one of these.
+    static std::string nameOf(PegKey key);
 
     /// Queues the message. Returns false, and drops the key, while MAX_PENDING keys wait to be handled or the toolkit
     /// is not running: a flood of keys costs the application nothing.

@@ -262,6 +262,12 @@ const Choices* Workplace::withKeys() const
     return found != choices.end() ? &*found : nullptr;
 }
 
+const Choices* Workplace::part(Choices::Kind kind) const
+{
+    const auto found = std::ranges::find(choices, kind, &Choices::kind);
+    return found != choices.end() ? &*found : nullptr;
+}
+
 Workplace Workplace::read(const Choices::Texts& wanted)
 {
     Workplace place;

@@ -53,6 +53,9 @@ struct Workplace {
     /// The part to which the keys go; null where that has no choices.
     const Choices* withKeys() const;
 
+    /// Null where there is none of that kind.
+    const Choices* part(Choices::Kind kind) const;
+
     /// Looks for any of the texts among all that he can choose. GUI thread only.
     /// REQUIRES: the toolkit is up.
     /// Cost: grows with the number of rows where something is looked for.

@@ -1,15 +1,16 @@
 #include "simulator/record/Recording.h"
 
+#include "host/input/Keyboard.h"
 #include "toolkit/PegThing.h"
 
 #include <algorithm>
-#include <cctype>
 
 namespace simulator {
 
 namespace {
 
 using host::Choices;
+using host::Keyboard;
 using host::Workplace;
 using Kind = Choices::Kind;
 
@@ -21,31 +22,6 @@ constexpr std::int64_t HOLD_STEP = 100;
 constexpr std::size_t LONGEST_EXPECTED = 200;
 constexpr std::size_t LONGEST_UNIT = 6;  ///< bytes
 constexpr std::size_t MOST_EXPECTED = 2; ///< the small panel has no more lines
-
-std::string nameOf(PegKey key)
-{
-    if (key >= PK_FPK1 && key <= PK_FPK_LAST)
-        return "fpk" + std::to_string(key - PK_FPK1 + 1);
-    switch (key) {
-    case PK_STAR: return "star";
-    case PK_HASH: return "hash";
-    case PK_UP: return "up";
-    case PK_DOWN: return "down";
-    case PK_LEFT: return "left";
-    case PK_RIGHT: return "right";
-    case PK_OK: return "ok";
-    case PK_VOLUME_UP: return "volume-up";
-    case PK_VOLUME_DOWN: return "volume-down";
-    case PK_HOOK: return "hook";
-    default: return {static_cast<char>(key)};
-    }
-}
-
-const Choices* choicesIn(const Workplace& place, Kind kind)
-{
-    const auto found = std::ranges::find(place.choices, kind, &Choices::kind);
-    return found != place.choices.end() ? &*found : nullptr;
-}
 
 bool areOf(const Choices* choices, std::initializer_list<Kind> kinds)
 {
@@ -188,7 +164,7 @@ void Recording::comes(PegKey key, const Workplace& before)
 bool Recording::dials(const Workplace& before)
 {
     const bool isDialler = before.edited && before.edited->isDialler && !before.edited->takesAllKeys;
-    const Choices* const bar = choicesIn(before, Kind::BAR);
+    const Choices* const bar = before.part(Kind::BAR);
     if (!isDialler || !mTyping || (bar != nullptr && bar->current > 0) || !canBeDialled(before.edited->text))
         return false;
     mTyping.reset();
@@ -233,7 +209,7 @@ void Recording::pressedOther(PegKey key, const Workplace& before)
     if (moves && here != nullptr) {
         const bool isMenu = areOf(here, {Kind::MENU, Kind::VALUES});
         const bool leaves =
-            key == PK_LEFT && (isMenu || (here->kind == Kind::ROWS && choicesIn(before, Kind::TABS) == nullptr));
+            key == PK_LEFT && (isMenu || (here->kind == Kind::ROWS && before.part(Kind::TABS) == nullptr));
         if (!leaves && !(key == PK_RIGHT && isMenu))
             return;
     }
@@ -256,7 +232,7 @@ void Recording::pressedOther(PegKey key, const Workplace& before)
 /// As the telephone has it.
 void Recording::pressKey(PegKey key)
 {
-    write("key " + nameOf(key));
+    write("key " + Keyboard::nameOf(key));
     forgetMoves();
 }
 
@@ -323,8 +299,8 @@ void Recording::followMove(PegKey key, const Workplace& before, const Workplace&
         goToWhereHeIs(before);
         return pressKey(key);
     }
-    const Choices* const tabs = choicesIn(before, Kind::TABS);
-    const Choices* const tabsNow = choicesIn(after, Kind::TABS);
+    const Choices* const tabs = before.part(Kind::TABS);
+    const Choices* const tabsNow = after.part(Kind::TABS);
     if (tabs != nullptr && tabsNow != nullptr && tabs->current != tabsNow->current)
         mHasTurnedTab = true;
     else if (isSidewards(key) && from.kind == Kind::FIELDS && to->kind == Kind::FIELDS && to->current == from.current)
@@ -378,7 +354,7 @@ void Recording::released(PegKey key, const Workplace& before)
     else if (key == PK_LEFT && held >= LONG_PRESS && screens > 1) // it has led further than back
         write("hold left " + inSteps(held));
     else if (held >= LONG_PRESS && !isOfKeypad(key) && !isArrow(key)) // the line stands before what the key does
-        write("# " + nameOf(key) + " was held for " + inSteps(held) + " ms");
+        write("# " + Keyboard::nameOf(key) + " was held for " + inSteps(held) + " ms");
 }
 
 void Recording::shown(const Workplace& place, const std::vector<host::TextRun>& texts)
@@ -470,7 +446,7 @@ void Recording::finishText(const Workplace* place)
     if (!typed || typed->text == typed->before)
         return;
     if (!typed->before && typed->text.empty()) // what has been opened by a key stays open without a text
-        write("key " + nameOf(typed->opener));
+        write("key " + Keyboard::nameOf(typed->opener));
     if (!typed->fieldLine.empty())
         write("select " + typed->fieldLine);
     else if (!typed->nameless.empty() && !mMoves.empty())
@@ -482,8 +458,8 @@ void Recording::finishText(const Workplace* place)
 void Recording::finishLoose()
 {
     for (const Loose& loose : std::exchange(mLoose, {})) {
-        write(loose.heldFor >= LONG_PRESS ? "hold " + nameOf(loose.key) + ' ' + inSteps(loose.heldFor)
-                                          : "key " + nameOf(loose.key));
+        write(loose.heldFor >= LONG_PRESS ? "hold " + Keyboard::nameOf(loose.key) + ' ' + inSteps(loose.heldFor)
+                                          : "key " + Keyboard::nameOf(loose.key));
     }
 }
 
@@ -574,7 +550,7 @@ void Recording::finishAll()
 
 void Recording::goToTab(const Workplace& place)
 {
-    const Choices* const tabs = choicesIn(place, Kind::TABS);
+    const Choices* const tabs = place.part(Kind::TABS);
     if (std::exchange(mHasTurnedTab, false) && tabs != nullptr && tabs != place.withKeys())
         write("select " + nameOfCurrent(*tabs));
 }
@@ -607,7 +583,7 @@ void Recording::repeatMoves(const std::string& reason)
 {
     write("# " + reason);
     for (const PegKey move : mMoves)
-        write("key " + nameOf(move));
+        write("key " + Keyboard::nameOf(move));
     forgetMoves();
 }
 
@@ -623,7 +599,7 @@ std::string Recording::nameOfCurrent(const Choices& choices)
 {
     const std::string& name = choices.texts.front();
     const Workplace place = mWorld.look({name});
-    const Choices* const there = choicesIn(place, choices.kind);
+    const Choices* const there = place.part(choices.kind);
     std::ptrdiff_t number = 1;
     if (there != nullptr)
         number = std::ranges::find(there->found, choices.current) - there->found.begin() + 1;
@@ -665,10 +641,10 @@ Recording::Facts Recording::factsOf(const Workplace& place, const std::vector<ho
 {
     Texts candidates;
     const Choices* const here = place.withKeys();
-    const bool isPopup = areOf(here, {Kind::BAR}) && choicesIn(place, Kind::FIELDS) == nullptr;
+    const bool isPopup = areOf(here, {Kind::BAR}) && place.part(Kind::FIELDS) == nullptr;
     if (isPopup && !place.edited)
         candidates.push_back(!place.title.empty() || place.lines.empty() ? place.title : place.lines.front());
-    if (areOf(here, {Kind::ROWS}) && choicesIn(place, Kind::TABS) == nullptr)
+    if (areOf(here, {Kind::ROWS}) && place.part(Kind::TABS) == nullptr)
         candidates.insert(candidates.end(), here->texts.begin(), here->texts.end());
     else if (here != nullptr && !here->texts.empty())
         candidates.push_back(here->texts.front());

@@ -27,12 +27,6 @@ std::string inQuotes(const std::string& text)
     return "'" + text + "'";
 }
 
-const Choices* choicesOf(const Workplace& place, Choices::Kind kind)
-{
-    const auto found = std::ranges::find(place.choices, kind, &Choices::kind);
-    return found != place.choices.end() ? &*found : nullptr;
-}
-
 bool isOfCommands(const Choices& choices)
 {
     return choices.kind == Choices::Kind::MENU || choices.kind == Choices::Kind::BAR;
@@ -184,7 +178,7 @@ std::string Hand::walk(const Search& search, Match match)
     std::pair<Choices::Kind, int> before{Choices::Kind::ROWS, -1};
     for (;;) {
         const auto [place, goal] = look(search, match);
-        const Choices* const there = goal.at >= 0 ? choicesOf(place, goal.kind) : nullptr;
+        const Choices* const there = goal.at >= 0 ? place.part(goal.kind) : nullptr;
         if (there == nullptr)
             return anyOf(search.wanted) + " has gone while the keys led to it";
         const int away = steps(*there, goal.at);

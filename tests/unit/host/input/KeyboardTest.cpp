@@ -31,6 +31,13 @@ TEST(Keyboard, KnowsEachKeyByName)
     EXPECT_EQ(Keyboard::keyFromName("fpk16"), PK_FPK_LAST);
 }
 
+TEST(Keyboard, EachKeyHasTheNameByWhichItIsKnown)
+{
+    for (const char* name : {"up", "down", "left", "right", "ok", "star", "hash", "volume-up", "volume-down", "hook",
+                             "0", "9", "fpk1", "fpk16"})
+        EXPECT_EQ(Keyboard::nameOf(Keyboard::keyFromName(name).value()), name);
+}
+
 TEST(Keyboard, UnknownNameIsNoKey)
 {
     for (const char* name :
