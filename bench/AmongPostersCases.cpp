@@ -1,5 +1,6 @@
 #include "Counter.h"
 #include "Phone.h"
+#include "kit/OnGuiThread.h"
 
 #include <algorithm>
 #include <atomic>
@@ -27,6 +28,7 @@ public:
         mEnd = true;
         for (std::thread& thread : mThreads)
             thread.join();
+        DisplayAPI::kit::onGuiThread([] {}); // a facade outlives the requests that are being carried out for it
     }
 
 private:
