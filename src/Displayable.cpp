@@ -14,11 +14,10 @@ Displayable::Displayable()
     name = "Displayable with no name";
 }
 
-/// Off the GUI thread nothing of it is under way there: the request that its class has waited for was the last.
+/// On other threads nothing of it is under way: the request that its class has waited for was the last.
 Displayable::~Displayable()
 {
-    if (isGuiThread())
-        Survival::end(this);
+    Survival::end(this);
     CommandExecutor::retrieveCommand(nullptr, nullptr, this);
     DisplayPrivate::forgetEverywhere(this);
 }

@@ -89,8 +89,7 @@ SelectionField::SelectionField(SelectionFieldPrivateIfc* implementation)
 
 SelectionField::~SelectionField()
 {
-    if (isGuiThread())
-        Survival::end(this);
+    Survival::end(this);
     Ops::call<DESTROY>(*this, mImplementation);
 }
 

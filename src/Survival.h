@@ -3,7 +3,8 @@
 namespace DisplayAPI {
 
 /// Whether an object is there still after a call by which its application may have deleted it: whoever observes the
-/// screen may. The object tells its end. GUI thread only.
+/// screen may. The object tells its end, on the same thread. Without a display several threads carry out their own
+/// calls.
 class Survival {
 public:
     explicit Survival(const void* object) : mObject(object), mOuter(top()) { top() = this; }
@@ -21,10 +22,10 @@ public:
     }
 
 private:
-    /// The innermost of the calls that are under way.
+    /// The innermost of the calls that are under way on this thread.
     static Survival*& top()
     {
-        static Survival* innermost = nullptr;
+        static thread_local Survival* innermost = nullptr;
         return innermost;
     }
 

@@ -12,8 +12,8 @@ public:
     virtual ~DisplayEventIfc() = default;
 
     /// Something on screen has changed. Called on the GUI thread with an empty string, under the lock that subscribing
-    /// and unsubscribing take: it may call the display, but it must not wait for a thread that unsubscribes. It
-    /// may delete the screen that has changed, whose rows go with it, unless a thread waits in a call of that.
+    /// and unsubscribing take: it may call the display, but it must not wait for a thread that unsubscribes.
+    /// It may delete the screen that has changed, whose rows go with it, unless a thread waits in a call of that.
     virtual void displayChanged(std::string text) = 0;
 };
 
